@@ -1,0 +1,19 @@
+#pragma once
+
+#include <string>
+
+namespace tarnwick {
+
+/// A value that converts to and from one line of text.
+class StringableM {
+ public:
+  /// The text was malformed. An empty marker, caught near its source.
+  struct InvalidDataE {};
+
+  virtual ~StringableM() = default;
+  virtual std::string toString() = 0;
+  /// May throw InvalidDataE.
+  virtual void fromString(const std::string& text) = 0;
+};
+
+}  // namespace tarnwick

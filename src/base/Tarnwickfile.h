@@ -1,0 +1,63 @@
+#pragma once
+
+#include <cstdio>
+#include <string>
+
+#include "base/Filename.h"
+#include "base/Tarnwickexception.h"
+
+namespace tarnwick {
+
+/// How a Tarnwickfile is opened. As an argument of `open`, `Undefined` keeps the stored mode.
+enum class FileMode { Read = 0, Write = 1, Append = 2, Undefined = 3 };
+
+/// A text file with a name, a stream that may be open, and a mode.
+class Tarnwickfile {
+ public:
+  struct FileNotOpenE : Tarnwickexception {
+    FileNotOpenE(std::string text, std::string fileName)
+        : Tarnwickexception(std::move(text)), file(std::move(fileName)) {}
+    std::string file;
+  };
+
+  /// No name, mode `Undefined`, not open.
+  Tarnwickfile() = default;
+  /// Opens the file at once. Throws FileNotOpenE.
+  Tarnwickfile(const std::string& path, FileMode mode);
+  /// Opens folder + name at once. Throws FileNotOpenE.
+  Tarnwickfile(const std::string& folder, const std::string& name, FileMode mode);
+  virtual ~Tarnwickfile();
+
+  Tarnwickfile(const Tarnwickfile&) = delete;
+  /// Moves the open state: name and mode are copied, this stream is forgotten (closed); unless its mode is `Undefined`
+  /// the source is closed and this file opened. Throws FileNotOpenE.
+  Tarnwickfile& operator=(Tarnwickfile& source);
+
+  /// A file that is prepared now and opened later.
+  static Tarnwickfile unopened(const std::string& path, FileMode mode);
+
+  /// Opens from the beginning, in a new mode or in the stored one. Throws FileNotOpenE.
+  void open(FileMode mode);
+  /// Closes the stream if there is one.
+  void close();
+  /// Throws FileNotOpenE if the file is not open.
+  std::FILE* stream() const;
+  bool isOpen() const { return stream_ != nullptr; }
+
+  const Filename& name() const { return name_; }
+  FileMode mode() const { return mode_; }
+
+ protected:
+  Tarnwickfile(const Filename& name, FileMode mode) : name_(name), mode_(mode) {}
+  void setFile(const Filename& name, FileMode mode);
+
+ private:
+  Filename name_;
+  std::FILE* stream_ = nullptr;
+  FileMode mode_ = FileMode::Undefined;
+};
+
+/// True if the file can be opened for reading; this is how the system tests that a file exists.
+bool canBeRead(const std::string& path);
+
+}  // namespace tarnwick

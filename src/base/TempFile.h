@@ -1,0 +1,25 @@
+#pragma once
+
+#include <string>
+
+#include "base/Tarnwickfile.h"
+
+namespace tarnwick {
+
+/// A file in the configuration folder with a name that nobody else uses. The destructor deletes it.
+class TempFile : public Tarnwickfile {
+ public:
+  /// `folder` is the configuration folder, with its last separator.
+  TempFile(std::string prefix, std::string folder);
+  ~TempFile() override;
+
+  /// Opens the file, under a new name if it has none yet or its name cannot be opened. The search for a free name is a
+  /// cheap lock between instances: a file of less than a day is taken to be in use. Throws FileNotOpenE.
+  void openTemp(FileMode mode);
+
+ private:
+  std::string prefix_;
+  std::string folder_;
+};
+
+}  // namespace tarnwick

@@ -1,0 +1,29 @@
+// Small operations on byte strings, in the "C" locale.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace tarnwick {
+
+/// White space as the standard library's `isspace` knows it in the "C" locale.
+bool isWhite(char c);
+
+std::string trimLeft(const std::string& text);
+std::string trimRight(const std::string& text);
+std::string trim(const std::string& text);
+
+std::string lowerCase(std::string text);
+std::string upperCase(std::string text);
+
+/// Equality without regard to case of the letters A to Z.
+bool equalsIgnoringCase(std::string_view left, std::string_view right);
+
+/// The text in double quotes if a blank stands in it at a position above 0.
+std::string quotedIfBlank(const std::string& text);
+
+/// The text without white space at both ends; if it then begins with a double quote, its first and last characters
+/// are removed, whatever the last one is.
+std::string cleanedPath(const std::string& text);
+
+}  // namespace tarnwick

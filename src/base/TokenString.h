@@ -1,0 +1,41 @@
+#pragma once
+
+#include <string>
+
+#include "base/StringableM.h"
+
+namespace tarnwick {
+
+/// A list of strings kept in one string.
+class TokenString : public StringableM {
+ public:
+  /// The index was outside the list.
+  struct OutOfBoundsE {};
+
+  explicit TokenString(char separator = ';', char escape = ']');
+  /// Throws InvalidDataE.
+  TokenString(const std::string& text, char separator, char escape);
+
+  std::string toString() override { return text_; }
+  /// Malformed text leaves an empty list and throws InvalidDataE.
+  void fromString(const std::string& text) override;
+  /// Index of the first element that equals the text without regard to case; -1 for none.
+  virtual int find(const std::string& text) const;
+  virtual void add(int number);
+  /// Adding the empty string to an empty list is only counted until the text is read again.
+  virtual void add(const std::string& text);
+  virtual void operator+=(int number) { add(number); }
+  virtual void operator+=(const std::string& text) { add(text); }
+  /// Throws OutOfBoundsE.
+  virtual std::string element(int index) const;
+
+  int count() const { return count_; }
+
+ private:
+  char escape_;
+  char separator_;
+  std::string text_;
+  int count_ = 0;
+};
+
+}  // namespace tarnwick

@@ -1,0 +1,95 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+
+#include "dialogbase/DialogWindow.h"
+
+namespace tarnwick {
+
+/// Red, green, blue, 0 to 255 each.
+struct Colour {
+  std::uint8_t red = 0;
+  std::uint8_t green = 0;
+  std::uint8_t blue = 0;
+  bool operator==(const Colour&) const = default;
+};
+
+/// What the console view paints with. Positions are pixels of the document, not of the window.
+class ConsolePainter {
+ public:
+  virtual ~ConsolePainter() = default;
+  /// The part of the document that has to be painted.
+  virtual Rect clip() const = 0;
+  /// Draws text in fixed-pitch cells from this left top corner on.
+  virtual void drawText(int x, int y, const std::string& text, Colour colour) = 0;
+  /// Inverts what has been painted in the rectangle.
+  virtual void invert(const Rect& rect) = 0;
+};
+
+/// What the console view needs from its window. Only `wake` may be called by any thread.
+class ConsoleSurface {
+ public:
+  virtual ~ConsoleSurface() = default;
+
+  /// The fixed-pitch character cell in pixels: width and height.
+  virtual Point cell() const = 0;
+  /// Width and height of the visible part in pixels.
+  virtual Point clientSize() const = 0;
+  /// Document pixel at the window's left top corner.
+  virtual Point scrollPosition() const = 0;
+  /// Size of the whole document in pixels.
+  virtual void setScrollSizes(const Point& size) = 0;
+  virtual void scrollTo(const Point& position) = 0;
+  /// In document pixels.
+  virtual void invalidate(const Rect& rect) = 0;
+  virtual void invalidateAll() = 0;
+
+  /// Asks for one call of the view's `onWake` on the user-interface thread; calls that come before it has run are
+  /// merged into one, and successive calls keep some distance, so that a flood of output costs one refresh a frame.
+  virtual void wake() = 0;
+
+  /// Closes the console's window.
+  virtual void close() = 0;
+};
+
+/// A mouse event's circumstances.
+struct MouseState {
+  Point at;  ///< in the window's client coordinates
+  bool leftDown = false;
+  bool otherButtonDown = false;
+  bool shift = false;
+  bool control = false;
+};
+
+/// Keys that the view tells apart beside characters.
+enum class ConsoleKey { End, Home, Left, Right, Up, Down, Delete, F5, F6, F7, F8, F9, F10, F11, F12, Other };
+
+/// Modifiers as the function keys' groups count them.
+enum KeyModifier { SHIFT_BIT = 1, CTRL_BIT = 2, ALT_BIT = 4 };
+
+/// What the window tells the view; all on the user-interface thread.
+class ConsoleSurfaceClient {
+ public:
+  virtual ~ConsoleSurfaceClient() = default;
+
+  /// The window stands and has its size; once, before it shows.
+  virtual void onStart(ConsoleSurface& surface) = 0;
+  virtual void paint(ConsolePainter& painter) = 0;
+  virtual void onWake() = 0;
+  virtual void onResized() = 0;
+  /// A key with no character of its own. False if it is of no use here.
+  virtual bool onKey(ConsoleKey key, int modifiers) = 0;
+  /// One typed character (or control character) as bytes of the platform's character set.
+  virtual void onCharacter(const std::string& character, int repeatCount) = 0;
+  virtual void onLeftDown(const MouseState& mouse) = 0;
+  virtual void onLeftUp(const MouseState& mouse) = 0;
+  virtual void onMouseMove(const MouseState& mouse) = 0;
+  virtual void onDoubleClick(const MouseState& mouse) = 0;
+  virtual void onRightDown(const MouseState& mouse) = 0;
+  /// The window is about to go, whatever the reason; nothing may address the surface afterwards.
+  virtual void onClose() = 0;
+};
+
+}  // namespace tarnwick

@@ -1,0 +1,66 @@
+#pragma once
+
+#include <functional>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "dialogbase/DialogWindow.h"
+
+namespace tarnwick {
+
+/// The alerts that the desktop knows.
+enum class AlertSound { Exclamation, Asterisk, Beep };
+
+/// What a file dialog is asked for.
+struct FileRequest {
+  /// Pairs of a description and patterns, as in "Java source files|*.JAVA||". Patterns ignore case.
+  std::string filter;
+  std::string startFolder;
+  std::string name;       ///< preset file name
+  std::string extension;  ///< added where the user gives none, for example ".cfg"; for saving
+  bool mustExist = false;        ///< file and folder; for opening
+  bool confirmOverwrite = false;  ///< for saving
+};
+
+/// Everything that shows, asks or sounds. The window toolkit implements it once, tests implement it with a script.
+/// All operations but `post` belong to the user-interface thread.
+class Desktop {
+ public:
+  virtual ~Desktop() = default;
+
+  /// A message box with OK.
+  virtual void message(const std::string& text) = 0;
+  virtual bool askOkCancel(const std::string& text) = 0;
+  virtual bool askYesNo(const std::string& text) = 0;
+
+  /// One existing file; nothing after Cancel.
+  virtual std::optional<std::string> openFile(const FileRequest& request) = 0;
+  virtual std::optional<std::string> saveFile(const FileRequest& request) = 0;
+  /// The folder browser; nothing after Cancel.
+  virtual std::optional<std::string> browseFolder() = 0;
+
+  virtual void alert(AlertSound sound) = 0;
+
+  virtual std::optional<std::string> clipboardText() = 0;
+  /// False if the clipboard would not take it.
+  virtual bool setClipboardText(const std::string& text) = 0;
+
+  /// Runs a modal dialog and gives the result that it was closed with.
+  virtual int runDialog(const DialogLayout& layout, DialogHandler& handler) = 0;
+  /// Runs the program's main dialog until it is closed. `initialise` may open modal dialogs before it shows.
+  virtual void runMainDialog(const DialogLayout& layout, DialogHandler& handler) = 0;
+
+  /// Runs `work` on another thread and returns when it has ended. Meanwhile windows repaint, nothing takes input, and
+  /// the wait cursor shows. An exception of `work` is thrown on.
+  virtual void whileBusy(const std::function<void()>& work) = 0;
+
+  /// Calls `tick` every so many milliseconds until the timer is stopped. Gives the timer's number, above 0.
+  virtual int startTimer(int milliseconds, std::function<void()> tick) = 0;
+  virtual void stopTimer(int timer) = 0;
+
+  /// Runs `task` on the user-interface thread soon. May be called by any thread; tasks run in order.
+  virtual void post(std::function<void()> task) = 0;
+};
+
+}  // namespace tarnwick

@@ -1,0 +1,102 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "resources/DialogLayout.h"
+
+namespace tarnwick {
+
+struct Point {
+  int x = 0;
+  int y = 0;
+  bool operator==(const Point&) const = default;
+};
+
+/// A rectangle in pixels; right and bottom lie just outside.
+struct Rect {
+  int left = 0;
+  int top = 0;
+  int right = 0;
+  int bottom = 0;
+  int width() const { return right - left; }
+  int height() const { return bottom - top; }
+  bool operator==(const Rect&) const = default;
+};
+
+class DialogHandler;
+
+/// One open window of a dialog, addressed by control number. The rules of a dialog stand above it and never see the
+/// toolkit. A number that no control bears is a fault of the program: std::out_of_range.
+class DialogWindow {
+ public:
+  virtual ~DialogWindow() = default;
+
+  virtual std::string text(int control) const = 0;
+  /// Sends no notification.
+  virtual void setText(int control, const std::string& text) = 0;
+  virtual bool checked(int control) const = 0;
+  /// Sends no notification.
+  virtual void setChecked(int control, bool on) = 0;
+  virtual bool enabled(int control) const = 0;
+  virtual void enable(int control, bool on) = 0;
+  virtual bool visible(int control) const = 0;
+  virtual void show(int control, bool on) = 0;
+  /// In this window's client coordinates.
+  virtual Rect rect(int control) const = 0;
+  virtual void setRect(int control, const Rect& rect) = 0;
+  virtual void focus(int control) = 0;
+  /// Scrolls a field so that a long text shows its end.
+  virtual void scrollToEnd(int control) = 0;
+  virtual void setToolTip(int control, const std::string& text) = 0;
+
+  /// Entries of a combo box or list.
+  virtual std::vector<std::string> entries(int control) const = 0;
+  virtual void setEntries(int control, const std::vector<std::string>& entries) = 0;
+  /// Index of the selected entry or tab; -1 for none.
+  virtual int selection(int control) const = 0;
+  /// Sends no notification.
+  virtual void select(int control, int index) = 0;
+
+  /// Adds a tab with a page of its own; the page of the selected tab shows. The handler's `initialise` has run when
+  /// this returns. The page lives as long as this window.
+  virtual DialogWindow& addTabPage(int tabs, const std::string& label, const DialogLayout& layout,
+                                   DialogHandler& handler) = 0;
+  /// Fills a slot with a child window of its own; likewise.
+  virtual DialogWindow& addChild(int slot, const DialogLayout& layout, DialogHandler& handler) = 0;
+
+  virtual std::string title() const = 0;
+  virtual void setTitle(const std::string& title) = 0;
+  virtual void showWindow(bool on) = 0;
+
+  /// Left and top of the top window on the screen; nothing where the window system does not tell.
+  virtual std::optional<Point> position() const = 0;
+  virtual void moveTo(const Point& leftTop) = 0;
+
+  /// Ends the dialog with this result.
+  virtual void close(int result) = 0;
+};
+
+/// What a dialog's rules hear of its window. No exception leaves these operations.
+class DialogHandler {
+ public:
+  virtual ~DialogHandler() = default;
+
+  /// The window stands, with all controls, and does not show yet.
+  virtual void initialise(DialogWindow& window) = 0;
+  /// A button, check box or radio button was pressed by the user; or Return or Escape stood for one.
+  virtual void onCommand(int control) = 0;
+  /// The user changed the text of a field.
+  virtual void onTextChanged(int /*control*/) {}
+  /// The user chose another entry of a combo box or list, or another tab.
+  virtual void onSelectionChanged(int /*control*/) {}
+  /// The user pressed an entry of a list twice.
+  virtual void onDoubleClick(int /*control*/) {}
+  /// The title bar's close box, or Escape where no Cancel button stands.
+  virtual void onCloseRequest() = 0;
+  /// The window is about to go; nothing may address it afterwards.
+  virtual void detached() {}
+};
+
+}  // namespace tarnwick

@@ -1,0 +1,61 @@
+// Files, folders and the environment, with names as bytes in the platform's character set.
+#pragma once
+
+#include <cstdio>
+#include <ctime>
+#include <optional>
+#include <string>
+
+namespace tarnwick::platform {
+
+/// Opens a file in text mode as `fopen` does. A folder is refused in every mode, and no child inherits the stream.
+/// Null on failure, with the reason in `errno`.
+std::FILE* openFile(const std::string& path, const char* mode);
+
+/// Time of the last change in seconds since 1970; nothing if it cannot be had.
+std::optional<std::time_t> lastChange(const std::string& path);
+
+/// False if the file could not be deleted.
+bool deleteFile(const std::string& path);
+
+bool isFile(const std::string& path);
+bool isFolder(const std::string& path);
+
+/// Makes a folder and those above it. False if it is not there afterwards.
+bool makeFolders(const std::string& path);
+
+/// Sends what was written to `stream` to the disk. False with `errno` on failure.
+bool flushToDisk(std::FILE* stream);
+
+/// Puts `from` in the place of `to` in one step. False with `errno` on failure.
+bool replaceFile(const std::string& from, const std::string& to);
+
+/// The path with links resolved and made absolute; the path itself where that is not possible.
+std::string resolvedPath(const std::string& path);
+
+bool changeDirectory(const std::string& folder);
+std::string currentDirectory();
+
+/// A variable of the process's environment; nothing if it is not set.
+std::optional<std::string> environment(const std::string& name);
+
+/// Sets "NAME=value" for this process and its children; "NAME=" removes the variable. False on failure.
+bool setEnvironment(const std::string& definition);
+
+/// The running executable's full path.
+std::string executablePath();
+
+/// Where the configuration is kept when no variable tells, with its last separator:
+/// the program's own folder on Windows, the user's configuration folder on Linux.
+std::string defaultConfigDirectory(const std::string& programDirectory);
+
+/// The user's home folder.
+std::string homeFolder();
+
+/// The process's own number.
+int processId();
+
+/// Brings locale and environment into the state that the program and its children need. Call once, first.
+void prepareProcess();
+
+}  // namespace tarnwick::platform

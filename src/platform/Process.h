@@ -1,0 +1,69 @@
+// Starting programs. No shell is ever involved.
+#pragma once
+
+#include <cstddef>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace tarnwick::platform {
+
+/// A call of the operating system that failed.
+struct SystemError {
+  std::string label;   ///< the call, for example "CreateProcess"
+  int code = 0;        ///< the system's number for the failure
+  std::string reason;  ///< the system's sentence for that number
+
+  /// The label, " error %d\n" with the number, and the system's sentence.
+  std::string text() const;
+};
+
+/// The failure that the operating system has just noted for this thread.
+SystemError lastSystemError(const std::string& label);
+
+/// What a child is started with.
+struct ChildCommand {
+  std::string executable;
+  /// The command line behind the tool's own name. On Linux it is split at blanks; double quotes group.
+  std::string arguments;
+  /// True: standard input is a pipe, and the child and all that it starts end with this process or with `endTree`.
+  bool interactive = false;
+};
+
+/// A running child with its standard output and standard error on pipes, and its standard input if it is interactive.
+/// The destructor closes the pipes and leaves the child alone. One thread may read each of the two outputs, one may
+/// write, one may wait.
+class ChildProcess {
+ public:
+  /// Starts the child in the current folder. Throws SystemError.
+  static std::unique_ptr<ChildProcess> start(const ChildCommand& command);
+
+  virtual ~ChildProcess() = default;
+
+  enum class Stream { Output, Error };
+
+  /// Waits for bytes and reads at most `size` of them. 0 at the end of the stream and after `stopReading`.
+  virtual std::size_t read(Stream stream, char* buffer, std::size_t size) = 0;
+
+  /// What lies in the pipes still comes; then `read` gives 0 although somebody may hold the other end.
+  virtual void stopReading() = 0;
+
+  /// Writes to the child's standard input. Gives the count written; -1 on failure.
+  virtual std::ptrdiff_t write(const char* bytes, std::size_t size) = 0;
+
+  /// Waits until the child itself has ended.
+  virtual void wait() = 0;
+
+  /// Ends the child and everything that it started; does not wait for it.
+  virtual void endTree() = 0;
+};
+
+/// Starts a program that goes its own way: no pipes, no wait. `arguments` hold the program's own name first.
+/// Where a program takes one command line, the arguments are joined by single blanks, unquoted.
+/// Throws SystemError whose code is the C run-time's `errno`.
+void startDetached(const std::string& executable, const std::vector<std::string>& arguments);
+
+/// A command text split into arguments by the C run-time's rules: blanks separate, double quotes group.
+std::vector<std::string> splitCommandText(const std::string& text);
+
+}  // namespace tarnwick::platform

@@ -1,0 +1,63 @@
+#pragma once
+
+#include <atomic>
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "base/Tarnwickfile.h"
+#include "dialogbase/Desktop.h"
+#include "process/FileForSubprocess.h"
+#include "process/ToolLog.h"
+
+namespace tarnwick {
+
+/// A tool that runs to its end with its output caught in the log. A tool's exit code is never read: a run counts as
+/// having something to say if any byte came from either stream.
+class Subprocess {
+ public:
+  /// `log` and `desktop` outlive the object. `executable` is the path handed to the system.
+  Subprocess(Desktop& desktop, ToolLog& log, std::string executable);
+  virtual ~Subprocess() = default;
+
+  /// Arguments are never quoted here; whoever adds one with blanks in it quotes it. An empty one adds no text to the
+  /// command, but takes a place. The first is the tool's own name.
+  void addArg(const std::string& text);
+  void addArg(const std::string& prefix, const std::string& tail);
+
+  /// Takes another executable and drops all arguments.
+  void reset(const std::string& executable);
+
+  /// Runs the tool and waits. `file`, if not null, gives the folder to run in and further arguments.
+  /// Shows failures itself. True if the tool wrote anything.
+  virtual bool run(FileForSubprocess* file, FileMode logOpenMode);
+
+  const std::string& executable() const { return executable_; }
+  const std::vector<std::string>& arguments() const { return arguments_; }
+
+ protected:
+  /// Own arguments, then those of `file`; nothing after the message that there are too many.
+  std::optional<std::vector<std::string>> collectVector(const FileForSubprocess* file);
+  /// Makes the folder of `file` the current one, if it names one. False after its message.
+  bool enterFolder(const FileForSubprocess* file);
+  static std::string joined(const std::vector<std::string>& arguments);
+
+  Desktop& desktop_;
+
+ private:
+  ToolLog& log_;
+  std::string executable_;
+  std::vector<std::string> arguments_;
+  std::atomic<std::size_t> outputBytes_{0};
+};
+
+/// A program that is started and goes its own way: no pipes, no log, no wait.
+class DetachedSubprocess : public Subprocess {
+ public:
+  using Subprocess::Subprocess;
+  /// Always false, so that nobody shows a log for it.
+  bool run(FileForSubprocess* file, FileMode logOpenMode) override;
+};
+
+}  // namespace tarnwick

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <memory>
+#include <mutex>
+#include <string>
+
+#include "base/TempFile.h"
+
+namespace tarnwick {
+
+/// The tools' output of one process: one temporary file, made with the first run and opened anew for each.
+class ToolLog {
+ public:
+  /// `folder` is the configuration folder, with its last separator.
+  explicit ToolLog(std::string folder) : folder_(std::move(folder)) {}
+
+  /// Makes the file if this process has none yet, and opens it. Throws Tarnwickfile::FileNotOpenE.
+  void open(FileMode mode);
+  /// Appends bytes to the open log. Throws Tarnwickfile::FileNotOpenE if it is closed.
+  void append(const char* bytes, std::size_t size);
+  void close();
+  /// The log's path; empty before the first run.
+  std::string path() const;
+
+  /// The lock of the log; whoever puts several appends together holds it. Recursive.
+  std::recursive_mutex& lock() { return lock_; }
+
+ private:
+  std::string folder_;
+  std::unique_ptr<TempFile> file_;
+  mutable std::recursive_mutex lock_;
+};
+
+}  // namespace tarnwick

@@ -1,0 +1,81 @@
+// A dialog's content as data: a tree of columns, rows, groups and controls. Windows are built from it with the
+// system's own sizes, so that they follow its font and scaling.
+#pragma once
+
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace tarnwick {
+
+enum class ItemKind {
+  Column,
+  Row,
+  Group,     ///< a titled frame around a column; may have a control number
+  Icon,      ///< the program's icon
+  Heading,   ///< a label in large letters
+  Label,     ///< static text; line feeds break it
+  Edit,      ///< one line of text
+  Button,
+  CheckBox,
+  RadioButton,  ///< a run of neighbours in one row or column excludes one another
+  ComboBox,     ///< fixed entries
+  ListBox,
+  Tabs,   ///< a tab control; its pages are child windows
+  Slot,   ///< the place of a child window
+  Space,  ///< room that takes what is left
+};
+
+/// One node of the tree. Made by the functions below.
+struct DialogItem {
+  ItemKind kind = ItemKind::Column;
+  int control = 0;  ///< 0 for what nobody addresses
+  std::string text;
+  int width = 0;          ///< least width in average characters; 0 for the natural one
+  bool stretch = false;   ///< takes the room that is left in its row or column
+  bool isDefault = false;  ///< a button that Return presses
+  bool readOnly = false;   ///< an edit field that only shows
+  bool equalWidths = false;  ///< a row or column whose buttons are equally wide
+  std::vector<std::string> entries;  ///< of a combo box
+  std::vector<DialogItem> children;
+
+  DialogItem stretched() && { stretch = true; return std::move(*this); }
+  DialogItem asDefault() && { isDefault = true; return std::move(*this); }
+  DialogItem showingOnly() && { readOnly = true; return std::move(*this); }
+  DialogItem withEqualWidths() && { equalWidths = true; return std::move(*this); }
+  DialogItem atLeast(int characters) && { width = characters; return std::move(*this); }
+};
+
+/// A whole dialog or child window.
+struct DialogLayout {
+  int resource = 0;
+  std::string title;
+  bool minimiseBox = false;
+  DialogItem content;
+  int firstFocus = 0;  ///< the control that has the focus first; 0 for the first that takes it
+};
+
+namespace layout {
+
+DialogItem column(std::vector<DialogItem> children);
+DialogItem row(std::vector<DialogItem> children);
+DialogItem group(int control, const std::string& title, std::vector<DialogItem> children);
+DialogItem icon();
+DialogItem heading(const std::string& text);
+DialogItem label(const std::string& text, int control = 0);
+DialogItem edit(int control, int characters);
+DialogItem button(int control, const std::string& text);
+DialogItem checkBox(int control, const std::string& text);
+DialogItem radioButton(int control, const std::string& text);
+DialogItem comboBox(int control, std::vector<std::string> entries);
+DialogItem listBox(int control, int characters);
+DialogItem tabs(int control);
+DialogItem slot(int control);
+DialogItem space();
+
+}  // namespace layout
+
+/// The numbers of the two buttons that every system knows.
+enum StandardControl { IDOK_CONTROL = 1, IDCANCEL_CONTROL = 2 };
+
+}  // namespace tarnwick

@@ -1,0 +1,93 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "base/StringableM.h"
+#include "base/TagTable.h"
+#include "dialogbase/Desktop.h"
+#include "dialogbase/DialogWindow.h"
+
+namespace tarnwick {
+
+enum BindingKind { BIND_TEXT = 0, BIND_CHECK = 2, BIND_STRINGABLE = 3 };
+
+/// Ties a control to a variable of the dialog: std::string, int used as a switch, or StringableM, by kind.
+struct BindingRow {
+  int control;
+  void* variable;
+  int kind;
+};
+
+struct ToolTip {
+  int control;
+  const char* text;
+};
+
+/// The base of all dialogs: moves values between controls and bound variables or the tag table, and shows tool tips.
+/// A dialog whose window was never made has `initialised` off, and its operations do nothing.
+class ToolTipDlg : public DialogHandler {
+ public:
+  /// `pageId` is the resource number; `ownerId` the dialog that the rows of the tag table belong to.
+  ToolTipDlg(Desktop& desktop, int pageId, int ownerId) : desktop_(desktop), pageId_(pageId), ownerId_(ownerId) {}
+  ToolTipDlg(const ToolTipDlg&) = delete;
+  ToolTipDlg& operator=(const ToolTipDlg&) = delete;
+
+  void initialise(DialogWindow& window) override;
+  void onCommand(int control) override;
+  void onCloseRequest() override { onCancel(); }
+  void detached() override;
+
+  virtual void scrollFieldToEnd(int control);
+  /// Sets the control's text and shows its end.
+  virtual void setFieldText(int control, const std::string& text);
+  virtual void showControl(int control, bool show);
+  virtual void enableControl(int control, bool enable);
+  virtual void moveControl(int control, const Rect& rect);
+  virtual bool isControlVisible(int control) const;
+  virtual Rect getControlRect(int control) const;
+  /// Gives each row of the tag table that this page shows to its control.
+  virtual void loadFromTags();
+  /// Every control takes its value from its binding.
+  virtual void updateControls();
+  virtual void setText(int control, const std::string& text);
+  virtual void setCheck(int control, int value);
+  /// Every binding takes its value from its control. Malformed values are dropped.
+  virtual void updateVariables();
+  /// Takes each row of the tag table that this page shows from its control. Malformed values are dropped.
+  virtual void storeToTags();
+  virtual int getCheck(int control) const;
+  virtual std::string getText(int control) const;
+
+  bool initialised() const { return initialised_; }
+  int pageId() const { return pageId_; }
+
+ protected:
+  virtual void onOk() { close(IDOK_CONTROL); }
+  virtual void onCancel() { close(IDCANCEL_CONTROL); }
+  void close(int result);
+
+  /// The open window; null outside `initialise` and `detached`.
+  DialogWindow* window() const { return window_; }
+
+  Desktop& desktop_;
+  /// Filled by the derived class before or during initialisation.
+  std::vector<BindingRow> bindings_;
+  std::vector<ToolTip> toolTips_;
+  /// The rows that this dialog's controls show; null for none.
+  const TagRow* tags_ = nullptr;
+
+ private:
+  const BindingRow* binding(int control) const;
+
+  int pageId_;
+  int ownerId_;
+  bool initialised_ = false;
+  DialogWindow* window_ = nullptr;
+};
+
+/// The dialog's result that stands for OK.
+inline constexpr int DIALOG_OK = IDOK_CONTROL;
+inline constexpr int DIALOG_CANCEL = IDCANCEL_CONTROL;
+
+}  // namespace tarnwick

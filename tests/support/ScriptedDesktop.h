@@ -1,0 +1,172 @@
+#pragma once
+
+#include <deque>
+#include <functional>
+#include <map>
+#include <memory>
+#include <mutex>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "dialogbase/Desktop.h"
+
+namespace tarnwick::test {
+
+/// A dialog's window for tests: a table of controls made from the same layout as the real one. What a person can't do
+/// fails the test: pressing a control that is not there, hidden or disabled.
+class ScriptedWindow : public DialogWindow {
+ public:
+  ScriptedWindow(const DialogLayout& layout, DialogHandler& handler);
+  ~ScriptedWindow() override;
+
+  // What a person does.
+  void press(int control);
+  void type(int control, const std::string& text);
+  void choose(int control, int index);
+  void closeBox() { handler_.onCloseRequest(); }
+  void moveByHand(const Point& to) { position_ = to; }
+
+  // What a person sees.
+  bool has(int control) const { return controls_.count(control) > 0; }
+  std::string toolTip(int control) const;
+  std::vector<std::string> tabLabels(int tabs) const;
+  ScriptedWindow& page(int tabs, int index);
+  ScriptedWindow& child(int slot);
+  bool closed() const { return closed_; }
+  int result() const { return result_; }
+
+  /// The position that the window system tells; nothing where it does not.
+  void setKnownPosition(std::optional<Point> position) { position_ = position; }
+
+  std::string text(int control) const override;
+  void setText(int control, const std::string& text) override;
+  bool checked(int control) const override;
+  void setChecked(int control, bool on) override;
+  bool enabled(int control) const override;
+  void enable(int control, bool on) override;
+  bool visible(int control) const override;
+  void show(int control, bool on) override;
+  Rect rect(int control) const override;
+  void setRect(int control, const Rect& rect) override;
+  void focus(int control) override;
+  void scrollToEnd(int control) override;
+  void setToolTip(int control, const std::string& text) override;
+  std::vector<std::string> entries(int control) const override;
+  void setEntries(int control, const std::vector<std::string>& entries) override;
+  int selection(int control) const override;
+  void select(int control, int index) override;
+  DialogWindow& addTabPage(int tabs, const std::string& label, const DialogLayout& layout,
+                           DialogHandler& handler) override;
+  DialogWindow& addChild(int slot, const DialogLayout& layout, DialogHandler& handler) override;
+  std::string title() const override { return title_; }
+  void setTitle(const std::string& title) override { title_ = title; }
+  void showWindow(bool on) override { shown_ = on; }
+  std::optional<Point> position() const override { return position_; }
+  void moveTo(const Point& leftTop) override { position_ = leftTop; }
+  void close(int result) override;
+
+ private:
+  struct Control {
+    ItemKind kind;
+    std::string text;
+    std::string toolTip;
+    bool checked = false;
+    bool enabled = true;
+    bool visible = true;
+    bool readOnly = false;
+    bool shownToEnd = false;
+    Rect rect;
+    std::vector<std::string> entries;
+    int selection = -1;
+    int radioGroup = 0;
+  };
+
+  void collect(const DialogItem& item, int radioGroup);
+  Control& at(int control);
+  const Control& at(int control) const;
+  /// The control as a person may use it; fails the test if it can't be used.
+  Control* usable(int control, const char* what);
+
+  std::map<int, Control> controls_;
+  DialogHandler& handler_;
+  std::map<int, std::vector<std::unique_ptr<ScriptedWindow>>> pages_;
+  std::map<int, std::unique_ptr<ScriptedWindow>> children_;
+  std::string title_;
+  bool shown_ = false;
+  bool closed_ = false;
+  int result_ = 0;
+  int nextRadioGroup_ = 1;
+  std::optional<Point> position_ = Point{40, 50};
+};
+
+/// A desktop that plays a script of expected dialogs and answers, records what was shown, and fails the test on what
+/// it did not expect. The destructor fails the test if something expected never came.
+class ScriptedDesktop : public Desktop {
+ public:
+  using DialogScript = std::function<void(ScriptedWindow&)>;
+
+  ~ScriptedDesktop() override;
+
+  void expectMessage(const std::string& text);
+  void expectQuestion(const std::string& text, bool answer);
+  void expectOpenFile(std::optional<std::string> answer);
+  void expectSaveFile(std::optional<std::string> answer);
+  void expectBrowseFolder(std::optional<std::string> answer);
+  /// The next modal dialog bears this title; `script` plays its user and closes it.
+  void expectDialog(const std::string& title, DialogScript script);
+  void expectMainDialog(DialogScript script);
+
+  /// What the last file dialog was asked for.
+  const FileRequest& lastRequest() const { return lastRequest_; }
+  const std::vector<AlertSound>& alerts() const { return alerts_; }
+  /// The position that the main window gets from the window system.
+  void setWindowPosition(std::optional<Point> position) { windowPosition_ = position; }
+  /// Runs what was posted, on this thread.
+  void runPosted();
+  /// Lets every running timer tick once.
+  void tickTimers();
+  std::size_t runningTimers() const { return timers_.size(); }
+  void setClipboard(std::optional<std::string> text) { clipboard_ = std::move(text); }
+
+  void message(const std::string& text) override;
+  bool askOkCancel(const std::string& text) override { return ask(text); }
+  bool askYesNo(const std::string& text) override { return ask(text); }
+  std::optional<std::string> openFile(const FileRequest& request) override;
+  std::optional<std::string> saveFile(const FileRequest& request) override;
+  std::optional<std::string> browseFolder() override;
+  void alert(AlertSound sound) override { alerts_.push_back(sound); }
+  std::optional<std::string> clipboardText() override { return clipboard_; }
+  bool setClipboardText(const std::string& text) override;
+  int runDialog(const DialogLayout& layout, DialogHandler& handler) override;
+  void runMainDialog(const DialogLayout& layout, DialogHandler& handler) override;
+  void whileBusy(const std::function<void()>& work) override { work(); }
+  int startTimer(int milliseconds, std::function<void()> tick) override;
+  void stopTimer(int timer) override { timers_.erase(timer); }
+  void post(std::function<void()> task) override;
+
+ private:
+  struct Step {
+    std::string kind;  ///< "message", "question", "open", "save", "folder", "dialog", "main"
+    std::string text;
+    std::optional<std::string> answer;
+    bool yes = false;
+    DialogScript script;
+  };
+
+  std::optional<Step> take(const std::string& kind, const std::string& text);
+  bool ask(const std::string& text);
+  int play(const std::string& kind, const DialogLayout& layout, DialogHandler& handler);
+
+  std::deque<Step> steps_;
+  FileRequest lastRequest_;
+  std::vector<AlertSound> alerts_;
+  std::optional<Point> windowPosition_ = Point{40, 50};
+  std::optional<std::string> clipboard_;
+  std::map<int, std::function<void()>> timers_;
+  int lastTimer_ = 0;
+  std::mutex postLock_;
+  std::deque<std::function<void()>> posted_;
+};
+
+}  // namespace tarnwick::test

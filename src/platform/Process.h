@@ -51,8 +51,11 @@ class ChildProcess {
   /// Writes to the child's standard input. Gives the count written; -1 on failure.
   virtual std::ptrdiff_t write(const char* bytes, std::size_t size) = 0;
 
-  /// Waits until the child itself has ended.
+  /// Waits until the child itself has ended, or until `stopWaiting`.
   virtual void wait() = 0;
+
+  /// Makes a `wait` or a `write` that another thread is in return at once, and every later one; any thread may call it.
+  virtual void stopWaiting() = 0;
 
   /// Ends the child and everything that it started; does not wait for it.
   virtual void endTree() = 0;

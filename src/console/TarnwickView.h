@@ -37,7 +37,7 @@ class TarnwickView : public ConsoleSurfaceClient {
   void copy();
   void paste();
   bool canCopy() const { return selection_.state() != ConsoleSelection::STATE_NONE; }
-  bool canPaste() { return desktop_.clipboardText().has_value(); }
+  bool canPaste() const { return desktop_.clipboardText().has_value(); }
 
   int childState() const { return child_.childState(); }
 

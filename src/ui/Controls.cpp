@@ -31,6 +31,26 @@ Window* as(const Control& control) {
   return dynamic_cast<Window*>(control.window);
 }
 
+/// A label whose long lines break, and that still knows its text as it was given.
+class Label : public wxStaticText {
+ public:
+  Label(wxWindow& parent, const std::string& text) : wxStaticText(&parent, wxID_ANY, wxString()) {
+    set(text, toWx(text));
+  }
+
+  void set(const std::string& text, const wxString& shown) {
+    text_ = text;
+    SetLabel(shown);
+    Wrap(GetCharWidth() * charactersInLine);
+  }
+
+  const std::string& text() const { return text_; }
+
+ private:
+  static constexpr int charactersInLine = 90;
+  std::string text_;
+};
+
 /// Buttons with signs in the place of words are as narrow as their text.
 long buttonStyle(const std::string& text) {
   const auto isLetter = [](unsigned char c) { return std::isalpha(c) != 0; };
@@ -63,7 +83,7 @@ wxWindow* makeWindow(wxWindow& parent, const DialogItem& item) {
     case ItemKind::Heading:
       return makeHeading(parent, item.text);
     case ItemKind::Label:
-      return new wxStaticText(&parent, wxID_ANY, toWx(item.text));
+      return new Label(parent, item.text);
     case ItemKind::Edit:
       return makeEdit(parent, item);
     case ItemKind::Button:
@@ -161,6 +181,7 @@ std::string textOf(const Control& control) {
   if (auto* edit = as<wxTextCtrl>(control)) return fromWx(edit->GetValue());
   if (auto* choice = as<wxComboBox>(control)) return fromWx(choice->GetStringSelection());
   if (auto* list = as<wxListBox>(control)) return fromWx(list->GetStringSelection());
+  if (auto* label = as<Label>(control)) return label->text();
   return fromWx(wxControl::RemoveMnemonics(control.window->GetLabel()));
 }
 
@@ -170,9 +191,9 @@ void setTextOf(const Control& control, const std::string& text) {
     edit->ChangeValue(shown);
   } else if (auto* choice = as<wxComboBox>(control)) {
     choice->SetSelection(choice->FindString(shown, true));
-  } else if (control.kind == ItemKind::Label) {
+  } else if (auto* label = as<Label>(control)) {
     // Such a text is data: an "&" in a path is no mnemonic.
-    control.window->SetLabel(wxControl::EscapeMnemonics(shown));
+    label->set(text, wxControl::EscapeMnemonics(shown));
   } else {
     control.window->SetLabel(shown);
   }

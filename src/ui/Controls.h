@@ -1,9 +1,9 @@
 // One control of a dialog: what it is made of and how its text, mark and entries are reached.
 #pragma once
 
-#include <wx/gdicmn.h>
-
 #include "resources/DialogLayout.h"
+
+#include <wx/gdicmn.h>
 
 #include <functional>
 #include <string>

@@ -1,9 +1,9 @@
 // What the toolkit does differently on the two systems, or leaves to them.
 #pragma once
 
-#include <wx/gdicmn.h>
-
 #include "dialogbase/DialogWindow.h"
+
+#include <wx/gdicmn.h>
 
 #include <optional>
 #include <string>

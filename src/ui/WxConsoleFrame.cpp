@@ -24,9 +24,7 @@ WxConsoleFrame::WxConsoleFrame(WindowStack& stack, Desktop& desktop, ConsoleFram
     : stack_(stack), rules_(rules), frame_(new wxFrame(nullptr, wxID_ANY, toWx(rules.title()))) {
   frame_->SetIcons(programIcons());
   buildMenus();
-  surface_ = new WxConsoleSurface(
-      frame_.get(), desktop, rules_.view(), [this](const std::function<void()>& action) { guarded(stack_, action); },
-      [this] { requestClose(); });
+  surface_ = new WxConsoleSurface(frame_.get(), stack_, desktop, rules_.view(), [this] { requestClose(); });
   const int bar = std::max(0, wxSystemSettings::GetMetric(wxSYS_VSCROLL_X, frame_.get()));
   // One column more for the margin at the left.
   const wxSize size((columns + 1) * surface_->cell().x + bar, rows * surface_->cell().y);

@@ -1,6 +1,8 @@
 #include "ui/WxConsoleSurface.h"
 
 #include "ui/ConsoleKeys.h"
+#include "ui/HintWindow.h"
+#include "ui/MessageBoxes.h"
 #include "ui/Text.h"
 #include "ui/WxConsolePainter.h"
 
@@ -17,9 +19,9 @@ constexpr int wheelLines = 3;
 
 }  // namespace
 
-WxConsoleSurface::WxConsoleSurface(wxWindow* parent, Desktop& desktop, ConsoleSurfaceClient& client, Guard guard,
+WxConsoleSurface::WxConsoleSurface(wxWindow* parent, WindowStack& stack, Desktop& desktop, ConsoleSurfaceClient& client,
                                    std::function<void()> requestClose)
-    : client_(client), guard_(std::move(guard)), requestClose_(std::move(requestClose)) {
+    : stack_(stack), client_(client), requestClose_(std::move(requestClose)) {
   SetBackgroundStyle(wxBG_STYLE_PAINT);  // before the window is made: it paints every pixel itself
   wxWindow::Create(parent, wxID_ANY, wxDefaultPosition, wxDefaultSize,
                    wxVSCROLL | wxHSCROLL | wxWANTS_CHARS | wxBORDER_NONE, "console");
@@ -92,7 +94,7 @@ void WxConsoleSurface::bindMouse(const wxEventTypeTag<wxMouseEvent>& type,
 }
 
 void WxConsoleSurface::tell(const std::function<void()>& action) {
-  if (alive_) guard_(action);
+  if (alive_) guarded(stack_, action);
 }
 
 void WxConsoleSurface::start() {
@@ -103,6 +105,7 @@ void WxConsoleSurface::start() {
 void WxConsoleSurface::stop() {
   alive_ = false;
   gate_->shut();
+  hint_.reset();
 }
 
 Point WxConsoleSurface::clientSize() const {
@@ -150,6 +153,11 @@ void WxConsoleSurface::invalidate(const Rect& rect) {
 
 void WxConsoleSurface::invalidateAll() {
   Refresh(false);
+}
+
+void WxConsoleSurface::showHint(bool on) {
+  if (on && !hint_) hint_ = std::make_unique<HintWindow>(stack_, *this);
+  if (hint_) hint_->showWindow(on);
 }
 
 void WxConsoleSurface::onPaint(wxPaintEvent&) {

@@ -3,6 +3,7 @@
 #include "console/ConsoleSurface.h"
 #include "dialogbase/Desktop.h"
 #include "ui/WakeGate.h"
+#include "ui/WindowStack.h"
 
 #include <wx/window.h>
 
@@ -12,12 +13,12 @@
 
 namespace tarnwick::ui {
 
+class HintWindow;
+
 /// The console's window: fixed-pitch cells on white, scrolled by pixels.
 class WxConsoleSurface : public wxWindow, public ConsoleSurface {
  public:
-  using Guard = std::function<void(const std::function<void()>&)>;
-
-  WxConsoleSurface(wxWindow* parent, Desktop& desktop, ConsoleSurfaceClient& client, Guard guard,
+  WxConsoleSurface(wxWindow* parent, WindowStack& stack, Desktop& desktop, ConsoleSurfaceClient& client,
                    std::function<void()> requestClose);
   ~WxConsoleSurface() override;
 
@@ -34,6 +35,7 @@ class WxConsoleSurface : public wxWindow, public ConsoleSurface {
   void invalidate(const Rect& rect) override;
   void invalidateAll() override;
   void wake() override { gate_->wake(); }
+  void showHint(bool on) override;
   void close() override { requestClose_(); }
 
   bool AcceptsFocus() const override { return true; }
@@ -53,10 +55,11 @@ class WxConsoleSurface : public wxWindow, public ConsoleSurface {
   Point lastPosition() const;
   void tell(const std::function<void()>& action);
 
+  WindowStack& stack_;
   ConsoleSurfaceClient& client_;
-  Guard guard_;
   std::function<void()> requestClose_;
   std::shared_ptr<WakeGate> gate_;
+  std::unique_ptr<HintWindow> hint_;
   Point cell_;
   bool exactAdvance_ = true;
   Point document_;

@@ -1,0 +1,156 @@
+#!/usr/bin/env bash
+# Builds and tests Tarnwick.
+#   ./test.sh            Linux: unit tests, tests with real windows, end-to-end tests on the real JDK
+#   ./test.sh windows    cross-builds for 64-bit and 32-bit Windows; the 64-bit tests run under Wine
+#   ./test.sh sanitize   unit tests under the address, undefined-behaviour and thread sanitizers
+#   ./test.sh ci         Linux and Windows
+# The last line sums up: "N passed, N failed, N skipped". Logs are in build/test-logs/.
+set -uo pipefail
+. "$(dirname "${BASH_SOURCE[0]}")/scripts/common.sh"
+exec </dev/null
+
+logs=$root/build/test-logs
+passed=0 failed=0 skipped=0
+
+fail() {
+  say "FAILED: $*"
+  failed=$((failed + 1))
+}
+
+# start NAME SECONDS COMMAND...: runs a test program; its output and its exit code go to the logs. Nothing of the user's
+# own settings reaches a test, and no test reaches them.
+start() {
+  local name=$1 limit=$2 status=0 home=$root/build/test-home/$1
+  shift 2
+  rm -rf "$home"
+  mkdir -p "$home"
+  env -u DISPLAY -u WAYLAND_DISPLAY -u TARNWICK_CFGDIR -u CLASSPATH -u JAVA_TOOL_OPTIONS -u _JAVA_OPTIONS \
+    -u JDK_JAVA_OPTIONS -u JDK_JAVAC_OPTIONS HOME="$home" XDG_CONFIG_HOME="$home/.config" \
+    XDG_DATA_HOME="$home/.local/share" XDG_CACHE_HOME="$home/.cache" \
+    timeout --kill-after=15 "$limit" "$@" >"$logs/$name.log" 2>&1 || status=$?
+  echo "$status" >"$logs/$name.status"
+}
+
+# What a reader wants of a log: each test that failed, was skipped or never ended, with all that it wrote.
+extractOf() {
+  tr -d '\r' <"$1" | awk '
+    /^\[ RUN / { text = ""; inside = 1 }
+    inside { text = text $0 "\n" }
+    inside && /^\[ +OK \]/ { inside = 0; text = "" }
+    inside && /^\[  (FAILED|SKIPPED) +\]/ { printf "%s", text; inside = 0; text = "" }
+    END { if (inside) printf "%s(this test never ended)\n", text }'
+}
+
+# judge NAME: adds a finished test program to the sums.
+judge() {
+  local name=$1 log=$logs/$1.log status closing
+  status=$(cat "$logs/$name.status")
+  closing=$(tr -d '\r' <"$log" | grep -E '^[0-9]+ passed, [0-9]+ failed, [0-9]+ skipped$' | tail -n 1)
+  say "$name: ${closing:-no closing line}"
+  extractOf "$log" >&2
+  local -a numbers
+  IFS=' ' read -ra numbers <<<"${closing//[!0-9 ]/}"
+  local failures=${numbers[1]:-0}
+  passed=$((passed + ${numbers[0]:-0})) failed=$((failed + failures)) skipped=$((skipped + ${numbers[2]:-0}))
+  if [ "$status" = 124 ] || [ "$status" = 137 ]; then
+    fail "$name took too long"
+  elif [ -z "$closing" ] || { [ "$status" != 0 ] && [ "$failures" = 0 ]; }; then
+    tail -n 40 "$log" >&2
+    fail "$name ended with code $status and did not say why"
+  elif [ "${numbers[0]:-0}" = 0 ] && [ "$failures" = 0 ] && [ "${numbers[2]:-0}" = 0 ]; then
+    fail "$name ran no test"
+  fi
+}
+
+runTests() {
+  start "$@"
+  judge "$1"
+}
+
+# inShards NAME SECONDS COMMAND...: as many processes at once as there are cores, each with its share of the tests.
+inShards() {
+  local name=$1 index
+  local -a children=()
+  for ((index = 0; index < cores; index++)); do
+    GTEST_TOTAL_SHARDS=$cores GTEST_SHARD_INDEX=$index start "$name-$((index + 1))" "${@:2}" &
+    children+=($!)
+  done
+  wait "${children[@]}"
+  for ((index = 0; index < cores; index++)); do judge "$name-$((index + 1))"; done
+}
+
+installPackages() { "$root/scripts/packages.sh" "$@" || { fail "the packages could not be installed"; return 1; }; }
+buildFor() { build "$@" || { fail "the build $1 failed"; return 1; }; }
+
+testLinux() {
+  installPackages test || return
+  buildFor linux "TARNWICK_TESTS=ON" Tarnwick tarnwick_unit_tests tarnwick_window_tests || return
+  inShards linux-unit 300 "$root/build/linux/tests/tarnwick_unit_tests"
+  runTests linux-windows 600 "$root/scripts/with-display.sh" "$root/build/linux/tests/tarnwick_window_tests"
+  runTests linux-end-to-end 1200 "$root/scripts/with-display.sh" /usr/bin/python3 "$root/tests/e2e/run.py" "$root"
+}
+
+testWindows() {
+  installPackages windows || return
+  local target
+  rm -rf "$root/build/wine"
+  for target in x86_64 i686; do testWindowsTarget $target; done
+}
+
+# The 32-bit tests run where somebody has installed a 32-bit Wine; Debian's is of a foreign architecture.
+testWindowsTarget() {
+  local target=$1 preset=windows-$1 folder loader='' targets=(Tarnwick)
+  say "Toolkit for Windows, $target ..."
+  if ! folder=$(timeout 1500 "$root/scripts/windows-toolkit.sh" "$target" 2>"$logs/toolkit-$target.log"); then
+    tail -n 60 "$logs/toolkit-$target.log" >&2
+    fail "the toolkit for Windows, $target, could not be built"
+    return
+  fi
+  case $target in
+    x86_64) loader=$(PATH=/usr/lib/wine:$PATH command -v wine64) ;;
+    i686) loader=$(PATH=/usr/lib/wine:$PATH command -v wine32 || ls /usr/lib/i386-linux-gnu/wine/wine 2>/dev/null) ;;
+  esac
+  [ -n "$loader" ] && targets+=(tarnwick_unit_tests tarnwick_window_tests)
+  export "TARNWICK_TOOLKIT_${target^^}=$folder"
+  buildFor "$preset" "TARNWICK_TOOLKIT=$folder" "${targets[@]}" || return
+  runTests "$preset-program" 60 "$root/scripts/check-windows-program.sh" "$target" "$root/build/$preset/Tarnwick.exe"
+  if [ -z "$loader" ]; then
+    say "skipped: the tests of the $target build, since this machine has no Wine for it"
+    skipped=$((skipped + 1))
+    return
+  fi
+  underWine "$preset-unit" 900 "$loader" "$root/build/$preset/tests/tarnwick_unit_tests.exe"
+  underWine "$preset-windows" 900 "$loader" "$root/build/$preset/tests/tarnwick_window_tests.exe"
+}
+
+underWine() {
+  local name=$1 limit=$2
+  shift 2
+  runTests "$name" "$limit" "$root/scripts/with-display.sh" "$root/scripts/with-wine.sh" "$root/build/wine" "$@"
+}
+
+testSanitized() {
+  installPackages test || return
+  export ASAN_OPTIONS=detect_stack_use_after_return=1:strict_string_checks=1
+  export UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1
+  export TSAN_OPTIONS=halt_on_error=1:second_deadlock_stack=1
+  if buildFor linux-asan "TARNWICK_TESTS=ON" tarnwick_unit_tests; then
+    inShards linux-asan-unit 900 "$root/build/linux-asan/tests/tarnwick_unit_tests"
+  fi
+  if buildFor linux-tsan "TARNWICK_TESTS=ON TARNWICK_TEST_FLOORS=process;console" tarnwick_unit_tests; then
+    inShards linux-tsan-unit 900 "$root/build/linux-tsan/tests/tarnwick_unit_tests"
+  fi
+}
+
+mkdir -p "$logs"
+SECONDS=0
+case ${1:-} in
+  '') testLinux ;;
+  windows) testWindows ;;
+  sanitize) testSanitized ;;
+  ci) testLinux; testWindows ;;
+  *) say "usage: test.sh [windows|sanitize|ci]"; exit 2 ;;
+esac
+say "$((SECONDS / 60)) min $((SECONDS % 60)) s"
+echo "$passed passed, $failed failed, $skipped skipped"
+[ "$failed" = 0 ] && [ "$passed" -gt 0 ]

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "support/SettingsFixture.h"
 
 namespace tarnwick::test {
@@ -62,9 +64,10 @@ TEST_F(SettingsValuesTest, TheOnlyTextDefaultsAreTheJdkVersionAndTheGuide) {
     if (row.kind != TAG_STRING) continue;
     const auto& value = *static_cast<std::string*>(row.variable);
     const std::string tag = row.tag;
-    if (tag == "JAVAC_MY_JDKVERSION") EXPECT_EQ(value, "Pre-1.4");
-    else if (tag == "HELPFILE") EXPECT_EQ(value, programFolder() + "usersguide.htm");
-    else EXPECT_EQ(value, "") << tag;
+    const std::string expected = tag == "JAVAC_MY_JDKVERSION" ? "Pre-1.4"
+                                 : tag == "HELPFILE"          ? programFolder() + "usersguide.htm"
+                                                              : "";
+    EXPECT_EQ(value, expected) << tag;
   }
 }
 
@@ -81,7 +84,8 @@ TEST_F(SettingsValuesTest, ControlNumbersAreUniqueWithinTheirPage) {
   const auto& rows = settings().tagRows;
   for (const auto& a : rows) {
     for (const auto& b : rows) {
-      if (&a < &b && a.page != 0 && a.page == b.page) EXPECT_NE(a.control, b.control) << a.tag << " and " << b.tag;
+      if (&a >= &b || a.page == 0 || a.page != b.page) continue;
+      EXPECT_NE(a.control, b.control) << a.tag << " and " << b.tag;
     }
   }
 }

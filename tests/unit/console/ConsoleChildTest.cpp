@@ -88,6 +88,7 @@ TEST_F(ConsoleChildTest, BlocksOfTheTwoOutputsDoNotMix) {
 TEST_F(ConsoleChildTest, TheEndIsTold) {
   openRunning();
   child->out("done\n");
+  ASSERT_TRUE(until([&] { return shows("done"); }));
   child->end();
   ASSERT_TRUE(until([&] { return ended(); }));
   const auto all = lines();
@@ -111,6 +112,7 @@ TEST_F(ConsoleChildTest, TheBannersPaintingIsAskedFor) {
 TEST_F(ConsoleChildTest, AChildThatWritesOnlyErrorsGetsItsBanner) {
   openRunning();
   child->err("broken\n");
+  ASSERT_TRUE(until([&] { return shows("broken"); }));
   child->end();
   ASSERT_TRUE(until([&] { return ended(); }));
   const TextGuard guard(document.textLock());
@@ -365,9 +367,11 @@ TEST_F(ConsoleChildTest, ClosingDuringTheStartEndsWhatHasStarted) {
 TEST_F(ConsoleChildTest, ClosingUnderAFloodIsQuick) {
   openRunning();
   std::atomic<bool> flooding{true};
+  std::string line(80, 'x');
+  line.back() = '\n';
   std::thread flood([&] {
     while (flooding) {
-      if (child->unread() < 100000) child->out(std::string(79, 'x') + '\n');
+      if (child->unread() < 100000) child->out(line);
     }
   });
   EXPECT_TRUE(until([&] { return lineCount() > 100; }));

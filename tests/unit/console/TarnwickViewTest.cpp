@@ -79,8 +79,8 @@ TEST_F(TarnwickViewTest, PaintsTextCaretAndSelection) {
 
 TEST_F(TarnwickViewTest, AllTimersEndWithTheWindow) {
   openIdle();
-  view->onRightDown({});
   view->sendKeys("a\\nb");
+  view->onRightDown({});
   EXPECT_EQ(desktop.runningTimers(), 3U);
   view->onClose();
   EXPECT_EQ(desktop.runningTimers(), 0U);

@@ -5,9 +5,9 @@
 
 #include <cstdio>
 #include <filesystem>
-#include <functional>
 #include <gtest/gtest.h>
 #include <string>
+#include <vector>
 
 namespace tarnwick {
 namespace {
@@ -16,10 +16,14 @@ using test::contentOf;
 using test::ScratchFolder;
 using test::writeFile;
 
-/// How many files and folders lie in the current folder, which is set to `folder`.
-std::ptrdiff_t countIn(const ScratchFolder& folder) {
+using Names = std::vector<std::string>;
+
+/// What lies in the folder.
+Names namesIn(const ScratchFolder& folder) {
   EXPECT_TRUE(platform::changeDirectory(folder.path()));
-  return std::distance(std::filesystem::directory_iterator("."), std::filesystem::directory_iterator());
+  Names names;
+  for (const auto& entry : std::filesystem::directory_iterator(".")) names.push_back(entry.path().filename().string());
+  return names;
 }
 
 TEST(ReplacingFile, WhatIsCommittedTakesTheTargetsPlace) {
@@ -36,7 +40,7 @@ TEST(ReplacingFile, WhatIsCommittedTakesTheTargetsPlace) {
     EXPECT_FALSE(file.isOpen());
   }
   EXPECT_EQ(contentOf(folder.file("x.cfg")), "new");
-  EXPECT_EQ(countIn(folder), 1) << "nothing else is left";
+  EXPECT_EQ(namesIn(folder), Names{"x.cfg"}) << "nothing else is left";
 }
 
 TEST(ReplacingFile, ATargetThatIsMissingIsMade) {
@@ -48,7 +52,7 @@ TEST(ReplacingFile, ATargetThatIsMissingIsMade) {
     file.commit();
   }
   EXPECT_EQ(contentOf(folder.file("x.cfg")), "new");
-  EXPECT_EQ(countIn(folder), 1);
+  EXPECT_EQ(namesIn(folder), Names{"x.cfg"});
 }
 
 TEST(ReplacingFile, WithoutACommitTheTargetStaysAsItWas) {
@@ -59,13 +63,13 @@ TEST(ReplacingFile, WithoutACommitTheTargetStaysAsItWas) {
     std::fputs("new", file.stream());
   }
   EXPECT_EQ(contentOf(folder.file("x.cfg")), "old");
-  EXPECT_EQ(countIn(folder), 1);
+  EXPECT_EQ(namesIn(folder), Names{"x.cfg"});
 }
 
 TEST(ReplacingFile, WithoutACommitAMissingTargetStaysMissing) {
   const ScratchFolder folder;
   { const ReplacingFile file(folder.file("x.cfg")); }
-  EXPECT_EQ(countIn(folder), 0);
+  EXPECT_EQ(namesIn(folder), Names{});
 }
 
 TEST(ReplacingFile, TheTargetsFolderIsMadeIfItIsMissing) {
@@ -96,7 +100,7 @@ TEST(ReplacingFile, TwoSavesOfOneTargetDoNotMeet) {
   EXPECT_EQ(contentOf(folder.file("x.cfg")), "first");
   second.commit();
   EXPECT_EQ(contentOf(folder.file("x.cfg")), "second");
-  EXPECT_EQ(countIn(folder), 1);
+  EXPECT_EQ(namesIn(folder), Names{"x.cfg"});
 }
 
 TEST(ReplacingFile, ATargetThatIsHeldOpenForReadingIsSavedAllTheSame) {
@@ -109,7 +113,7 @@ TEST(ReplacingFile, ATargetThatIsHeldOpenForReadingIsSavedAllTheSame) {
     file.commit();
   }
   EXPECT_EQ(contentOf(folder.file("x.cfg")), "new");
-  EXPECT_EQ(countIn(folder), 1);
+  EXPECT_EQ(namesIn(folder), Names{"x.cfg"});
 }
 
 TEST(ReplacingFile, AFolderAsTargetThrowsWhatOpeningItForWritingThrows) {
@@ -122,7 +126,7 @@ TEST(ReplacingFile, AFolderAsTargetThrowsWhatOpeningItForWritingThrows) {
     EXPECT_EQ(failure.message, platform::folderSeparator == '/' ? "Is a directory" : "Permission denied");
     EXPECT_EQ(failure.file, folder.file("inner"));
   }
-  EXPECT_EQ(countIn(folder), 1);
+  EXPECT_EQ(namesIn(folder), Names{"inner"});
 }
 
 TEST(ReplacingFile, AFolderThatCannotBeMadeThrowsWithTheTargetsName) {

@@ -220,22 +220,5 @@ TEST(TempFile, WhatCouldNotBeOpenedIsNotDeleted) {
   EXPECT_EQ(contentOf(tempName(folder, 1)), "somebody else's");
 }
 
-TEST(TempFile, AfterTheLastCandidateItGivesUp) {
-  const ScratchFolder folder;
-  constexpr int last = 9998;
-  for (int i = 1; i <= last; ++i) ASSERT_TRUE(platform::claimFile(tempName(folder, i)));
-  TempFile file("Tarnwick_LOG", folder.path());
-  try {
-    file.openTemp(FileMode::Write);
-    ADD_FAILURE() << "nothing was thrown";
-  } catch (const Tarnwickfile::FileNotOpenE& failure) {
-    EXPECT_EQ(failure.message, "Can't create temporary file ");
-    EXPECT_EQ(failure.file, tempName(folder, last));
-  }
-  ASSERT_TRUE(platform::deleteFile(tempName(folder, last)));
-  file.openTemp(FileMode::Write);
-  EXPECT_EQ(file.name().fullName(), tempName(folder, last));
-}
-
 }  // namespace
 }  // namespace tarnwick

@@ -3,6 +3,7 @@
 
 #include <windows.h>
 
+#include <cstdio>
 #include <gtest/gtest.h>
 
 namespace tarnwick {
@@ -13,6 +14,10 @@ TEST(WindowsReplacingFile, AReadOnlyTargetIsNotReplaced) {
   const std::string target = folder.file("x.cfg");
   test::writeFile(target, "old");
   ASSERT_TRUE(SetFileAttributesA(target.c_str(), FILE_ATTRIBUTE_READONLY));
+  if (std::FILE* stream = std::fopen(target.c_str(), "r+")) {
+    std::fclose(stream);
+    GTEST_SKIP() << "this user may write read-only files (root, under Wine)";
+  }
   try {
     const ReplacingFile file(target);
     ADD_FAILURE() << "nothing was thrown";

@@ -4,6 +4,7 @@
 #include <windows.h>
 
 #include <cerrno>
+#include <cstdio>
 #include <gtest/gtest.h>
 #include <io.h>
 #include <string>
@@ -43,6 +44,10 @@ TEST(WindowsFileSystem, AReadOnlyFileIsNotDeleted) {
   const ScratchFolder folder;
   writeFile(folder.file("x"), "x");
   ASSERT_TRUE(SetFileAttributesA(folder.file("x").c_str(), FILE_ATTRIBUTE_READONLY));
+  if (std::FILE* stream = std::fopen(folder.file("x").c_str(), "r+")) {
+    std::fclose(stream);
+    GTEST_SKIP() << "this user may write read-only files (root, under Wine)";
+  }
   EXPECT_FALSE(openFile(folder.file("x"), "w"));
   EXPECT_EQ(errno, EACCES);
   EXPECT_FALSE(deleteFile(folder.file("x")));

@@ -1,11 +1,11 @@
 #pragma once
 
+#include "base/StringableM.h"
+#include "base/Tarnwickfile.h"
+
 #include <functional>
 #include <string>
 #include <vector>
-
-#include "base/StringableM.h"
-#include "base/Tarnwickfile.h"
 
 namespace tarnwick {
 
@@ -27,7 +27,8 @@ enum ReadStatus {
 struct TagRow {
   const char* tag;
   int kind;
-  /// std::string, int, int used as a switch, or StringableM, by kind.
+  /// std::string, int, int used as a switch, or StringableM, by kind; a pointer to a class derived from StringableM is
+  /// converted to StringableM* first.
   void* variable;
   /// Default of a text; null for the empty text.
   const char* defaultText;
@@ -58,6 +59,8 @@ class TagTable {
   const TagRow* rows() const { return rows_; }
 
  private:
+  int readLine(const std::string& line);
+
   const TagRow* rows_;
   std::string version_;
   MessageShower showMessage_;

@@ -1,10 +1,10 @@
 #pragma once
 
-#include <cstdio>
-#include <string>
-
 #include "base/Filename.h"
 #include "base/Tarnwickexception.h"
+
+#include <cstdio>
+#include <string>
 
 namespace tarnwick {
 
@@ -50,6 +50,8 @@ class Tarnwickfile {
  protected:
   Tarnwickfile(const Filename& name, FileMode mode) : name_(name), mode_(mode) {}
   void setFile(const Filename& name, FileMode mode);
+  /// Takes over a stream that was opened elsewhere.
+  void setStream(std::FILE* stream);
 
  private:
   Filename name_;

@@ -1,15 +1,15 @@
 #pragma once
 
-#include <string>
-
 #include "base/Tarnwickfile.h"
+
+#include <string>
 
 namespace tarnwick {
 
 /// A file in the configuration folder with a name that nobody else uses. The destructor deletes it.
 class TempFile : public Tarnwickfile {
  public:
-  /// `folder` is the configuration folder, with its last separator.
+  /// `folder` is the configuration folder; it gets a separator at its end if it lacks one.
   TempFile(std::string prefix, std::string folder);
   ~TempFile() override;
 
@@ -18,6 +18,8 @@ class TempFile : public Tarnwickfile {
   void openTemp(FileMode mode);
 
  private:
+  void take(const std::string& candidate, FileMode mode);
+
   std::string prefix_;
   std::string folder_;
 };

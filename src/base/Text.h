@@ -1,6 +1,8 @@
 // Small operations on byte strings, in the "C" locale.
 #pragma once
 
+#include "platform/Path.h"
+
 #include <string>
 #include <string_view>
 
@@ -25,5 +27,8 @@ std::string quotedIfBlank(const std::string& text);
 /// The text without white space at both ends; if it then begins with a double quote, its first and last characters
 /// are removed, whatever the last one is.
 std::string cleanedPath(const std::string& text);
+
+/// The folding of an executable's name; where it is applied is the platform's matter.
+using platform::foldExecutable;
 
 }  // namespace tarnwick

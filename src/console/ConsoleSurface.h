@@ -1,10 +1,10 @@
 #pragma once
 
+#include "dialogbase/DialogWindow.h"
+
 #include <cstdint>
 #include <optional>
 #include <string>
-
-#include "dialogbase/DialogWindow.h"
 
 namespace tarnwick {
 
@@ -50,7 +50,11 @@ class ConsoleSurface {
   /// merged into one, and successive calls keep some distance, so that a flood of output costs one refresh a frame.
   virtual void wake() = 0;
 
-  /// Closes the console's window.
+  /// Shows or hides the hint about quick copying (`hintLayout`), 20 pixels right of and below the view's left top
+  /// corner. It never takes the focus.
+  virtual void showHint(bool on) = 0;
+
+  /// Closes the console's window. The client's `onClose` may come before this returns.
   virtual void close() = 0;
 };
 

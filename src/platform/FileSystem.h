@@ -8,9 +8,13 @@
 
 namespace tarnwick::platform {
 
-/// Opens a file in text mode as `fopen` does. A folder is refused in every mode, and no child inherits the stream.
-/// Null on failure, with the reason in `errno`.
+/// Opens a file in text mode as `fopen` does: with "r", a carriage return directly before a line feed is dropped on
+/// every system. A "b" in the mode leaves the bytes alone. A folder is refused in every mode, and no child inherits the
+/// stream. Null on failure, with the reason in `errno`.
 std::FILE* openFile(const std::string& path, const char* mode);
+
+/// Makes an empty file where there is none. False with `errno` on failure, EEXIST if the name is taken.
+bool claimFile(const std::string& path);
 
 /// Time of the last change in seconds since 1970; nothing if it cannot be had.
 std::optional<std::time_t> lastChange(const std::string& path);
@@ -27,10 +31,12 @@ bool makeFolders(const std::string& path);
 /// Sends what was written to `stream` to the disk. False with `errno` on failure.
 bool flushToDisk(std::FILE* stream);
 
-/// Puts `from` in the place of `to` in one step. False with `errno` on failure.
+/// Puts `from` in the place of `to` in one step; a file that was there passes its permissions on. False with `errno` on
+/// failure, with both as they were.
 bool replaceFile(const std::string& from, const std::string& to);
 
-/// The path with links resolved and made absolute; the path itself where that is not possible.
+/// The path with links resolved and made absolute; the path itself where that is not possible. A link to what does not
+/// exist gives the path that it names.
 std::string resolvedPath(const std::string& path);
 
 bool changeDirectory(const std::string& folder);

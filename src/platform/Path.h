@@ -37,6 +37,9 @@ std::string commandLineList(const std::string& list);
 /// A list of paths as the user typed it, in the stored form with ";" between them.
 std::string storedList(const std::string& typed);
 
+/// The text with the characters at even places (counted from 0) in lower case and those at odd places in upper case.
+std::string foldExecutable(std::string value);
+
 /// The value of the switch EXEFILE as it is kept here: folded on Windows, as it stands on Linux.
 std::string keptExecutable(const std::string& value);
 

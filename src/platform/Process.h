@@ -51,17 +51,29 @@ class ChildProcess {
   /// Writes to the child's standard input. Gives the count written; -1 on failure.
   virtual std::ptrdiff_t write(const char* bytes, std::size_t size) = 0;
 
-  /// Waits until the child itself has ended.
+  /// Waits until the child itself has ended, or until `stopWaiting`.
   virtual void wait() = 0;
+
+  /// Makes a `wait` or a `write` that another thread is in return at once, and every later one; any thread may call it.
+  virtual void stopWaiting() = 0;
 
   /// Ends the child and everything that it started; does not wait for it.
   virtual void endTree() = 0;
 };
 
-/// Starts a program that goes its own way: no pipes, no wait. `arguments` hold the program's own name first.
+/// Starts a program that goes its own way: no pipes, no wait. The program may stand in double quotes; without a folder
+/// it is looked for as the system does. `arguments` hold the program's own name first; empty ones are as good as none.
 /// Where a program takes one command line, the arguments are joined by single blanks, unquoted.
 /// Throws SystemError whose code is the C run-time's `errno`.
 void startDetached(const std::string& executable, const std::vector<std::string>& arguments);
+
+/// A path as an argument for `startDetached`: in double quotes if a blank stands in it at a position above 0 where the
+/// arguments become one command line, as it stands elsewhere.
+std::string detachedArgument(const std::string& path);
+
+/// Starts a program that goes its own way with one command line, whose first word is the program's own name.
+/// Throws SystemError with the label "CreateProcess".
+void startCommandLine(const std::string& executable, const std::string& commandLine);
 
 /// A command text split into arguments by the C run-time's rules: blanks separate, double quotes group.
 std::vector<std::string> splitCommandText(const std::string& text);

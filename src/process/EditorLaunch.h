@@ -1,18 +1,18 @@
 #pragma once
 
-#include <functional>
-#include <string>
-
 #include "dialogbase/Desktop.h"
 #include "process/ToolLog.h"
+
+#include <functional>
+#include <string>
 
 namespace tarnwick {
 
 /// The three settings that decide which editor opens what.
 struct EditorChoice {
-  bool editWithNotepad = false;     ///< EDITOR=NOTEPAD
-  bool displayWithNotepad = true;   ///< DISPLAY=NOTEPAD
-  std::string target;               ///< EDITOR_TARGET
+  bool editWithNotepad = false;    ///< EDITOR=NOTEPAD
+  bool displayWithNotepad = true;  ///< DISPLAY=NOTEPAD
+  std::string target;              ///< EDITOR_TARGET
 };
 
 /// True if the editor is a .jar archive, which its association has to start.

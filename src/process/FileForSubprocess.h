@@ -1,11 +1,11 @@
 #pragma once
 
-#include <string>
-#include <vector>
-
 #include "base/StringableM.h"
 #include "base/Tarnwickfile.h"
 #include "dialogbase/DialogWindow.h"
+
+#include <string>
+#include <vector>
 
 namespace tarnwick {
 
@@ -52,6 +52,8 @@ class FileForSubprocess : public Tarnwickfile, public StringableM {
   void fromString(const std::string& text) override;
 
  private:
+  void take(const Filename& newName);
+
   int controlId_ = 0;
   std::string previousName_;
   std::string lastFolder_;

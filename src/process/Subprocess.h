@@ -1,15 +1,15 @@
 #pragma once
 
+#include "base/Tarnwickfile.h"
+#include "dialogbase/Desktop.h"
+#include "process/FileForSubprocess.h"
+#include "process/ToolLog.h"
+
 #include <atomic>
 #include <cstddef>
 #include <optional>
 #include <string>
 #include <vector>
-
-#include "base/Tarnwickfile.h"
-#include "dialogbase/Desktop.h"
-#include "process/FileForSubprocess.h"
-#include "process/ToolLog.h"
 
 namespace tarnwick {
 

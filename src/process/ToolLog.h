@@ -1,10 +1,11 @@
 #pragma once
 
+#include "base/TempFile.h"
+
+#include <cstddef>
 #include <memory>
 #include <mutex>
 #include <string>
-
-#include "base/TempFile.h"
 
 namespace tarnwick {
 
@@ -16,8 +17,8 @@ class ToolLog {
 
   /// Makes the file if this process has none yet, and opens it. Throws Tarnwickfile::FileNotOpenE.
   void open(FileMode mode);
-  /// Appends bytes to the open log. Throws Tarnwickfile::FileNotOpenE if it is closed.
-  void append(const char* bytes, std::size_t size);
+  /// Appends bytes to the open log. Gives the count written. Throws Tarnwickfile::FileNotOpenE if it is closed.
+  std::size_t append(const char* bytes, std::size_t size);
   void close();
   /// The log's path; empty before the first run.
   std::string path() const;

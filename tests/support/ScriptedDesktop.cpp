@@ -202,7 +202,11 @@ int ScriptedDesktop::play(const std::string& kind, const DialogLayout& layout, D
   // Dialogs that initialisation itself opened have been played by now, so the step is taken after it.
   const auto step = take(kind, kind == "main" ? "" : window.title());
   if (!step) return IDCANCEL_CONTROL;
+  // What a script expects comes before what was expected behind its dialog.
+  std::deque<Step> later;
+  later.swap(steps_);
   if (step->script) step->script(window);
+  steps_.insert(steps_.end(), later.begin(), later.end());
   if (!window.closed()) ADD_FAILURE() << "\"" << window.title() << "\" was left open";
   if (kind == "main") windowPosition_ = window.position();
   return window.result();

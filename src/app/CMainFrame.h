@@ -1,0 +1,40 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "app/ConsoleFrameHost.h"
+#include "console/TarnwickDoc.h"
+#include "console/TarnwickView.h"
+#include "dialogbase/Desktop.h"
+#include "settings/Settings.h"
+
+namespace tarnwick {
+
+/// What a console is started with.
+struct ConsoleStart {
+  std::string title;
+  std::string exeFile;
+  std::string runArguments;
+  bool debugging = false;
+};
+
+/// The window of console mode: its commands and their rules.
+class CMainFrame : public ConsoleFrame {
+ public:
+  CMainFrame(Desktop& desktop, const Settings& settings, const ConsoleStart& start);
+
+  const MenuBar& menuBar() const override { return consoleMenuBar(); }
+  const std::vector<Accelerator>& accelerators() const override { return consoleAccelerators(); }
+  std::string title() const override { return document_.title(); }
+  bool commandEnabled(int command) const override;
+  void onCommand(int command) override;
+  ConsoleSurfaceClient& view() override { return view_; }
+
+ private:
+  Desktop& desktop_;
+  TarnwickDoc document_;
+  TarnwickView view_;
+};
+
+}  // namespace tarnwick

@@ -1,0 +1,149 @@
+#include "app/FileView.h"
+
+#include "platform/FileSystem.h"
+#include "platform/Path.h"
+#include "process/EditorLaunch.h"
+#include "resources/PanelLayouts.h"
+#include "source/Compiler.h"
+#include "tools/JavaLauncher.h"
+
+namespace tarnwick {
+
+namespace {
+
+enum Control { SOURCE_FIELD = 1009, NEW = 1240, BROWSE = 1006, EDIT = 1007, JAVAC = 1008 };
+enum Tab { MAIN_PROGRAM = 0, APPLET = 1, UTILITIES = 2 };
+
+const char sourceFilter[] = "Java source files|*.JAVA||";
+const char classFilter[] = "Java class files|*.CLASS||";
+const char htmlFilter[] = "htm* files|*.htm*||";
+
+bool canEnter(const std::string& folder) { return !folder.empty() && platform::changeDirectory(folder); }
+
+}  // namespace
+
+FileView::FileView(Settings& settings, std::function<void()> endMainDialog)
+    : PanelDlg(settings, fileViewLayout().resource, "Projectview", std::move(endMainDialog)),
+      sourceFile_(settings.fileviewSource),
+      classFile_(settings.fileviewClass),
+      htmlFile_(settings.fileviewHtml) {}
+
+void FileView::initialise(DialogWindow& window) {
+  PanelDlg::initialise(window);
+  title_ = settings_.context().mainWindow->title();
+  bindFields(window);
+  // New sources, the editor, the debugger, applets and the utilities are not there yet.
+  for (const int control : {NEW, EDIT}) window.enable(control, false);
+  pageWindow(MAIN_PROGRAM).enable(PanelPage::MIDDLE, false);
+  for (const int control : {PanelPage::MIDDLE, PanelPage::RIGHT}) pageWindow(APPLET).enable(control, false);
+  for (const int control : {PanelPage::LEFT, PanelPage::MIDDLE, PanelPage::RIGHT}) {
+    pageWindow(UTILITIES).enable(control, false);
+  }
+}
+
+void FileView::bindFields(DialogWindow& window) {
+  sourceFile_.bind(&window, SOURCE_FIELD);
+  classFile_.bind(&pageWindow(MAIN_PROGRAM), PanelPage::FIELD);
+  htmlFile_.bind(&pageWindow(APPLET), PanelPage::FIELD);
+  for (auto* file : {&sourceFile_, &classFile_, &htmlFile_}) file->writeToControl(nullptr);
+  pageWindow(UTILITIES).show(PanelPage::FIELD, false);
+}
+
+void FileView::detached() {
+  for (auto* file : {&sourceFile_, &classFile_, &htmlFile_}) file->bind(nullptr, 0);
+  PanelDlg::detached();
+}
+
+void FileView::updateTitle() { settings_.context().mainWindow->setTitle(title_); }
+
+void FileView::onTabChanged() { settings_.fileviewTab = currentPage(); }
+
+void FileView::onCommand(int control) {
+  if (control == BROWSE) browse(sourceFilter, sourceFile_);
+  else if (control == JAVAC) compileSource();
+  else PanelDlg::onCommand(control);
+}
+
+void FileView::onPageButton(int page, int control) {
+  if (page == MAIN_PROGRAM && control == PanelPage::LEFT) browse(classFilter, classFile_);
+  if (page == MAIN_PROGRAM && control == PanelPage::RIGHT) runClass();
+  if (page == APPLET && control == PanelPage::LEFT) browse(htmlFilter, htmlFile_);
+}
+
+bool FileView::prepareFile(const char* filter, FileForSubprocess& file) {
+  file.readFromControl();
+  if (!file.isEmpty()) {
+    try {
+      file.open(FileMode::Read);
+      file.close();
+      return true;
+    } catch (const Tarnwickfile::FileNotOpenE&) {
+      // The user is asked for one that is there.
+    }
+  }
+  std::string startFolder = platform::startFolder("C:\\");
+  for (const auto& candidate : {file.name().fullName(), file.lastFolder(), file.previousName()}) {
+    if (!canEnter(candidate)) continue;
+    startFolder = candidate;
+    break;
+  }
+  return askForFile(filter, startFolder, file);
+}
+
+void FileView::browse(const char* filter, FileForSubprocess& file) {
+  file.readFromControl();
+  std::string startFolder = platform::startFolder("C:\\");
+  if (canEnter(file.lastFolder())) {
+    startFolder = file.lastFolder();
+  } else if (!file.isEmpty() && canBeRead(file.name().fullName())) {
+    startFolder = file.name().directory();
+  }
+  askForFile(filter, startFolder, file);
+  settings_.saveIfWindowMoved();
+}
+
+bool FileView::askForFile(const char* filter, const std::string& startFolder, FileForSubprocess& file) {
+  FileRequest request;
+  request.filter = filter;
+  request.startFolder = startFolder;
+  request.mustExist = true;
+  const auto chosen = desktop_.openFile(request);
+  if (!chosen) return false;
+  file.setName(*chosen);
+  file.writeToControl(nullptr);
+  return true;
+}
+
+void FileView::compileSource() {
+  if (!prepareFile(sourceFilter, sourceFile_)) {
+    desktop_.message("No .java file known.");
+    return;
+  }
+  try {
+    Compiler compiler(settings_, nullptr);
+    if (compiler.compile(sourceFile_, FileMode::Write)) {
+      if (settings_.javacSoundOnError) desktop_.alert(AlertSound::Exclamation);
+      showLog(desktop_, settings_.context().log, settings_.editorChoice());
+    } else if (settings_.javacSoundOnSuccess) {
+      desktop_.alert(AlertSound::Asterisk);
+    }
+  } catch (const Tarnwickexception& failure) {
+    desktop_.message(failure.message);
+  }
+  const std::string folder = sourceFile_.name().directory();
+  sourceFile_.setLastFolder(folder);
+  classFile_.setLastFolder(folder);
+  settings_.saveCurrent();
+}
+
+void FileView::runClass() {
+  if (!prepareFile(classFilter, classFile_)) {
+    desktop_.message("No known .class file");
+    return;
+  }
+  classFile_.setLastFolder(classFile_.name().directory());
+  settings_.saveCurrent();
+  runJava(settings_, classFile_, nullptr);
+}
+
+}  // namespace tarnwick

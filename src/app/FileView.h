@@ -1,0 +1,40 @@
+#pragma once
+
+#include <string>
+
+#include "app/PanelDlg.h"
+#include "process/FileForSubprocess.h"
+
+namespace tarnwick {
+
+/// The panel that works on single files: one source, one class, one HTML file.
+class FileView : public PanelDlg {
+ public:
+  FileView(Settings& settings, std::function<void()> endMainDialog);
+
+  void initialise(DialogWindow& window) override;
+  void detached() override;
+  void onCommand(int control) override;
+  void updateTitle() override;
+
+ protected:
+  void onTabChanged() override;
+  using PanelDlg::onPageButton;
+  void onPageButton(int page, int control) override;
+
+ private:
+  void bindFields(DialogWindow& window);
+  /// Makes sure that `file` names an existing file, or gets one from the user. False if the user gave none.
+  bool prepareFile(const char* filter, FileForSubprocess& file);
+  void browse(const char* filter, FileForSubprocess& file);
+  bool askForFile(const char* filter, const std::string& startFolder, FileForSubprocess& file);
+  void compileSource();
+  void runClass();
+
+  FileForSubprocess& sourceFile_;
+  FileForSubprocess& classFile_;
+  FileForSubprocess& htmlFile_;
+  std::string title_;
+};
+
+}  // namespace tarnwick

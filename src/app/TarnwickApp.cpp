@@ -1,0 +1,103 @@
+#include "app/TarnwickApp.h"
+
+#include "app/CMainFrame.h"
+#include "app/SwitchLine.h"
+#include "app/TarnwickDlg.h"
+#include "base/Text.h"
+#include "platform/FileSystem.h"
+#include "platform/Path.h"
+
+namespace tarnwick {
+
+namespace {
+
+constexpr int START_FAILED = 1;
+
+ProgramInfo programAt(const std::string& executablePath) {
+  ProgramInfo program;
+  program.programDirectory = Filename(executablePath).directory();
+  program.programPath = executablePath;
+  return program;
+}
+
+/// True for a line that names a project file which can be opened. A switch line is simply a name that no file bears.
+bool namesProject(const std::string& commandLine) {
+  const Filename name(commandLine);
+  return canBeRead(name.fullName()) && equalsIgnoringCase(name.extension(), ".twp");
+}
+
+}  // namespace
+
+TarnwickApp::TarnwickApp(Desktop& desktop, ConsoleFrameHost& frameHost, const std::string& executablePath)
+    : desktop_(desktop),
+      frameHost_(frameHost),
+      program_(programAt(executablePath)),
+      log_(program_.configDirectory()),
+      context_{desktop, program_, log_},
+      settings_(context_) {}
+
+int TarnwickApp::run(const std::string& commandLine) {
+  if (commandLine.empty() || namesProject(commandLine)) return runPanel();
+  return runConsole(commandLine);
+}
+
+int TarnwickApp::runPanel() {
+  TarnwickDlg(settings_).runModal();
+  return 0;
+}
+
+bool TarnwickApp::enterDefaultFolder(const std::string& value) {
+  if (platform::changeDirectory(Filename(value, "*.*").directoryNoSlash())) return true;
+  desktop_.message("Can't access folder " + value);
+  return false;
+}
+
+bool TarnwickApp::parseSwitches(const std::string& line) {
+  std::size_t cursor = 0;
+  for (Switch found; nextSwitch(line, cursor, found);) {
+    if (equalsIgnoringCase(found.name, "DEFAULTDIR")) {
+      if (!enterDefaultFolder(found.value)) return false;
+    } else if (equalsIgnoringCase(found.name, "EXEFILE")) {
+      exeFile_ = cleanedPath(platform::keptExecutable(found.value));
+    } else if (equalsIgnoringCase(found.name, "CFG")) {
+      Tarnwickfile file(found.value, FileMode::Read);
+      configFile_ = file;
+    } else if (equalsIgnoringCase(found.name, "JDEBUG")) {
+      debugging_ = true;
+    } else if (equalsIgnoringCase(found.name, "TITLE")) {
+      title_ = found.value;
+    } else if (equalsIgnoringCase(found.name, "RUN")) {
+      // RUN takes all the rest, further marks included.
+      runArguments_ = found.start + 6 < line.size() ? line.substr(found.start + 6) : "";
+      return true;
+    }
+  }
+  return true;
+}
+
+bool TarnwickApp::readConsoleConfiguration(const std::string& commandLine) {
+  std::string error;
+  try {
+    if (!parseSwitches(commandLine)) return false;
+    int status = 0;
+    settings_.readConfiguration(status, configFile_);
+    configFile_.close();
+    if (status & READ_FAILURE_MASK) error = "Encountered problems reading the configuration";
+  } catch (const Tarnwickfile::FileNotOpenE& failure) {
+    error = failure.message + "\nFile " + failure.file;
+  } catch (...) {
+    error = "Encountered unexpected problems reading the configuration";
+  }
+  if (error.empty()) return true;
+  desktop_.message(error);
+  return false;
+}
+
+int TarnwickApp::runConsole(const std::string& commandLine) {
+  if (!readConsoleConfiguration(commandLine)) return START_FAILED;
+  CMainFrame frame(desktop_, settings_, {title_, exeFile_, runArguments_, debugging_});
+  frameHost_.runConsoleFrame(frame);
+  return 0;
+}
+
+}  // namespace tarnwick

@@ -1,0 +1,53 @@
+#pragma once
+
+#include <string>
+
+#include "app/ConsoleFrameHost.h"
+#include "base/ProgramInfo.h"
+#include "base/Tarnwickfile.h"
+#include "dialogbase/Desktop.h"
+#include "process/ToolLog.h"
+#include "settings/Settings.h"
+
+namespace tarnwick {
+
+/// The application: start-up, the command line, and the two personalities. Without an argument, or with a project
+/// file, it is the panel; with a line of switches it is the console of one program.
+class TarnwickApp {
+ public:
+  TarnwickApp(Desktop& desktop, ConsoleFrameHost& frameHost, const std::string& executablePath);
+
+  /// The whole life of the process. Gives the exit code: 0, or 1 after a start that failed.
+  int run(const std::string& commandLine);
+
+  const std::string& runArguments() const { return runArguments_; }
+  const std::string& exeFile() const { return exeFile_; }
+  const std::string& title() const { return title_; }
+  bool debugging() const { return debugging_; }
+  const Tarnwickfile& configFile() const { return configFile_; }
+
+  /// Applies the switches of a line. False after a message about a folder that can't be entered. Throws
+  /// Tarnwickfile::FileNotOpenE for a configuration that can't be read.
+  bool parseSwitches(const std::string& line);
+
+ private:
+  int runPanel();
+  int runConsole(const std::string& commandLine);
+  /// Reads what CFG named; shows why not.
+  bool readConsoleConfiguration(const std::string& commandLine);
+  bool enterDefaultFolder(const std::string& value);
+
+  Desktop& desktop_;
+  ConsoleFrameHost& frameHost_;
+  ProgramInfo program_;
+  ToolLog log_;
+  SettingsContext context_;
+  Settings settings_;
+  Tarnwickfile configFile_;
+  std::string runArguments_;
+  std::string exeFile_;
+  std::string title_;
+  bool debugging_ = false;
+};
+
+}  // namespace tarnwick

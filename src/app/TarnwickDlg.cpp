@@ -1,0 +1,72 @@
+#include "app/TarnwickDlg.h"
+
+#include "app/WelcomeDlg.h"
+#include "platform/Path.h"
+#include "resources/PanelLayouts.h"
+#include "settings/JdkDiscovery.h"
+
+namespace tarnwick {
+
+TarnwickDlg::TarnwickDlg(Settings& settings)
+    : ToolTipDlg(settings.context().desktop, mainLayout().resource, 0),
+      settings_(settings),
+      fileView_(settings, [this] { close(DIALOG_OK); }) {}
+
+TarnwickDlg::~TarnwickDlg() { settings_.context().mainWindow = nullptr; }
+
+void TarnwickDlg::runModal() { desktop_.runMainDialog(mainLayout(), *this); }
+
+void TarnwickDlg::initialise(DialogWindow& window) {
+  ToolTipDlg::initialise(window);
+  settings_.context().mainWindow = &window;
+  readSettings();
+  settings_.windowPosition.applyToWindow();
+  window.addChild(PANEL_SLOT, fileViewLayout(), fileView_);
+  fileView_.applyLayout();
+}
+
+void TarnwickDlg::detached() {
+  settings_.context().mainWindow = nullptr;
+  ToolTipDlg::detached();
+}
+
+void TarnwickDlg::readSettings() {
+  int status = 0;
+  settings_.readDefaultConfiguration(status);
+  // Any bit counts as a first use, even one unknown tag; stricter than the failure mask, and meant so.
+  if (status != 0) welcomeFirstUse(status);
+  else if (settings_.tarnwickVersion != settings_.context().program.version) welcomeUpgrade();
+}
+
+void TarnwickDlg::welcomeFirstUse(int status) {
+  WelcomeDlg(desktop_,
+             "You seem to be using Tarnwick for the first time,\n"
+             "as I can't find any data from a previous session.",
+             platform::localText(
+                 "Please make sure that you have an installation of a JDK (J2SE) on your system.\n\n"
+                 "On the next display you will have to tell Tarnwick where the JDK programs are located.\n"
+                 "Look for a file \"javac.exe\" in a \"bin\" subfolder of the JDK installation tree and\n"
+                 "enter it in the field \"Tools .exe directory\".\n"))
+      .runModal();
+  if (settings_.javaPath.empty()) {
+    settings_.javaPath = discoverJdkTools();
+    // From version 13 on, java warns about -Xfuture, and later ones refuse it. An existing configuration keeps it.
+    if (status == READ_FILE_LOST && jdkVersion(settings_.javaPath) >= 13) settings_.javaXfuture = 0;
+  }
+  settings_.runModal(0);
+  settings_.saveDefaultConfiguration(nullptr);
+}
+
+void TarnwickDlg::welcomeUpgrade() {
+  WelcomeDlg(desktop_,
+             "You seem to be upgrading from a previous Tarnwick version,\n"
+             "as far as I can tell from data from a previous session.",
+             "You may wish to review the javac options.\n"
+             "Depending on the JDK version, different options exist for\n"
+             "compiler warnings. They are not compatible across JDK versions,\n"
+             "so you should select the options appropriate for your JDK.")
+      .runModal();
+  settings_.saveDefaultConfiguration(nullptr);
+}
+
+}  // namespace tarnwick

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "app/FileView.h"
+#include "dialogbase/ToolTipDlg.h"
+#include "settings/Settings.h"
+
+namespace tarnwick {
+
+/// The small main window of panel mode; the whole run lives in it.
+class TarnwickDlg : public ToolTipDlg {
+ public:
+  explicit TarnwickDlg(Settings& settings);
+  ~TarnwickDlg() override;
+
+  void runModal();
+  void initialise(DialogWindow& window) override;
+  void detached() override;
+
+ protected:
+  // Return and the title bar's close box end the dialog without the save of a moved window; Exit makes it.
+  void onOk() override {}
+
+ private:
+  void readSettings();
+  void welcomeFirstUse(int status);
+  void welcomeUpgrade();
+
+  Settings& settings_;
+  FileView fileView_;
+};
+
+}  // namespace tarnwick

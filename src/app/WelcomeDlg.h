@@ -1,0 +1,22 @@
+#pragma once
+
+#include <string>
+
+#include "dialogbase/ToolTipDlg.h"
+
+namespace tarnwick {
+
+/// Greets at first use and after an upgrade.
+class WelcomeDlg : public ToolTipDlg {
+ public:
+  WelcomeDlg(Desktop& desktop, std::string firstText, std::string secondText);
+
+  void runModal();
+  void initialise(DialogWindow& window) override;
+
+ private:
+  std::string firstText_;
+  std::string secondText_;
+};
+
+}  // namespace tarnwick

@@ -1,0 +1,179 @@
+#include "base/TagTable.h"
+
+#include "base/Text.h"
+
+#include <cctype>
+#include <cstdint>
+#include <cstdio>
+#include <cstring>
+#include <optional>
+#include <utility>
+
+namespace tarnwick {
+
+namespace {
+
+/// A line taken apart. A blank line gives the empty tag, which is in no row.
+struct TaggedLine {
+  std::string tag;    ///< in upper case, as the tags of the tables
+  std::string value;  ///< without white space before it, with white space behind it
+};
+
+std::string firstWord(const std::string& text) {
+  std::size_t end = 0;
+  while (end < text.size() && !isWhite(text[end])) ++end;
+  return text.substr(0, end);
+}
+
+TaggedLine takeApart(const std::string& line) {
+  const std::string text = trimLeft(line);
+  const std::string tag = firstWord(text);
+  const std::string value = trimLeft(text.substr(tag.size()));
+  return {upperCase(tag), value.substr(0, value.find('\n'))};
+}
+
+const TagRow* rowOf(const TagRow* rows, const std::string& tag) {
+  for (const TagRow* row = rows; row->kind != TAG_END; ++row)
+    if (tag == row->tag) return row;
+  return nullptr;
+}
+
+/// A text shorter than the line it came from was cut at a zero byte; the C string functions see no further, nor do we.
+std::optional<std::string> nextLine(std::FILE* stream, std::string& buffer) {
+  if (!std::fgets(buffer.data(), static_cast<int>(buffer.size()) - 1, stream)) return std::nullopt;
+  return std::string(buffer.c_str());
+}
+
+int readNumber(int& variable, const std::string& value) {
+  if (value.empty()) return READ_NO_VALUE;
+  const bool negative = value[0] == '-';
+  std::uint32_t number = 0;  // too large a number wraps around
+  std::size_t at = negative ? 1 : 0;
+  for (; at < value.size() && value[at] >= '0' && value[at] <= '9'; ++at)
+    number = number * 10 + static_cast<std::uint32_t>(value[at] - '0');
+  variable = static_cast<int>(negative ? 0 - number : number);
+  // The digits before a character that is none count all the same.
+  return at < value.size() ? READ_BAD_VALUE : 0;
+}
+
+int readSwitch(int& variable, const std::string& value) {
+  if (value.empty()) return READ_NO_VALUE;
+  const std::string word = upperCase(firstWord(value));
+  if (word != "ON" && word != "OFF") return READ_BAD_VALUE;
+  variable = word == "ON" ? 1 : 0;
+  return 0;
+}
+
+/// Gives the bits of the status that the value adds.
+int readValue(const TagRow& row, const std::string& value) {
+  switch (row.kind) {
+    case TAG_STRING:
+      *static_cast<std::string*>(row.variable) = value;
+      return 0;
+    case TAG_INT:
+      return readNumber(*static_cast<int*>(row.variable), value);
+    case TAG_BOOL:
+      return readSwitch(*static_cast<int*>(row.variable), value);
+    case TAG_STRINGABLE:
+      try {
+        static_cast<StringableM*>(row.variable)->fromString(value);
+      } catch (const StringableM::InvalidDataE&) {
+        // Meant to leave no trace in the status: the value has put itself right.
+      }
+      return 0;
+    default:
+      return READ_BAD_ROW;
+  }
+}
+
+void resetValue(const TagRow& row) {
+  const std::string text = row.defaultText ? row.defaultText : "";
+  switch (row.kind) {
+    case TAG_STRING:
+      *static_cast<std::string*>(row.variable) = text;
+      break;
+    case TAG_INT:
+      *static_cast<int*>(row.variable) = row.defaultNumber;
+      break;
+    case TAG_BOOL:
+      *static_cast<int*>(row.variable) = row.defaultNumber != 0 ? 1 : 0;
+      break;
+    case TAG_STRINGABLE:
+      static_cast<StringableM*>(row.variable)->fromString(text);
+      break;
+    default:
+      break;
+  }
+}
+
+/// The text behind the tag; nothing for a row of an unknown kind.
+std::optional<std::string> writtenValue(const TagRow& row) {
+  switch (row.kind) {
+    case TAG_STRING: {
+      const auto& text = *static_cast<const std::string*>(row.variable);
+      return text.empty() ? " " : "  " + text;
+    }
+    case TAG_INT:
+      return "  " + std::to_string(*static_cast<const int*>(row.variable));
+    case TAG_BOOL:
+      return *static_cast<const int*>(row.variable) != 0 ? "  ON" : "  OFF";
+    case TAG_STRINGABLE:
+      return "  " + static_cast<StringableM*>(row.variable)->toString();
+    default:
+      return std::nullopt;
+  }
+}
+
+}  // namespace
+
+TagTable::TagTable(const TagRow* rows, std::string version, MessageShower showMessage)
+    : rows_(rows), version_(std::move(version)), showMessage_(std::move(showMessage)) {}
+
+void TagTable::resetToDefaults(int owner) {
+  // Rows without an owner are set by hand.
+  if (owner == 0) return;
+  for (const TagRow* row = rows_; row->kind != TAG_END; ++row)
+    if (row->owner == owner) resetValue(*row);
+}
+
+int TagTable::read(Tarnwickfile& file) {
+  constexpr std::size_t step = 256;
+  std::string buffer(step, '\0');
+  int status = 0;
+  file.open(FileMode::Undefined);
+  while (const auto line = nextLine(file.stream(), buffer)) {
+    if (line->size() >= buffer.size() - 2) {
+      // Meant: for a line that may be longer than the buffer, the file is read again from its top with a larger one.
+      try {
+        file.open(FileMode::Undefined);
+      } catch (const Tarnwickfile::FileNotOpenE&) {
+        return READ_FILE_LOST;
+      }
+      buffer.resize(buffer.size() + step);
+      continue;
+    }
+    const auto bits = readLine(*line);
+    if (bits == READ_BAD_ROW) return READ_BAD_ROW;
+    status |= bits;
+  }
+  return status;
+}
+
+int TagTable::readLine(const std::string& line) {
+  const TaggedLine tagged = takeApart(line);
+  if (tagged.tag == "REM") return 0;
+  const TagRow* row = rowOf(rows_, tagged.tag);
+  if (!row) return READ_UNKNOWN_TAG;
+  const int bits = readValue(*row, tagged.value);
+  if (bits == READ_BAD_ROW && showMessage_)
+    showMessage_("Settings: Error processing tag \"" + tagged.tag + "\"/\"" + row->tag + "\"");
+  return bits;
+}
+
+void TagTable::write(Tarnwickfile& file) {
+  std::fprintf(file.stream(), "REM  This configuration file was written by %s\nREM\n", version_.c_str());
+  for (const TagRow* row = rows_; row->kind != TAG_END; ++row)
+    if (const auto value = writtenValue(*row)) std::fprintf(file.stream(), "%s%s\n", row->tag, value->c_str());
+}
+
+}  // namespace tarnwick

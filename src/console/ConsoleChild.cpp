@@ -1,0 +1,203 @@
+#include "console/ConsoleChild.h"
+
+#include "base/Filename.h"
+#include "base/Text.h"
+#include "console/OutputReader.h"
+#include "platform/Path.h"
+
+#include <cstdio>
+#include <exception>
+#include <system_error>
+#include <utility>
+
+namespace tarnwick {
+namespace {
+
+const char endBanner[] = "****  Tarnwick:  E n d   o f   j a v a   e x e c u t i o n   ****";
+
+}  // namespace
+
+std::string shownExecutable(const std::string& exeFile) {
+  // Where case counts, a path in small letters would name a file that is not there.
+  return platform::sameFileName("a", "A") ? lowerCase(exeFile) : exeFile;
+}
+
+ConsoleChild::ConsoleChild(ConsoleScreen& screen, Desktop& desktop, ConsoleProgram program, std::function<void()> wake)
+    : screen_(screen), desktop_(desktop), program_(std::move(program)), wake_(std::move(wake)), writer_(desktop) {}
+
+ConsoleChild::~ConsoleChild() {
+  close();
+}
+
+void ConsoleChild::start() {
+  try {
+    runThread_ = std::thread([this] { run(); });
+  } catch (const std::system_error&) {
+    desktop_.message("Tarnwick Internal error: Thread creation (subprocess) failed.\n");
+  }
+}
+
+void ConsoleChild::write(std::string bytes) {
+  // The key that is pressed after the end closes the window; that nobody reads what it sends is no failure.
+  if (childState_ != 0) writer_.send(std::move(bytes));
+}
+
+void ConsoleChild::close() {
+  {
+    const std::lock_guard guard(stateLock_);
+    const bool closedBefore = std::exchange(stopping_, true);
+    stateChanged_.notify_all();
+    if (process_ && !closedBefore) {
+      if (childState_ == 1) process_->endTree();
+      process_->stopReading();
+      process_->stopWaiting();
+    }
+  }
+  // The run thread starts the others, so it goes first.
+  if (runThread_.joinable()) runThread_.join();
+  if (stdoutThread_.joinable()) stdoutThread_.join();
+  if (stderrThread_.joinable()) stderrThread_.join();
+  writer_.stop();
+}
+
+void ConsoleChild::run() {
+  try {
+    if (program_.runArguments.find(" -verbose ") != std::string::npos) echoCommand();
+    if (!startProcess()) return;
+    startReaders();
+  } catch (const std::exception&) {
+    endWithMessage("Can't open " + program_.exeFile + ".\nCheck java path in settings.");
+    return;
+  }
+  wake_();
+  process_->wait();
+  if (stopping()) return;
+  std::fflush(nullptr);
+  if (!settle()) return;
+  if (totalOutputBytes_ == 0) {
+    // A child that said nothing leaves no console behind.
+    childState_ = 0;
+    requestClose();
+    return;
+  }
+  if (!waitForReaders()) return;
+  writeBanner();
+  childState_ = 0;
+  wake_();
+}
+
+void ConsoleChild::echoCommand() {
+  const std::string command =
+      shownExecutable(Filename(program_.exeFile).quotedBaseName()) + ' ' + program_.runArguments;
+  {
+    const TextGuard guard(screen_.lock());
+    const int end = screen_.document.addText(command, KIND_INPUT).end;
+    screen_.changes.ask(screen_.document.lineCount(), 0, end);
+    screen_.newLine();
+  }
+  wake_();
+}
+
+bool ConsoleChild::startProcess() {
+  std::unique_ptr<platform::ChildProcess> process;
+  try {
+    process = program_.start({program_.exeFile, program_.runArguments, true});
+  } catch (const platform::SystemError& error) {
+    const std::string text = "Can't start " + shownExecutable(program_.exeFile) + "\n" + error.text();
+    desktop_.post([&desktop = desktop_, text] { desktop.message(text); });
+    return false;
+  }
+  const std::lock_guard guard(stateLock_);
+  process_ = std::move(process);
+  childState_ = 1;
+  if (!stopping_) return true;
+  // The window was closed while the child started.
+  process_->endTree();
+  return false;
+}
+
+void ConsoleChild::startReaders() {
+  using Stream = platform::ChildProcess::Stream;
+  stdoutThread_ = std::thread([this] { read(Stream::Output, KIND_OUTPUT); });
+  stderrThread_ = std::thread([this] { read(Stream::Error, KIND_ERROR); });
+  writer_.start(*process_);
+}
+
+void ConsoleChild::read(platform::ChildProcess::Stream stream, int kind) {
+  OutputReader reader(screen_, kind);
+  reader.begin();
+  char block[OutputReader::blockSize];
+  for (;;) {
+    const std::size_t count = process_->read(stream, block, sizeof block);
+    if (count == 0 || stopping()) break;
+    readerActive_ = true;
+    {
+      const std::lock_guard guard(readerLock_);
+      reader.handle({block, count});
+      totalOutputBytes_ += count;
+    }
+    wake_();
+  }
+  // A console that closes leaves its unfinished line alone: it is not to reach a record file.
+  if (stopping()) return;
+  reader.end();
+  wake_();
+}
+
+bool ConsoleChild::settle() {
+  std::uint64_t before = 0;
+  do {
+    before = totalOutputBytes_;
+    if (!pause(program_.timing.settle)) return false;
+  } while (totalOutputBytes_ != before);
+  return true;
+}
+
+bool ConsoleChild::waitForReaders() {
+  for (int tries = 0; tries < program_.timing.readerTries; ++tries) {
+    if (!readerActive_.exchange(false)) break;
+    if (!pause(program_.timing.readerWait)) return false;
+  }
+  return true;
+}
+
+void ConsoleChild::writeBanner() {
+  const TextGuard guard(screen_.lock());
+  TarnwickDoc& document = screen_.document;
+  document.newLine();
+  document.newLine();
+  screen_.caret.setColumn(document.addText(endBanner, KIND_BANNER).end);
+  screen_.newLine();
+  screen_.changes.everything = true;
+  screen_.changes.ask(document.lineCount(), 0, 1);
+}
+
+void ConsoleChild::endWithMessage(const std::string& text) {
+  {
+    const std::lock_guard guard(stateLock_);
+    if (process_) process_->endTree();
+    childState_ = 0;
+  }
+  desktop_.post([&desktop = desktop_, text] { desktop.message(text); });
+  requestClose();
+}
+
+void ConsoleChild::requestClose() {
+  {
+    const TextGuard guard(screen_.lock());
+    screen_.changes.close = true;
+  }
+  wake_();
+}
+
+bool ConsoleChild::pause(std::chrono::milliseconds time) {
+  std::unique_lock guard(stateLock_);
+  return !stateChanged_.wait_for(guard, time, [this] { return stopping_; });
+}
+
+bool ConsoleChild::stopping() {
+  const std::lock_guard guard(stateLock_);
+  return stopping_;
+}
+
+}  // namespace tarnwick

@@ -1,0 +1,83 @@
+#pragma once
+
+#include "console/ConsoleProgram.h"
+#include "console/ConsoleScreen.h"
+#include "console/InputWriter.h"
+#include "dialogbase/Desktop.h"
+
+#include <atomic>
+#include <condition_variable>
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <mutex>
+#include <string>
+#include <thread>
+
+namespace tarnwick {
+
+/// The program that runs in the console: one thread starts it and waits for its end, two bring its output into the
+/// text, one writes its input. No thread touches the window: they note what has changed and call `wake`.
+///
+/// Order of locks: reader lock before text lock.
+class ConsoleChild {
+ public:
+  /// `screen` and `desktop` outlive the object. `wake` may be called by any thread until `close` returns.
+  ConsoleChild(ConsoleScreen& screen, Desktop& desktop, ConsoleProgram program, std::function<void()> wake);
+  ~ConsoleChild();
+  ConsoleChild(const ConsoleChild&) = delete;
+  ConsoleChild& operator=(const ConsoleChild&) = delete;
+
+  /// Starts the child run thread, once.
+  void start();
+
+  /// Bytes for the child's standard input, as one write.
+  void write(std::string bytes);
+
+  /// Ends the child with all that it started, if it runs, and waits for the threads, but not for the child.
+  void close();
+
+  /// -1 until the child runs and after a start that failed, 1 while it runs, 0 when it has ended.
+  int childState() const { return childState_; }
+  std::uint64_t totalOutputBytes() const { return totalOutputBytes_; }
+
+ private:
+  void run();
+  void echoCommand();
+  bool startProcess();
+  void startReaders();
+  void read(platform::ChildProcess::Stream stream, int kind);
+  bool settle();
+  bool waitForReaders();
+  void writeBanner();
+  void endWithMessage(const std::string& text);
+  void requestClose();
+  /// False if the console closes meanwhile.
+  bool pause(std::chrono::milliseconds time);
+  bool stopping();
+
+  ConsoleScreen& screen_;
+  Desktop& desktop_;
+  const ConsoleProgram program_;
+  const std::function<void()> wake_;
+
+  std::mutex stateLock_;  ///< of `process_` while it is set, and of `stopping_`
+  std::condition_variable stateChanged_;
+  bool stopping_ = false;
+  std::unique_ptr<platform::ChildProcess> process_;
+
+  std::mutex readerLock_;  ///< held for a whole block, so that the two outputs never mix within one
+  std::atomic<int> childState_{-1};
+  std::atomic<std::uint64_t> totalOutputBytes_{0};
+  std::atomic<bool> readerActive_{false};  ///< a hint only
+
+  InputWriter writer_;
+  std::thread runThread_;
+  std::thread stdoutThread_;
+  std::thread stderrThread_;
+};
+
+/// The executable as messages name it: in small letters where file names ignore case.
+std::string shownExecutable(const std::string& exeFile);
+
+}  // namespace tarnwick

@@ -1,0 +1,62 @@
+#include "console/InputWriter.h"
+
+#include <cstddef>
+#include <utility>
+
+namespace tarnwick {
+
+InputWriter::~InputWriter() {
+  stop();
+}
+
+void InputWriter::send(std::string bytes) {
+  const std::lock_guard guard(lock_);
+  waiting_.push_back(std::move(bytes));
+  changed_.notify_one();
+}
+
+void InputWriter::start(platform::ChildProcess& child) {
+  thread_ = std::thread([this, &child] { run(child); });
+}
+
+void InputWriter::stop() {
+  {
+    const std::lock_guard guard(lock_);
+    stopping_ = true;
+    changed_.notify_one();
+  }
+  if (thread_.joinable()) thread_.join();
+}
+
+void InputWriter::run(platform::ChildProcess& child) {
+  for (;;) {
+    std::string bytes;
+    {
+      std::unique_lock guard(lock_);
+      changed_.wait(guard, [this] { return stopping_ || !waiting_.empty(); });
+      if (stopping_) return;
+      bytes = std::move(waiting_.front());
+      waiting_.pop_front();
+    }
+    const std::ptrdiff_t written = child.write(bytes.data(), bytes.size());
+    {
+      const std::lock_guard guard(lock_);
+      if (stopping_) return;  // the write was broken off by us
+    }
+    if (written < 0) {
+      report("WriteFile error to jStdin");
+    } else if (static_cast<std::size_t>(written) < bytes.size()) {
+      report("WriteFile didn't write to jStdin");
+    }
+  }
+}
+
+void InputWriter::report(const char* text) {
+  if (reporting_->exchange(true)) return;
+  desktop_.post([&desktop = desktop_, reporting = reporting_, text] {
+    desktop.message(text);
+    *reporting = false;
+  });
+}
+
+}  // namespace tarnwick

@@ -1,0 +1,46 @@
+#pragma once
+
+#include "dialogbase/Desktop.h"
+#include "platform/Process.h"
+
+#include <atomic>
+#include <condition_variable>
+#include <deque>
+#include <memory>
+#include <mutex>
+#include <string>
+#include <thread>
+
+namespace tarnwick {
+
+/// Writes to the child's standard input, in order, on a thread of its own: a child that does not read what is sent to
+/// it must not bring the window to a stop. What is sent before the child runs waits for it.
+class InputWriter {
+ public:
+  /// `desktop` outlives the program's windows.
+  explicit InputWriter(Desktop& desktop) : desktop_(desktop) {}
+  ~InputWriter();
+
+  /// One write to the child. Any thread.
+  void send(std::string bytes);
+  /// Begins to write to this child, which outlives the writer.
+  void start(platform::ChildProcess& child);
+  /// Lets the rest go and waits for the thread; whoever calls has made the child's `write` return.
+  void stop();
+
+ private:
+  void run(platform::ChildProcess& child);
+  void report(const char* text);
+
+  Desktop& desktop_;
+  std::mutex lock_;
+  std::condition_variable changed_;
+  std::deque<std::string> waiting_;
+  bool stopping_ = false;
+  std::thread thread_;
+  /// True while a failure is on the screen: more of the same are not piled on it. Shared, since the message may be
+  /// shown when the console has gone.
+  std::shared_ptr<std::atomic<bool>> reporting_ = std::make_shared<std::atomic<bool>>(false);
+};
+
+}  // namespace tarnwick

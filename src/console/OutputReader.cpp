@@ -1,0 +1,95 @@
+#include "console/OutputReader.h"
+
+#include "platform/Characters.h"
+
+#include <algorithm>
+#include <array>
+
+namespace tarnwick {
+namespace {
+
+/// Which bytes stay in the text; a table, since every byte of a flood is looked up.
+const std::array<bool, 256>& textBytes() {
+  static const auto table = [] {
+    std::array<bool, 256> plain{};
+    for (std::size_t code = 0; code < plain.size(); ++code) {
+      plain[code] = platform::isConsoleText(static_cast<char>(static_cast<unsigned char>(code)));
+    }
+    return plain;
+  }();
+  return table;
+}
+
+}  // namespace
+
+void OutputReader::begin() {
+  const TextGuard guard(screen_.lock());
+  screen_.newLine();
+  show(1);
+}
+
+void OutputReader::handle(std::string_view block) {
+  std::string joined;
+  if (!cut_.empty()) {
+    joined.swap(cut_);
+    joined += block;
+    block = joined;
+  }
+  const std::size_t tail = platform::unfinishedTail(block);
+  cut_ = block.substr(block.size() - tail);
+  block.remove_suffix(tail);
+
+  const TextGuard guard(screen_.lock());
+  high_ = 0;
+  const auto& plain = textBytes();
+  std::size_t start = 0;
+  for (std::size_t place = 0; place < block.size(); ++place) {
+    if (plain[static_cast<unsigned char>(block[place])]) continue;
+    add(block.substr(start, place - start));
+    handleControl(platform::consoleClass(block[place]));
+    start = place + 1;
+  }
+  add(block.substr(start));
+  show(1);
+}
+
+void OutputReader::end() {
+  const TextGuard guard(screen_.lock());
+  add(cut_);
+  cut_.clear();
+  screen_.newLine();
+  show(1);
+}
+
+void OutputReader::add(std::string_view text) {
+  if (text.empty()) return;
+  // A block that adds nothing leaves the caret where the user has put it.
+  high_ = std::max(high_, screen_.document.addText(platform::validText(text), kind_).end);
+  screen_.caret.setColumn(high_);
+}
+
+void OutputReader::handleControl(unsigned char control) {
+  switch (control) {
+    case '\n':
+      show(0);
+      screen_.document.addText("\n", kind_);
+      screen_.caret.setColumn(0);
+      break;
+    case '\t':
+      high_ = std::max(high_, screen_.document.addText("\t", kind_).end);
+      screen_.caret.setColumn(high_);
+      break;
+    case '\a':
+      screen_.changes.beep = true;
+      break;
+    default:  // dropped, the carriage return included
+      break;
+  }
+}
+
+void OutputReader::show(int leastColumn) {
+  screen_.changes.ask(screen_.document.lineCount(), 0, std::max(high_, leastColumn));
+  high_ = 0;
+}
+
+}  // namespace tarnwick

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "console/ConsoleScreen.h"
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+namespace tarnwick {
+
+/// Brings what the child writes to one of its outputs into the text. The operations take the text lock themselves.
+class OutputReader {
+ public:
+  /// How much of a child's output is handled at once.
+  static constexpr std::size_t blockSize = 512;
+
+  OutputReader(ConsoleScreen& screen, int kind) : screen_(screen), kind_(kind) {}
+
+  /// The output begins on a line of its own.
+  void begin();
+  /// Handles one block. A character that it cuts waits for the next one.
+  void handle(std::string_view block);
+  /// Nothing more comes.
+  void end();
+
+ private:
+  void add(std::string_view text);
+  void handleControl(unsigned char control);
+  /// Asks for the columns that were added since the last call to be shown.
+  void show(int leastColumn);
+
+  ConsoleScreen& screen_;
+  int kind_;
+  std::string cut_;  ///< the beginning of a character
+  int high_ = 0;     ///< the right end of what was added to the present line
+};
+
+}  // namespace tarnwick

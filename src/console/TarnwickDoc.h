@@ -1,0 +1,90 @@
+#pragma once
+
+#include "console/ConsoleLine.h"
+#include "console/TextLock.h"
+#include "dialogbase/Desktop.h"
+
+#include <cstdio>
+#include <deque>
+#include <memory>
+#include <string>
+#include <string_view>
+
+namespace tarnwick {
+
+/// The columns that an addition took on the last line; `end` lies just behind it.
+struct ColumnRange {
+  int start = 0;
+  int end = 0;
+  bool operator==(const ColumnRange&) const = default;
+};
+
+/// The text of one console: a bounded list of lines, of which the last one is being written. It also records completed
+/// lines to a file and saves what is there.
+///
+/// Everything but the three file operations is guarded by the text lock, which the caller holds.
+class TarnwickDoc {
+ public:
+  static constexpr int maxLines = 1500;
+
+  /// `desktop` outlives the document.
+  TarnwickDoc(Desktop& desktop, std::string title);
+
+  TextLock& textLock() { return textLock_; }
+  const std::string& title() const { return title_; }
+
+  /// Records the last line if a recording runs, and begins another; the first one goes when there are too many.
+  void newLine();
+
+  /// Adds to the last line. "\n" begins a new line, "\b" takes back the last typed character, tabs become blanks.
+  ColumnRange addText(std::string_view text, int kind);
+
+  /// Replaces what was typed at the end of the last line, or adds it.
+  ColumnRange replaceInput(std::string_view text);
+
+  /// The last line's last segment, null if there is none.
+  const std::string* lastSegment(int& kindOut) const { return lines_.back().lastSegment(kindOut); }
+  /// Columns of the last line.
+  int lastLineLength() const;
+
+  const std::deque<ConsoleLine>& lines() const { return lines_; }
+  const ConsoleLine& lastLine() const { return lines_.back(); }
+  int lineCount() const { return static_cast<int>(lines_.size()); }
+  /// The greatest length of any line so far; it never goes down.
+  int widestLine() const { return widestLine_; }
+  /// True once a line has fallen off the top.
+  bool linesDropped() const { return linesDropped_; }
+
+  // The file operations. They belong to the user-interface thread and take the text lock themselves.
+
+  /// Asks for a file and records every line to it that is completed from now on. True if the file is open.
+  bool startRecording();
+  void stopRecording();
+  /// Asks for a file and writes all that is there to it, the unfinished last line too. Ends a recording.
+  void saveDisplay();
+  bool recording() const { return recordStream_ != nullptr; }
+
+ private:
+  struct Closer {
+    void operator()(std::FILE* stream) const { std::fclose(stream); }
+  };
+
+  using Stream = std::unique_ptr<std::FILE, Closer>;
+
+  /// Ends a recording, asks for a file and opens it; null after the message.
+  Stream openChosenFile();
+  static void writeLine(const Stream& stream, const ConsoleLine& line);
+  ColumnRange takeBack(int kind);
+  void noteWidth();
+
+  Desktop& desktop_;
+  std::string title_;
+  TextLock textLock_;
+  std::deque<ConsoleLine> lines_;
+  int widestLine_ = 0;
+  bool linesDropped_ = false;
+  Stream recordStream_;
+  std::string recordFileName_;
+};
+
+}  // namespace tarnwick

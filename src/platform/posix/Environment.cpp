@@ -1,0 +1,84 @@
+#include "platform/FileSystem.h"
+
+#include <clocale>
+#include <csignal>
+#include <cstdlib>
+#include <cstring>
+#include <filesystem>
+#include <langinfo.h>
+#include <pwd.h>
+#include <unistd.h>
+
+namespace tarnwick::platform {
+
+namespace {
+
+/// LC_ALL overrides every category: it is dealt out to the others, so that one of them can differ.
+void dealOutLocale() {
+  const auto all = environment("LC_ALL");
+  if (!all) return;
+  if (!all->empty()) {
+    for (const char* category : {"LC_NUMERIC", "LC_TIME", "LC_COLLATE", "LC_MONETARY", "LC_MESSAGES", "LC_PAPER",
+                                 "LC_NAME", "LC_ADDRESS", "LC_TELEPHONE", "LC_MEASUREMENT", "LC_IDENTIFICATION"})
+      ::setenv(category, all->c_str(), 1);
+  }
+  ::unsetenv("LC_ALL");
+}
+
+bool speaksUtf8() {
+  return std::strcmp(::nl_langinfo(CODESET), "UTF-8") == 0;
+}
+
+}  // namespace
+
+std::optional<std::string> environment(const std::string& name) {
+  const char* value = std::getenv(name.c_str());
+  if (!value) return std::nullopt;
+  return value;
+}
+
+bool setEnvironment(const std::string& definition) {
+  const auto equals = definition.find('=');
+  if (equals == std::string::npos || equals == 0) return false;
+  const std::string name = definition.substr(0, equals);
+  const std::string value = definition.substr(equals + 1);
+  return (value.empty() ? ::unsetenv(name.c_str()) : ::setenv(name.c_str(), value.c_str(), 1)) == 0;
+}
+
+std::string executablePath() {
+  std::error_code ignored;
+  return std::filesystem::read_symlink("/proc/self/exe", ignored).string();
+}
+
+std::string defaultConfigDirectory(const std::string&) {
+  const auto xdg = environment("XDG_CONFIG_HOME");
+  // A relative path is invalid there and is to be ignored.
+  const bool usable = xdg && xdg->starts_with('/');
+  const std::string base = usable ? *xdg : homeFolder() + "/.config";
+  return base + (base.ends_with('/') ? "tarnwick/" : "/tarnwick/");
+}
+
+std::string homeFolder() {
+  const auto home = environment("HOME");
+  if (home && !home->empty()) return *home;
+  const passwd* user = ::getpwuid(::getuid());
+  return user && user->pw_dir ? user->pw_dir : "/";
+}
+
+int processId() {
+  return ::getpid();
+}
+
+void prepareProcess() {
+  std::setlocale(LC_CTYPE, "");
+  if (!speaksUtf8()) {
+    // Texts inside are UTF-8, and Java's tools write and read file names in the locale's set.
+    dealOutLocale();
+    ::setenv("LC_CTYPE", "C.UTF-8", 1);
+    std::setlocale(LC_CTYPE, "C.UTF-8");
+  }
+  // A write to a child that has gone shall fail, not end the program.
+  std::signal(SIGPIPE, SIG_IGN);
+}
+
+}  // namespace tarnwick::platform

@@ -1,0 +1,130 @@
+#include "platform/FileSystem.h"
+
+#include "platform/Path.h"
+#include "platform/posix/TextInput.h"
+
+#include <cerrno>
+#include <cstdlib>
+#include <fcntl.h>
+#include <filesystem>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace tarnwick::platform {
+
+namespace {
+
+std::optional<struct stat> statusOf(const std::string& path) {
+  struct stat status {};
+  if (::stat(path.c_str(), &status) != 0) return std::nullopt;
+  return status;
+}
+
+int openDescriptor(const std::string& path, const std::string& mode) {
+  const bool both = mode.find('+') != std::string::npos;
+  int flags = O_CLOEXEC;
+  if (mode.starts_with('r')) flags |= both ? O_RDWR : O_RDONLY;
+  if (mode.starts_with('w')) flags |= (both ? O_RDWR : O_WRONLY) | O_CREAT | O_TRUNC;
+  if (mode.starts_with('a')) flags |= (both ? O_RDWR : O_WRONLY) | O_CREAT | O_APPEND;
+  return ::open(path.c_str(), flags, 0666);
+}
+
+/// Closes without losing the reason of the failure.
+std::FILE* refused(int descriptor, int reason) {
+  ::close(descriptor);
+  errno = reason;
+  return nullptr;
+}
+
+}  // namespace
+
+std::FILE* openFile(const std::string& path, const char* mode) {
+  const int descriptor = openDescriptor(path, mode);
+  if (descriptor < 0) return nullptr;
+  struct stat status {};
+  if (::fstat(descriptor, &status) != 0) return refused(descriptor, errno);
+  if (S_ISDIR(status.st_mode)) return refused(descriptor, EISDIR);
+  if (std::string(mode) == "r") return openTextInput(descriptor);
+  std::FILE* stream = ::fdopen(descriptor, mode);
+  return stream ? stream : refused(descriptor, errno);
+}
+
+bool claimFile(const std::string& path) {
+  const int descriptor = ::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
+  return descriptor >= 0 && ::close(descriptor) == 0;
+}
+
+std::optional<std::time_t> lastChange(const std::string& path) {
+  const auto status = statusOf(path);
+  if (!status) return std::nullopt;
+  return status->st_mtime;
+}
+
+bool deleteFile(const std::string& path) {
+  return ::unlink(path.c_str()) == 0;
+}
+
+bool isFile(const std::string& path) {
+  const auto status = statusOf(path);
+  return status && S_ISREG(status->st_mode);
+}
+
+bool isFolder(const std::string& path) {
+  const auto status = statusOf(path);
+  return status && S_ISDIR(status->st_mode);
+}
+
+bool makeFolders(const std::string& path) {
+  std::error_code ignored;
+  std::filesystem::create_directories(path, ignored);
+  return isFolder(path);
+}
+
+bool flushToDisk(std::FILE* stream) {
+  const bool failedBefore = std::ferror(stream) != 0;
+  if (std::fflush(stream) != 0) return false;
+  if (failedBefore) {
+    // Nobody kept the reason of that failure; what refused one write refuses another, and tells it again.
+    if (std::fputc('\n', stream) != EOF && std::fflush(stream) == 0) errno = EIO;
+    return false;
+  }
+  // EINVAL: a device or pipe that knows no disk.
+  return ::fsync(::fileno(stream)) == 0 || errno == EINVAL;
+}
+
+bool replaceFile(const std::string& from, const std::string& to) {
+  const auto before = statusOf(to);
+  const auto fresh = statusOf(from);
+  if (before && fresh) {
+    // A file that would change hands is not replaced; changing its owner is the superuser's right.
+    const bool sameOwner = before->st_uid == fresh->st_uid && before->st_gid == fresh->st_gid;
+    if (!sameOwner && ::chown(from.c_str(), before->st_uid, before->st_gid) != 0) return false;
+    if (::chmod(from.c_str(), before->st_mode & 07777) != 0) return false;
+  }
+  return ::rename(from.c_str(), to.c_str()) == 0;
+}
+
+std::string resolvedPath(const std::string& path) {
+  std::error_code failure;
+  std::filesystem::path current = path;
+  constexpr int mostLinks = 40;
+  for (int i = 0; i < mostLinks; ++i) {
+    const auto resolved = std::filesystem::canonical(current, failure);
+    if (!failure) return resolved.string();
+    const auto next = std::filesystem::read_symlink(current, failure);
+    if (failure) return current.string();
+    current = current.parent_path() / next;
+  }
+  return path;
+}
+
+bool changeDirectory(const std::string& folder) {
+  return ::chdir(folder.c_str()) == 0;
+}
+
+std::string currentDirectory() {
+  std::error_code ignored;
+  return std::filesystem::current_path(ignored).string();
+}
+
+}  // namespace tarnwick::platform

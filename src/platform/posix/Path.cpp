@@ -1,0 +1,93 @@
+#include "platform/Path.h"
+
+#include "platform/FileSystem.h"
+
+#include <algorithm>
+
+namespace tarnwick::platform {
+
+namespace {
+
+void replaceAll(std::string& text, const std::string& from, const std::string& to) {
+  for (auto at = text.find(from); at != std::string::npos; at = text.find(from, at + to.size()))
+    text.replace(at, from.size(), to);
+}
+
+/// Drops each ".exe", and one blank with it where it stands as a word of its own.
+void dropExe(std::string& text) {
+  const std::string exe = ".exe";
+  for (auto at = text.find(exe); at != std::string::npos; at = text.find(exe, at)) {
+    text.erase(at, exe.size());
+    const bool blankBefore = at == 0 || text[at - 1] == ' ';
+    if (blankBefore && at < text.size() && text[at] == ' ')
+      text.erase(at, 1);
+    else if (blankBefore && at > 0 && at == text.size())
+      text.erase(at - 1, 1);
+  }
+}
+
+}  // namespace
+
+const char folderSeparator = '/';
+
+PathParts splitPath(const std::string& path) {
+  PathParts parts;
+  const auto slash = path.rfind('/');
+  const auto nameStart = slash == std::string::npos ? 0 : slash + 1;
+  parts.folder = path.substr(0, nameStart);
+  const std::string name = path.substr(nameStart);
+  const auto dot = name.rfind('.');
+  parts.base = name.substr(0, dot);
+  if (dot != std::string::npos) parts.extension = name.substr(dot);
+  return parts;
+}
+
+bool endsInSeparator(const std::string& path) {
+  return path.ends_with('/');
+}
+
+std::string toolFileName(const std::string& tool) {
+  return tool == "javaw" ? "java" : tool;
+}
+
+std::string localText(const std::string& text) {
+  std::string local = text;
+  replaceAll(local, "javaw.exe", "java");
+  dropExe(local);
+  return local;
+}
+
+bool sameFileName(const std::string& left, const std::string& right) {
+  return left == right;
+}
+
+std::string commandLineList(const std::string& list) {
+  std::string result = list;
+  std::replace(result.begin(), result.end(), ';', ':');
+  return result;
+}
+
+std::string storedList(const std::string& typed) {
+  std::string result = typed;
+  std::replace(result.begin(), result.end(), ':', ';');
+  return result;
+}
+
+std::string keptExecutable(const std::string& value) {
+  return value;
+}
+
+std::string startFolder(const std::string&) {
+  return homeFolder();
+}
+
+std::string rawCommandLine(int argc, char** argv) {
+  std::string line;
+  for (int i = 1; i < argc; ++i) {
+    if (i > 1) line += ' ';
+    line += argv[i];
+  }
+  return line;
+}
+
+}  // namespace tarnwick::platform

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "platform/win32/Handle.h"
+
+namespace tarnwick::platform {
+
+/// Holds a process and all that it starts, so that they can be ended together.
+class ChildJob {
+ public:
+  /// `endWithUs`: the system ends them when our process ends, however that happens.
+  /// Where there is no job to be had, only the process itself can be ended.
+  ChildJob(HANDLE process, bool endWithUs);
+  /// Lets them go their own way.
+  ~ChildJob() { release(); }
+  ChildJob(const ChildJob&) = delete;
+  ChildJob& operator=(const ChildJob&) = delete;
+
+  void release();
+  void endAll();
+
+ private:
+  bool limit(bool endWithUs);
+
+  HANDLE process_;
+  Handle job_;
+};
+
+}  // namespace tarnwick::platform

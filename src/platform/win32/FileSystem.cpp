@@ -1,0 +1,159 @@
+#include "platform/FileSystem.h"
+
+#include "platform/Path.h"
+
+#include <windows.h>
+
+#include <cerrno>
+#include <cstdint>
+#include <cstdio>
+#include <direct.h>
+#include <io.h>
+
+namespace tarnwick::platform {
+
+namespace {
+
+/// The C run-time's number for what the system has just refused.
+int errnoOfLastError() {
+  switch (GetLastError()) {
+    case ERROR_FILE_NOT_FOUND:
+    case ERROR_PATH_NOT_FOUND:
+    case ERROR_INVALID_NAME:
+    case ERROR_INVALID_DRIVE:
+      return ENOENT;
+    case ERROR_FILE_EXISTS:
+    case ERROR_ALREADY_EXISTS:
+      return EEXIST;
+    case ERROR_DISK_FULL:
+    case ERROR_HANDLE_DISK_FULL:
+      return ENOSPC;
+    case ERROR_ACCESS_DENIED:
+    case ERROR_SHARING_VIOLATION:
+    case ERROR_LOCK_VIOLATION:
+    case ERROR_WRITE_PROTECT:
+      return EACCES;
+    default:
+      return EIO;
+  }
+}
+
+bool hasAttribute(const std::string& path, DWORD attribute, bool wanted) {
+  const DWORD attributes = GetFileAttributesA(path.c_str());
+  return attributes != INVALID_FILE_ATTRIBUTES && ((attributes & attribute) != 0) == wanted;
+}
+
+/// A call that fills a buffer and tells how much it needs.
+template <typename Call>
+std::string filled(Call call) {
+  std::string buffer(MAX_PATH, '\0');
+  for (;;) {
+    const DWORD length = call(buffer.data(), static_cast<DWORD>(buffer.size()));
+    if (length < buffer.size()) {
+      buffer.resize(length);
+      return buffer;
+    }
+    buffer.resize(length + MAX_PATH);
+  }
+}
+
+/// "\\?\C:\x" as "C:\x", "\\?\UNC\server\x" as "\\server\x".
+std::string withoutDevicePrefix(const std::string& path) {
+  const std::string device = "\\\\?\\";
+  const std::string share = device + "UNC\\";
+  if (path.starts_with(share)) return "\\\\" + path.substr(share.size());
+  return path.starts_with(device) ? path.substr(device.size()) : path;
+}
+
+}  // namespace
+
+std::FILE* openFile(const std::string& path, const char* mode) {
+  // "N": children do not inherit it.
+  return std::fopen(path.c_str(), (std::string(mode) + "N").c_str());
+}
+
+bool claimFile(const std::string& path) {
+  const HANDLE file = CreateFileA(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW, FILE_ATTRIBUTE_NORMAL, nullptr);
+  if (file == INVALID_HANDLE_VALUE) {
+    errno = errnoOfLastError();
+    return false;
+  }
+  CloseHandle(file);
+  return true;
+}
+
+std::optional<std::time_t> lastChange(const std::string& path) {
+  WIN32_FILE_ATTRIBUTE_DATA data{};
+  if (!GetFileAttributesExA(path.c_str(), GetFileExInfoStandard, &data)) return std::nullopt;
+  const std::int64_t ticks = (static_cast<std::int64_t>(data.ftLastWriteTime.dwHighDateTime) << 32) |
+                             static_cast<std::int64_t>(data.ftLastWriteTime.dwLowDateTime);
+  constexpr std::int64_t ticksInSecond = 10000000;
+  constexpr std::int64_t secondsFrom1601To1970 = 11644473600;
+  return static_cast<std::time_t>(ticks / ticksInSecond - secondsFrom1601To1970);
+}
+
+bool deleteFile(const std::string& path) {
+  return DeleteFileA(path.c_str()) != 0;
+}
+
+bool isFile(const std::string& path) {
+  return hasAttribute(path, FILE_ATTRIBUTE_DIRECTORY, false);
+}
+
+bool isFolder(const std::string& path) {
+  return hasAttribute(path, FILE_ATTRIBUTE_DIRECTORY, true);
+}
+
+bool makeFolders(const std::string& path) {
+  if (path.empty() || isFolder(path)) return !path.empty();
+  std::string own = path;
+  while (endsInSeparator(own)) own.pop_back();
+  const PathParts parts = splitPath(own);
+  if (!parts.folder.empty() && parts.folder.size() + parts.drive.size() < own.size())
+    makeFolders(parts.drive + parts.folder);
+  CreateDirectoryA(own.c_str(), nullptr);
+  return isFolder(path);
+}
+
+bool flushToDisk(std::FILE* stream) {
+  const bool failedBefore = std::ferror(stream) != 0;
+  if (std::fflush(stream) != 0) return false;
+  if (failedBefore) {
+    // Nobody kept the reason of that failure; what refused one write refuses another, and tells it again.
+    if (std::fputc('\n', stream) != EOF && std::fflush(stream) == 0) errno = EIO;
+    return false;
+  }
+  return _commit(_fileno(stream)) == 0;
+}
+
+bool replaceFile(const std::string& from, const std::string& to) {
+  // ReplaceFile keeps what belongs to the file that was there; it needs one, and a file system that can.
+  if (isFile(to) && ReplaceFileA(to.c_str(), from.c_str(), nullptr, 0, nullptr, nullptr)) return true;
+  if (MoveFileExA(from.c_str(), to.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH)) return true;
+  errno = errnoOfLastError();
+  return false;
+}
+
+std::string resolvedPath(const std::string& path) {
+  const HANDLE file = CreateFileA(path.c_str(), 0, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
+                                  OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr);
+  if (file == INVALID_HANDLE_VALUE) return path;
+  const std::string resolved =
+      filled([&](char* buffer, DWORD size) { return GetFinalPathNameByHandleA(file, buffer, size, 0); });
+  CloseHandle(file);
+  return resolved.empty() ? path : withoutDevicePrefix(resolved);
+}
+
+bool changeDirectory(const std::string& folder) {
+  return _chdir(folder.c_str()) == 0;
+}
+
+std::string currentDirectory() {
+  return filled([](char* buffer, DWORD size) { return GetCurrentDirectoryA(size, buffer); });
+}
+
+std::string executablePath() {
+  return filled([](char* buffer, DWORD size) { return GetModuleFileNameA(nullptr, buffer, size); });
+}
+
+}  // namespace tarnwick::platform

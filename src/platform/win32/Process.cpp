@@ -1,0 +1,184 @@
+#include "platform/Process.h"
+
+#include "platform/Path.h"
+#include "platform/win32/ChildJob.h"
+#include "platform/win32/ChildPipes.h"
+#include "platform/win32/Handle.h"
+
+#include <windows.h>
+
+#include <cerrno>
+#include <cstring>
+#include <mutex>
+#include <optional>
+#include <process.h>
+
+namespace tarnwick::platform {
+namespace {
+
+/// While one thread starts a child, no other may: it would inherit the ends of the first one's pipes.
+std::mutex& startLock() {
+  static std::mutex lock;
+  return lock;
+}
+
+/// A start-up record that names the handles which the child inherits, and no others.
+class StartUp {
+ public:
+  StartUp(HANDLE input, HANDLE output, HANDLE error) : handles_{input, output, error} {
+    record_.StartupInfo.cb = sizeof record_;
+    record_.StartupInfo.dwFlags = STARTF_USESTDHANDLES;
+    record_.StartupInfo.hStdInput = input;
+    record_.StartupInfo.hStdOutput = output;
+    record_.StartupInfo.hStdError = error;
+    SIZE_T size = 0;
+    InitializeProcThreadAttributeList(nullptr, 1, 0, &size);
+    memory_.resize(size);
+    record_.lpAttributeList = reinterpret_cast<LPPROC_THREAD_ATTRIBUTE_LIST>(memory_.data());
+    if (!InitializeProcThreadAttributeList(record_.lpAttributeList, 1, 0, &size))
+      throw lastSystemError("CreateProcess");
+    if (!UpdateProcThreadAttribute(record_.lpAttributeList, 0, PROC_THREAD_ATTRIBUTE_HANDLE_LIST, handles_,
+                                   sizeof handles_, nullptr, nullptr)) {
+      throw lastSystemError("CreateProcess");
+    }
+  }
+  ~StartUp() { DeleteProcThreadAttributeList(record_.lpAttributeList); }
+  StartUp(const StartUp&) = delete;
+  StartUp& operator=(const StartUp&) = delete;
+
+  STARTUPINFOA* get() { return &record_.StartupInfo; }
+
+ private:
+  HANDLE handles_[3];
+  std::vector<char> memory_;
+  STARTUPINFOEXA record_{};
+};
+
+class Child final : public ChildProcess {
+ public:
+  explicit Child(const ChildCommand& command)
+      : stop_(CreateEventA(nullptr, TRUE, FALSE, nullptr)),
+        output_(outputEnd_, stop_.get()),
+        error_(errorEnd_, stop_.get()) {
+    Handle inputEnd;
+    if (command.interactive) {
+      makeInputPipe(input_, inputEnd);
+    } else {
+      inputEnd = nothingToRead();
+    }
+    StartUp startUp(inputEnd.get(), outputEnd_.get(), errorEnd_.get());
+    create(command, startUp);
+    // Only the child holds its ends now, so that we see the end of its output.
+    outputEnd_.close();
+    errorEnd_.close();
+  }
+
+  std::size_t read(Stream stream, char* buffer, std::size_t size) override {
+    return (stream == Stream::Output ? output_ : error_).read(buffer, size);
+  }
+
+  void stopReading() override { SetEvent(stop_.get()); }
+
+  std::ptrdiff_t write(const char* bytes, std::size_t size) override {
+    DWORD written = 0;
+    if (!WriteFile(input_.get(), bytes, static_cast<DWORD>(size), &written, nullptr)) return -1;
+    return static_cast<std::ptrdiff_t>(written);
+  }
+
+  void wait() override {
+    WaitForSingleObject(process_.get(), INFINITE);
+    const std::lock_guard lock(stateLock_);
+    job_.reset();
+  }
+
+  void endTree() override {
+    const std::lock_guard lock(stateLock_);
+    if (job_) job_->endAll();
+  }
+
+ private:
+  void create(const ChildCommand& command, StartUp& startUp) {
+    const auto name = splitPath(command.executable);
+    std::string line = '"' + name.base + name.extension + '"';
+    if (!command.arguments.empty() && command.arguments.front() != ' ') line += ' ';
+    line += command.arguments;
+    PROCESS_INFORMATION made{};
+    // A console without a window; and asleep until it is in its job, so that nothing it starts gets away.
+    const DWORD flags = CREATE_NO_WINDOW | CREATE_SUSPENDED | EXTENDED_STARTUPINFO_PRESENT;
+    if (!CreateProcessA(command.executable.c_str(), line.data(), nullptr, nullptr, TRUE, flags, nullptr, nullptr,
+                        startUp.get(), &made)) {
+      throw lastSystemError("CreateProcess");
+    }
+    process_ = Handle(made.hProcess);
+    const Handle thread(made.hThread);
+    job_.emplace(process_.get(), command.interactive);
+    ResumeThread(thread.get());
+  }
+
+  Handle stop_;
+  Handle outputEnd_;
+  Handle errorEnd_;
+  OutputPipe output_;
+  OutputPipe error_;
+  Handle input_;
+  Handle process_;
+  std::mutex stateLock_;
+  /// Gone when the child has ended by itself.
+  std::optional<ChildJob> job_;
+};
+
+std::string withoutQuotes(const std::string& text) {
+  if (text.size() < 2 || text.front() != '"' || text.back() != '"') return text;
+  return text.substr(1, text.size() - 2);
+}
+
+}  // namespace
+
+SystemError lastSystemError(const std::string& label) {
+  const DWORD code = GetLastError();
+  char sentence[1000] = "";
+  const DWORD length =
+      FormatMessageA(FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS, nullptr, code,
+                     MAKELANGID(LANG_NEUTRAL, SUBLANG_DEFAULT), sentence, sizeof sentence - 1, nullptr);
+  return {label, static_cast<int>(code), std::string(sentence, length)};
+}
+
+std::unique_ptr<ChildProcess> ChildProcess::start(const ChildCommand& command) {
+  const std::lock_guard lock(startLock());
+  return std::make_unique<Child>(command);
+}
+
+void startDetached(const std::string& executable, const std::vector<std::string>& arguments) {
+  const std::string program = withoutQuotes(executable);
+  std::vector<const char*> words;
+  for (const auto& argument : arguments) words.push_back(argument.c_str());
+  words.push_back(nullptr);
+  const std::lock_guard lock(startLock());
+  // The run-time joins the words by single blanks and quotes none.
+  const auto process = _spawnvp(_P_NOWAIT, program.c_str(), words.data());
+  if (process == -1) {
+    const int code = errno;
+    throw SystemError{"_spawnvp", code, std::strerror(code)};
+  }
+  CloseHandle(reinterpret_cast<HANDLE>(process));
+}
+
+std::string detachedArgument(const std::string& path) {
+  const auto blank = path.find(' ', 1);
+  return path.empty() || blank == std::string::npos ? path : '"' + path + '"';
+}
+
+void startCommandLine(const std::string& executable, const std::string& commandLine) {
+  std::string line = commandLine;
+  STARTUPINFOA startUp{};
+  startUp.cb = sizeof startUp;
+  PROCESS_INFORMATION made{};
+  if (!CreateProcessA(executable.c_str(), line.data(), nullptr, nullptr, FALSE, DETACHED_PROCESS, nullptr, nullptr,
+                      &startUp, &made)) {
+    throw lastSystemError("CreateProcess");
+  }
+  CloseHandle(made.hThread);
+  CloseHandle(made.hProcess);
+}
+
+}  // namespace tarnwick::platform

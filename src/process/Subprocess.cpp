@@ -1,0 +1,164 @@
+#include "process/Subprocess.h"
+
+#include "base/Text.h"
+#include "platform/FileSystem.h"
+#include "platform/Process.h"
+
+#include <chrono>
+#include <cstdio>
+#include <memory>
+#include <thread>
+#include <utility>
+
+namespace tarnwick {
+namespace {
+
+/// The vector's slots; the last one is for its end mark.
+constexpr std::size_t vectorSlots = 256;
+constexpr std::size_t blockSize = 512;
+constexpr std::chrono::milliseconds settlingTime{400};
+
+/// One tool on its way, with its output going to the log.
+class LoggedRun {
+ public:
+  LoggedRun(platform::ChildProcess& child, ToolLog& log, std::string command, std::atomic<std::size_t>& outputBytes)
+      : child_(child), log_(log), command_(std::move(command)), outputBytes_(outputBytes) {}
+
+  void waitForEnd() {
+    std::thread output([this] { copyToLog(platform::ChildProcess::Stream::Output); });
+    std::thread error([this] { copyToLog(platform::ChildProcess::Stream::Error); });
+    child_.wait();
+    settle();
+    child_.stopReading();
+    output.join();
+    error.join();
+    log_.close();
+  }
+
+ private:
+  void copyToLog(platform::ChildProcess::Stream stream) {
+    char block[blockSize];
+    // Reading goes on even if nothing can be logged: a tool must not get stuck on a full pipe.
+    while (const std::size_t size = child_.read(stream, block, sizeof block)) {
+      try {
+        append(block, size);
+      } catch (const Tarnwickfile::FileNotOpenE&) {
+      }
+    }
+  }
+
+  void append(const char* block, std::size_t size) {
+    const std::lock_guard lock(log_.lock());
+    if (outputBytes_ == 0) {
+      const std::string header = "\n\n" + command_ + "\n\n";
+      log_.append(header.data(), header.size());
+    }
+    outputBytes_ += log_.append(block, size);
+  }
+
+  /// Something that the tool left behind may still be writing; the run ends when nothing more comes.
+  void settle() {
+    std::size_t before = 0;
+    do {
+      before = outputBytes_;
+      std::fflush(nullptr);
+      std::this_thread::sleep_for(settlingTime);
+    } while (outputBytes_ != before);
+  }
+
+  platform::ChildProcess& child_;
+  ToolLog& log_;
+  const std::string command_;
+  std::atomic<std::size_t>& outputBytes_;
+};
+
+}  // namespace
+
+Subprocess::Subprocess(Desktop& desktop, ToolLog& log, std::string executable)
+    : desktop_(desktop), log_(log), executable_(std::move(executable)) {}
+
+void Subprocess::addArg(const std::string& text) {
+  arguments_.push_back(text);
+}
+
+void Subprocess::addArg(const std::string& prefix, const std::string& tail) {
+  arguments_.push_back(prefix + tail);
+}
+
+void Subprocess::reset(const std::string& executable) {
+  executable_ = executable;
+  arguments_.clear();
+}
+
+std::optional<std::vector<std::string>> Subprocess::collectVector(const FileForSubprocess* file) {
+  std::vector<std::string> collected = arguments_;
+  const char* fault = collected.size() >= vectorSlots ? "Subprocess argument list too long (1)." : nullptr;
+  if (fault == nullptr && file != nullptr && !file->args().empty()) {
+    collected.insert(collected.end(), file->args().begin(), file->args().end());
+    if (collected.size() >= vectorSlots) fault = "Subprocess argument list too long (2).";
+  }
+  if (fault == nullptr) return collected;
+  desktop_.message(fault);
+  return std::nullopt;
+}
+
+bool Subprocess::enterFolder(const FileForSubprocess* file) {
+  const std::string folder = file != nullptr ? file->name().directory() : "";
+  if (folder.empty() || platform::changeDirectory(folder)) return true;
+  desktop_.message("Subprocess::run(): _chdir error");
+  return false;
+}
+
+std::string Subprocess::joined(const std::vector<std::string>& arguments) {
+  std::string text;
+  for (const auto& argument : arguments) {
+    if (!argument.empty()) text += ' ';
+    text += argument;
+  }
+  return trimLeft(text);
+}
+
+bool Subprocess::run(FileForSubprocess* file, FileMode logOpenMode) {
+  const auto collected = collectVector(file);
+  if (!collected) return false;
+  const std::string command = joined(*collected);
+  if (!enterFolder(file)) return false;
+
+  // The first word is the tool's own name, in whose place the system gets the executable.
+  const auto blank = command.find(' ');
+  const std::string tail = blank == std::string::npos ? "" : command.substr(blank);
+  std::unique_ptr<platform::ChildProcess> child;
+  try {
+    child = platform::ChildProcess::start({executable_, tail, false});
+  } catch (const platform::SystemError& error) {
+    desktop_.message("Can't start " + executable_ + '\n' + error.text());
+    return false;
+  }
+
+  std::string logFault;
+  try {
+    log_.open(logOpenMode);
+  } catch (const Tarnwickfile::FileNotOpenE& e) {
+    logFault = e.message + "\nCan't open log file " + e.file;
+  }
+  outputBytes_ = 0;
+  LoggedRun run(*child, log_, command, outputBytes_);
+  desktop_.whileBusy([&run] { run.waitForEnd(); });
+  if (!logFault.empty()) desktop_.message(logFault);
+  return outputBytes_ > 0;
+}
+
+bool DetachedSubprocess::run(FileForSubprocess* file, FileMode /*logOpenMode*/) {
+  const auto collected = collectVector(file);
+  if (!collected || !enterFolder(file)) return false;
+  std::fflush(nullptr);
+  try {
+    platform::startDetached(executable(), *collected);
+  } catch (const platform::SystemError& error) {
+    desktop_.message("Unable to start " + executable() + ".\n\n" + error.reason + "  (" + std::to_string(error.code) +
+                     ')');
+  }
+  return false;
+}
+
+}  // namespace tarnwick

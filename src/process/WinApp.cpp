@@ -1,0 +1,92 @@
+#include "process/WinApp.h"
+
+#include "base/Filename.h"
+#include "base/Text.h"
+#include "platform/Associations.h"
+#include "platform/Process.h"
+
+#include <algorithm>
+
+namespace tarnwick {
+namespace {
+
+constexpr std::size_t maximumArguments = 10;
+
+std::string withoutLeadingBlanks(const std::string& text) {
+  return text.substr(std::min(text.find_first_not_of(' '), text.size()));
+}
+
+/// Takes the word up to the next blank off the text, with the blanks behind it.
+std::string takeWord(std::string& text) {
+  const auto end = std::min(text.find(' '), text.size());
+  const std::string word = text.substr(0, end);
+  text = withoutLeadingBlanks(text.substr(end));
+  return word;
+}
+
+}  // namespace
+
+WinApp::WinApp(Desktop& desktop, const std::string& extension)
+    : desktop_(&desktop), commandText_(platform::openCommand(extension)) {}
+
+WinApp WinApp::withCommand(Desktop& desktop, const std::string& commandText) {
+  WinApp app(desktop);
+  app.commandText_ = commandText;
+  return app;
+}
+
+int WinApp::runApp(const char* file, const char* extraArgument, int checkOnly) const {
+  const auto command = takenApart(file, extraArgument);
+  if (!command) return 0;
+  return checkOnly == 1 ? 1 : start(*command);
+}
+
+std::optional<WinApp::Command> WinApp::takenApart(const char* file, const char* extraArgument) const {
+  Command command;
+  std::string rest;
+  if (commandText_.empty() || !platform::splitOpenCommand(commandText_, command.program, rest)) return std::nullopt;
+  rest = withoutLeadingBlanks(rest);
+  if (rest.empty()) return std::nullopt;
+  std::replace(rest.begin(), rest.end(), '"', ' ');
+  rest = trim(rest);
+
+  auto& arguments = command.arguments;
+  if (rest.empty() || rest.front() != '%') {
+    do {
+      if (!addWord(arguments, takeWord(rest), 1)) return std::nullopt;
+    } while (!rest.empty() && rest.front() != '%');
+  }
+  if (!addWord(arguments, file == nullptr ? "" : Filename(file).quoted(), 2)) return std::nullopt;
+  // Only the first "%" word is the file's place; those behind it are words like any other.
+  takeWord(rest);
+  while (!rest.empty()) {
+    if (!addWord(arguments, takeWord(rest), 3)) return std::nullopt;
+  }
+  const bool hasExtra = extraArgument != nullptr && *extraArgument != '\0';
+  if (hasExtra && !addWord(arguments, extraArgument, 4)) return std::nullopt;
+  return command;
+}
+
+bool WinApp::addWord(std::vector<std::string>& arguments, const std::string& word, int faultNumber) const {
+  if (arguments.size() >= maximumArguments) {
+    desktop_->message("Internal error " + std::to_string(faultNumber) + " in WinApp::runApp");
+    return false;
+  }
+  arguments.push_back(word);
+  return true;
+}
+
+int WinApp::start(const Command& command) const {
+  const Filename program(command.program);
+  std::string line = program.quotedNameWithExtension();
+  for (const auto& argument : command.arguments) line += ' ' + argument;
+  try {
+    platform::startCommandLine(program.fullName(), line);
+    return 1;
+  } catch (const platform::SystemError& error) {
+    desktop_->message("Can't start " + line + '\n' + error.text());
+    return 0;
+  }
+}
+
+}  // namespace tarnwick

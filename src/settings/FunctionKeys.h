@@ -1,0 +1,28 @@
+#pragma once
+
+#include <string>
+
+#include "base/TokenString.h"
+
+namespace tarnwick {
+
+/// The 64 texts of the function keys: eight groups by modifiers (Shift 1, Ctrl 2, Alt 4), in each the keys F5 to F12.
+/// The two characters backslash and n in a text stand for Return.
+class FunctionKeys : public StringableM {
+ public:
+  static const char defaultText[];
+
+  FunctionKeys();
+
+  std::string toString() override { return groups_.toString(); }
+  /// Malformed text, or not exactly eight groups, puts the built-in default back; nothing is thrown.
+  void fromString(const std::string& text) override;
+
+  /// The text of a key; empty for one that is not there.
+  std::string key(int group, int index) const;
+
+ private:
+  TokenString groups_;
+};
+
+}  // namespace tarnwick

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <string>
+
+namespace tarnwick {
+
+/// What the settings need of an open project.
+class OpenProject {
+ public:
+  virtual ~OpenProject() = default;
+  /// Writes settings and project to the project's file.
+  virtual void save() = 0;
+  /// The base name of the project's file.
+  virtual std::string name() const = 0;
+  /// The path of the project's file, quoted if it holds a blank.
+  virtual std::string quotedPath() const = 0;
+};
+
+}  // namespace tarnwick

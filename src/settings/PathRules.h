@@ -1,0 +1,14 @@
+#pragma once
+
+#include <string>
+
+namespace tarnwick {
+
+/// Keeps "." on a user's own class path, so that a later `java` finds classes in the folder of the source.
+std::string normalisedClasspath(const std::string& classpath);
+
+/// A list of class names, separated by blanks, commas and semicolons, as options: each name with `prefix` before it
+/// and a blank behind it.
+std::string assertionOptions(const std::string& list, const std::string& prefix);
+
+}  // namespace tarnwick

@@ -1,0 +1,146 @@
+#include "settings/SettingsValues.h"
+
+namespace tarnwick {
+
+namespace {
+
+TagRow text(const char* tag, std::string& variable, const char* byDefault, int page, int owner, int control) {
+  return {tag, TAG_STRING, &variable, byDefault, 0, page, owner, control};
+}
+
+TagRow number(const char* tag, int& variable, int byDefault, int page, int owner, int control) {
+  return {tag, TAG_INT, &variable, nullptr, byDefault, page, owner, control};
+}
+
+TagRow flag(const char* tag, int& variable, int byDefault, int page, int owner, int control) {
+  return {tag, TAG_BOOL, &variable, nullptr, byDefault, page, owner, control};
+}
+
+TagRow value(const char* tag, StringableM& variable, const char* byDefault, int page, int owner, int control) {
+  return {tag, TAG_STRINGABLE, &variable, byDefault, 0, page, owner, control};
+}
+
+}  // namespace
+
+SettingsValues::SettingsValues(DialogWindow* const& mainWindow) : windowPosition(mainWindow) {
+  // Tag, variable, default, page, owner, control; in the order of the file. A control number is unique only within its
+  // page. Rows without an owner are reset by hand.
+  // clang-format off
+  tagRows = {
+      flag("EDITOR=NOTEPAD", editWithNotepad, 0, EDITOR_PAGE, SETTINGS_DIALOG, 1013),
+      flag("EDITOR_OPEN_ALL", editorOpenAll, 1, EDITOR_PAGE, SETTINGS_DIALOG, 1153),
+      value("PANEL_LAYOUT", panelLayout, nullptr, 0, 0, 0),
+      text("EDITOR_TARGET", editorTarget, nullptr, EDITOR_PAGE, SETTINGS_DIALOG, 1042),
+      flag("DISPLAY=NOTEPAD", displayWithNotepad, 1, TOOLS_PAGE, SETTINGS_DIALOG, 1017),
+      flag("CP_FROM_ENV_NEVER", classpathFromEnvironmentNever, 1, PATHS_PAGE, SETTINGS_DIALOG, 1138),
+      flag("CP_FROM_ENV_ALWAYS", classpathFromEnvironmentAlways, 0, PATHS_PAGE, SETTINGS_DIALOG, 1139),
+      text("CLASSPATH", classpath, nullptr, PATHS_PAGE, SETTINGS_DIALOG, 1029),
+      text("SOURCEPATH", sourcepath, nullptr, PATHS_PAGE, SETTINGS_DIALOG, 1039),
+      text("BOOTPATH", bootpath, nullptr, PATHS_PAGE, SETTINGS_DIALOG, 1043),
+      text("EXTDIRS", extdirs, nullptr, PATHS_PAGE, SETTINGS_DIALOG, 1045),
+      flag("JAVAC_DEBUG", javacDebug, 1, JAVAC_PAGE, SETTINGS_DIALOG, 1026),
+      flag("JAVAC_FASTCODE", javacFastcode, 0, JAVAC_PAGE, SETTINGS_DIALOG, 1024),
+      flag("JAVAC_VERBOSE", javacVerbose, 0, JAVAC_PAGE, SETTINGS_DIALOG, 1027),
+      flag("JAVAC_SOUND_ONSUCCESS", javacSoundOnSuccess, 1, JAVAC_PAGE, SETTINGS_DIALOG, 1021),
+      flag("JAVAC_SOUND_ONERROR", javacSoundOnError, 1, JAVAC_PAGE, SETTINGS_DIALOG, 1022),
+      text("JAVAC_TARGET_SPEC", javacTargetSpec, nullptr, JAVAC_PAGE, SETTINGS_DIALOG, 1028),
+      text("JAVAC_SOURCEOPTION", javacSourceOption, nullptr, JAVAC_PAGE, SETTINGS_DIALOG, 1179),
+      text("JAVAC_MY_JDKVERSION", javacMyJdkVersion, "Pre-1.4", JAVAC_PAGE, SETTINGS_DIALOG, 1269),
+      value("RECENT_PROJECTS", recentProjects, nullptr, 0, 0, 0),
+      flag("JAVAC_DEPRECATION", javacDeprecation, 0, JAVAC_PAGE, SETTINGS_DIALOG, 1044),
+      flag("JAVAC_NOWARN", javacNowarn, 0, JAVAC_PAGE, SETTINGS_DIALOG, 1270),
+      flag("JAVAC_XSWITCHCHECK", javacXswitchcheck, 1, JAVAC_PAGE, SETTINGS_DIALOG, 1271),
+      flag("JAVAC_WARN_CONVERSION", javacWarnConversion, 1, JAVAC_PAGE, SETTINGS_DIALOG, 1264),
+      flag("JAVAC_WARN_PATH", javacWarnPath, 1, JAVAC_PAGE, SETTINGS_DIALOG, 1265),
+      flag("JAVAC_WARN_SERIALIZE", javacWarnSerialize, 1, JAVAC_PAGE, SETTINGS_DIALOG, 1266),
+      flag("JAVAC_WARN_FINALLY", javacWarnFinally, 1, JAVAC_PAGE, SETTINGS_DIALOG, 1267),
+      flag("JAVAC_WARN_SWITCH", javacWarnSwitch, 1, JAVAC_PAGE, SETTINGS_DIALOG, 1268),
+      text("JAVAC_DESTINATION", javacDestination, nullptr, JAVAC_PAGE, SETTINGS_DIALOG, 1040),
+      text("JAVAC_JOPTION", javacJOption, nullptr, JAVAC_PAGE, SETTINGS_DIALOG, 1117),
+      text("JAVA_PATH", javaPath, nullptr, TOOLS_PAGE, SETTINGS_DIALOG, 1041),
+      flag("JAVA_VERBOSE", javaVerbose, 0, JAVA_PAGE, SETTINGS_DIALOG, 1032),
+      flag("JAVA_XFUTURE", javaXfuture, 1, JAVA_PAGE, SETTINGS_DIALOG, 1123),
+      flag("JAVA_XPROF", javaXprof, 0, JAVA_PAGE, SETTINGS_DIALOG, 1124),
+      flag("JAVA_JNI_VALIDATE", javaJniValidate, 0, JAVA_PAGE, SETTINGS_DIALOG, 1125),
+      text("JAVA_ASSERTENABLE", javaAssertEnable, nullptr, JAVA_PAGE, SETTINGS_DIALOG, 1180),
+      text("JAVA_ASSERTDISABLE", javaAssertDisable, nullptr, JAVA_PAGE, SETTINGS_DIALOG, 1181),
+      flag("JAVA_SYSTEMASSERTENABLE", javaSystemAssertEnable, 0, JAVA_PAGE, SETTINGS_DIALOG, 1182),
+      flag("JAVA_SYSTEMASSERTDISABLE", javaSystemAssertDisable, 0, JAVA_PAGE, SETTINGS_DIALOG, 1183),
+      text("JAVA_GARBAGECOLLECTOR", javaGarbageCollector, nullptr, JAVA_PAGE, SETTINGS_DIALOG, 1184),
+      flag("JDB_LAUNCH", jdbLaunch, 1, JDB_PAGE, SETTINGS_DIALOG, 1125),
+      text("JAVA_XRUNHPROF", javaXrunhprof, nullptr, JAVA_PAGE, SETTINGS_DIALOG, 1126),
+      text("JAVA_PROPERTY", javaProperty, nullptr, JAVA_PAGE, SETTINGS_DIALOG, 1031),
+      text("JAVA_XMS", javaXms, nullptr, JAVA_PAGE, SETTINGS_DIALOG, 1129),
+      text("JAVA_XMX", javaXmx, nullptr, JAVA_PAGE, SETTINGS_DIALOG, 1130),
+      text("JAVA_XSS", javaXss, nullptr, JAVA_PAGE, SETTINGS_DIALOG, 1131),
+      text("APPLETV_J_OPTION", appletviewerJOption, nullptr, APPLETVIEWER_PAGE, SETTINGS_DIALOG, 1033),
+      text("APPLETV_ENCODING", appletviewerEncoding, nullptr, APPLETVIEWER_PAGE, SETTINGS_DIALOG, 1034),
+      text("LAST_JAR_ARCHIVE", lastJarArchive, nullptr, 0, 0, 0),
+      text("LAST_JAR_BASEFOLDER", lastJarBaseFolder, nullptr, 0, 0, 0),
+      flag("JAR_OPEN_AS_ZIP", jarOpenAsZip, 0, 0, 0, 0),
+      text("LAST_PROJECT_FILE", lastProjectFile, nullptr, 0, 0, 0),
+      number("FILEVIEW_TAB", fileviewTab, 0, 0, 0, 0),
+      value("FILEVIEW_SOURCE", fileviewSource, nullptr, 0, 0, 0),
+      value("FILEVIEW_CLASS", fileviewClass, nullptr, 0, 0, 0),
+      value("FILEVIEW_HTML", fileviewHtml, nullptr, 0, 0, 0),
+      value("FUNCTIONKEYS", functionKeys, FunctionKeys::defaultText, JDB_PAGE, SETTINGS_DIALOG, 1158),
+      text("HELPFILE", helpFile, nullptr, 0, 0, 0),
+      value("WINDOW_POSITION", windowPosition, nullptr, 0, 0, 0),
+      value("PERSONAL_TEMPLATES", personalTemplates, nullptr, 0, 0, 0),
+      text("TARNWICK_VERSION", tarnwickVersion, nullptr, 0, 0, 0),
+      text("JDOC_OVERVIEW", javadoc.overview, nullptr, 151, JAVADOC_DIALOG, 1057),
+      text("JDOC_LOCALE", javadoc.locale, nullptr, 152, JAVADOC_DIALOG, 1060),
+      text("JDOC_ENCODING", javadoc.encoding, nullptr, 152, JAVADOC_DIALOG, 1062),
+      text("JDOC_JOPTION", javadoc.jOption, nullptr, 152, JAVADOC_DIALOG, 1063),
+      flag("JDOC_PUBLIC", javadoc.isPublic, 0, 152, JAVADOC_DIALOG, 1052),
+      flag("JDOC_PROTECTED", javadoc.isProtected, 0, 152, JAVADOC_DIALOG, 1049),
+      flag("JDOC_PRIVATE", javadoc.isPrivate, 0, 152, JAVADOC_DIALOG, 1050),
+      flag("JDOC_PACKAGE", javadoc.package, 0, 152, JAVADOC_DIALOG, 1102),
+      flag("JDOC_VERBOSE", javadoc.verbose, 0, 152, JAVADOC_DIALOG, 1054),
+      flag("JDOC_QUIET", javadoc.quiet, 0, 152, JAVADOC_DIALOG, 1247),
+      text("JDOC_PACKAGELIST", javadoc.packageList, nullptr, 155, JAVADOC_DIALOG, 1101),
+      text("JDOC_DOCLETPATH", javadoc.docletPath, nullptr, 151, JAVADOC_DIALOG, 1059),
+      text("JDOC_DOCLETFILE", javadoc.docletFile, nullptr, 151, JAVADOC_DIALOG, 1064),
+      text("JDOC_DOCLETOPTIONS", javadoc.docletOptions, nullptr, 152, JAVADOC_DIALOG, 1066),
+      text("JDOC_DESTINATION", javadoc.destination, nullptr, 153, JAVADOC_DIALOG, 1046),
+      text("JDOC_HELPFILE", javadoc.helpFile, nullptr, 153, JAVADOC_DIALOG, 1048),
+      text("JDOC_STYLESHEET", javadoc.styleSheet, nullptr, 153, JAVADOC_DIALOG, 1056),
+      text("JDOC_SUBPACKAGES", javadoc.subpackages, nullptr, 153, JAVADOC_DIALOG, 1253),
+      text("JDOC_EXCLUDE", javadoc.exclude, nullptr, 153, JAVADOC_DIALOG, 1254),
+      text("JDOC_EXCLUDESUBDIR", javadoc.excludeSubdir, nullptr, 153, JAVADOC_DIALOG, 1255),
+      value("JDOC_TAG", javadoc.tag, nullptr, 153, JAVADOC_DIALOG, 1256),
+      value("JDOC_TAGLET", javadoc.taglet, nullptr, 153, JAVADOC_DIALOG, 1258),
+      text("JDOC_TAGLETPATH", javadoc.tagletPath, nullptr, 153, JAVADOC_DIALOG, 1257),
+      text("JDOC_WINDOWTITLE", javadoc.windowTitle, nullptr, 154, JAVADOC_DIALOG, 1068),
+      text("JDOC_DOCTITLE", javadoc.docTitle, nullptr, 154, JAVADOC_DIALOG, 1069),
+      text("JDOC_HEADER", javadoc.header, nullptr, 154, JAVADOC_DIALOG, 1070),
+      text("JDOC_FOOTER", javadoc.footer, nullptr, 154, JAVADOC_DIALOG, 1071),
+      text("JDOC_BOTTOM", javadoc.bottom, nullptr, 154, JAVADOC_DIALOG, 1072),
+      text("JDOC_LINK", javadoc.link, nullptr, 154, JAVADOC_DIALOG, 1087),
+      text("JDOC_LINKOFFLINE", javadoc.linkOffline, nullptr, 154, JAVADOC_DIALOG, 1088),
+      text("JDOC_GROUP", javadoc.group, nullptr, 154, JAVADOC_DIALOG, 1089),
+      text("JDOC_DOCENCODING", javadoc.docEncoding, nullptr, 154, JAVADOC_DIALOG, 1090),
+      text("JDOC_CHARSET", javadoc.charset, nullptr, 154, JAVADOC_DIALOG, 1102),
+      text("JDOC_NOQUALIFIER", javadoc.noQualifier, nullptr, 154, JAVADOC_DIALOG, 1252),
+      flag("JDOC_USE", javadoc.use, 0, 154, JAVADOC_DIALOG, 1091),
+      flag("JDOC_VERSION", javadoc.version, 0, 154, JAVADOC_DIALOG, 1092),
+      flag("JDOC_AUTHOR", javadoc.author, 0, 154, JAVADOC_DIALOG, 1093),
+      flag("JDOC_SPLITINDEX", javadoc.splitIndex, 0, 154, JAVADOC_DIALOG, 1094),
+      flag("JDOC_BREAKITERATOR", javadoc.breakIterator, 0, 154, JAVADOC_DIALOG, 1249),
+      flag("JDOC_DOCFILESSUBDIRS", javadoc.docFilesSubdirs, 0, 154, JAVADOC_DIALOG, 1250),
+      flag("JDOC_LINKSOURCE", javadoc.linkSource, 0, 154, JAVADOC_DIALOG, 1248),
+      flag("JDOC_NOCOMMENT", javadoc.noComment, 0, 154, JAVADOC_DIALOG, 1251),
+      flag("JDOC_NODEPRECATED", javadoc.noDeprecated, 0, 154, JAVADOC_DIALOG, 1095),
+      flag("JDOC_NODEPRECATEDLIST", javadoc.noDeprecatedList, 0, 154, JAVADOC_DIALOG, 1100),
+      flag("JDOC_NOTREE", javadoc.noTree, 0, 154, JAVADOC_DIALOG, 1096),
+      flag("JDOC_NOSINCE", javadoc.noSince, 0, 154, JAVADOC_DIALOG, 1185),
+      flag("JDOC_NOINDEX", javadoc.noIndex, 0, 154, JAVADOC_DIALOG, 1097),
+      flag("JDOC_NOHELP", javadoc.noHelp, 0, 154, JAVADOC_DIALOG, 1098),
+      flag("JDOC_NONAVBAR", javadoc.noNavbar, 0, 154, JAVADOC_DIALOG, 1099),
+      flag("JDOC_SERIALWARN", javadoc.serialWarn, 0, 154, JAVADOC_DIALOG, 1101),
+      {"", TAG_END, nullptr, nullptr, 0, 0, 0, 0},
+  };
+  // clang-format on
+}
+
+}  // namespace tarnwick

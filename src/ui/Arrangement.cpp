@@ -1,0 +1,194 @@
+#include "ui/Arrangement.h"
+
+#include <wx/window.h>
+
+#include <algorithm>
+
+namespace tarnwick::ui {
+
+namespace {
+
+bool isContainer(const Node& node) {
+  return node.kind == ItemKind::Column || node.kind == ItemKind::Row || node.kind == ItemKind::Group;
+}
+
+/// Containers and what shows many entries take all the room across their row; single controls keep their height.
+bool fillsHeight(const Node& node) {
+  return isContainer(node) || node.kind == ItemKind::ListBox || node.kind == ItemKind::Tabs ||
+         node.kind == ItemKind::Slot;
+}
+
+bool fillsWidth(const Node& node) {
+  return fillsHeight(node) || node.kind == ItemKind::Edit || node.kind == ItemKind::ComboBox;
+}
+
+bool isInput(const Node& node) {
+  return node.kind == ItemKind::Edit || node.kind == ItemKind::ComboBox || node.kind == ItemKind::ListBox;
+}
+
+bool isForm(const Node& node) {
+  return node.kind == ItemKind::Row && node.children.size() >= 2 && node.children[0].kind == ItemKind::Label &&
+         isInput(node.children[1]);
+}
+
+int gapBetween(const Node& left, const Node& right, int plain, const Gaps& gaps) {
+  // A space is a gap already.
+  if (left.kind == ItemKind::Space || right.kind == ItemKind::Space) return plain;
+  return left.kind == ItemKind::Group || right.kind == ItemKind::Group ? std::max(plain, gaps.aroundGroups) : plain;
+}
+
+int gapsOf(const Node& node, int plain, const Gaps& gaps) {
+  int sum = 0;
+  for (std::size_t i = 1; i < node.children.size(); ++i) {
+    sum += gapBetween(node.children[i - 1], node.children[i], plain, gaps);
+  }
+  return sum;
+}
+
+void equaliseButtons(Node& node) {
+  int widest = 0;
+  for (const auto& child : node.children) {
+    if (child.kind == ItemKind::Button) widest = std::max(widest, child.least.x);
+  }
+  for (auto& child : node.children) {
+    if (child.kind == ItemKind::Button) child.least.x = widest;
+  }
+}
+
+wxSize sizeOfRow(const Node& node, const Gaps& gaps) {
+  wxSize size(gapsOf(node, gaps.inRow, gaps), 0);
+  for (const auto& child : node.children) {
+    size.x += child.least.x;
+    size.y = std::max(size.y, child.least.y);
+  }
+  return size;
+}
+
+wxSize sizeOfColumn(const Node& node, const Gaps& gaps) {
+  wxSize size(0, gapsOf(node, gaps.inColumn, gaps));
+  for (const auto& child : node.children) {
+    size.x = std::max(size.x, child.least.x);
+    size.y += child.least.y;
+  }
+  return size;
+}
+
+/// Neighbouring rows that begin with a label before a field get labels of one width, so that the fields line up.
+void alignForms(Node& column, const Gaps& gaps) {
+  auto& rows = column.children;
+  for (auto row = rows.begin(); row != rows.end();) {
+    if (!isForm(*row)) {
+      ++row;
+      continue;
+    }
+    const auto end = std::find_if_not(row, rows.end(), isForm);
+    int widest = 0;
+    std::for_each(row, end, [&](const Node& form) { widest = std::max(widest, form.children[0].least.x); });
+    for (; row != end; ++row) {
+      row->children[0].least.x = widest;
+      row->least = sizeOfRow(*row, gaps);
+    }
+  }
+}
+
+/// The room that each child of a row or column gets along it.
+std::vector<int> shares(const Node& node, int room, bool along, int plain, const Gaps& gaps) {
+  int used = gapsOf(node, plain, gaps);
+  int takers = 0;
+  std::vector<int> lengths;
+  for (const auto& child : node.children) {
+    lengths.push_back(along ? child.least.x : child.least.y);
+    used += lengths.back();
+    if (child.stretch) ++takers;
+  }
+  int left = std::max(0, room - used);
+  for (std::size_t i = 0; i < lengths.size() && takers > 0; ++i) {
+    if (!node.children[i].stretch) continue;
+    const int share = left / takers--;
+    lengths[i] += share;
+    left -= share;
+  }
+  return lengths;
+}
+
+void placeRow(const Node& node, const wxRect& room, const Gaps& gaps) {
+  const auto widths = shares(node, room.width, true, gaps.inRow, gaps);
+  int x = room.x;
+  for (std::size_t i = 0; i < widths.size(); ++i) {
+    const Node& child = node.children[i];
+    if (i > 0) x += gapBetween(node.children[i - 1], child, gaps.inRow, gaps);
+    const int height = fillsHeight(child) ? room.height : child.least.y;
+    place(child, wxRect(x, room.y + (room.height - height) / 2, widths[i], height), gaps);
+    x += widths[i];
+  }
+}
+
+void placeColumn(const Node& node, const wxRect& room, const Gaps& gaps) {
+  const auto heights = shares(node, room.height, false, gaps.inColumn, gaps);
+  int y = room.y;
+  for (std::size_t i = 0; i < heights.size(); ++i) {
+    const Node& child = node.children[i];
+    if (i > 0) y += gapBetween(node.children[i - 1], child, gaps.inColumn, gaps);
+    const int width = fillsWidth(child) ? room.width : child.least.x;
+    place(child, wxRect(room.x, y, width, heights[i]), gaps);
+    y += heights[i];
+  }
+}
+
+wxRect insideGroup(const Node& group, const wxRect& outer, const Gaps& gaps) {
+  wxRect inner = outer;
+  inner.x += group.frameOther + gaps.inGroup;
+  inner.width -= 2 * (group.frameOther + gaps.inGroup);
+  inner.y += group.frameTop + gaps.inGroup;
+  inner.height -= group.frameTop + group.frameOther + 2 * gaps.inGroup;
+  return inner;
+}
+
+wxSize sizeOfGroup(const Node& group, const Gaps& gaps) {
+  const wxSize content = sizeOfColumn(group, gaps);
+  const wxSize title = group.natural ? group.natural() : wxSize();
+  return {std::max(content.x + 2 * (group.frameOther + gaps.inGroup), title.x),
+          content.y + group.frameTop + group.frameOther + 2 * gaps.inGroup};
+}
+
+}  // namespace
+
+wxSize measure(Node& node, const Gaps& gaps) {
+  for (auto& child : node.children) measure(child, gaps);
+  if (node.equalWidths) equaliseButtons(node);
+  if (node.kind == ItemKind::Column || node.kind == ItemKind::Group) alignForms(node, gaps);
+  switch (node.kind) {
+    case ItemKind::Row:
+      node.least = sizeOfRow(node, gaps);
+      break;
+    case ItemKind::Column:
+      node.least = sizeOfColumn(node, gaps);
+      break;
+    case ItemKind::Group:
+      node.least = sizeOfGroup(node, gaps);
+      break;
+    default:
+      node.least = node.natural ? node.natural() : wxSize(0, 0);
+      break;
+  }
+  return node.least;
+}
+
+void place(const Node& node, const wxRect& room, const Gaps& gaps) {
+  if (node.window) node.window->SetSize(room);
+  switch (node.kind) {
+    case ItemKind::Row:
+      placeRow(node, room, gaps);
+      break;
+    case ItemKind::Column:
+      placeColumn(node, room, gaps);
+      break;
+    case ItemKind::Group:
+      placeColumn(node, insideGroup(node, room, gaps), gaps);
+      break;
+    default:
+      break;
+  }
+}
+
+}  // namespace tarnwick::ui

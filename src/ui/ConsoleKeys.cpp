@@ -1,0 +1,70 @@
+#include "ui/ConsoleKeys.h"
+
+#include "ui/Text.h"
+
+#include <array>
+#include <utility>
+
+namespace tarnwick::ui {
+
+namespace {
+
+// The keys of the navigation block only: those of the number pad are others.
+constexpr std::array<std::pair<int, ConsoleKey>, 15> keys{{
+    {WXK_END, ConsoleKey::End},
+    {WXK_HOME, ConsoleKey::Home},
+    {WXK_LEFT, ConsoleKey::Left},
+    {WXK_RIGHT, ConsoleKey::Right},
+    {WXK_UP, ConsoleKey::Up},
+    {WXK_DOWN, ConsoleKey::Down},
+    {WXK_F5, ConsoleKey::F5},
+    {WXK_DELETE, ConsoleKey::Delete},
+    {WXK_F6, ConsoleKey::F6},
+    {WXK_F7, ConsoleKey::F7},
+    {WXK_F8, ConsoleKey::F8},
+    {WXK_F9, ConsoleKey::F9},
+    {WXK_F10, ConsoleKey::F10},
+    {WXK_F11, ConsoleKey::F11},
+    {WXK_F12, ConsoleKey::F12},
+}};
+
+}  // namespace
+
+ConsoleKey consoleKeyOf(int keyCode) {
+  for (const auto& [code, key] : keys) {
+    if (code == keyCode) return key;
+  }
+  return ConsoleKey::Other;
+}
+
+int modifiersOf(const wxKeyEvent& event) {
+  return (event.ShiftDown() ? SHIFT_BIT : 0) | (event.ControlDown() ? CTRL_BIT : 0) | (event.AltDown() ? ALT_BIT : 0);
+}
+
+std::string characterOf(const wxKeyEvent& event) {
+  // Alt with a letter belongs to the menus; with Control, Alt makes characters on many keyboards.
+  if (event.AltDown() && !event.ControlDown()) return {};
+  const wxChar character = event.GetUnicodeKey();
+  if (character == WXK_NONE || event.GetKeyCode() == WXK_DELETE) return {};
+  return fromWx(wxString(wxUniChar(character)));
+}
+
+bool matches(const wxKeyEvent& event, const Accelerator& accelerator) {
+  if (event.ControlDown() != accelerator.control || event.ShiftDown() != accelerator.shift || event.AltDown()) {
+    return false;
+  }
+  switch (accelerator.key) {
+    case Accelerator::Key::Insert:
+      return event.GetKeyCode() == WXK_INSERT;
+    case Accelerator::Key::Delete:
+      return event.GetKeyCode() == WXK_DELETE;
+    case Accelerator::Key::Letter:
+      break;
+  }
+  // Depending on the system Control with a letter comes as the letter or as its control character.
+  const int letter = accelerator.letter;
+  const int key = event.GetKeyCode();
+  return key == letter || (accelerator.control && key == letter - 'A' + 1);
+}
+
+}  // namespace tarnwick::ui

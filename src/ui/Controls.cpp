@@ -1,0 +1,260 @@
+#include "ui/Controls.h"
+
+#include "ui/Icons.h"
+#include "ui/Text.h"
+#include "ui/Toolkit.h"
+
+#include <wx/bookctrl.h>
+#include <wx/button.h>
+#include <wx/checkbox.h>
+#include <wx/combobox.h>
+#include <wx/listbox.h>
+#include <wx/notebook.h>
+#include <wx/panel.h>
+#include <wx/radiobut.h>
+#include <wx/statbmp.h>
+#include <wx/statbox.h>
+#include <wx/stattext.h>
+#include <wx/textctrl.h>
+
+#include <algorithm>
+#include <cctype>
+
+namespace tarnwick::ui {
+
+namespace {
+
+constexpr int listRows = 8;
+
+template <typename Window>
+Window* as(const Control& control) {
+  return dynamic_cast<Window*>(control.window);
+}
+
+/// A label whose long lines break, and that still knows its text as it was given.
+class Label : public wxStaticText {
+ public:
+  Label(wxWindow& parent, const std::string& text) : wxStaticText(&parent, wxID_ANY, wxString()) {
+    set(text, toWx(text));
+  }
+
+  void set(const std::string& text, const wxString& shown) {
+    text_ = text;
+    SetLabel(shown);
+    Wrap(GetCharWidth() * charactersInLine);
+  }
+
+  const std::string& text() const { return text_; }
+
+ private:
+  static constexpr int charactersInLine = 90;
+  std::string text_;
+};
+
+/// Buttons with signs in the place of words are as narrow as their text.
+long buttonStyle(const std::string& text) {
+  const auto isLetter = [](unsigned char c) { return std::isalpha(c) != 0; };
+  return std::any_of(text.begin(), text.end(), isLetter) ? 0 : wxBU_EXACTFIT;
+}
+
+wxWindow* makeHeading(wxWindow& parent, const std::string& text) {
+  auto* heading = new wxStaticText(&parent, wxID_ANY, toWx(text));
+  heading->SetFont(heading->GetFont().Bold().Scaled(1.4F));
+  return heading;
+}
+
+wxWindow* makeCombo(wxWindow& parent, const DialogItem& item) {
+  auto* combo = new wxComboBox(&parent, wxID_ANY, {}, wxDefaultPosition, wxDefaultSize, 0, nullptr, wxCB_READONLY);
+  for (const auto& entry : item.entries) combo->Append(toWx(entry));
+  return combo;
+}
+
+wxWindow* makeEdit(wxWindow& parent, const DialogItem& item) {
+  return new wxTextCtrl(&parent, wxID_ANY, toWx(item.text), wxDefaultPosition, wxDefaultSize,
+                        item.readOnly ? wxTE_READONLY : 0);
+}
+
+wxWindow* makeWindow(wxWindow& parent, const DialogItem& item) {
+  switch (item.kind) {
+    case ItemKind::Group:
+      return new wxStaticBox(&parent, wxID_ANY, toWx(item.text));
+    case ItemKind::Icon:
+      return new wxStaticBitmap(&parent, wxID_ANY, iconBitmap(parent.FromDIP(48)));
+    case ItemKind::Heading:
+      return makeHeading(parent, item.text);
+    case ItemKind::Label:
+      return new Label(parent, item.text);
+    case ItemKind::Edit:
+      return makeEdit(parent, item);
+    case ItemKind::Button:
+      return new wxButton(&parent, wxID_ANY, toWx(item.text), wxDefaultPosition, wxDefaultSize, buttonStyle(item.text));
+    case ItemKind::CheckBox:
+      return new wxCheckBox(&parent, wxID_ANY, toWx(item.text));
+    case ItemKind::RadioButton:
+      return new wxRadioButton(&parent, wxID_ANY, toWx(item.text));
+    case ItemKind::ComboBox:
+      return makeCombo(parent, item);
+    case ItemKind::ListBox:
+      return new wxListBox(&parent, wxID_ANY, wxDefaultPosition, wxDefaultSize, 0, nullptr, wxLB_SINGLE | wxLB_HSCROLL);
+    case ItemKind::Tabs:
+      return new wxNotebook(&parent, wxID_ANY);
+    default:
+      return new wxPanel(&parent, wxID_ANY);
+  }
+}
+
+void connect(wxWindow& window, const DialogItem& item, const ControlEvents& events) {
+  const int number = item.control;
+  // A notification goes on to the toolkit: some of its controls finish their own work with it.
+  const auto tell = [number](const std::function<void(int)>& listener) {
+    return [number, listener](wxCommandEvent& event) {
+      event.Skip();
+      listener(number);
+    };
+  };
+  switch (item.kind) {
+    case ItemKind::Button:
+      window.Bind(wxEVT_BUTTON, tell(events.command));
+      break;
+    case ItemKind::CheckBox:
+      window.Bind(wxEVT_CHECKBOX, tell(events.command));
+      break;
+    case ItemKind::RadioButton:
+      window.Bind(wxEVT_RADIOBUTTON, tell(events.command));
+      break;
+    case ItemKind::Edit:
+      window.Bind(wxEVT_TEXT, tell(events.textChanged));
+      break;
+    case ItemKind::ComboBox:
+      window.Bind(wxEVT_COMBOBOX, tell(events.selectionChanged));
+      break;
+    case ItemKind::ListBox:
+      window.Bind(wxEVT_LISTBOX, tell(events.selectionChanged));
+      window.Bind(wxEVT_LISTBOX_DCLICK, tell(events.doubleClick));
+      break;
+    default:
+      break;
+  }
+}
+
+int widthOfCharacters(const wxWindow& window, int characters) {
+  return window.GetCharWidth() * characters;
+}
+
+}  // namespace
+
+wxRadioButton* beginRadioRun(wxWindow& parent) {
+  auto* none = new wxRadioButton(&parent, wxID_ANY, "none", wxDefaultPosition, wxDefaultSize, wxRB_GROUP);
+  none->SetValue(true);
+  none->Hide();
+  return none;
+}
+
+Control makeControl(wxWindow& parent, const DialogItem& item, wxRadioButton* noneOfRun, const ControlEvents& events) {
+  Control control;
+  control.kind = item.kind;
+  control.window = makeWindow(parent, item);
+  control.noneOfRun = item.kind == ItemKind::RadioButton ? noneOfRun : nullptr;
+  connect(*control.window, item, events);
+  return control;
+}
+
+wxSize naturalSize(const DialogItem& item, const Control& control) {
+  wxWindow& window = *control.window;
+  wxSize size = window.GetBestSize();
+  if (auto* edit = as<wxTextCtrl>(control)) {
+    if (item.width > 0) size.x = edit->GetSizeFromTextSize(widthOfCharacters(window, item.width)).x;
+    return size;
+  }
+  if (item.kind == ItemKind::ListBox) {
+    return {widthOfCharacters(window, std::max(item.width, 10)), window.GetCharHeight() * listRows * 5 / 4};
+  }
+  if (item.kind == ItemKind::Group) {
+    // The title with the frame's corners on both sides.
+    return {window.GetTextExtent(window.GetLabel()).x + window.FromDIP(24), 0};
+  }
+  size.x = std::max(size.x, widthOfCharacters(window, item.width));
+  return size;
+}
+
+std::string textOf(const Control& control) {
+  if (auto* edit = as<wxTextCtrl>(control)) return fromWx(edit->GetValue());
+  if (auto* choice = as<wxComboBox>(control)) return fromWx(choice->GetStringSelection());
+  if (auto* list = as<wxListBox>(control)) return fromWx(list->GetStringSelection());
+  if (auto* label = as<Label>(control)) return label->text();
+  return fromWx(wxControl::RemoveMnemonics(control.window->GetLabel()));
+}
+
+void setTextOf(const Control& control, const std::string& text) {
+  const wxString shown = toWx(text);
+  if (auto* edit = as<wxTextCtrl>(control)) {
+    edit->ChangeValue(shown);
+  } else if (auto* choice = as<wxComboBox>(control)) {
+    choice->SetSelection(choice->FindString(shown, true));
+  } else if (auto* label = as<Label>(control)) {
+    // Such a text is data: an "&" in a path is no mnemonic.
+    label->set(text, wxControl::EscapeMnemonics(shown));
+  } else {
+    control.window->SetLabel(shown);
+  }
+}
+
+bool isChecked(const Control& control) {
+  if (auto* box = as<wxCheckBox>(control)) return box->GetValue();
+  if (auto* radio = as<wxRadioButton>(control)) return radio->GetValue();
+  return false;
+}
+
+void setCheckedOf(const Control& control, bool on) {
+  if (auto* box = as<wxCheckBox>(control)) {
+    box->SetValue(on);
+  } else if (auto* radio = as<wxRadioButton>(control)) {
+    if (on) {
+      radio->SetValue(true);
+    } else if (radio->GetValue()) {
+      control.noneOfRun->SetValue(true);
+    }
+  }
+}
+
+std::vector<std::string> entriesOf(const Control& control) {
+  std::vector<std::string> entries;
+  if (auto* container = as<wxItemContainer>(control)) {
+    for (const auto& entry : container->GetStrings()) entries.push_back(fromWx(entry));
+  } else if (auto* tabs = as<wxNotebook>(control)) {
+    for (std::size_t i = 0; i < tabs->GetPageCount(); ++i) entries.push_back(fromWx(tabs->GetPageText(i)));
+  }
+  return entries;
+}
+
+void setEntriesOf(const Control& control, const std::vector<std::string>& entries) {
+  auto* container = as<wxItemContainer>(control);
+  if (!container) return;
+  wxArrayString strings;
+  for (const auto& entry : entries) strings.push_back(toWx(entry));
+  container->Set(strings);
+}
+
+int selectionOf(const Control& control) {
+  if (auto* container = as<wxItemContainer>(control)) return container->GetSelection();
+  if (auto* tabs = as<wxNotebook>(control)) return tabs->GetSelection();
+  return -1;
+}
+
+void selectIn(const Control& control, int index) {
+  if (auto* container = as<wxItemContainer>(control)) {
+    container->SetSelection(index);
+  } else if (auto* tabs = as<wxNotebook>(control)) {
+    const bool known = index >= 0 && static_cast<std::size_t>(index) < tabs->GetPageCount();
+    if (known) tabs->ChangeSelection(static_cast<std::size_t>(index));
+  }
+}
+
+void scrollToEndOf(const Control& control) {
+  auto* edit = as<wxTextCtrl>(control);
+  if (!edit) return;
+  edit->SetInsertionPointEnd();
+  edit->ShowPosition(edit->GetLastPosition());
+}
+
+}  // namespace tarnwick::ui

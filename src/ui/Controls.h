@@ -1,0 +1,51 @@
+// One control of a dialog: what it is made of and how its text, mark and entries are reached.
+#pragma once
+
+#include "resources/DialogLayout.h"
+
+#include <wx/gdicmn.h>
+
+#include <functional>
+#include <string>
+#include <vector>
+
+class wxRadioButton;
+class wxWindow;
+
+namespace tarnwick::ui {
+
+/// What a control tells of its user's doings, by control number.
+struct ControlEvents {
+  std::function<void(int)> command;
+  std::function<void(int)> textChanged;
+  std::function<void(int)> selectionChanged;
+  std::function<void(int)> doubleClick;
+};
+
+struct Control {
+  ItemKind kind = ItemKind::Label;
+  wxWindow* window = nullptr;
+  /// The hidden member of a radio button's run that bears the mark while none of those to be seen does.
+  wxRadioButton* noneOfRun = nullptr;
+};
+
+/// Makes the window of an item that is no column, row or space. `noneOfRun` is the run of a radio button.
+Control makeControl(wxWindow& parent, const DialogItem& item, wxRadioButton* noneOfRun, const ControlEvents& events);
+
+/// Begins a run of radio buttons.
+wxRadioButton* beginRadioRun(wxWindow& parent);
+
+/// The least size in pixels of an item's window.
+wxSize naturalSize(const DialogItem& item, const Control& control);
+
+std::string textOf(const Control& control);
+void setTextOf(const Control& control, const std::string& text);
+bool isChecked(const Control& control);
+void setCheckedOf(const Control& control, bool on);
+std::vector<std::string> entriesOf(const Control& control);
+void setEntriesOf(const Control& control, const std::vector<std::string>& entries);
+int selectionOf(const Control& control);
+void selectIn(const Control& control, int index);
+void scrollToEndOf(const Control& control);
+
+}  // namespace tarnwick::ui

@@ -1,0 +1,19 @@
+#pragma once
+
+#include "ui/WindowStack.h"
+
+#include <functional>
+#include <string>
+
+namespace tarnwick::ui {
+
+enum class MessageKind { Ok, OkCancel, YesNo };
+
+/// Shows a message box on top of what is open. True after OK or Yes.
+bool showMessage(WindowStack& stack, const std::string& text, MessageKind kind);
+
+/// Runs what a window was asked to do. An exception that nobody expected ends here, in words, and nowhere else:
+/// the toolkit could not carry it on.
+void guarded(WindowStack& stack, const std::function<void()>& action);
+
+}  // namespace tarnwick::ui

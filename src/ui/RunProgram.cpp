@@ -1,0 +1,61 @@
+#include "ui/RunProgram.h"
+
+#include "ui/Toolkit.h"
+#include "ui/WxDesktop.h"
+
+#include <wx/app.h>
+#include <wx/log.h>
+
+#include <cstdio>
+#include <memory>
+
+namespace tarnwick::ui {
+
+namespace {
+
+using Program = std::function<int(Desktop&, ConsoleFrameHost&)>;
+
+void printAssertion(const wxString& file, int line, const wxString& function, const wxString& condition,
+                    const wxString& message) {
+  std::fprintf(stderr, "%s:%d: %s: %s %s\n", file.utf8_str().data(), line, function.utf8_str().data(),
+               condition.utf8_str().data(), message.utf8_str().data());
+}
+
+class Application : public wxApp {
+ public:
+  explicit Application(Program program) : program_(std::move(program)) {}
+
+  // Not the toolkit's own: that would read the command line, which is the program's.
+  bool OnInit() override {
+    delete wxLog::SetActiveTarget(new wxLogStderr);
+    SetAppName("Tarnwick");
+    SetExitOnFrameDelete(false);
+    return true;
+  }
+
+  // From here rather than from OnInit: there, modal dialogs end with the exit code lost.
+  int OnRun() override {
+    WxDesktop desktop;
+    return program_(desktop, desktop);
+  }
+
+ private:
+  Program program_;
+};
+
+}  // namespace
+
+int runProgram(int argc, char** argv, Program program) {
+  const std::string problem = openDisplay();
+  if (!problem.empty()) {
+    std::fprintf(stderr, "%s\n", problem.c_str());
+    return 1;
+  }
+  wxSetAssertHandler(printAssertion);
+  wxApp::SetInstance(new Application(std::move(program)));
+  // The toolkit sees the program's name alone: among the arguments may be some that it would take for its own.
+  int count = argc > 0 ? 1 : 0;
+  return wxEntry(count, argv);
+}
+
+}  // namespace tarnwick::ui

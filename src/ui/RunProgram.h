@@ -1,0 +1,14 @@
+#pragma once
+
+#include "app/ConsoleFrameHost.h"
+#include "dialogbase/Desktop.h"
+
+#include <functional>
+
+namespace tarnwick::ui {
+
+/// Starts the window toolkit, runs `program` and gives its result as the process's exit code. Without a display: one
+/// line on standard error, and 1.
+int runProgram(int argc, char** argv, std::function<int(Desktop&, ConsoleFrameHost&)> program);
+
+}  // namespace tarnwick::ui

@@ -1,0 +1,39 @@
+// What the toolkit does differently on the two systems, or leaves to them.
+#pragma once
+
+#include "dialogbase/DialogWindow.h"
+
+#include <wx/gdicmn.h>
+
+#include <optional>
+#include <string>
+
+class wxDC;
+class wxNotebook;
+class wxTopLevelWindow;
+class wxWindow;
+
+namespace tarnwick::ui {
+
+/// Opens the display. What went wrong, in one line; empty if all is well.
+std::string openDisplay();
+
+/// Makes `label` the name of `control` for readers of the screen.
+void nameByLabel(wxWindow& control, wxWindow& label);
+
+/// True while the list of a combo box hangs open, which Return and Escape then belong to.
+bool isListOpen(wxWindow& comboBox);
+
+/// Left and top of a window in its normal state; nothing where the window system does not tell.
+std::optional<Point> normalPosition(const wxTopLevelWindow& window);
+
+/// Lets the window system treat a dialog as a program's main window.
+void makeMainWindow(wxTopLevelWindow& window);
+
+/// The size of a tab control whose pages are to have this size, wide enough for all of its tabs.
+wxSize sizeWithTabs(wxNotebook& tabs, const wxSize& page);
+
+/// Inverts the colours of what has been painted in the rectangle.
+void invertColours(wxDC& dc, const wxRect& rect);
+
+}  // namespace tarnwick::ui

@@ -1,0 +1,39 @@
+#include "ui/WakeGate.h"
+
+namespace tarnwick::ui {
+
+namespace {
+
+constexpr std::chrono::milliseconds distance(40);
+
+}  // namespace
+
+WakeGate::WakeGate(std::function<void(Task)> post, std::function<void(int, Task)> later, Task woken)
+    : post_(std::move(post)), later_(std::move(later)), woken_(std::move(woken)) {}
+
+void WakeGate::wake() {
+  if (pending_.exchange(true)) return;
+  post_([gate = weak_from_this()] {
+    if (const auto open = gate.lock()) open->arrive();
+  });
+}
+
+void WakeGate::arrive() {
+  const auto since = std::chrono::duration_cast<std::chrono::milliseconds>(std::chrono::steady_clock::now() - last_);
+  if (since >= distance) {
+    pass();
+    return;
+  }
+  later_(static_cast<int>((distance - since).count()), [gate = weak_from_this()] {
+    if (const auto open = gate.lock()) open->pass();
+  });
+}
+
+void WakeGate::pass() {
+  if (!open_) return;
+  last_ = std::chrono::steady_clock::now();
+  pending_ = false;  // before the call, which may itself see too little of what comes meanwhile
+  woken_();
+}
+
+}  // namespace tarnwick::ui

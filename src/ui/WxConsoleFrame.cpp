@@ -1,0 +1,128 @@
+#include "ui/WxConsoleFrame.h"
+
+#include "ui/ConsoleKeys.h"
+#include "ui/Icons.h"
+#include "ui/MessageBoxes.h"
+#include "ui/Text.h"
+#include "ui/WxConsoleSurface.h"
+
+#include <wx/app.h>
+#include <wx/evtloop.h>
+#include <wx/menu.h>
+#include <wx/settings.h>
+
+namespace tarnwick::ui {
+
+namespace {
+
+constexpr int columns = 80;
+constexpr int rows = 25;
+
+}  // namespace
+
+WxConsoleFrame::WxConsoleFrame(WindowStack& stack, Desktop& desktop, ConsoleFrame& rules)
+    : stack_(stack), rules_(rules), frame_(new wxFrame(nullptr, wxID_ANY, toWx(rules.title()))) {
+  frame_->SetIcons(programIcons());
+  buildMenus();
+  surface_ = new WxConsoleSurface(frame_.get(), stack_, desktop, rules_.view(), [this] { requestClose(); });
+  const int bar = std::max(0, wxSystemSettings::GetMetric(wxSYS_VSCROLL_X, frame_.get()));
+  // One column more for the margin at the left.
+  const wxSize size((columns + 1) * surface_->cell().x + bar, rows * surface_->cell().y);
+  frame_->SetClientSize(size);
+  surface_->SetSize(size);
+  frame_->Bind(wxEVT_CHAR_HOOK, &WxConsoleFrame::onKey, this);
+  frame_->Bind(wxEVT_MENU_OPEN, [this](wxMenuEvent& event) {
+    event.Skip();
+    updateMenus();
+  });
+  frame_->Bind(wxEVT_MENU, [this](wxCommandEvent& event) {
+    const auto found = commandOfId_.find(event.GetId());
+    if (found != commandOfId_.end()) command(found->second);
+  });
+  frame_->Bind(wxEVT_CLOSE_WINDOW, [this](wxCloseEvent& event) {
+    if (event.CanVeto()) {
+      event.Veto();
+      requestClose();
+    } else {
+      stop();  // the session ends: there is no time for the loop
+    }
+  });
+}
+
+WxConsoleFrame::~WxConsoleFrame() {
+  stop();
+}
+
+void WxConsoleFrame::buildMenus() {
+  auto* const bar = new wxMenuBar;
+  // The commands' own numbers are too large for the toolkit.
+  int id = wxID_HIGHEST;
+  for (const auto& menu : rules_.menuBar()) {
+    auto* const list = new wxMenu;
+    for (const auto& item : menu.items) {
+      if (item.text.empty()) {
+        list->AppendSeparator();
+        continue;
+      }
+      list->Append(++id, toWx(item.text));
+      commandOfId_[id] = item.command;
+    }
+    bar->Append(list, toWx(menu.title));
+  }
+  frame_->SetMenuBar(bar);
+}
+
+void WxConsoleFrame::updateMenus() {
+  guarded(stack_, [this] {
+    for (const auto& [id, number] : commandOfId_) frame_->GetMenuBar()->Enable(id, rules_.commandEnabled(number));
+  });
+}
+
+void WxConsoleFrame::command(int number) {
+  guarded(stack_, [&] {
+    if (rules_.commandEnabled(number)) rules_.onCommand(number);
+  });
+}
+
+// Here rather than by the toolkit's own table: both systems then know the same keys, and a key that stands for a
+// disabled command is swallowed as well, not typed.
+void WxConsoleFrame::onKey(wxKeyEvent& event) {
+  for (const auto& accelerator : rules_.accelerators()) {
+    if (!matches(event, accelerator)) continue;
+    command(accelerator.command);
+    return;
+  }
+  event.Skip();
+}
+
+void WxConsoleFrame::requestClose() {
+  if (place_) place_->wishEnd();
+}
+
+void WxConsoleFrame::stop() {
+  if (stopped_) return;
+  stopped_ = true;
+  surface_->stop();
+  guarded(stack_, [this] { rules_.view().onClose(); });
+}
+
+void WxConsoleFrame::run() {
+  bool ended = false;
+  WindowStack::Place place(stack_, frame_.get(), [&ended] {
+    ended = true;
+    if (auto* loop = wxTheApp->GetMainLoop()) loop->ScheduleExit();
+  });
+  place_ = &place;
+  surface_->start();
+  updateMenus();
+  if (!ended) {
+    frame_->Show();
+    surface_->SetFocus();
+    wxTheApp->MainLoop();
+    frame_->Hide();
+  }
+  place_ = nullptr;
+  stop();
+}
+
+}  // namespace tarnwick::ui

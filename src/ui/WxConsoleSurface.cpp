@@ -1,0 +1,230 @@
+#include "ui/WxConsoleSurface.h"
+
+#include "ui/ConsoleKeys.h"
+#include "ui/HintWindow.h"
+#include "ui/MessageBoxes.h"
+#include "ui/Text.h"
+#include "ui/WxConsolePainter.h"
+
+#include <wx/dcbuffer.h>
+#include <wx/settings.h>
+
+#include <algorithm>
+
+namespace tarnwick::ui {
+
+namespace {
+
+constexpr int wheelLines = 3;
+
+}  // namespace
+
+WxConsoleSurface::WxConsoleSurface(wxWindow* parent, WindowStack& stack, Desktop& desktop, ConsoleSurfaceClient& client,
+                                   std::function<void()> requestClose)
+    : stack_(stack), client_(client), requestClose_(std::move(requestClose)) {
+  SetBackgroundStyle(wxBG_STYLE_PAINT);  // before the window is made: it paints every pixel itself
+  wxWindow::Create(parent, wxID_ANY, wxDefaultPosition, wxDefaultSize,
+                   wxVSCROLL | wxHSCROLL | wxWANTS_CHARS | wxBORDER_NONE, "console");
+  SetBackgroundColour(*wxWHITE);
+  SetCursor(wxCursor(wxCURSOR_IBEAM));
+  measureCell();
+  bindEvents();
+  gate_ = std::make_shared<WakeGate>([&desktop](WakeGate::Task task) { desktop.post(std::move(task)); },
+                                     [&desktop](int milliseconds, const WakeGate::Task& task) {
+                                       auto number = std::make_shared<int>(0);
+                                       *number = desktop.startTimer(milliseconds, [&desktop, number, task] {
+                                         desktop.stopTimer(*number);
+                                         task();
+                                       });
+                                     },
+                                     [this] { tell([this] { client_.onWake(); }); });
+}
+
+WxConsoleSurface::~WxConsoleSurface() {
+  stop();
+}
+
+void WxConsoleSurface::measureCell() {
+  const int points = wxSystemSettings::GetFont(wxSYS_DEFAULT_GUI_FONT).GetPointSize();
+  SetFont(wxFont(wxFontInfo(points).Family(wxFONTFAMILY_TELETYPE)));
+  constexpr int many = 100;
+  const wxSize extent = GetTextExtent(wxString('M', many));
+  cell_ = {std::max(1, (extent.x + many / 2) / many), std::max(1, extent.y)};
+  exactAdvance_ = extent.x == cell_.x * many;
+}
+
+void WxConsoleSurface::bindEvents() {
+  Bind(wxEVT_PAINT, &WxConsoleSurface::onPaint, this);
+  Bind(wxEVT_SIZE, &WxConsoleSurface::onSize, this);
+  Bind(wxEVT_KEY_DOWN, &WxConsoleSurface::onKeyDown, this);
+  Bind(wxEVT_CHAR, &WxConsoleSurface::onCharacter, this);
+  Bind(wxEVT_MOUSEWHEEL, &WxConsoleSurface::onWheel, this);
+  const auto scroll = [this](const wxEventTypeTag<wxScrollWinEvent>& type, int lines, bool pages) {
+    Bind(type, [this, lines, pages](wxScrollWinEvent& event) { onScroll(event, lines, pages); });
+  };
+  scroll(wxEVT_SCROLLWIN_LINEUP, -1, false);
+  scroll(wxEVT_SCROLLWIN_LINEDOWN, 1, false);
+  scroll(wxEVT_SCROLLWIN_PAGEUP, -1, true);
+  scroll(wxEVT_SCROLLWIN_PAGEDOWN, 1, true);
+  for (const auto& type : {wxEVT_SCROLLWIN_THUMBTRACK, wxEVT_SCROLLWIN_THUMBRELEASE}) {
+    Bind(type, &WxConsoleSurface::onScrollTo, this);
+  }
+  Bind(wxEVT_SCROLLWIN_TOP, [this](wxScrollWinEvent&) { scrollTo({scroll_.x, 0}); });
+  Bind(wxEVT_SCROLLWIN_BOTTOM, [this](wxScrollWinEvent&) { scrollTo({scroll_.x, lastPosition().y}); });
+  bindMouse(wxEVT_LEFT_DOWN, &ConsoleSurfaceClient::onLeftDown);
+  bindMouse(wxEVT_LEFT_UP, &ConsoleSurfaceClient::onLeftUp);
+  bindMouse(wxEVT_MOTION, &ConsoleSurfaceClient::onMouseMove);
+  bindMouse(wxEVT_LEFT_DCLICK, &ConsoleSurfaceClient::onDoubleClick);
+  bindMouse(wxEVT_RIGHT_DOWN, &ConsoleSurfaceClient::onRightDown);
+}
+
+void WxConsoleSurface::bindMouse(const wxEventTypeTag<wxMouseEvent>& type,
+                                 void (ConsoleSurfaceClient::*operation)(const MouseState&)) {
+  Bind(type, [this, operation](wxMouseEvent& event) {
+    event.Skip();  // a press gives the focus
+    MouseState state;
+    state.at = {event.GetX(), event.GetY()};
+    state.leftDown = event.LeftIsDown();
+    state.otherButtonDown = event.RightIsDown() || event.MiddleIsDown();
+    state.shift = event.ShiftDown();
+    state.control = event.ControlDown();
+    if (event.ButtonDown()) SetFocus();
+    tell([&] { (client_.*operation)(state); });
+  });
+}
+
+void WxConsoleSurface::tell(const std::function<void()>& action) {
+  if (alive_) guarded(stack_, action);
+}
+
+void WxConsoleSurface::start() {
+  alive_ = true;
+  tell([this] { client_.onStart(*this); });
+}
+
+void WxConsoleSurface::stop() {
+  alive_ = false;
+  gate_->shut();
+  hint_.reset();
+}
+
+Point WxConsoleSurface::clientSize() const {
+  const wxSize size = GetClientSize();
+  return {size.x, size.y};
+}
+
+Point WxConsoleSurface::lastPosition() const {
+  const Point window = clientSize();
+  return {std::max(0, document_.x - window.x), std::max(0, document_.y - window.y)};
+}
+
+void WxConsoleSurface::setScrollSizes(const Point& size) {
+  if (size == document_) return;
+  document_ = size;
+  const Point before = scroll_;
+  updateBars();
+  if (scroll_ != before) invalidateAll();
+}
+
+void WxConsoleSurface::updateBars() {
+  // A bar that comes takes room from the other direction, so the second look may bring the other bar.
+  for (int round = 0; round < 2; ++round) {
+    const Point window = clientSize();
+    const Point last = lastPosition();
+    scroll_ = {std::clamp(scroll_.x, 0, last.x), std::clamp(scroll_.y, 0, last.y)};
+    SetScrollbar(wxHORIZONTAL, scroll_.x, window.x, document_.x);
+    SetScrollbar(wxVERTICAL, scroll_.y, window.y, document_.y);
+  }
+}
+
+void WxConsoleSurface::scrollTo(const Point& position) {
+  const Point last = lastPosition();
+  const Point target{std::clamp(position.x, 0, last.x), std::clamp(position.y, 0, last.y)};
+  if (target == scroll_) return;
+  if (target.x != scroll_.x) SetScrollPos(wxHORIZONTAL, target.x);
+  if (target.y != scroll_.y) SetScrollPos(wxVERTICAL, target.y);
+  scroll_ = target;
+  invalidateAll();
+}
+
+void WxConsoleSurface::invalidate(const Rect& rect) {
+  RefreshRect(wxRect(rect.left - scroll_.x, rect.top - scroll_.y, rect.width(), rect.height()), false);
+}
+
+void WxConsoleSurface::invalidateAll() {
+  Refresh(false);
+}
+
+void WxConsoleSurface::showHint(bool on) {
+  if (on && !hint_) hint_ = std::make_unique<HintWindow>(stack_, *this);
+  if (hint_) hint_->showWindow(on);
+}
+
+void WxConsoleSurface::onPaint(wxPaintEvent&) {
+  wxAutoBufferedPaintDC dc(this);
+  dc.SetBackground(*wxWHITE_BRUSH);
+  dc.Clear();
+  if (!alive_) return;
+  dc.SetFont(GetFont());
+  dc.SetBackgroundMode(wxBRUSHSTYLE_TRANSPARENT);
+  dc.SetDeviceOrigin(-scroll_.x, -scroll_.y);
+  wxRect clip = GetUpdateRegion().GetBox();
+  if (clip.IsEmpty()) clip = wxRect(GetClientSize());
+  clip.Offset(scroll_.x, scroll_.y);
+  WxConsolePainter painter(dc, clip, cell_, exactAdvance_);
+  tell([&] { client_.paint(painter); });
+}
+
+void WxConsoleSurface::onSize(wxSizeEvent& event) {
+  event.Skip();
+  if (!alive_) return;
+  updateBars();
+  invalidateAll();
+  tell([this] { client_.onResized(); });
+}
+
+void WxConsoleSurface::onScroll(wxScrollWinEvent& event, int lines, bool pages) {
+  const Point window = clientSize();
+  if (event.GetOrientation() == wxVERTICAL) {
+    const int step = pages ? std::max(cell_.y, window.y - cell_.y) : cell_.y;
+    scrollTo({scroll_.x, scroll_.y + lines * step});
+  } else {
+    const int step = pages ? std::max(cell_.x, window.x - cell_.x) : cell_.x;
+    scrollTo({scroll_.x + lines * step, scroll_.y});
+  }
+}
+
+void WxConsoleSurface::onScrollTo(wxScrollWinEvent& event) {
+  if (event.GetOrientation() == wxVERTICAL) {
+    scrollTo({scroll_.x, event.GetPosition()});
+  } else {
+    scrollTo({event.GetPosition(), scroll_.y});
+  }
+}
+
+void WxConsoleSurface::onWheel(wxMouseEvent& event) {
+  const int turn = event.GetWheelRotation() * wheelLines / std::max(1, event.GetWheelDelta());
+  if (event.GetWheelAxis() == wxMOUSE_WHEEL_HORIZONTAL || event.ShiftDown()) {
+    const int direction = event.GetWheelAxis() == wxMOUSE_WHEEL_HORIZONTAL ? 1 : -1;
+    scrollTo({scroll_.x + direction * turn * cell_.x, scroll_.y});
+  } else {
+    scrollTo({scroll_.x, scroll_.y - turn * cell_.y});
+  }
+}
+
+void WxConsoleSurface::onKeyDown(wxKeyEvent& event) {
+  bool used = false;
+  tell([&] { used = client_.onKey(consoleKeyOf(event.GetKeyCode()), modifiersOf(event)); });
+  if (!used) event.Skip();
+}
+
+void WxConsoleSurface::onCharacter(wxKeyEvent& event) {
+  const std::string character = characterOf(event);
+  if (character.empty()) {
+    event.Skip();
+    return;
+  }
+  tell([&] { client_.onCharacter(character, 1); });
+}
+
+}  // namespace tarnwick::ui

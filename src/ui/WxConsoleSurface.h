@@ -1,0 +1,70 @@
+#pragma once
+
+#include "console/ConsoleSurface.h"
+#include "dialogbase/Desktop.h"
+#include "ui/WakeGate.h"
+#include "ui/WindowStack.h"
+
+#include <wx/window.h>
+
+#include <functional>
+#include <memory>
+#include <string>
+
+namespace tarnwick::ui {
+
+class HintWindow;
+
+/// The console's window: fixed-pitch cells on white, scrolled by pixels.
+class WxConsoleSurface : public wxWindow, public ConsoleSurface {
+ public:
+  WxConsoleSurface(wxWindow* parent, WindowStack& stack, Desktop& desktop, ConsoleSurfaceClient& client,
+                   std::function<void()> requestClose);
+  ~WxConsoleSurface() override;
+
+  /// The window has its size: the view begins.
+  void start();
+  /// The window is about to go: the view hears of nothing more.
+  void stop();
+
+  Point cell() const override { return cell_; }
+  Point clientSize() const override;
+  Point scrollPosition() const override { return scroll_; }
+  void setScrollSizes(const Point& size) override;
+  void scrollTo(const Point& position) override;
+  void invalidate(const Rect& rect) override;
+  void invalidateAll() override;
+  void wake() override { gate_->wake(); }
+  void showHint(bool on) override;
+  void close() override { requestClose_(); }
+
+  bool AcceptsFocus() const override { return true; }
+
+ private:
+  void measureCell();
+  void bindEvents();
+  void onPaint(wxPaintEvent& event);
+  void onSize(wxSizeEvent& event);
+  void onScroll(wxScrollWinEvent& event, int lines, bool pages);
+  void onScrollTo(wxScrollWinEvent& event);
+  void onWheel(wxMouseEvent& event);
+  void onKeyDown(wxKeyEvent& event);
+  void onCharacter(wxKeyEvent& event);
+  void bindMouse(const wxEventTypeTag<wxMouseEvent>& type, void (ConsoleSurfaceClient::*operation)(const MouseState&));
+  void updateBars();
+  Point lastPosition() const;
+  void tell(const std::function<void()>& action);
+
+  WindowStack& stack_;
+  ConsoleSurfaceClient& client_;
+  std::function<void()> requestClose_;
+  std::shared_ptr<WakeGate> gate_;
+  std::unique_ptr<HintWindow> hint_;
+  Point cell_;
+  bool exactAdvance_ = true;
+  Point document_;
+  Point scroll_;
+  bool alive_ = false;
+};
+
+}  // namespace tarnwick::ui

@@ -1,0 +1,135 @@
+#include "ui/WxDesktop.h"
+
+#include "platform/Sound.h"
+#include "ui/FileDialogs.h"
+#include "ui/InputBlock.h"
+#include "ui/MessageBoxes.h"
+#include "ui/Text.h"
+#include "ui/WxConsoleFrame.h"
+#include "ui/WxTopWindow.h"
+
+#include <wx/clipbrd.h>
+#include <wx/evtloop.h>
+#include <wx/utils.h>
+
+#include <exception>
+#include <thread>
+
+namespace tarnwick::ui {
+
+WxDesktop::WxDesktop()
+    : timers_([this](const std::function<void()>& tick) { guarded(stack_, tick); }),
+      queue_([this](const PostQueue::Task& task) { guarded(stack_, task); }) {}
+
+WxDesktop::~WxDesktop() = default;
+
+void WxDesktop::message(const std::string& text) {
+  showMessage(stack_, text, MessageKind::Ok);
+}
+
+bool WxDesktop::askOkCancel(const std::string& text) {
+  return showMessage(stack_, text, MessageKind::OkCancel);
+}
+
+bool WxDesktop::askYesNo(const std::string& text) {
+  return showMessage(stack_, text, MessageKind::YesNo);
+}
+
+std::optional<std::string> WxDesktop::openFile(const FileRequest& request) {
+  return openFileDialog(stack_, request);
+}
+
+std::optional<std::string> WxDesktop::saveFile(const FileRequest& request) {
+  return saveFileDialog(stack_, request);
+}
+
+std::optional<std::string> WxDesktop::browseFolder() {
+  return folderDialog(stack_);
+}
+
+void WxDesktop::alert(AlertSound sound) {
+  switch (sound) {
+    case AlertSound::Exclamation:
+      platform::playAlert(platform::Alert::Exclamation);
+      break;
+    case AlertSound::Asterisk:
+      platform::playAlert(platform::Alert::Asterisk);
+      break;
+    case AlertSound::Beep:
+      platform::playAlert(platform::Alert::Beep);
+      break;
+  }
+}
+
+std::optional<std::string> WxDesktop::clipboardText() {
+  const wxClipboardLocker lock;
+  if (!lock || !wxTheClipboard->IsSupported(wxDF_UNICODETEXT)) return std::nullopt;
+  wxTextDataObject text;
+  if (!wxTheClipboard->GetData(text)) return std::nullopt;
+  return fromWx(text.GetText());
+}
+
+bool WxDesktop::setClipboardText(const std::string& text) {
+  const wxClipboardLocker lock;
+  if (!lock || !wxTheClipboard->SetData(new wxTextDataObject(toWx(text)))) return false;
+  wxTheClipboard->Flush();  // the text outlives the program
+  return true;
+}
+
+int WxDesktop::runTop(WxTopWindow& window) {
+  struct Listed {
+    std::vector<WxTopWindow*>& open;
+    Listed(std::vector<WxTopWindow*>& all, WxTopWindow* one) : open(all) { open.push_back(one); }
+    ~Listed() { open.pop_back(); }
+  };
+  const Listed listed(openDialogs_, &window);
+  return window.run();
+}
+
+int WxDesktop::runDialog(const DialogLayout& layout, DialogHandler& handler) {
+  WxTopWindow window(stack_, WxTopWindow::Role::Modal, layout, handler);
+  return runTop(window);
+}
+
+void WxDesktop::runMainDialog(const DialogLayout& layout, DialogHandler& handler) {
+  WxTopWindow window(stack_, WxTopWindow::Role::Main, layout, handler);
+  runTop(window);
+}
+
+void WxDesktop::whileBusy(const std::function<void()>& work) {
+  const WindowStack::Place place(stack_, nullptr);
+  const InputBlock noInput;
+  const wxBusyCursor hourglass;
+  wxGUIEventLoop loop;
+  std::exception_ptr failure;
+  std::thread worker([&] {
+    try {
+      work();
+    } catch (...) {
+      failure = std::current_exception();
+    }
+    post([&loop] { loop.ScheduleExit(); });
+  });
+  loop.Run();
+  worker.join();
+  if (failure) std::rethrow_exception(failure);
+}
+
+int WxDesktop::startTimer(int milliseconds, std::function<void()> tick) {
+  return timers_.start(milliseconds, std::move(tick));
+}
+
+void WxDesktop::stopTimer(int timer) {
+  timers_.stop(timer);
+}
+
+void WxDesktop::post(std::function<void()> task) {
+  queue_.post(std::move(task));
+}
+
+void WxDesktop::runConsoleFrame(ConsoleFrame& frame) {
+  WxConsoleFrame window(stack_, *this, frame);
+  window.run();
+}
+
+}  // namespace tarnwick::ui

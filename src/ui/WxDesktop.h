@@ -1,0 +1,48 @@
+#pragma once
+
+#include "app/ConsoleFrameHost.h"
+#include "dialogbase/Desktop.h"
+#include "ui/PostQueue.h"
+#include "ui/Timers.h"
+#include "ui/WindowStack.h"
+
+namespace tarnwick::ui {
+
+class WxTopWindow;
+
+/// The desktop that its user sees.
+class WxDesktop : public Desktop, public ConsoleFrameHost {
+ public:
+  WxDesktop();
+  ~WxDesktop() override;
+
+  void message(const std::string& text) override;
+  bool askOkCancel(const std::string& text) override;
+  bool askYesNo(const std::string& text) override;
+  std::optional<std::string> openFile(const FileRequest& request) override;
+  std::optional<std::string> saveFile(const FileRequest& request) override;
+  std::optional<std::string> browseFolder() override;
+  void alert(AlertSound sound) override;
+  std::optional<std::string> clipboardText() override;
+  bool setClipboardText(const std::string& text) override;
+  int runDialog(const DialogLayout& layout, DialogHandler& handler) override;
+  void runMainDialog(const DialogLayout& layout, DialogHandler& handler) override;
+  void whileBusy(const std::function<void()>& work) override;
+  int startTimer(int milliseconds, std::function<void()> tick) override;
+  void stopTimer(int timer) override;
+  void post(std::function<void()> task) override;
+  void runConsoleFrame(ConsoleFrame& frame) override;
+
+  /// The open dialogs, innermost last. For tests.
+  const std::vector<WxTopWindow*>& openDialogs() const { return openDialogs_; }
+
+ private:
+  int runTop(WxTopWindow& window);
+
+  WindowStack stack_;
+  std::vector<WxTopWindow*> openDialogs_;
+  Timers timers_;
+  PostQueue queue_;
+};
+
+}  // namespace tarnwick::ui

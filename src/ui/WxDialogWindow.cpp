@@ -1,0 +1,343 @@
+#include "ui/WxDialogWindow.h"
+
+#include "ui/MessageBoxes.h"
+#include "ui/Text.h"
+#include "ui/Toolkit.h"
+
+#include <wx/button.h>
+#include <wx/notebook.h>
+#include <wx/radiobut.h>
+#include <wx/statbox.h>
+#include <wx/tooltip.h>
+
+#include <algorithm>
+#include <stdexcept>
+
+namespace tarnwick::ui {
+
+namespace {
+
+constexpr int pageMargin = 10;
+
+bool takesFocus(const Control& control) {
+  switch (control.kind) {
+    case ItemKind::Edit:
+    case ItemKind::Button:
+    case ItemKind::CheckBox:
+    case ItemKind::RadioButton:
+    case ItemKind::ComboBox:
+    case ItemKind::ListBox:
+    case ItemKind::Tabs:
+      return control.window->IsEnabled() && control.window->IsShownOnScreen();
+    default:
+      return false;
+  }
+}
+
+bool hasName(ItemKind kind) {
+  return kind == ItemKind::Edit || kind == ItemKind::ComboBox || kind == ItemKind::ListBox;
+}
+
+}  // namespace
+
+WxDialogWindow::WxDialogWindow(WindowStack& stack, wxWindow& surface, const DialogLayout& layout,
+                               DialogHandler& handler, int margin)
+    : stack_(stack),
+      guarded_([&stack](const std::function<void()>& action) { guarded(stack, action); }),
+      surface_(surface),
+      handler_(handler),
+      margin_(surface.FromDIP(margin)),
+      firstFocus_(layout.firstFocus) {
+  gaps_.inRow = surface.FromDIP(gaps_.inRow);
+  gaps_.inColumn = surface.FromDIP(gaps_.inColumn);
+  gaps_.aroundGroups = surface.FromDIP(gaps_.aroundGroups);
+  gaps_.inGroup = surface.FromDIP(gaps_.inGroup);
+  root_ = build(layout.content, nullptr);
+}
+
+void WxDialogWindow::start() {
+  // The rules may ask for rectangles, so everything has its place before they begin; what they then fill in may need
+  // more room.
+  arrange(contentSize());
+  guard([this] { handler_.initialise(*this); });
+}
+
+Node WxDialogWindow::build(const DialogItem& item, const DialogItem* before) {
+  switch (item.kind) {
+    case ItemKind::Column:
+    case ItemKind::Row:
+    case ItemKind::Space: {
+      Node node;
+      node.kind = item.kind;
+      node.stretch = item.stretch;
+      node.equalWidths = item.equalWidths;
+      node.children = buildChildren(item);
+      return node;
+    }
+    default:
+      return buildControl(item, before);
+  }
+}
+
+std::vector<Node> WxDialogWindow::buildChildren(const DialogItem& item) {
+  std::vector<Node> nodes;
+  const DialogItem* before = nullptr;
+  for (const auto& child : item.children) {
+    const bool goesOn = before && before->kind == ItemKind::RadioButton && child.kind == ItemKind::RadioButton;
+    if (child.kind == ItemKind::RadioButton && !goesOn) radioRun_ = beginRadioRun(surface_);
+    nodes.push_back(build(child, before));
+    before = &child;
+  }
+  return nodes;
+}
+
+Node WxDialogWindow::buildControl(const DialogItem& item, const DialogItem* before) {
+  Node node;
+  node.kind = item.kind;
+  node.stretch = item.stretch;
+  node.equalWidths = item.equalWidths;
+  // A frame comes before its controls, as their sibling: as their parent it could not let them move freely.
+  Control control = makeControl(surface_, item, radioRun_, events());
+  node.window = control.window;
+  setNatural(node, item, control);
+  finishControl(item, control, before);
+  inOrder_.push_back(control);
+  if (item.control != 0) controls_[item.control] = control;
+  node.children = buildChildren(item);
+  return node;
+}
+
+void WxDialogWindow::setNatural(Node& node, const DialogItem& item, const Control& control) {
+  DialogItem alone = item;
+  alone.children.clear();
+  if (auto* tabs = dynamic_cast<wxNotebook*>(control.window)) {
+    node.natural = [this, tabs, number = item.control] {
+      wxSize page(0, 0);
+      for (auto* child : childrenOf_[number]) page.IncTo(child->contentSize());
+      return sizeWithTabs(*tabs, page);
+    };
+  } else if (item.kind == ItemKind::Slot) {
+    node.natural = [this, number = item.control] {
+      wxSize room(0, 0);
+      for (auto* child : childrenOf_[number]) room.IncTo(child->contentSize());
+      return room;
+    };
+  } else {
+    node.natural = [alone, control] { return naturalSize(alone, control); };
+  }
+  if (auto* box = dynamic_cast<wxStaticBox*>(control.window)) {
+    box->GetBordersForSizer(&node.frameTop, &node.frameOther);
+  }
+}
+
+void WxDialogWindow::finishControl(const DialogItem& item, Control& control, const DialogItem* before) {
+  control.window->SetName("control " + std::to_string(item.control));
+  if (item.kind == ItemKind::Label) lastLabel_ = control.window;
+  if (before && before->kind == ItemKind::Label && hasName(item.kind)) nameByLabel(*control.window, *lastLabel_);
+  if (item.kind == ItemKind::Tabs) bindTabs(item.control, *control.window);
+  if (item.isDefault) {
+    static_cast<wxButton*>(control.window)->SetDefault();
+    defaultButton_ = item.control;
+  }
+}
+
+void WxDialogWindow::bindTabs(int control, wxWindow& tabs) {
+  tabs.Bind(wxEVT_NOTEBOOK_PAGE_CHANGED, [this, control](wxBookCtrlEvent& event) {
+    event.Skip();
+    if (!quiet_ && !detached_) guard([&] { handler_.onSelectionChanged(control); });
+  });
+}
+
+ControlEvents WxDialogWindow::events() {
+  const auto heard = [this](void (DialogHandler::*operation)(int)) {
+    return [this, operation](int control) {
+      if (quiet_ || detached_ || control == 0) return;
+      guard([&] { (handler_.*operation)(control); });
+    };
+  };
+  return {heard(&DialogHandler::onCommand), heard(&DialogHandler::onTextChanged),
+          heard(&DialogHandler::onSelectionChanged), heard(&DialogHandler::onDoubleClick)};
+}
+
+wxSize WxDialogWindow::contentSize() {
+  // Once the rules place the controls themselves, the size is what they make of it.
+  if (placedByRules_) return surface_.GetClientSize();
+  wxSize size = measure(root_, gaps_);
+  size.IncBy(2 * margin_);
+  return size;
+}
+
+void WxDialogWindow::arrange(const wxSize& size) {
+  if (placedByRules_ || detached_) return;
+  measure(root_, gaps_);
+  place(root_, wxRect(margin_, margin_, size.x - 2 * margin_, size.y - 2 * margin_), gaps_);
+}
+
+void WxDialogWindow::detach() {
+  for (auto& child : children_) child->detach();
+  detached_ = true;  // the toolkit still sends this and that while it takes the windows down
+  guard([this] { handler_.detached(); });
+}
+
+void WxDialogWindow::focusFirst() {
+  const auto named = controls_.find(firstFocus_);
+  if (named != controls_.end()) {
+    named->second.window->SetFocus();
+    return;
+  }
+  const auto first = std::find_if(inOrder_.begin(), inOrder_.end(), takesFocus);
+  if (first != inOrder_.end()) {
+    first->window->SetFocus();
+  } else if (!children_.empty()) {
+    children_.front()->focusFirst();
+  }
+}
+
+bool WxDialogWindow::hasUsable(int control) const {
+  const auto found = controls_.find(control);
+  return found != controls_.end() && found->second.window->IsEnabled() && found->second.window->IsShown();
+}
+
+void WxDialogWindow::command(int control) {
+  guard([&] { handler_.onCommand(control); });
+}
+
+const Control& WxDialogWindow::at(int control) const {
+  const auto found = controls_.find(control);
+  if (found == controls_.end()) throw std::out_of_range("no control " + std::to_string(control));
+  return found->second;
+}
+
+wxWindow* WxDialogWindow::windowOf(int control) const {
+  const auto found = controls_.find(control);
+  return found == controls_.end() ? nullptr : found->second.window;
+}
+
+std::vector<int> WxDialogWindow::controls() const {
+  std::vector<int> numbers;
+  for (const auto& [number, control] : controls_) numbers.push_back(number);
+  return numbers;
+}
+
+std::string WxDialogWindow::text(int control) const {
+  return textOf(at(control));
+}
+
+void WxDialogWindow::setText(int control, const std::string& text) {
+  // A label must not take the size of its new text: it would grow over its neighbours.
+  const Control& changed = at(control);
+  const wxRect before = changed.window->GetRect();
+  setTextOf(changed, text);
+  if (changed.window->GetRect() != before) changed.window->SetSize(before);
+}
+
+bool WxDialogWindow::checked(int control) const {
+  return isChecked(at(control));
+}
+
+void WxDialogWindow::setChecked(int control, bool on) {
+  quiet_ = true;
+  setCheckedOf(at(control), on);
+  quiet_ = false;
+}
+
+bool WxDialogWindow::enabled(int control) const {
+  return at(control).window->IsThisEnabled();
+}
+
+void WxDialogWindow::enable(int control, bool on) {
+  at(control).window->Enable(on);
+}
+
+bool WxDialogWindow::visible(int control) const {
+  return at(control).window->IsShown();
+}
+
+void WxDialogWindow::show(int control, bool on) {
+  at(control).window->Show(on);
+}
+
+Rect WxDialogWindow::rect(int control) const {
+  const wxRect rect = at(control).window->GetRect();
+  return {rect.x, rect.y, rect.x + rect.width, rect.y + rect.height};
+}
+
+void WxDialogWindow::setRect(int control, const Rect& rect) {
+  placedByRules_ = true;
+  at(control).window->SetSize(rect.left, rect.top, rect.width(), rect.height(), wxSIZE_ALLOW_MINUS_ONE);
+}
+
+void WxDialogWindow::focus(int control) {
+  at(control).window->SetFocus();
+}
+
+void WxDialogWindow::scrollToEnd(int control) {
+  scrollToEndOf(at(control));
+}
+
+void WxDialogWindow::setToolTip(int control, const std::string& text) {
+  at(control).window->SetToolTip(toWx(text));
+}
+
+std::vector<std::string> WxDialogWindow::entries(int control) const {
+  return entriesOf(at(control));
+}
+
+void WxDialogWindow::setEntries(int control, const std::vector<std::string>& entries) {
+  quiet_ = true;
+  setEntriesOf(at(control), entries);
+  quiet_ = false;
+}
+
+int WxDialogWindow::selection(int control) const {
+  return selectionOf(at(control));
+}
+
+void WxDialogWindow::select(int control, int index) {
+  quiet_ = true;
+  selectIn(at(control), index);
+  quiet_ = false;
+}
+
+DialogWindow& WxDialogWindow::addTabPage(int tabs, const std::string& label, const DialogLayout& layout,
+                                         DialogHandler& handler) {
+  auto* const book = dynamic_cast<wxNotebook*>(at(tabs).window);
+  if (!book) throw std::out_of_range("no tab control " + std::to_string(tabs));
+  auto* const panel = new wxPanel(book);
+  auto page = std::make_unique<WxPage>(stack_, *this, *panel, layout, handler, pageMargin);
+  childrenOf_[tabs].push_back(page.get());
+  quiet_ = true;
+  book->AddPage(panel, toWx(label));
+  quiet_ = false;
+  return adopt(std::move(page));
+}
+
+DialogWindow& WxDialogWindow::addChild(int slot, const DialogLayout& layout, DialogHandler& handler) {
+  wxWindow* const place = at(slot).window;
+  auto* const panel = new wxPanel(place);
+  auto child = std::make_unique<WxPage>(stack_, *this, *panel, layout, handler, 0);
+  childrenOf_[slot].push_back(child.get());
+  place->Bind(wxEVT_SIZE, [place, panel](wxSizeEvent& event) {
+    event.Skip();
+    panel->SetSize(wxRect(place->GetClientSize()));
+  });
+  return adopt(std::move(child));
+}
+
+DialogWindow& WxDialogWindow::adopt(std::unique_ptr<WxDialogWindow> child) {
+  children_.push_back(std::move(child));
+  WxDialogWindow& adopted = *children_.back();
+  adopted.start();
+  return adopted;
+}
+
+WxPage::WxPage(WindowStack& stack, WxDialogWindow& owner, wxPanel& panel, const DialogLayout& layout,
+               DialogHandler& handler, int margin)
+    : WxDialogWindow(stack, panel, layout, handler, margin), owner_(owner), title_(layout.title) {
+  panel.Bind(wxEVT_SIZE, [this, &panel](wxSizeEvent& event) {
+    event.Skip();
+    arrange(panel.GetClientSize());
+  });
+}
+
+}  // namespace tarnwick::ui

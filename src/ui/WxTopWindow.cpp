@@ -1,0 +1,136 @@
+#include "ui/WxTopWindow.h"
+
+#include "ui/Icons.h"
+#include "ui/Text.h"
+#include "ui/Toolkit.h"
+
+#include <wx/app.h>
+#include <wx/evtloop.h>
+#include <wx/listbox.h>
+
+namespace tarnwick::ui {
+
+namespace {
+
+constexpr int windowMargin = 12;
+
+wxDialog* makeDialog(WxTopWindow::Role role, const DialogLayout& layout, wxWindow* parent) {
+  long style = wxCAPTION | wxSYSTEM_MENU | wxCLOSE_BOX;
+  if (layout.minimiseBox) style |= wxMINIMIZE_BOX;
+  const bool isMain = role == WxTopWindow::Role::Main;
+  if (isMain) style |= wxDIALOG_NO_PARENT;
+  auto* dialog =
+      new wxDialog(isMain ? nullptr : parent, wxID_ANY, toWx(layout.title), wxDefaultPosition, wxDefaultSize, style);
+  if (isMain) makeMainWindow(*dialog);
+  dialog->SetIcons(programIcons());
+  dialog->SetEscapeId(wxID_NONE);
+  return dialog;
+}
+
+}  // namespace
+
+WxTopWindow::WxTopWindow(WindowStack& stack, Role role, const DialogLayout& layout, DialogHandler& handler)
+    : WxTopWindow(stack, role, layout, handler, Dialog(makeDialog(role, layout, stack.parent()))) {}
+
+WxTopWindow::WxTopWindow(WindowStack& stack, Role role, const DialogLayout& layout, DialogHandler& handler,
+                         Dialog dialog)
+    : WxDialogWindow(stack, *dialog, layout, handler, windowMargin), role_(role), dialog_(std::move(dialog)) {
+  dialog_->Bind(wxEVT_CHAR_HOOK, &WxTopWindow::onKey, this);
+  dialog_->Bind(wxEVT_CLOSE_WINDOW, [this](wxCloseEvent& event) {
+    // The rules decide what a close request does.
+    if (event.CanVeto()) event.Veto();
+    if (running_) guard([this] { WxDialogWindow::handler().onCloseRequest(); });
+  });
+}
+
+WxTopWindow::~WxTopWindow() = default;
+
+int WxTopWindow::run() {
+  WindowStack::Place place(stack(), dialog_.get(), [this] { end(); });
+  place_ = &place;
+  start();
+  fit();
+  if (!result_) {
+    running_ = true;
+    focusFirst();
+    if (role_ == Role::Main) {
+      dialog_->Show();
+      focusFirst();
+      wxTheApp->MainLoop();
+      dialog_->Hide();
+    } else {
+      dialog_->ShowModal();
+    }
+    running_ = false;
+  }
+  detach();
+  place_ = nullptr;
+  return result_.value_or(IDCANCEL_CONTROL);
+}
+
+void WxTopWindow::fit() {
+  const wxSize size = contentSize();
+  arrange(size);
+  dialog_->SetClientSize(size);
+  if (!moved_) dialog_->CentreOnParent();
+}
+
+void WxTopWindow::close(int result) {
+  if (result_) return;
+  result_ = result;
+  if (running_ && place_) place_->wishEnd();
+}
+
+void WxTopWindow::end() {
+  if (role_ == Role::Modal) {
+    dialog_->EndModal(*result_);
+  } else if (auto* loop = wxTheApp->GetMainLoop()) {
+    loop->ScheduleExit();
+  }
+}
+
+void WxTopWindow::onKey(wxKeyEvent& event) {
+  wxWindow* const focus = wxWindow::FindFocus();
+  const bool plain = event.GetModifiers() == wxMOD_NONE && !(focus && isListOpen(*focus));
+  const int key = event.GetKeyCode();
+  if (plain && key == WXK_ESCAPE) {
+    onEscape();
+  } else if (plain && (key == WXK_RETURN || key == WXK_NUMPAD_ENTER) && dynamic_cast<wxListBox*>(focus) &&
+             defaultButton()) {
+    // A list would take Return for a double click.
+    if (hasUsable(*defaultButton())) command(*defaultButton());
+  } else {
+    event.Skip();
+  }
+}
+
+void WxTopWindow::onEscape() {
+  if (!windowOf(IDCANCEL_CONTROL)) {
+    guard([this] { handler().onCloseRequest(); });
+  } else if (hasUsable(IDCANCEL_CONTROL)) {
+    command(IDCANCEL_CONTROL);
+  }
+}
+
+std::string WxTopWindow::title() const {
+  return fromWx(dialog_->GetTitle());
+}
+
+void WxTopWindow::setTitle(const std::string& title) {
+  dialog_->SetTitle(toWx(title));
+}
+
+void WxTopWindow::showWindow(bool on) {
+  dialog_->Show(on);
+}
+
+std::optional<Point> WxTopWindow::position() const {
+  return normalPosition(*dialog_);
+}
+
+void WxTopWindow::moveTo(const Point& leftTop) {
+  moved_ = true;
+  dialog_->Move(leftTop.x, leftTop.y, wxSIZE_ALLOW_MINUS_ONE);
+}
+
+}  // namespace tarnwick::ui

@@ -1,0 +1,51 @@
+#pragma once
+
+#include "ui/WxDialogWindow.h"
+
+#include <wx/dialog.h>
+
+#include <memory>
+#include <optional>
+#include <string>
+
+namespace tarnwick::ui {
+
+/// A dialog with a frame of its own.
+class WxTopWindow : public WxDialogWindow {
+ public:
+  enum class Role { Main, Modal };
+
+  WxTopWindow(WindowStack& stack, Role role, const DialogLayout& layout, DialogHandler& handler);
+  ~WxTopWindow() override;
+
+  /// Lets the dialog's rules set it up, shows it and returns its result when it has been closed.
+  int run();
+
+  std::string title() const override;
+  void setTitle(const std::string& title) override;
+  void showWindow(bool on) override;
+  std::optional<Point> position() const override;
+  void moveTo(const Point& leftTop) override;
+  void close(int result) override;
+
+  wxDialog& dialog() { return *dialog_; }
+
+ private:
+  using Dialog = std::unique_ptr<wxDialog>;
+
+  WxTopWindow(WindowStack& stack, Role role, const DialogLayout& layout, DialogHandler& handler, Dialog dialog);
+
+  void fit();
+  void onKey(wxKeyEvent& event);
+  void onEscape();
+  void end();
+
+  Role role_;
+  Dialog dialog_;
+  WindowStack::Place* place_ = nullptr;
+  std::optional<int> result_;
+  bool moved_ = false;
+  bool running_ = false;
+};
+
+}  // namespace tarnwick::ui

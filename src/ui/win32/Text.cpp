@@ -1,0 +1,25 @@
+#include "ui/Text.h"
+
+#include <windows.h>
+
+namespace tarnwick::ui {
+
+wxString toWx(const std::string& bytes) {
+  if (bytes.empty()) return {};
+  const auto length = static_cast<int>(bytes.size());
+  std::wstring wide(bytes.size(), L'\0');
+  const int used = MultiByteToWideChar(CP_ACP, 0, bytes.data(), length, wide.data(), length);
+  return wxString(wide.data(), static_cast<std::size_t>(used));
+}
+
+std::string fromWx(const wxString& text) {
+  const std::wstring wide = text.ToStdWstring();
+  if (wide.empty()) return {};
+  const auto length = static_cast<int>(wide.size());
+  const int needed = WideCharToMultiByte(CP_ACP, 0, wide.data(), length, nullptr, 0, nullptr, nullptr);
+  std::string bytes(static_cast<std::size_t>(needed), '\0');
+  WideCharToMultiByte(CP_ACP, 0, wide.data(), length, bytes.data(), needed, nullptr, nullptr);
+  return bytes;
+}
+
+}  // namespace tarnwick::ui

@@ -1,0 +1,17 @@
+// What the stand-in tool needs of the operating system.
+#pragma once
+
+#include <string>
+
+namespace tarnwick::test {
+
+/// Lets bytes pass through the standard streams as they are.
+void useBinaryStreams();
+
+std::string workingFolder();
+
+/// Starts this program once more with one argument; it keeps the standard streams. Gives its process number, 0 on
+/// failure.
+int startCopy(const std::string& argument);
+
+}  // namespace tarnwick::test

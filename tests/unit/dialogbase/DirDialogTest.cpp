@@ -1,0 +1,32 @@
+#include "dialogbase/DirDialog.h"
+
+#include <gtest/gtest.h>
+
+#include "support/ScriptedDesktop.h"
+
+namespace tarnwick::test {
+namespace {
+
+std::string browsed(std::optional<std::string> answer) {
+  ScriptedDesktop desktop;
+  desktop.expectBrowseFolder(std::move(answer));
+  return DirDialog(desktop).browse();
+}
+
+TEST(DirDialog, CancelGivesTheEmptyText) { EXPECT_EQ(browsed(std::nullopt), ""); }
+
+TEST(DirDialog, AFolderWithABlankIsQuoted) {
+  EXPECT_EQ(browsed("C:\\a b"), "\"C:\\a b\"");
+  EXPECT_EQ(browsed("/a"), "/a");
+  EXPECT_EQ(browsed("\"/a b\""), "\"/a b\"");
+}
+
+TEST(DirDialog, AChoiceWithoutAPathIsReported) {
+  ScriptedDesktop desktop;
+  desktop.expectBrowseFolder("");
+  desktop.expectMessage("Can't access folder.");
+  EXPECT_EQ(DirDialog(desktop).browse(), "");
+}
+
+}  // namespace
+}  // namespace tarnwick::test

@@ -1,0 +1,126 @@
+#include "dialogbase/ToolTipDlg.h"
+
+#include <gtest/gtest.h>
+
+#include "base/TokenString.h"
+#include "support/ScriptedDesktop.h"
+
+namespace tarnwick::test {
+namespace {
+
+using namespace tarnwick::layout;
+
+const DialogLayout sample = {7, "Sample", false,
+                             column({edit(10, 20), checkBox(11, "Check"), edit(12, 20), label("", 13),
+                                     button(IDOK_CONTROL, "OK"), button(IDCANCEL_CONTROL, "Cancel")}),
+                             0};
+
+class Sample : public ToolTipDlg {
+ public:
+  explicit Sample(Desktop& desktop) : ToolTipDlg(desktop, 7, 7) {
+    bindings_ = {{10, &text, BIND_TEXT}, {11, &check, BIND_CHECK}, {12, &list, BIND_STRINGABLE}};
+    toolTips_ = {{10, "first"}, {11, "check it"}, {10, "second"}};
+  }
+  void useRows(const TagRow* rows) { tags_ = rows; }
+
+  std::string text = "before";
+  int check = 1;
+  TokenString list;
+};
+
+class ToolTipDlgTest : public testing::Test {
+ protected:
+  ScriptedDesktop desktop_;
+  Sample dialog_{desktop_};
+};
+
+TEST_F(ToolTipDlgTest, ShowsBoundValuesWhenItOpens) {
+  ScriptedWindow window(sample, dialog_);
+  dialog_.initialise(window);
+  EXPECT_EQ(window.text(10), "before");
+  EXPECT_TRUE(window.checked(11));
+  EXPECT_TRUE(dialog_.initialised());
+}
+
+TEST_F(ToolTipDlgTest, TheFirstToolTipOfAControlWins) {
+  ScriptedWindow window(sample, dialog_);
+  dialog_.initialise(window);
+  EXPECT_EQ(window.toolTip(10), "first");
+  EXPECT_EQ(window.toolTip(11), "check it");
+}
+
+TEST_F(ToolTipDlgTest, SetTextKeepsWhatTheUserTypedElsewhere) {
+  ScriptedWindow window(sample, dialog_);
+  dialog_.initialise(window);
+  window.type(10, "typed");
+  dialog_.setText(12, "a;b");
+  EXPECT_EQ(dialog_.text, "typed");
+  EXPECT_EQ(window.text(10), "typed");
+  EXPECT_EQ(dialog_.list.count(), 2);
+  EXPECT_EQ(window.text(12), "a;b");
+}
+
+TEST_F(ToolTipDlgTest, SetCheckStoresAndShows) {
+  ScriptedWindow window(sample, dialog_);
+  dialog_.initialise(window);
+  dialog_.setCheck(11, 0);
+  EXPECT_EQ(dialog_.check, 0);
+  EXPECT_FALSE(window.checked(11));
+}
+
+TEST_F(ToolTipDlgTest, MalformedValuesAreDropped) {
+  ScriptedWindow window(sample, dialog_);
+  dialog_.initialise(window);
+  dialog_.setText(12, "a;b");
+  window.type(12, "a]");
+  EXPECT_NO_THROW(dialog_.updateVariables());
+  EXPECT_NO_THROW(dialog_.setText(12, "]x"));
+}
+
+TEST_F(ToolTipDlgTest, WithoutAWindowNothingHappens) {
+  EXPECT_FALSE(dialog_.initialised());
+  dialog_.updateControls();
+  dialog_.updateVariables();
+  dialog_.storeToTags();
+  EXPECT_EQ(dialog_.text, "before");
+}
+
+TEST_F(ToolTipDlgTest, MovesTheRowsOfItsPageAndNoOthers) {
+  std::string shown = "shown", other = "other";
+  int flag = 1, number = 1;
+  TokenString list("x;y", ';', ']');
+  const TagRow rows[] = {{"A", TAG_STRING, &shown, nullptr, 0, 7, 7, 10},
+                         {"B", TAG_BOOL, &flag, nullptr, 0, 7, 7, 11},
+                         {"C", TAG_STRINGABLE, &list, nullptr, 0, 7, 7, 12},
+                         {"D", TAG_STRING, &other, nullptr, 0, 8, 7, 10},
+                         {"E", TAG_INT, &number, nullptr, 0, 8, 7, 11},
+                         {"", TAG_END, nullptr, nullptr, 0, 0, 0, 0}};
+  dialog_.useRows(rows);
+  ScriptedWindow window(sample, dialog_);
+  dialog_.initialise(window);
+  EXPECT_EQ(window.text(10), "shown");
+  EXPECT_TRUE(window.checked(11));
+  EXPECT_EQ(window.text(12), "x;y");
+  window.type(10, "new");
+  window.press(11);
+  window.type(12, "z");
+  EXPECT_EQ(shown, "shown") << "rows change with storeToTags only";
+  dialog_.storeToTags();
+  EXPECT_EQ(shown, "new");
+  EXPECT_EQ(flag, 0);
+  EXPECT_EQ(list.toString(), "z");
+  EXPECT_EQ(other, "other");
+  EXPECT_EQ(number, 1);
+}
+
+TEST_F(ToolTipDlgTest, OkAndCancelCloseWithTheirNumbers) {
+  desktop_.expectDialog("Sample", [](ScriptedWindow& window) { window.press(IDOK_CONTROL); });
+  EXPECT_EQ(desktop_.runDialog(sample, dialog_), DIALOG_OK);
+  desktop_.expectDialog("Sample", [](ScriptedWindow& window) { window.press(IDCANCEL_CONTROL); });
+  EXPECT_EQ(desktop_.runDialog(sample, dialog_), DIALOG_CANCEL);
+  desktop_.expectDialog("Sample", [](ScriptedWindow& window) { window.closeBox(); });
+  EXPECT_EQ(desktop_.runDialog(sample, dialog_), DIALOG_CANCEL);
+}
+
+}  // namespace
+}  // namespace tarnwick::test

@@ -1,0 +1,165 @@
+#include "source/Compiler.h"
+
+#include <gtest/gtest.h>
+
+#include "support/SettingsFixture.h"
+
+namespace tarnwick::test {
+namespace {
+
+class CompilerTest : public SettingsFixture {
+ protected:
+  /// The command text that the arguments give.
+  std::string command(const char* alternativeClasspath = nullptr) {
+    std::string text;
+    for (const auto& argument : javacArguments(settings(), alternativeClasspath)) {
+      if (!argument.empty()) text += (text.empty() ? "" : " ") + argument;
+    }
+    return text;
+  }
+
+  std::string makeSource(const std::string& name) {
+    writeFile(userFolder() + name, "class A {}\n");
+    return userFolder() + name;
+  }
+  std::string list(const std::string& text) { return platform::commandLineList(text); }
+  std::string compilerFile() { return settings().javaPath + platform::toolFileName("javac"); }
+};
+
+TEST_F(CompilerTest, TheDefaults) { EXPECT_EQ(command(), "javac -d . -g -classpath ."); }
+
+TEST_F(CompilerTest, EveryArgumentInItsPlace) {
+  Settings& s = settings();
+  s.javacMyJdkVersion = "1.4";
+  s.javacSourceOption = "1.4";
+  s.javacTargetSpec = "1.6";
+  s.javacDestination = "classes";
+  s.javacFastcode = s.javacVerbose = s.javacDeprecation = s.javacNowarn = 1;
+  s.javacJOption = "-J-Xmx1g";
+  s.sourcepath = "a;b";
+  s.classpath = "c;d";
+  s.bootpath = "e;f";
+  s.extdirs = "g;h";
+  EXPECT_EQ(javacArguments(s, nullptr),
+            (std::vector<std::string>{"javac", "-Xswitchcheck -nowarn ", "-source 1.4", "-target 1.6", "-d", "classes",
+                                      "-g", "-O", "-verbose", "-J-Xmx1g", "-deprecation", "-sourcepath", list("a;b"),
+                                      "-classpath " + list("c;d"), "-bootclasspath " + list("e;f"),
+                                      "-extdirs " + list("g;h")}));
+}
+
+TEST_F(CompilerTest, DestinationOfClasses) {
+  settings().javacDestination = "classes";
+  EXPECT_EQ(command(), "javac -d classes -g -classpath .");
+}
+
+TEST_F(CompilerTest, AUserDefinedTarget) {
+  settings().javacTargetSpec = "1.6";
+  EXPECT_EQ(command(), "javac -target 1.6 -d . -g -classpath .");
+}
+
+TEST_F(CompilerTest, WarningsOfTheOldestVersion) {
+  settings().javacNowarn = 1;
+  EXPECT_EQ(javacArguments(settings(), nullptr)[1], "-nowarn ");
+  settings().javacNowarn = 0;
+  EXPECT_EQ(javacArguments(settings(), nullptr)[1], "");
+}
+
+TEST_F(CompilerTest, WarningsOfVersion14) {
+  settings().javacMyJdkVersion = "1.4";
+  EXPECT_EQ(javacArguments(settings(), nullptr)[1], "-Xswitchcheck ");
+  settings().javacXswitchcheck = 0;
+  EXPECT_EQ(javacArguments(settings(), nullptr)[1], "");
+}
+
+TEST_F(CompilerTest, WarningsOfVersion15) {
+  Settings& s = settings();
+  s.javacMyJdkVersion = "1.5";
+  s.javacNowarn = 1;
+  EXPECT_EQ(javacArguments(s, nullptr)[1],
+            "-Xlint:unchecked -Xlint:path -Xlint:serial -Xlint:finally -Xlint:fallthrough ");
+  s.javacWarnConversion = s.javacWarnPath = s.javacWarnSerialize = s.javacWarnFinally = s.javacWarnSwitch = 0;
+  EXPECT_EQ(javacArguments(s, nullptr)[1], "-Xlint:none ");
+  s.javacWarnPath = 1;
+  EXPECT_EQ(javacArguments(s, nullptr)[1], "-Xlint:path ");
+}
+
+TEST_F(CompilerTest, AnAlternativeClasspathWinsEvenIfEmpty) {
+  EXPECT_EQ(javacArguments(settings(), "").back(), "-classpath ");
+  EXPECT_EQ(javacArguments(settings(), "x;y").back(), "-classpath " + list("x;y"));
+}
+
+TEST_F(CompilerTest, TheEnvironmentsClasspathGivesNoOption) {
+  settings().classpathFromEnvironmentAlways = 1;
+  EXPECT_EQ(command(), "javac -d . -g");
+}
+
+TEST_F(CompilerTest, AnUnknownFolderOpensTheSettings) {
+  desktop_.expectDialog("Tarnwick settings", [](ScriptedWindow& window) { window.press(IDCANCEL_CONTROL); });
+  try {
+    Compiler compiler(settings(), nullptr);
+    FAIL() << "no exception";
+  } catch (const Compiler::CannotCompileE& failure) {
+    EXPECT_EQ(failure.message,
+              platform::localText("No path to javac.exe and other tools available from settings"));
+  }
+}
+
+TEST_F(CompilerTest, TheFolderFromTheSettingsDialogIsUsed) {
+  desktop_.expectDialog("Tarnwick settings", [&](ScriptedWindow& window) {
+    window.page(1092, 0).type(1041, standInFolder());
+    window.press(IDOK_CONTROL);
+  });
+  EXPECT_NO_THROW(Compiler(settings(), nullptr));
+}
+
+TEST_F(CompilerTest, ACompilerThatCantBeReadIsTold) {
+  settings().javaPath = scratch_.file("no jdk") + platform::folderSeparator;
+  try {
+    Compiler compiler(settings(), nullptr);
+    FAIL() << "no exception";
+  } catch (const Tarnwickfile::FileNotOpenE& failure) {
+    EXPECT_EQ(failure.message, "Can't access compiler " + compilerFile() +
+                                   "\nNo such file or directory"
+                                   "\nIs the JDK installed? Is the tools directory (Settings!) set correctly?");
+    EXPECT_EQ(failure.file, compilerFile());
+  }
+}
+
+class CompileTest : public CompilerTest {
+ protected:
+  CompileTest()
+      : record_("STANDIN_RECORD", scratch_.file("record")), script_("STANDIN_SCRIPT", scratch_.file("script")) {
+    useStandIns();
+    writeFile(scratch_.file("script"), "");
+  }
+  ScopedEnvironment record_;
+  ScopedEnvironment script_;
+};
+
+TEST_F(CompileTest, ASilentCompilerHasSucceeded) {
+  FileForSubprocess source(makeSource("A b.java"));
+  EXPECT_FALSE(Compiler(settings(), nullptr).compile(source, FileMode::Write));
+  const std::string recorded = contentOf(scratch_.file("record"));
+  for (const std::string& argument : {std::string("-d"), std::string("-classpath"), userFolder() + "A b.java"}) {
+    EXPECT_NE(recorded.find(argument), std::string::npos) << recorded;
+  }
+  EXPECT_TRUE(platform::isFile(configFile())) << "the settings are saved before the tool runs";
+}
+
+TEST_F(CompileTest, AnyOutputHasFailed) {
+  writeFile(scratch_.file("script"), "err A.java:1: warning: deprecated\n");
+  FileForSubprocess source(makeSource("A.java"));
+  EXPECT_TRUE(Compiler(settings(), nullptr).compile(source, FileMode::Write));
+  EXPECT_NE(contentOf(log_.path()).find("A.java:1: warning: deprecated"), std::string::npos);
+  EXPECT_NE(contentOf(log_.path()).find("javac -d . -g -classpath . "), std::string::npos);
+}
+
+TEST_F(CompileTest, WithoutAFolderNothingIsCompiled) {
+  FileForSubprocess source(makeSource("A.java"));
+  Compiler compiler(settings(), nullptr);
+  settings().javaPath.clear();
+  EXPECT_THROW(compiler.compile(source, FileMode::Write), Compiler::CannotCompileE);
+}
+
+}  // namespace
+}  // namespace tarnwick::test

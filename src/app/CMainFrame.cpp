@@ -31,6 +31,7 @@ void CMainFrame::onCommand(int command) {
     case COMMAND_COPY: view_.copy(); break;
     case COMMAND_PASTE: view_.paste(); break;
     case COMMAND_SELECT_ALL: view_.selectAll(); break;
+    case COMMAND_EXIT: view_.closeWindow(); break;
     default: break;
   }
 }

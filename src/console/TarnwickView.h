@@ -41,6 +41,9 @@ class TarnwickView : public ConsoleSurfaceClient {
 
   int childState() const { return child_.childState(); }
 
+  /// Closes the console's window.
+  void closeWindow();
+
   void onStart(ConsoleSurface& surface) override;
   void paint(ConsolePainter& painter) override;
   void onWake() override;

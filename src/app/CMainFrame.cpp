@@ -4,9 +4,20 @@
 
 namespace tarnwick {
 
+namespace {
+
+ConsoleProgram programOf(const ConsoleStart& start) {
+  ConsoleProgram program;
+  program.exeFile = start.exeFile;
+  program.runArguments = start.runArguments;
+  return program;
+}
+
+}  // namespace
+
 CMainFrame::CMainFrame(Desktop& desktop, const Settings& settings, const ConsoleStart& start)
     : document_(desktop, start.title),
-      view_(document_, desktop, {start.exeFile, start.runArguments},
+      view_(document_, desktop, programOf(start),
             [&settings](int group, int index) { return settings.functionKeys.key(group, index); }) {}
 
 bool CMainFrame::commandEnabled(int command) const {

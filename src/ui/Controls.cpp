@@ -130,7 +130,10 @@ void connect(wxWindow& window, const DialogItem& item, const ControlEvents& even
       break;
     case ItemKind::ListBox:
       window.Bind(wxEVT_LISTBOX, tell(events.selectionChanged));
-      window.Bind(wxEVT_LISTBOX_DCLICK, tell(events.doubleClick));
+      window.Bind(wxEVT_LISTBOX_DCLICK, [number, events](wxCommandEvent& event) {
+        event.Skip();  // Return then goes on to the default button
+        if (!handlesKey()) events.doubleClick(number);
+      });
       break;
     default:
       break;
@@ -173,6 +176,8 @@ wxSize naturalSize(const DialogItem& item, const Control& control) {
     // The title with the frame's corners on both sides.
     return {window.GetTextExtent(window.GetLabel()).x + window.FromDIP(24), 0};
   }
+  // Before it shows, a label does not know that its font has changed.
+  if (item.kind == ItemKind::Heading) size.IncTo(window.GetTextExtent(window.GetLabel()));
   size.x = std::max(size.x, widthOfCharacters(window, item.width));
   return size;
 }

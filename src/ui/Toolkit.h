@@ -24,6 +24,9 @@ void nameByLabel(wxWindow& control, wxWindow& label);
 /// True while the list of a combo box hangs open, which Return and Escape then belong to.
 bool isListOpen(wxWindow& comboBox);
 
+/// True while the toolkit handles a key. Its lists take Return for a double click.
+bool handlesKey();
+
 /// Left and top of a window in its normal state; nothing where the window system does not tell.
 std::optional<Point> normalPosition(const wxTopLevelWindow& window);
 

@@ -135,10 +135,7 @@ void WxDialogWindow::finishControl(const DialogItem& item, Control& control, con
   if (item.kind == ItemKind::Label) lastLabel_ = control.window;
   if (before && before->kind == ItemKind::Label && hasName(item.kind)) nameByLabel(*control.window, *lastLabel_);
   if (item.kind == ItemKind::Tabs) bindTabs(item.control, *control.window);
-  if (item.isDefault) {
-    static_cast<wxButton*>(control.window)->SetDefault();
-    defaultButton_ = item.control;
-  }
+  if (item.isDefault) static_cast<wxButton*>(control.window)->SetDefault();
 }
 
 void WxDialogWindow::bindTabs(int control, wxWindow& tabs) {

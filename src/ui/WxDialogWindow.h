@@ -69,7 +69,6 @@ class WxDialogWindow : public DialogWindow {
   WindowStack& stack() { return stack_; }
   bool hasUsable(int control) const;
   void command(int control);
-  std::optional<int> defaultButton() const { return defaultButton_; }
 
  private:
   const Control& at(int control) const;
@@ -96,7 +95,6 @@ class WxDialogWindow : public DialogWindow {
   Node root_;
   wxRadioButton* radioRun_ = nullptr;
   wxWindow* lastLabel_ = nullptr;
-  std::optional<int> defaultButton_;
   bool placedByRules_ = false;
   bool quiet_ = false;  ///< while a change is ours, not the user's
   bool detached_ = false;

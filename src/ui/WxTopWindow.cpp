@@ -6,7 +6,6 @@
 
 #include <wx/app.h>
 #include <wx/evtloop.h>
-#include <wx/listbox.h>
 
 namespace tarnwick::ui {
 
@@ -91,14 +90,9 @@ void WxTopWindow::end() {
 
 void WxTopWindow::onKey(wxKeyEvent& event) {
   wxWindow* const focus = wxWindow::FindFocus();
-  const bool plain = event.GetModifiers() == wxMOD_NONE && !(focus && isListOpen(*focus));
-  const int key = event.GetKeyCode();
-  if (plain && key == WXK_ESCAPE) {
+  const bool listIsOpen = focus && isListOpen(*focus);
+  if (event.GetKeyCode() == WXK_ESCAPE && event.GetModifiers() == wxMOD_NONE && !listIsOpen) {
     onEscape();
-  } else if (plain && (key == WXK_RETURN || key == WXK_NUMPAD_ENTER) && dynamic_cast<wxListBox*>(focus) &&
-             defaultButton()) {
-    // A list would take Return for a double click.
-    if (hasUsable(*defaultButton())) command(*defaultButton());
   } else {
     event.Skip();
   }

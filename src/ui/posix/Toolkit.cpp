@@ -20,6 +20,7 @@ struct Requisition {  // GtkRequisition
 };
 
 constexpr int typeHintNormal = 0;       // GDK_WINDOW_TYPE_HINT_NORMAL
+constexpr int keyPress = 8;             // GDK_KEY_PRESS
 constexpr int operatorDifference = 23;  // CAIRO_OPERATOR_DIFFERENCE
 
 bool onX11() {
@@ -46,6 +47,15 @@ void nameByLabel(wxWindow& control, wxWindow& label) {
 // The open list has a grab of its own and gets its keys first.
 bool isListOpen(wxWindow&) {
   return false;
+}
+
+bool handlesKey() {
+  const auto current = gtk::function<int*()>("gtk_get_current_event");
+  int* const event = current ? current() : nullptr;
+  if (!event) return false;
+  const bool isKey = *event == keyPress;  // an event begins with its type
+  gtk::function<void(void*)>("gdk_event_free")(event);
+  return isKey;
 }
 
 std::optional<Point> normalPosition(const wxTopLevelWindow& window) {

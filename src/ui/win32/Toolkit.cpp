@@ -22,6 +22,10 @@ bool isListOpen(wxWindow& comboBox) {
   return SendMessageW(static_cast<HWND>(comboBox.GetHandle()), CB_GETDROPPEDSTATE, 0, 0) != 0;
 }
 
+bool handlesKey() {
+  return false;
+}
+
 std::optional<Point> normalPosition(const wxTopLevelWindow& window) {
   WINDOWPLACEMENT placement{};
   placement.length = sizeof placement;

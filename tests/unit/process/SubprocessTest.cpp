@@ -345,6 +345,16 @@ TEST(ToolLogTest, IsMadeWithTheFirstOpenAndGoesWithTheProcess) {
   EXPECT_FALSE(platform::isFile(path));
 }
 
+TEST(ToolLogTest, LiesWhereTheConfigurationIsWhenItIsMade) {
+  const ScratchFolder before;
+  const ScratchFolder after;
+  std::string folder = before.path();
+  ToolLog log([&folder] { return folder; });
+  folder = after.path();
+  log.open(FileMode::Write);
+  EXPECT_EQ(log.path(), after.file("Tarnwick_LOG1.tmp"));
+}
+
 TEST(ToolLogTest, ASecondProcesssLogTakesTheNextNumber) {
   const test::ScratchFolder folder;
   ToolLog first(folder.path());

@@ -1,0 +1,507 @@
+#include "base/Tarnwickexception.h"
+#include "ui/SampleDialog.h"
+#include "ui/Text.h"
+#include "ui/WindowTest.h"
+
+#include <wx/button.h>
+#include <wx/listbox.h>
+#include <wx/notebook.h>
+#include <wx/radiobut.h>
+#include <wx/textctrl.h>
+
+#include <set>
+#include <stdexcept>
+
+namespace tarnwick::test {
+
+namespace {
+
+using Heard = std::vector<std::string>;
+
+class DialogTest : public WindowTest {
+ protected:
+  /// Opens the sample dialog, plays the steps and closes it by Cancel.
+  int play() {
+    rules.onPress[IDOK_CONTROL] = [this] { rules.window->close(IDOK_CONTROL); };
+    rules.onPress[IDCANCEL_CONTROL] = [this] { rules.window->close(IDCANCEL_CONTROL); };
+    return desktop().runDialog(sampleLayout(), rules);
+  }
+
+  void fill(DialogWindow& window) {
+    window.addTabPage(SAMPLE_TABS, " First page ", samplePageLayout(), firstPage);
+    window.addTabPage(SAMPLE_TABS, "  Second  ", samplePageLayout(), secondPage);
+    window.addChild(SAMPLE_SLOT, sampleBarLayout(), bar);
+  }
+
+  void thenClose() {
+    steps.then("close", [this] { rules.window->close(IDCANCEL_CONTROL); });
+  }
+
+  void waitForDialog() {
+    steps.until("the dialog shows", [this] { return openDialogs() == 1 && top().dialog().IsActive(); });
+  }
+
+  Recorder rules;
+  Recorder firstPage;
+  Recorder secondPage;
+  Recorder bar;
+};
+
+}  // namespace
+
+TEST_F(DialogTest, EveryKindOfControlShowsWholeAndInItsPlace) {
+  rules.onInitialise = [this](DialogWindow& window) { fill(window); };
+  waitForDialog();
+  steps.settle();
+  steps.then("look", [this] {
+    shoot("sample");
+    expectGoodLooks(top());
+    EXPECT_EQ(top().children().size(), 3u);
+  });
+  thenClose();
+  EXPECT_EQ(play(), IDCANCEL_CONTROL);
+}
+
+TEST_F(DialogTest, EveryPageShowsWholeWhenItsTabIsChosen) {
+  rules.onInitialise = [this](DialogWindow& window) { fill(window); };
+  waitForDialog();
+  steps.then("choose the second tab", [this] { choose(top(), SAMPLE_TABS, 1); });
+  steps.until("the page shows", [this] { return top().children()[1]->surface().IsShownOnScreen(); });
+  steps.settle();
+  steps.then("look", [this] {
+    expectGoodLooks(top());
+    EXPECT_EQ(rules.heard, Heard{"selection 112"});
+    EXPECT_EQ(top().selection(SAMPLE_TABS), 1);
+    EXPECT_EQ(top().entries(SAMPLE_TABS), (std::vector<std::string>{" First page ", "  Second  "}));
+  });
+  thenClose();
+  play();
+}
+
+TEST_F(DialogTest, FieldsBeginAtOneLineBelowEachOther) {
+  waitForDialog();
+  steps.then("look", [this] {
+    EXPECT_EQ(top().rect(SAMPLE_EDIT).left, top().rect(SAMPLE_SHOWN).left);
+    EXPECT_EQ(top().rect(IDOK_CONTROL).width(), top().rect(IDCANCEL_CONTROL).width());
+    EXPECT_EQ(top().rect(IDOK_CONTROL).width(), top().rect(SAMPLE_BUTTON).width());
+    EXPECT_LT(top().rect(SAMPLE_SMALL).width(), top().rect(SAMPLE_BUTTON).width());
+  });
+  thenClose();
+  play();
+}
+
+TEST_F(DialogTest, TheFirstFocusIsTheLayouts) {
+  waitForDialog();
+  steps.until("focus", [this] { return wxWindow::FindFocus() == top().windowOf(SAMPLE_EDIT); });
+  thenClose();
+  play();
+}
+
+TEST_F(DialogTest, TabReachesEveryControl) {
+  rules.onInitialise = [this](DialogWindow& window) {
+    fill(window);
+    window.setEntries(SAMPLE_LIST, {"one", "two"});
+    window.setChecked(SAMPLE_RADIO_A, true);
+    window.setChecked(SAMPLE_OTHER_B, true);
+  };
+  std::set<wxWindow*> reached;
+  waitForDialog();
+  for (int i = 0; i < 26; ++i) {
+    steps.then("Tab", [] { key(WXK_TAB); });
+    steps.settle(3);
+    steps.then("focus", [&reached] { reached.insert(wxWindow::FindFocus()); });
+  }
+  steps.then("look", [&] {
+    for (const int control : {SAMPLE_EDIT, SAMPLE_SMALL, SAMPLE_SHOWN, SAMPLE_CHECK, SAMPLE_RADIO_A, SAMPLE_OTHER_B,
+                              SAMPLE_COMBO, SAMPLE_LIST, SAMPLE_TABS, SAMPLE_BUTTON}) {
+      EXPECT_TRUE(reached.count(top().windowOf(control))) << "control " << control;
+    }
+    EXPECT_TRUE(reached.count(top().windowOf(IDOK_CONTROL)));
+    EXPECT_TRUE(reached.count(top().windowOf(IDCANCEL_CONTROL)));
+    for (const int control : {1, 2, 3}) EXPECT_TRUE(reached.count(top().children()[0]->windowOf(control))) << control;
+    for (const int control : {1, 2, 3, 4})
+      EXPECT_TRUE(reached.count(top().children()[2]->windowOf(control))) << control;
+  });
+  thenClose();
+  play();
+}
+
+TEST_F(DialogTest, OurOwnChangesSendNothing) {
+  rules.onInitialise = [this](DialogWindow& window) { fill(window); };
+  waitForDialog();
+  steps.then("change", [this] {
+    DialogWindow& window = top();
+    window.setText(SAMPLE_EDIT, "a text");
+    window.setText(SAMPLE_SHOWN, "shown");
+    window.setText(SAMPLE_LABEL, "R&D");
+    window.setChecked(SAMPLE_CHECK, true);
+    window.setChecked(SAMPLE_RADIO_B, true);
+    window.setEntries(SAMPLE_LIST, {"one", "two"});
+    window.select(SAMPLE_LIST, 1);
+    window.select(SAMPLE_COMBO, 2);
+    window.select(SAMPLE_TABS, 1);
+  });
+  steps.settle();
+  steps.then("look", [this] {
+    const DialogWindow& window = top();
+    EXPECT_EQ(window.text(SAMPLE_EDIT), "a text");
+    EXPECT_EQ(window.text(SAMPLE_SHOWN), "shown");
+    EXPECT_EQ(window.text(SAMPLE_LABEL), "R&D");
+    EXPECT_EQ(window.text(IDOK_CONTROL), "OK");
+    EXPECT_EQ(window.text(SAMPLE_GROUP), " A group with a title ");
+    EXPECT_TRUE(window.checked(SAMPLE_CHECK));
+    EXPECT_EQ(window.entries(SAMPLE_LIST), (std::vector<std::string>{"one", "two"}));
+    EXPECT_EQ(window.selection(SAMPLE_LIST), 1);
+    EXPECT_EQ(window.text(SAMPLE_COMBO), "third");
+    EXPECT_EQ(window.selection(SAMPLE_COMBO), 2);
+    EXPECT_EQ(window.selection(SAMPLE_TABS), 1);
+    EXPECT_EQ(rules.heard, Heard{});
+  });
+  thenClose();
+  play();
+}
+
+TEST_F(DialogTest, TheUsersChangesAreHeard) {
+  rules.onInitialise = [](DialogWindow& window) { window.setEntries(SAMPLE_LIST, {"one", "two"}); };
+  waitForDialog();
+  steps.then("use", [this] {
+    type(top(), SAMPLE_EDIT, "typed");
+    press(top(), SAMPLE_CHECK);
+    press(top(), SAMPLE_RADIO_C);
+    press(top(), SAMPLE_BUTTON);
+    choose(top(), SAMPLE_COMBO, 1);
+    choose(top(), SAMPLE_LIST, 0);
+    EXPECT_EQ(rules.heard,
+              (Heard{"text 102", "command 104", "command 107", "command 114", "selection 110", "selection 111"}));
+    EXPECT_TRUE(top().checked(SAMPLE_RADIO_C));
+  });
+  thenClose();
+  play();
+}
+
+TEST_F(DialogTest, TypedKeysArriveInTheFieldAndAreHeard) {
+  waitForDialog();
+  steps.until("focus", [this] { return wxWindow::FindFocus() == top().windowOf(SAMPLE_EDIT); });
+  steps.then("type", [] { key('x'); });
+  steps.until("the text is there", [this] { return top().text(SAMPLE_EDIT) == "x"; });
+  steps.then("look", [this] { EXPECT_EQ(rules.heard, Heard{"text 102"}); });
+  thenClose();
+  play();
+}
+
+TEST_F(DialogTest, RadioNeighboursExcludeOneAnother) {
+  waitForDialog();
+  steps.then("look", [this] {
+    DialogWindow& window = top();
+    const auto marks = [&window] {
+      std::string text;
+      for (int control = SAMPLE_RADIO_A; control <= SAMPLE_OTHER_B; ++control)
+        text += window.checked(control) ? 'x' : '.';
+      return text;
+    };
+    EXPECT_EQ(marks(), ".....");  // nothing is chosen before the rules say so
+    window.setChecked(SAMPLE_RADIO_B, true);
+    EXPECT_EQ(marks(), ".x...");
+    window.setChecked(SAMPLE_OTHER_A, true);
+    EXPECT_EQ(marks(), ".x.x.");
+    window.setChecked(SAMPLE_RADIO_A, true);
+    EXPECT_EQ(marks(), "x..x.");
+    window.setChecked(SAMPLE_RADIO_C, false);
+    EXPECT_EQ(marks(), "x..x.");
+    window.setChecked(SAMPLE_RADIO_A, false);
+    EXPECT_EQ(marks(), "...x.");
+    press(top(), SAMPLE_OTHER_B);
+    EXPECT_EQ(marks(), "....x");
+    EXPECT_EQ(rules.heard, Heard{"command 109"});
+  });
+  thenClose();
+  play();
+}
+
+TEST_F(DialogTest, ReturnPressesTheDefaultButton) {
+  waitForDialog();
+  steps.until("focus", [this] { return wxWindow::FindFocus() == top().windowOf(SAMPLE_EDIT); });
+  steps.then("Return", [] { key(WXK_RETURN); });
+  EXPECT_EQ(play(), IDOK_CONTROL);
+  EXPECT_EQ(rules.heard, (Heard{"command 1", "detached"}));
+}
+
+TEST_F(DialogTest, ReturnInAListPressesTheDefaultButtonToo) {
+  rules.onInitialise = [](DialogWindow& window) {
+    window.setEntries(SAMPLE_LIST, {"one", "two"});
+    window.select(SAMPLE_LIST, 0);
+  };
+  waitForDialog();
+  steps.then("focus", [this] { top().focus(SAMPLE_LIST); });
+  steps.until("focus", [this] { return wxWindow::FindFocus() == top().windowOf(SAMPLE_LIST); });
+  steps.then("Return", [] { key(WXK_RETURN); });
+  EXPECT_EQ(play(), IDOK_CONTROL);
+  EXPECT_EQ(rules.heard, (Heard{"command 1", "detached"}));
+}
+
+TEST_F(DialogTest, EscapePressesCancel) {
+  waitForDialog();
+  steps.settle(5);
+  steps.then("Escape", [] { key(WXK_ESCAPE); });
+  EXPECT_EQ(play(), IDCANCEL_CONTROL);
+  EXPECT_EQ(rules.heard, (Heard{"command 2", "detached"}));
+}
+
+TEST_F(DialogTest, EscapeIsACloseRequestWhereNoCancelStands) {
+  DialogLayout only;
+  only.title = "Only one button";
+  only.content = layout::column({layout::button(7, "Go on").asDefault()});
+  rules.onClose = [this] { rules.window->close(99); };
+  waitForDialog();
+  steps.settle(5);
+  steps.then("Escape", [] { key(WXK_ESCAPE); });
+  EXPECT_EQ(desktop().runDialog(only, rules), 99);
+  EXPECT_EQ(rules.heard, (Heard{"close", "detached"}));
+}
+
+TEST_F(DialogTest, ADisabledCancelTakesNoEscape) {
+  rules.onInitialise = [](DialogWindow& window) { window.enable(IDCANCEL_CONTROL, false); };
+  waitForDialog();
+  steps.settle(5);
+  steps.then("Escape", [] { key(WXK_ESCAPE); });
+  steps.settle(5);
+  steps.then("look", [this] { EXPECT_EQ(rules.heard, Heard{}); });
+  thenClose();
+  play();
+}
+
+TEST_F(DialogTest, TheCloseBoxAsksTheRulesAndClosesNothingByItself) {
+  waitForDialog();
+  steps.then("close box", [this] { top().dialog().Close(); });
+  steps.settle();
+  steps.then("look", [this] {
+    EXPECT_EQ(rules.heard, Heard{"close"});
+    EXPECT_EQ(openDialogs(), 1u);
+  });
+  thenClose();
+  play();
+}
+
+TEST_F(DialogTest, ADialogClosedWhileItIsSetUpDoesNotShow) {
+  rules.onInitialise = [](DialogWindow& window) { window.close(42); };
+  EXPECT_EQ(play(), 42);
+  EXPECT_EQ(rules.heard, Heard{"detached"});
+}
+
+TEST_F(DialogTest, EnablingAndShowing) {
+  waitForDialog();
+  steps.then("change", [this] {
+    DialogWindow& window = top();
+    EXPECT_TRUE(window.enabled(SAMPLE_BUTTON));
+    EXPECT_TRUE(window.visible(SAMPLE_BUTTON));
+    window.enable(SAMPLE_BUTTON, false);
+    EXPECT_FALSE(window.enabled(SAMPLE_BUTTON));
+    window.show(SAMPLE_BUTTON, false);
+    EXPECT_FALSE(window.visible(SAMPLE_BUTTON));
+    window.show(SAMPLE_BUTTON, true);
+    window.enable(SAMPLE_BUTTON, true);
+    EXPECT_TRUE(window.enabled(SAMPLE_BUTTON));
+    EXPECT_TRUE(window.visible(SAMPLE_BUTTON));
+  });
+  thenClose();
+  play();
+}
+
+TEST_F(DialogTest, ANumberThatNoControlBearsIsAFaultOfTheProgram) {
+  waitForDialog();
+  steps.then("ask", [this] {
+    EXPECT_THROW(static_cast<void>(top().text(4711)), std::out_of_range);
+    EXPECT_THROW(top().setText(4711, "x"), std::out_of_range);
+    EXPECT_THROW(top().addTabPage(SAMPLE_EDIT, "x", samplePageLayout(), firstPage), std::out_of_range);
+  });
+  thenClose();
+  play();
+}
+
+TEST_F(DialogTest, ControlsStayWhereTheRulesPutThem) {
+  const Rect target{300, 200, 420, 240};
+  waitForDialog();
+  steps.then("move", [&] { top().setRect(SAMPLE_BUTTON, target); });
+  steps.settle();
+  steps.then("look", [&] {
+    EXPECT_EQ(top().rect(SAMPLE_BUTTON), target);
+    EXPECT_EQ(top().windowOf(SAMPLE_BUTTON)->GetRect(), wxRect(300, 200, 120, 40));
+  });
+  thenClose();
+  play();
+}
+
+TEST_F(DialogTest, RectanglesAreThereBeforeTheWindowShows) {
+  Rect edit;
+  rules.onInitialise = [&](DialogWindow& window) { edit = window.rect(SAMPLE_EDIT); };
+  waitForDialog();
+  thenClose();
+  play();
+  EXPECT_GT(edit.width(), 50);
+  EXPECT_GT(edit.height(), 10);
+  EXPECT_GT(edit.left, 0);
+}
+
+TEST_F(DialogTest, TheWindowGrowsWithWhatIsFilledInAtTheStart) {
+  Rect before;
+  rules.onInitialise = [&](DialogWindow& window) {
+    before = window.rect(SAMPLE_LABEL);
+    window.setText(SAMPLE_LABEL, "A long text that the rules fill in when the dialog opens, and that must show whole");
+  };
+  waitForDialog();
+  steps.settle();
+  steps.then("look", [&] {
+    EXPECT_GT(top().rect(SAMPLE_LABEL).width(), before.width());
+    expectGoodLooks(top());
+  });
+  thenClose();
+  play();
+}
+
+TEST_F(DialogTest, ALongLabelBreaksAndKeepsItsText) {
+  std::string text;
+  for (int i = 0; i < 60; ++i) text += "word" + std::to_string(i) + ' ';
+  rules.onInitialise = [&](DialogWindow& window) { window.setText(SAMPLE_LABEL, text); };
+  waitForDialog();
+  steps.settle();
+  steps.then("look", [&] {
+    EXPECT_EQ(top().text(SAMPLE_LABEL), text);
+    EXPECT_LT(top().rect(SAMPLE_LABEL).width(), 1000);
+    expectGoodLooks(top());
+  });
+  thenClose();
+  play();
+}
+
+TEST_F(DialogTest, ALabelThatChangesLaterKeepsItsPlace) {
+  Rect before;
+  waitForDialog();
+  steps.then("change", [&] {
+    before = top().rect(SAMPLE_LABEL);
+    top().setText(SAMPLE_LABEL, std::string(200, 'm'));
+  });
+  steps.settle();
+  steps.then("look", [&] { EXPECT_EQ(top().rect(SAMPLE_LABEL), before); });
+  thenClose();
+  play();
+}
+
+TEST_F(DialogTest, ALongTextShowsItsEnd) {
+  waitForDialog();
+  steps.then("scroll", [this] {
+    std::string text(300, 'a');
+    text += "end";
+    top().setText(SAMPLE_EDIT, text);
+    top().scrollToEnd(SAMPLE_EDIT);
+    EXPECT_EQ(dynamic_cast<wxTextCtrl*>(top().windowOf(SAMPLE_EDIT))->GetInsertionPoint(), 303);
+  });
+  thenClose();
+  play();
+}
+
+TEST_F(DialogTest, ToolTipsAndTitles) {
+  waitForDialog();
+  steps.then("look", [this] {
+    top().setToolTip(SAMPLE_BUTTON, "What the button does");
+    EXPECT_EQ(ui::fromWx(top().windowOf(SAMPLE_BUTTON)->GetToolTipText()), "What the button does");
+    EXPECT_EQ(top().title(), "A sample of all controls");
+    top().setTitle("Another title");
+    EXPECT_EQ(top().dialog().GetTitle(), "Another title");
+  });
+  thenClose();
+  play();
+}
+
+TEST_F(DialogTest, PagesHearTheirOwnControlsAndCloseTheWholeDialog) {
+  rules.onInitialise = [this](DialogWindow& window) { fill(window); };
+  firstPage.onPress[2] = [this] { firstPage.window->close(77); };
+  waitForDialog();
+  steps.then("use", [this] {
+    type(*top().children()[0], 1, "on the page");
+    press(*top().children()[2], 3);
+    press(*top().children()[0], 2);
+  });
+  EXPECT_EQ(play(), 77);
+  EXPECT_EQ(firstPage.heard, (Heard{"text 1", "command 2", "detached"}));
+  EXPECT_EQ(secondPage.heard, Heard{"detached"});
+  EXPECT_EQ(bar.heard, (Heard{"command 3", "detached"}));
+  EXPECT_EQ(rules.heard, Heard{"detached"});
+}
+
+TEST_F(DialogTest, AChildWindowHidesAndShows) {
+  rules.onInitialise = [this](DialogWindow& window) { fill(window); };
+  waitForDialog();
+  steps.then("hide", [this] {
+    bar.window->showWindow(false);
+    EXPECT_FALSE(top().children()[2]->surface().IsShown());
+    bar.window->showWindow(true);
+    EXPECT_TRUE(top().children()[2]->surface().IsShownOnScreen());
+  });
+  thenClose();
+  play();
+}
+
+TEST_F(DialogTest, AListSpeaksOfDoubleClicks) {
+  rules.onInitialise = [](DialogWindow& window) { window.setEntries(SAMPLE_LIST, {"one"}); };
+  waitForDialog();
+  steps.then("press twice", [this] {
+    wxWindow& list = *top().windowOf(SAMPLE_LIST);
+    wxCommandEvent event(wxEVT_LISTBOX_DCLICK, list.GetId());
+    list.ProcessWindowEvent(event);
+    EXPECT_EQ(rules.heard, Heard{"double 111"});
+  });
+  thenClose();
+  play();
+}
+
+TEST_F(DialogTest, AnOuterDialogThatIsToCloseWaitsForTheInnerOne) {
+  Recorder inner;
+  int innerResult = 0;
+  rules.onPress[SAMPLE_BUTTON] = [&] { innerResult = desktop().runDialog(smallLayout("Inner"), inner); };
+  waitForDialog();
+  steps.then("open the inner one", [this] { press(top(), SAMPLE_BUTTON); });
+  steps.until("the inner one shows", [this] { return openDialogs() == 2; });
+  steps.then("close the outer one", [this] { rules.window->close(5); });
+  steps.settle(5);
+  steps.then("look", [&] {
+    EXPECT_EQ(openDialogs(), 2u);
+    EXPECT_NE(inner.window, nullptr);
+    inner.window->close(3);
+  });
+  EXPECT_EQ(play(), 5);
+  EXPECT_EQ(innerResult, 3);
+  EXPECT_EQ(inner.heard, Heard{"detached"});
+  EXPECT_EQ(rules.heard, (Heard{"command 114", "detached"}));
+}
+
+TEST_F(DialogTest, ThreeDialogsDeepCloseInnermostFirst) {
+  Recorder second;
+  Recorder third;
+  std::vector<int> results;
+  rules.onPress[SAMPLE_BUTTON] = [&] { results.push_back(desktop().runDialog(smallLayout("Second"), second)); };
+  second.onPress[IDOK_CONTROL] = [&] { results.push_back(desktop().runDialog(smallLayout("Third"), third)); };
+  waitForDialog();
+  steps.then("second", [this] { press(top(), SAMPLE_BUTTON); });
+  steps.until("it shows", [this] { return openDialogs() == 2; });
+  steps.then("third", [this] { press(top(), IDOK_CONTROL); });
+  steps.until("it shows", [this] { return openDialogs() == 3; });
+  steps.then("close all", [&] {
+    rules.window->close(10);
+    second.window->close(20);
+    third.window->close(30);
+  });
+  EXPECT_EQ(play(), 10);
+  EXPECT_EQ(results, (std::vector<int>{30, 20}));
+}
+
+TEST_F(DialogTest, TheFirstResultCounts) {
+  waitForDialog();
+  steps.then("close twice", [this] {
+    DialogWindow& window = *rules.window;
+    window.close(8);
+    window.close(9);
+  });
+  EXPECT_EQ(play(), 8);
+}
+
+}  // namespace tarnwick::test

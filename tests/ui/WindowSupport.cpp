@@ -1,0 +1,275 @@
+#include "platform/FileSystem.h"
+#include "ui/Text.h"
+#include "ui/WindowTest.h"
+
+#include <wx/app.h>
+#include <wx/checkbox.h>
+#include <wx/combobox.h>
+#include <wx/dcmemory.h>
+#include <wx/dcscreen.h>
+#include <wx/image.h>
+#include <wx/listbox.h>
+#include <wx/notebook.h>
+#include <wx/radiobut.h>
+#include <wx/statbox.h>
+#include <wx/stattext.h>
+#include <wx/textctrl.h>
+#include <wx/uiaction.h>
+
+#include <atomic>
+#include <chrono>
+#include <condition_variable>
+#include <cstdio>
+#include <cstdlib>
+#include <mutex>
+#include <thread>
+
+namespace tarnwick::test {
+
+namespace {
+
+ui::WxDesktop* theDesktop = nullptr;
+
+/// Ends a test program that hangs, with a message, whatever the user-interface thread is at.
+class Watchdog {
+ public:
+  Watchdog() {
+    std::thread([this] { watch(); }).detach();
+  }
+
+  void step(const std::string& name) {
+    const std::lock_guard<std::mutex> guard(lock_);
+    step_ = name;
+    ++signs_;
+  }
+
+ private:
+  void watch() {
+    constexpr int patience = 30;  // seconds without a sign of life
+    for (int waited = 0;; ++waited) {
+      const int before = signs_;
+      std::this_thread::sleep_for(std::chrono::seconds(1));
+      if (before != signs_) waited = 0;
+      if (waited < patience) continue;
+      const std::lock_guard<std::mutex> guard(lock_);
+      std::printf("A window test hangs at: %s\n", step_.c_str());
+      std::fflush(stdout);
+      std::_Exit(3);
+    }
+  }
+
+  std::mutex lock_;
+  std::string step_;
+  std::atomic<int> signs_ = 0;
+};
+
+Watchdog& watchdog() {
+  static auto* const dog = new Watchdog;  // its thread outlives everything
+  return *dog;
+}
+
+std::string testName() {
+  const auto* test = testing::UnitTest::GetInstance()->current_test_info();
+  return test ? std::string(test->test_suite_name()) + "." + test->name() : "between tests";
+}
+
+}  // namespace
+
+ui::WxDesktop& desktop() {
+  return *theDesktop;
+}
+
+void setDesktop(ui::WxDesktop* desktop) {
+  theDesktop = desktop;
+}
+
+Steps::Steps() {
+  Start(15);
+}
+
+Steps::~Steps() {
+  Stop();
+  for (const auto& step : steps_) ADD_FAILURE() << "never came to the step: " << step.name;
+}
+
+void Steps::then(const std::string& name, std::function<void()> action) {
+  steps_.push_back({name, std::move(action), {}});
+}
+
+void Steps::until(const std::string& name, std::function<bool()> condition) {
+  steps_.push_back({name, {}, std::move(condition)});
+}
+
+void Steps::settle(int rounds) {
+  auto left = std::make_shared<int>(rounds);
+  until("settle", [left] { return --*left <= 0; });
+}
+
+void Steps::Notify() {
+  if (steps_.empty()) return;
+  if (steps_.front().condition) {
+    if (!steps_.front().condition()) return;
+    watchdog().step(testName() + ": after " + steps_.front().name);
+    steps_.pop_front();
+    return;
+  }
+  const auto step = std::move(steps_.front());
+  steps_.pop_front();
+  watchdog().step(testName() + ": " + step.name);
+  // Not from the timer itself, which would stand still while a step's dialog is open.
+  wxTheApp->CallAfter(step.action);
+}
+
+WindowTest::WindowTest() {
+  watchdog().step(testName());
+}
+
+WindowTest::~WindowTest() = default;
+
+ui::WxTopWindow& WindowTest::top() const {
+  if (desktop().openDialogs().empty()) throw std::runtime_error("no dialog is open");
+  return *desktop().openDialogs().back();
+}
+
+namespace {
+
+/// The control's window, or null with a failed test if a person could not use it.
+wxWindow* usable(ui::WxDialogWindow& window, int control) {
+  wxWindow* const found = window.windowOf(control);
+  if (!found) {
+    ADD_FAILURE() << "no control " << control;
+    return nullptr;
+  }
+  EXPECT_TRUE(found->IsEnabled()) << "control " << control << " is disabled";
+  EXPECT_TRUE(found->IsShownOnScreen()) << "control " << control << " does not show";
+  const auto& open = desktop().openDialogs();
+  EXPECT_TRUE(open.empty() || wxGetTopLevelParent(found) == &open.back()->dialog())
+      << "control " << control << " is not in the innermost dialog";
+  return testing::Test::HasFailure() ? nullptr : found;
+}
+
+void send(wxWindow& window, const wxEventTypeTag<wxCommandEvent>& type, int value = 0) {
+  wxCommandEvent event(type, window.GetId());
+  event.SetEventObject(&window);
+  event.SetInt(value);
+  window.ProcessWindowEvent(event);
+}
+
+}  // namespace
+
+void press(ui::WxDialogWindow& window, int control) {
+  wxWindow* const pressed = usable(window, control);
+  if (!pressed) return;
+  if (auto* box = dynamic_cast<wxCheckBox*>(pressed)) {
+    box->SetValue(!box->GetValue());
+    send(*box, wxEVT_CHECKBOX, box->GetValue());
+  } else if (auto* radio = dynamic_cast<wxRadioButton*>(pressed)) {
+    radio->SetValue(true);
+    send(*radio, wxEVT_RADIOBUTTON, 1);
+  } else {
+    send(*pressed, wxEVT_BUTTON);
+  }
+}
+
+void type(ui::WxDialogWindow& window, int control, const std::string& text) {
+  if (auto* field = dynamic_cast<wxTextCtrl*>(usable(window, control))) {
+    EXPECT_TRUE(field->IsEditable()) << "field " << control << " only shows";
+    field->SetFocus();
+    field->SetValue(ui::toWx(text));  // sends its event, as typing does
+  }
+}
+
+void choose(ui::WxDialogWindow& window, int control, int index) {
+  wxWindow* const found = usable(window, control);
+  if (auto* combo = dynamic_cast<wxComboBox*>(found)) {
+    combo->SetSelection(index);
+    send(*combo, wxEVT_COMBOBOX, index);
+  } else if (auto* list = dynamic_cast<wxListBox*>(found)) {
+    list->SetSelection(index);
+    send(*list, wxEVT_LISTBOX, index);
+  } else if (auto* tabs = dynamic_cast<wxNotebook*>(found)) {
+    tabs->SetSelection(static_cast<std::size_t>(index));  // sends its event
+  }
+}
+
+void key(int code, int modifiers) {
+  wxUIActionSimulator keyboard;
+  keyboard.Char(code, modifiers);
+}
+
+namespace {
+
+std::string nameOf(const wxWindow& window) {
+  return ui::fromWx(window.GetName() + " \"" + window.GetLabel() + "\"");
+}
+
+/// The controls that stand side by side on one surface and show.
+std::vector<wxWindow*> shownOn(const wxWindow& surface) {
+  std::vector<wxWindow*> shown;
+  for (wxWindow* child : surface.GetChildren()) {
+    if (child->IsShown() && !child->IsTopLevel()) shown.push_back(child);
+  }
+  return shown;
+}
+
+void expectPlaces(const wxWindow& surface, const wxRect& room) {
+  const auto windows = shownOn(surface);
+  for (std::size_t i = 0; i < windows.size(); ++i) {
+    const wxRect rect = windows[i]->GetRect();
+    EXPECT_TRUE(room.Contains(rect)) << nameOf(*windows[i]) << " stands out: " << rect.x << "," << rect.y << " "
+                                     << rect.width << "x" << rect.height << " in " << room.width << "x" << room.height;
+    for (std::size_t other = i + 1; other < windows.size(); ++other) {
+      const wxRect second = windows[other]->GetRect();
+      if (!rect.Intersects(second)) continue;
+      // A frame goes around its controls, which come after it.
+      const bool framed = dynamic_cast<wxStaticBox*>(windows[i]) && rect.Contains(second);
+      EXPECT_TRUE(framed) << nameOf(*windows[i]) << " and " << nameOf(*windows[other]) << " overlap";
+    }
+  }
+}
+
+bool mustShowWhole(const wxWindow& window) {
+  return !dynamic_cast<const wxTextCtrl*>(&window) && !dynamic_cast<const wxListBox*>(&window) &&
+         !dynamic_cast<const wxNotebook*>(&window) && !dynamic_cast<const wxPanel*>(&window) &&
+         !dynamic_cast<const wxStaticBox*>(&window);
+}
+
+void expectWhole(const wxWindow& surface) {
+  for (const wxWindow* window : shownOn(surface)) {
+    const wxSize size = window->GetSize();
+    if (mustShowWhole(*window)) {
+      const wxSize best = window->GetBestSize();
+      EXPECT_TRUE(best.x <= size.x && best.y <= size.y)
+          << nameOf(*window) << " is cut: " << size.x << "x" << size.y << " of " << best.x << "x" << best.y;
+    } else if (dynamic_cast<const wxStaticBox*>(window)) {
+      EXPECT_LE(window->GetTextExtent(window->GetLabel()).x, size.x) << nameOf(*window) << " is cut";
+    } else if (dynamic_cast<const wxTextCtrl*>(window)) {
+      EXPECT_GE(size.y, window->GetCharHeight()) << nameOf(*window) << " is too low";
+      EXPECT_GE(size.x, 4 * window->GetCharWidth()) << nameOf(*window) << " is too narrow";
+    }
+  }
+}
+
+}  // namespace
+
+void expectGoodLooks(ui::WxDialogWindow& window) {
+  const wxWindow& surface = window.surface();
+  if (!surface.IsShownOnScreen()) return;  // another tab's page
+  expectPlaces(surface, wxRect(surface.GetClientSize()));
+  expectWhole(surface);
+  for (const auto& child : window.children()) expectGoodLooks(*child);
+}
+
+void shoot(const std::string& name) {
+  const auto folder = platform::environment("TARNWICK_SHOTS");
+  if (!folder) return;
+  wxScreenDC screen;
+  const wxSize size = screen.GetSize();
+  wxBitmap bitmap(size.x, size.y);
+  wxMemoryDC memory(bitmap);
+  memory.Blit(0, 0, size.x, size.y, &screen, 0, 0);
+  memory.SelectObject(wxNullBitmap);
+  bitmap.ConvertToImage().SaveFile(ui::toWx(*folder + "/" + name + ".bmp"), wxBITMAP_TYPE_BMP);
+}
+
+}  // namespace tarnwick::test

@@ -12,6 +12,7 @@
 #include <wx/notebook.h>
 #include <wx/panel.h>
 #include <wx/radiobut.h>
+#include <wx/settings.h>
 #include <wx/statbmp.h>
 #include <wx/statbox.h>
 #include <wx/stattext.h>
@@ -52,9 +53,9 @@ class Label : public wxStaticText {
 };
 
 /// Buttons with signs in the place of words are as narrow as their text.
-long buttonStyle(const std::string& text) {
+bool bearsSigns(const std::string& text) {
   const auto isLetter = [](unsigned char c) { return std::isalpha(c) != 0; };
-  return std::any_of(text.begin(), text.end(), isLetter) ? 0 : wxBU_EXACTFIT;
+  return std::none_of(text.begin(), text.end(), isLetter);
 }
 
 wxWindow* makeHeading(wxWindow& parent, const std::string& text) {
@@ -70,8 +71,10 @@ wxWindow* makeCombo(wxWindow& parent, const DialogItem& item) {
 }
 
 wxWindow* makeEdit(wxWindow& parent, const DialogItem& item) {
-  return new wxTextCtrl(&parent, wxID_ANY, toWx(item.text), wxDefaultPosition, wxDefaultSize,
-                        item.readOnly ? wxTE_READONLY : 0);
+  auto* edit = new wxTextCtrl(&parent, wxID_ANY, toWx(item.text), wxDefaultPosition, wxDefaultSize,
+                              item.readOnly ? wxTE_READONLY : 0);
+  if (item.readOnly) edit->SetBackgroundColour(wxSystemSettings::GetColour(wxSYS_COLOUR_BTNFACE));
+  return edit;
 }
 
 wxWindow* makeWindow(wxWindow& parent, const DialogItem& item) {
@@ -87,7 +90,7 @@ wxWindow* makeWindow(wxWindow& parent, const DialogItem& item) {
     case ItemKind::Edit:
       return makeEdit(parent, item);
     case ItemKind::Button:
-      return new wxButton(&parent, wxID_ANY, toWx(item.text), wxDefaultPosition, wxDefaultSize, buttonStyle(item.text));
+      return new wxButton(&parent, wxID_ANY, toWx(item.text));
     case ItemKind::CheckBox:
       return new wxCheckBox(&parent, wxID_ANY, toWx(item.text));
     case ItemKind::RadioButton:
@@ -177,7 +180,10 @@ wxSize naturalSize(const DialogItem& item, const Control& control) {
     return {window.GetTextExtent(window.GetLabel()).x + window.FromDIP(24), 0};
   }
   // Before it shows, a label does not know that its font has changed.
-  if (item.kind == ItemKind::Heading) size.IncTo(window.GetTextExtent(window.GetLabel()));
+  if (item.kind == ItemKind::Heading) size.IncTo(window.GetTextExtent(window.GetLabel()) + wxSize(2, 2));
+  if (item.kind == ItemKind::Button && bearsSigns(item.text)) {
+    size.x = window.GetTextExtent(window.GetLabel()).x + window.FromDIP(24);
+  }
   size.x = std::max(size.x, widthOfCharacters(window, item.width));
   return size;
 }

@@ -260,16 +260,22 @@ void expectGoodLooks(ui::WxDialogWindow& window) {
   for (const auto& child : window.children()) expectGoodLooks(*child);
 }
 
+wxImage screen(const wxRect& area) {
+  wxScreenDC screen;
+  wxBitmap bitmap(area.width, area.height, 24);
+  wxMemoryDC memory(bitmap);
+  memory.Blit(0, 0, area.width, area.height, &screen, area.x, area.y);
+  memory.SelectObject(wxNullBitmap);
+  return bitmap.ConvertToImage();
+}
+
 void shoot(const std::string& name) {
   const auto folder = platform::environment("TARNWICK_SHOTS");
   if (!folder) return;
-  wxScreenDC screen;
-  const wxSize size = screen.GetSize();
-  wxBitmap bitmap(size.x, size.y);
-  wxMemoryDC memory(bitmap);
-  memory.Blit(0, 0, size.x, size.y, &screen, 0, 0);
-  memory.SelectObject(wxNullBitmap);
-  bitmap.ConvertToImage().SaveFile(ui::toWx(*folder + "/" + name + ".bmp"), wxBITMAP_TYPE_BMP);
+  const std::string file = *folder + "/" + name;
+  // On Linux the toolkit's picture of the screen is the same for ever; the X server's own tool sees the truth.
+  if (std::system(("import -window root -trim +repage \"" + file + ".png\"").c_str()) == 0) return;
+  screen(wxRect(wxScreenDC().GetSize())).SaveFile(ui::toWx(file + ".bmp"), wxBITMAP_TYPE_BMP);
 }
 
 }  // namespace tarnwick::test

@@ -48,7 +48,7 @@ class Label : public wxStaticText {
   const std::string& text() const { return text_; }
 
  private:
-  static constexpr int charactersInLine = 90;
+  static constexpr int charactersInLine = 75;
   std::string text_;
 };
 

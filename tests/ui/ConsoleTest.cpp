@@ -11,6 +11,7 @@
 #include <atomic>
 #include <chrono>
 #include <set>
+#include <sstream>
 #include <thread>
 
 namespace tarnwick::test {
@@ -47,12 +48,16 @@ class FakeConsole : public ConsoleFrame, public ConsoleSurfaceClient {
     return true;
   }
   void onCharacter(const std::string& character, int count) override {
-    std::string shown;
+    std::ostringstream shown;
     for (const char c : character) {
-      const auto byte = static_cast<unsigned char>(c);
-      shown += byte < 32 ? "<" + std::to_string(byte) + ">" : std::string(1, c);
+      const int byte = static_cast<unsigned char>(c);
+      if (byte < 32) {
+        shown << '<' << byte << '>';
+      } else {
+        shown << c;
+      }
     }
-    for (int i = 0; i < count; ++i) heard.push_back("char " + shown);
+    for (int i = 0; i < count; ++i) heard.push_back("char " + shown.str());
   }
   void onLeftDown(const MouseState& mouse) override { hearMouse("down", mouse); }
   void onLeftUp(const MouseState& mouse) override { hearMouse("up", mouse); }

@@ -32,7 +32,6 @@ class CMainFrame : public ConsoleFrame {
   ConsoleSurfaceClient& view() override { return view_; }
 
  private:
-  Desktop& desktop_;
   TarnwickDoc document_;
   TarnwickView view_;
 };

@@ -32,7 +32,7 @@ TarnwickApp::TarnwickApp(Desktop& desktop, ConsoleFrameHost& frameHost, const st
     : desktop_(desktop),
       frameHost_(frameHost),
       program_(programAt(executablePath)),
-      log_(program_.configDirectory()),
+      log_([this] { return Filename(program_.configDirectory(), "x").directory(); }),
       context_{desktop, program_, log_},
       settings_(context_) {}
 

@@ -163,6 +163,10 @@ void TarnwickView::closeIfEnded() {
   if (surface_ && child_.childState() == 0) surface_->close();
 }
 
+void TarnwickView::closeWindow() {
+  if (surface_) surface_->close();
+}
+
 bool TarnwickView::onKey(ConsoleKey key, int modifiers) {
   // Alt alone makes it a system key, which is looked up as a function key and nothing else.
   const bool systemKey = (modifiers & ALT_BIT) != 0 && (modifiers & CTRL_BIT) == 0;

@@ -37,9 +37,12 @@ class TarnwickView : public ConsoleSurfaceClient {
   void copy();
   void paste();
   bool canCopy() const { return selection_.state() != ConsoleSelection::STATE_NONE; }
-  bool canPaste() { return desktop_.clipboardText().has_value(); }
+  bool canPaste() const { return desktop_.clipboardText().has_value(); }
 
   int childState() const { return child_.childState(); }
+
+  /// Closes the console's window.
+  void closeWindow();
 
   void onStart(ConsoleSurface& surface) override;
   void paint(ConsolePainter& painter) override;

@@ -31,8 +31,9 @@ bool makeFolders(const std::string& path);
 /// Sends what was written to `stream` to the disk. False with `errno` on failure.
 bool flushToDisk(std::FILE* stream);
 
-/// Puts `from` in the place of `to` in one step; a file that was there passes its permissions on. False with `errno` on
-/// failure, with both as they were.
+/// Puts `from` in the place of `to` in one step. On Linux owner and permissions of a file that was there are kept, and
+/// a file whose owner cannot be kept is not replaced. False with `errno` on failure, with the content of both as it
+/// was.
 bool replaceFile(const std::string& from, const std::string& to);
 
 /// The path with links resolved and made absolute; the path itself where that is not possible. A link to what does not

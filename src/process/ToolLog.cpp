@@ -6,7 +6,7 @@ namespace tarnwick {
 
 void ToolLog::open(FileMode mode) {
   const std::lock_guard lock(lock_);
-  if (!file_) file_ = std::make_unique<TempFile>("Tarnwick_LOG", folder_);
+  if (!file_) file_ = std::make_unique<TempFile>("Tarnwick_LOG", folder_());
   file_->openTemp(mode);
 }
 

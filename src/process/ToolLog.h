@@ -3,6 +3,7 @@
 #include "base/TempFile.h"
 
 #include <cstddef>
+#include <functional>
 #include <memory>
 #include <mutex>
 #include <string>
@@ -12,8 +13,11 @@ namespace tarnwick {
 /// The tools' output of one process: one temporary file, made with the first run and opened anew for each.
 class ToolLog {
  public:
-  /// `folder` is the configuration folder, with its last separator.
-  explicit ToolLog(std::string folder) : folder_(std::move(folder)) {}
+  /// `folder` gives the configuration folder, with its last separator. It is asked when the log is made, since the
+  /// configuration may have moved by then.
+  explicit ToolLog(std::function<std::string()> folder) : folder_(std::move(folder)) {}
+  /// A folder that does not move.
+  explicit ToolLog(const std::string& folder) : ToolLog([folder] { return folder; }) {}
 
   /// Makes the file if this process has none yet, and opens it. Throws Tarnwickfile::FileNotOpenE.
   void open(FileMode mode);
@@ -27,7 +31,7 @@ class ToolLog {
   std::recursive_mutex& lock() { return lock_; }
 
  private:
-  std::string folder_;
+  std::function<std::string()> folder_;
   std::unique_ptr<TempFile> file_;
   mutable std::recursive_mutex lock_;
 };

@@ -16,12 +16,7 @@ namespace {
 // Between fork and the end of the guard only calls that are safe beside other threads: the copy has this one thread,
 // and whatever lock another one held stays locked.
 
-[[noreturn]] void watch(int line, pid_t group) {
-  prctl(PR_SET_NAME, "tarnwick-guard");
-  dup2(line, 0);
-  syscall(SYS_close_range, 1U, ~0U, 0U);
-  if (chdir("/") != 0) _exit(1);
-
+[[noreturn]] void watch(pid_t group) {
   char word = 0;
   ssize_t count = 0;
   do {
@@ -39,10 +34,15 @@ namespace {
 /// Runs in the first copy: makes the guard a child of nobody, so that it leaves nothing behind for us to wait for.
 [[noreturn]] void becomeGuard(int line, pid_t group) {
   if (setpgid(0, group) != 0) _exit(errno);
+  // Our copies of other files are gone before the owner goes on, so that the ends of its pipes are seen at once.
+  dup2(line, 0);
+  syscall(SYS_close_range, 1U, ~0U, 0U);
+  prctl(PR_SET_NAME, "tarnwick-guard");
+  if (chdir("/") != 0) _exit(errno);
   const pid_t guard = fork();
   if (guard < 0) _exit(errno);
   if (guard > 0) _exit(0);
-  watch(line, group);
+  watch(group);
 }
 
 /// Blocks all signals for its lifetime. The copies inherit that: the TERM for the group is not meant for the guard.

@@ -84,7 +84,8 @@ bool flushToDisk(std::FILE* stream) {
   const bool failedBefore = std::ferror(stream) != 0;
   if (std::fflush(stream) != 0) return false;
   if (failedBefore) {
-    errno = EIO;
+    // Nobody kept the reason of that failure; what refused one write refuses another, and tells it again.
+    if (std::fputc('\n', stream) != EOF && std::fflush(stream) == 0) errno = EIO;
     return false;
   }
   // EINVAL: a device or pipe that knows no disk.

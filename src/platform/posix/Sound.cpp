@@ -32,24 +32,29 @@ ca_context* soundContext() {
   return context;
 }
 
-bool play(const char* event) {
-  return ca_context_play(soundContext(), 0, CA_PROP_EVENT_ID, event, CA_PROP_EVENT_DESCRIPTION, event, nullptr) ==
-         CA_SUCCESS;
+int play(const char* event) {
+  return ca_context_play(soundContext(), 0, CA_PROP_EVENT_ID, event, CA_PROP_EVENT_DESCRIPTION, event, nullptr);
+}
+
+/// Plays the event, or the bell where the sound theme does not have it. False where there is no sound at all.
+bool playEvent(const char* event) {
+  if (soundContext() == nullptr) return false;
+  int result = play(event);
+  if (result == CA_ERROR_NOTFOUND) result = play("bell");
+  return result == CA_SUCCESS || result == CA_ERROR_NOTFOUND;
 }
 
 }  // namespace
 
 void playAlert(Alert alert) {
   // The sound server may let a caller wait, so another thread calls it; a flood of alerts is one sound at a time.
-  static std::atomic<bool> busy{false};
-  if (busy.exchange(true)) return;
+  // Where there was no sound once, it is not tried again: each try makes the sound library complain.
+  static std::atomic<bool> busyOrMute{false};
+  if (busyOrMute.exchange(true)) return;
   try {
-    std::thread([event = eventOf(alert)] {
-      if (soundContext() != nullptr && !play(event)) play("bell");
-      busy = false;
-    }).detach();
+    std::thread([event = eventOf(alert)] { busyOrMute = !playEvent(event); }).detach();
   } catch (const std::system_error&) {
-    busy = false;
+    busyOrMute = false;
   }
 }
 

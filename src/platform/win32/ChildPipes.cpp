@@ -15,22 +15,31 @@ SECURITY_ATTRIBUTES inheritable() {
   return {sizeof(SECURITY_ATTRIBUTES), nullptr, TRUE};
 }
 
-}  // namespace
-
-OutputPipe::OutputPipe(Handle& childEnd, HANDLE stopEvent) : stopEvent_(stopEvent) {
-  // A named pipe, since only that can be read without getting stuck in the call.
+/// A named pipe, since only that can be used without getting stuck in a call. `access` is our side's, `childAccess`
+/// the other's.
+Handle makePipe(DWORD access, DWORD childAccess, Handle& childEnd) {
   static std::atomic<unsigned> number{0};
   char name[80];
   std::snprintf(name, sizeof name, "\\\\.\\pipe\\tarnwick-%lu-%u", GetCurrentProcessId(), ++number);
-  end_ = Handle(CreateNamedPipeA(name, PIPE_ACCESS_INBOUND | FILE_FLAG_OVERLAPPED | FILE_FLAG_FIRST_PIPE_INSTANCE,
-                                 PIPE_TYPE_BYTE | PIPE_REJECT_REMOTE_CLIENTS, 1, pipeSize, pipeSize, 0, nullptr));
-  if (!end_) throw lastSystemError("CreatePipe()");
+  Handle ours(CreateNamedPipeA(name, access | FILE_FLAG_OVERLAPPED | FILE_FLAG_FIRST_PIPE_INSTANCE,
+                               PIPE_TYPE_BYTE | PIPE_REJECT_REMOTE_CLIENTS, 1, pipeSize, pipeSize, 0, nullptr));
+  if (!ours) throw lastSystemError("CreatePipe()");
   auto security = inheritable();
-  childEnd = Handle(CreateFileA(name, GENERIC_WRITE, 0, &security, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
+  childEnd = Handle(CreateFileA(name, childAccess, 0, &security, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
   if (!childEnd) throw lastSystemError("CreatePipe()");
-  readDone_ = Handle(CreateEventA(nullptr, TRUE, FALSE, nullptr));
-  if (!readDone_) throw lastSystemError("CreatePipe()");
+  return ours;
 }
+
+Handle makeEvent() {
+  Handle event(CreateEventA(nullptr, TRUE, FALSE, nullptr));
+  if (!event) throw lastSystemError("CreatePipe()");
+  return event;
+}
+
+}  // namespace
+
+OutputPipe::OutputPipe(Handle& childEnd, HANDLE stopEvent)
+    : end_(makePipe(PIPE_ACCESS_INBOUND, GENERIC_WRITE, childEnd)), readDone_(makeEvent()), stopEvent_(stopEvent) {}
 
 std::size_t OutputPipe::read(char* buffer, std::size_t size) {
   if (WaitForSingleObject(stopEvent_, 0) == WAIT_OBJECT_0) noteStop();
@@ -75,14 +84,27 @@ void OutputPipe::noteStop() {
   if (PeekNamedPipe(end_.get(), nullptr, 0, nullptr, &available, nullptr)) remaining_ = available;
 }
 
-void makeInputPipe(Handle& ourEnd, Handle& childEnd) {
-  auto security = inheritable();
-  HANDLE read = nullptr;
-  HANDLE write = nullptr;
-  if (!CreatePipe(&read, &write, &security, 0)) throw lastSystemError("CreatePipe()");
-  childEnd = Handle(read);
-  ourEnd = Handle(write);
-  if (!SetHandleInformation(write, HANDLE_FLAG_INHERIT, 0)) throw lastSystemError("DuplicateHandle()");
+InputPipe::InputPipe(Handle& childEnd, HANDLE stopEvent)
+    : end_(makePipe(PIPE_ACCESS_OUTBOUND, GENERIC_READ, childEnd)), writeDone_(makeEvent()), stopEvent_(stopEvent) {}
+
+std::ptrdiff_t InputPipe::write(const char* bytes, std::size_t size) {
+  if (!end_) return -1;
+  std::size_t written = 0;
+  while (written < size && WaitForSingleObject(stopEvent_, 0) != WAIT_OBJECT_0) {
+    OVERLAPPED operation{};
+    operation.hEvent = writeDone_.get();
+    const auto wanted = static_cast<DWORD>(std::min<std::size_t>(size - written, pipeSize));
+    if (!WriteFile(end_.get(), bytes + written, wanted, nullptr, &operation) && GetLastError() != ERROR_IO_PENDING) {
+      return -1;
+    }
+    const HANDLE events[] = {writeDone_.get(), stopEvent_};
+    if (WaitForMultipleObjects(2, events, FALSE, INFINITE) == WAIT_OBJECT_0 + 1) CancelIoEx(end_.get(), &operation);
+    DWORD count = 0;
+    const bool done = GetOverlappedResult(end_.get(), &operation, &count, TRUE) != FALSE;
+    if (!done && GetLastError() != ERROR_OPERATION_ABORTED) return -1;
+    written += count;
+  }
+  return static_cast<std::ptrdiff_t>(written);
 }
 
 Handle nothingToRead() {

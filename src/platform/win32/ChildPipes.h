@@ -28,8 +28,23 @@ class OutputPipe {
   std::size_t remaining_ = 0;
 };
 
-/// Makes the pipe of the child's input: our end, which nobody inherits, and the child's. Throws SystemError.
-void makeInputPipe(Handle& ourEnd, Handle& childEnd);
+/// Our end of the child's input, written in a way that another thread can stop.
+class InputPipe {
+ public:
+  /// A pipe that is not there.
+  InputPipe() = default;
+  /// Makes the pipe; the child's end, which it may inherit, goes to `childEnd`. `stopEvent` outlives the object.
+  /// Throws SystemError with the label "CreatePipe()".
+  InputPipe(Handle& childEnd, HANDLE stopEvent);
+
+  /// Gives the count written, which falls short after the stop; -1 on failure.
+  std::ptrdiff_t write(const char* bytes, std::size_t size);
+
+ private:
+  Handle end_;
+  Handle writeDone_;
+  HANDLE stopEvent_ = nullptr;
+};
 
 /// A file with nothing in it, for a child that reads nothing.
 Handle nothingToRead();

@@ -119,15 +119,15 @@ bool flushToDisk(std::FILE* stream) {
   const bool failedBefore = std::ferror(stream) != 0;
   if (std::fflush(stream) != 0) return false;
   if (failedBefore) {
-    errno = EIO;
+    // Nobody kept the reason of that failure; what refused one write refuses another, and tells it again.
+    if (std::fputc('\n', stream) != EOF && std::fflush(stream) == 0) errno = EIO;
     return false;
   }
   return _commit(_fileno(stream)) == 0;
 }
 
 bool replaceFile(const std::string& from, const std::string& to) {
-  // ReplaceFile keeps what belongs to the file that was there; it needs one, and a file system that can.
-  if (isFile(to) && ReplaceFileA(to.c_str(), from.c_str(), nullptr, 0, nullptr, nullptr)) return true;
+  // ReplaceFile would work in several steps, and leave a file of its own behind when one of them fails.
   if (MoveFileExA(from.c_str(), to.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH)) return true;
   errno = errnoOfLastError();
   return false;

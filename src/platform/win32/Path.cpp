@@ -1,5 +1,7 @@
 #include "platform/Path.h"
 
+#include "platform/win32/CommandLine.h"
+
 #include <windows.h>
 
 #include <cstddef>
@@ -7,6 +9,10 @@
 namespace tarnwick::platform {
 
 namespace {
+
+bool isBlank(char c) {
+  return c == ' ' || c == '\t';
+}
 
 bool isSeparator(char c) {
   return c == '\\' || c == '/';
@@ -78,13 +84,17 @@ std::string startFolder(const std::string& windowsFolder) {
   return windowsFolder;
 }
 
-std::string rawCommandLine(int, char**) {
-  const char* rest = GetCommandLineA();
+std::string withoutProgramName(const std::string& commandLine) {
+  std::size_t end = 0;
   bool quoted = false;
-  for (; *rest && (quoted || (*rest != ' ' && *rest != '\t')); ++rest)
-    if (*rest == '"') quoted = !quoted;
-  while (*rest == ' ' || *rest == '\t') ++rest;
-  return rest;
+  for (; end < commandLine.size() && (quoted || !isBlank(commandLine[end])); ++end)
+    if (commandLine[end] == '"') quoted = !quoted;
+  while (end < commandLine.size() && isBlank(commandLine[end])) ++end;
+  return commandLine.substr(end);
+}
+
+std::string rawCommandLine(int, char**) {
+  return withoutProgramName(GetCommandLineA());
 }
 
 }  // namespace tarnwick::platform

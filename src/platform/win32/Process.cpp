@@ -57,12 +57,13 @@ class StartUp {
 class Child final : public ChildProcess {
  public:
   explicit Child(const ChildCommand& command)
-      : stop_(CreateEventA(nullptr, TRUE, FALSE, nullptr)),
-        output_(outputEnd_, stop_.get()),
-        error_(errorEnd_, stop_.get()) {
+      : stopReading_(CreateEventA(nullptr, TRUE, FALSE, nullptr)),
+        stopWaiting_(CreateEventA(nullptr, TRUE, FALSE, nullptr)),
+        output_(outputEnd_, stopReading_.get()),
+        error_(errorEnd_, stopReading_.get()) {
     Handle inputEnd;
     if (command.interactive) {
-      makeInputPipe(input_, inputEnd);
+      input_ = InputPipe(inputEnd, stopWaiting_.get());
     } else {
       inputEnd = nothingToRead();
     }
@@ -77,19 +78,17 @@ class Child final : public ChildProcess {
     return (stream == Stream::Output ? output_ : error_).read(buffer, size);
   }
 
-  void stopReading() override { SetEvent(stop_.get()); }
+  void stopReading() override { SetEvent(stopReading_.get()); }
 
-  std::ptrdiff_t write(const char* bytes, std::size_t size) override {
-    DWORD written = 0;
-    if (!WriteFile(input_.get(), bytes, static_cast<DWORD>(size), &written, nullptr)) return -1;
-    return static_cast<std::ptrdiff_t>(written);
-  }
+  std::ptrdiff_t write(const char* bytes, std::size_t size) override { return input_.write(bytes, size); }
 
   void wait() override {
-    WaitForSingleObject(process_.get(), INFINITE);
+    const HANDLE events[] = {process_.get(), stopWaiting_.get()};
+    if (WaitForMultipleObjects(2, events, FALSE, INFINITE) != WAIT_OBJECT_0) return;
     const std::lock_guard lock(stateLock_);
     job_.reset();
   }
+  void stopWaiting() override { SetEvent(stopWaiting_.get()); }
 
   void endTree() override {
     const std::lock_guard lock(stateLock_);
@@ -115,12 +114,13 @@ class Child final : public ChildProcess {
     ResumeThread(thread.get());
   }
 
-  Handle stop_;
+  Handle stopReading_;
+  Handle stopWaiting_;
   Handle outputEnd_;
   Handle errorEnd_;
   OutputPipe output_;
   OutputPipe error_;
-  Handle input_;
+  InputPipe input_;
   Handle process_;
   std::mutex stateLock_;
   /// Gone when the child has ended by itself.

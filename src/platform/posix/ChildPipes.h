@@ -1,0 +1,41 @@
+#pragma once
+
+#include "platform/posix/Descriptor.h"
+#include "platform/posix/Event.h"
+
+#include <cstddef>
+#include <utility>
+
+namespace tarnwick::platform {
+
+/// What we read from one of the child's outputs, in a way that another thread can stop.
+class OutputPipe {
+ public:
+  /// `stop` outlives the object.
+  OutputPipe(Descriptor end, const Event& stop) : end_(std::move(end)), stop_(stop) {}
+
+  /// 0 at the end, and after the stop when all is read that lay in the pipe then.
+  std::size_t read(char* buffer, std::size_t size);
+
+ private:
+  Descriptor end_;
+  const Event& stop_;
+  bool stopped_ = false;
+  std::size_t remaining_ = 0;
+};
+
+/// Where we write the child's input, in a way that another thread can stop.
+class InputPipe {
+ public:
+  /// `stop` outlives the object.
+  InputPipe(Descriptor end, const Event& stop);
+
+  /// Gives the count written, which falls short after the stop; -1 on failure.
+  std::ptrdiff_t write(const char* bytes, std::size_t size);
+
+ private:
+  Descriptor end_;
+  const Event& stop_;
+};
+
+}  // namespace tarnwick::platform

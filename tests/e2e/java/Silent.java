@@ -1,0 +1,5 @@
+/** Says nothing at all. */
+public class Silent {
+    public static void main(String[] arguments) {
+    }
+}

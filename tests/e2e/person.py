@@ -1,0 +1,182 @@
+"""A person at the screen: sees windows and controls by their titles and labels, uses mouse, keyboard and clipboard.
+
+What is on the screen is read through the accessibility bus; everything that is done goes through the X server, so the
+program cannot tell it from a real hand.
+"""
+
+import json
+import os
+import subprocess
+import sys
+import time
+
+
+class NotSeen(AssertionError):
+    """What was waited for did not come."""
+
+
+def wait_until(what, condition, seconds=20.0):
+    """The first true value of the condition."""
+    end = time.monotonic() + seconds
+    while True:
+        last = condition()
+        if last:
+            return last
+        if time.monotonic() > end:
+            raise NotSeen(f"{what} did not come within {seconds:.0f} s")
+        time.sleep(0.1)
+
+
+def xdotool(*arguments):
+    return subprocess.run(["xdotool", *map(str, arguments)], check=True, timeout=30, stdin=subprocess.DEVNULL,
+                          stdout=subprocess.PIPE, text=True).stdout.strip()
+
+
+def key(*keys):
+    for one in keys:
+        xdotool("key", "--clearmodifiers", one)
+        time.sleep(0.05)
+
+
+def type_text(text):
+    """For what a plain keyboard has; everything else goes through the clipboard."""
+    xdotool("type", "--delay", 25, text)
+
+
+def put_on_clipboard(text):
+    # xclip stays behind to serve the clipboard: its output must not be anybody's pipe.
+    subprocess.run(["xclip", "-selection", "clipboard", "-in"], input=text.encode(), check=True, timeout=30,
+                   stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+
+
+def screenshot(path):
+    subprocess.run(["import", "-silent", "-window", "root", path], check=True, timeout=60, stdin=subprocess.DEVNULL)
+
+
+def look():
+    """All windows that show."""
+    program = os.path.join(os.path.dirname(os.path.abspath(__file__)), "look.py")
+    for _ in range(4):
+        try:
+            done = subprocess.run([sys.executable, program], timeout=10, stdin=subprocess.DEVNULL,
+                                  stdout=subprocess.PIPE, stderr=subprocess.DEVNULL)
+        except subprocess.TimeoutExpired:
+            continue
+        if done.returncode == 0:
+            return [Control(window) for window in json.loads(done.stdout)]
+        time.sleep(0.2)
+    raise NotSeen("the accessibility bus does not answer")
+
+
+class Control:
+    """One control, or one window, as it was when it was looked at."""
+
+    def __init__(self, seen):
+        self.name = seen["name"]
+        self.label = self.name.strip()
+        self.role = seen["role"]
+        self.area = seen["area"]
+        self.text = seen.get("text", "")
+        self.process = seen.get("process")
+        self.showing, self.enabled = seen["showing"], seen["enabled"]
+        self.focused, self.checked, self.selected = seen["focused"], seen["checked"], seen["selected"]
+        self.children = [Control(child) for child in seen["children"]]
+
+    def all(self):
+        """This one and all that shows in it, in the order of the tree."""
+        yield self
+        for child in self.children:
+            if child.showing:
+                yield from child.all()
+
+    def click(self, button=1):
+        left, top, width, height = self.area
+        xdotool("mousemove", left + width // 2, top + height // 2)
+        time.sleep(0.1)
+        xdotool("click", button)
+        time.sleep(0.2)
+
+
+class Window:
+    """A window by its title. Each question looks at the screen anew."""
+
+    def __init__(self, title, seconds=30):
+        self.title = title
+        self.process = None
+        self._wait_until_it_stands(seconds)
+
+    def _now(self):
+        same = [one for one in look() if one.name == self.title and self.process in (None, one.process)]
+        return same[-1] if same else None
+
+    def _wait_until_it_stands(self, seconds):
+        seen = wait_until(f"the window {self.title!r}", self._now, seconds)
+        self.process = seen.process
+        for _ in range(20):
+            before, seen = seen.area, wait_until(f"the window {self.title!r}", self._now)
+            if seen.area == before and before[2] > 1:
+                return
+        raise NotSeen(f"the window {self.title!r} does not stand still")
+
+    def shows(self):
+        return self._now() is not None
+
+    def is_gone(self, seconds=20):
+        wait_until(f"the end of the window {self.title!r}", lambda: not self.shows(), seconds)
+
+    def controls(self):
+        seen = wait_until(f"the window {self.title!r}", self._now)
+        return list(seen.all())
+
+    def _find(self, what, fits, seconds):
+        return wait_until(f"{what} in the window {self.title!r}",
+                          lambda: next((one for one in self.controls() if fits(one)), None), seconds)
+
+    def control(self, label, role=None, seconds=10):
+        """The control of this label. Mnemonics and blanks around do not count."""
+        return self._find(f"the control {label!r}", lambda one: one.label == label and role in (None, one.role), seconds)
+
+    def labels(self):
+        """All words that show."""
+        return "\n".join(one.name for one in self.controls() if one.name)
+
+    def press(self, label):
+        """Clicks a button, once it can be pressed."""
+        self._find(f"the enabled control {label!r}", lambda one: one.label == label and one.enabled, 10).click()
+
+    def fields(self):
+        return [one for one in self.controls() if one.role in ("text", "entry")]
+
+    def field(self, index=0):
+        """An edit field, counted from the top of the screen."""
+        def nth():
+            fields = sorted(self.fields(), key=lambda one: (one.area[1], one.area[0]))
+            return fields[index] if len(fields) > index else None
+        return wait_until(f"field {index} in the window {self.title!r}", nth)
+
+    def write(self, text, index=0):
+        """Replaces what stands in a field; letters of every kind."""
+        self.field(index).click()
+        key("ctrl+a")
+        put_on_clipboard(text)
+        key("ctrl+v")
+        wait_until(f"{text!r} in field {index}", lambda: self.field(index).text == text)
+
+    def activate(self):
+        xdotool("windowactivate", "--sync", self.x_number())
+        time.sleep(0.2)
+
+    def x_number(self):
+        return wait_until(f"the X window {self.title!r}", lambda: x_windows(self.title))[-1]
+
+    def close(self):
+        """As the close box of the title bar: asks the window to close."""
+        self.activate()
+        key("alt+F4")
+
+
+def x_windows(title):
+    """Numbers of the X windows of this exact title."""
+    found = subprocess.run(["xdotool", "search", "--onlyvisible", "--name", f"^{title}$"], stdin=subprocess.DEVNULL,
+                           stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True, timeout=30)
+    return found.stdout.split()

@@ -1,0 +1,88 @@
+#!/usr/bin/env python3
+"""Runs the end-to-end tests: the real program on the real JDK, driven from outside.
+
+usage: run.py PROJECT [PART-OF-A-NAME...]     needs a display with a window manager (scripts/with-display.sh)
+The last line is "N passed, N failed, N skipped". A test that fails leaves a screenshot in build/e2e/.
+"""
+
+import importlib
+import os
+import shutil
+import sys
+import tempfile
+import time
+import traceback
+
+import person
+import world
+
+MODULES = ["test_start", "test_compile", "test_console", "test_bad_input"]
+
+
+class Skipped(Exception):
+    """Carries the reason."""
+
+
+def tests(parts):
+    for module_name in MODULES:
+        module = importlib.import_module(module_name)
+        for name, function in vars(module).items():
+            if not name.startswith("test_"):
+                continue
+            full = f"{module_name.removeprefix('test_')}.{name.removeprefix('test_')}"
+            if not parts or any(part in full for part in parts):
+                yield full, function
+
+
+def run_one(name, function, project, pictures):
+    print(f"[ RUN      ] {name}", flush=True)
+    begin = time.monotonic()
+    outcome = "       OK"
+    try:
+        with world.World(project) as scratch:
+            try:
+                function(scratch)
+            except Skipped:
+                raise
+            except BaseException:
+                leave_traces(os.path.join(pictures, name), scratch)
+                raise
+    except Skipped as reason:
+        print(f"Skipped: {reason}")
+        outcome = "  SKIPPED"
+    except Exception:
+        traceback.print_exc(file=sys.stdout)
+        outcome = "  FAILED "
+    print(f"[{outcome} ] {name} ({(time.monotonic() - begin) * 1000:.0f} ms)", flush=True)
+    return outcome.strip()
+
+
+def leave_traces(path, scratch):
+    try:
+        person.screenshot(path + ".png")
+        for program in scratch.running:
+            if program.poll() is not None:
+                print(f"the program ended with {program.returncode}: {program.stderr.read().decode(errors='replace')}")
+        for window in person.look():
+            print(f"on the screen: {window.role} {window.name!r}: {[one.name or one.text for one in window.all()]}")
+    except Exception as problem:
+        print(f"no traces: {problem}")
+
+
+def main():
+    project, parts = os.path.abspath(sys.argv[1]), sys.argv[2:]
+    runtime = tempfile.mkdtemp(prefix="tarnwick-bus-")
+    try:
+        world.start_bus(os.path.join(runtime, "run"))
+        pictures = os.path.join(project, "build", "e2e")
+        shutil.rmtree(pictures, ignore_errors=True)
+        os.makedirs(pictures)
+        outcomes = [run_one(name, function, project, pictures) for name, function in tests(parts)]
+    finally:
+        shutil.rmtree(runtime, ignore_errors=True)
+    failed = outcomes.count("FAILED")
+    print(f"{outcomes.count('OK')} passed, {failed} failed, {outcomes.count('SKIPPED')} skipped", flush=True)
+    sys.exit(1 if failed or not outcomes else 0)
+
+
+main()

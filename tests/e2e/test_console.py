@@ -1,0 +1,160 @@
+"""Programs in the console, on the real JDK."""
+
+import os
+import re
+import signal
+import subprocess
+import time
+
+import person
+import world
+from person import wait_until
+from world import type_line
+
+BANNER = "****  Tarnwick:  E n d   o f   j a v a   e x e c u t i o n   ****"
+
+
+def shows(scratch, console, text, seconds=30):
+    """Waits until the console's saved display holds the text; gives all of it."""
+    def saved():
+        display = scratch.saved_display(console)
+        return display if text in display else None
+    return wait_until(f"{text!r} in the console", saved, seconds)
+
+
+def started(scratch, path):
+    _, panel = scratch.first_start()
+    return panel, scratch.run_class(panel, scratch.compiled(path))
+
+
+def nothing_left(scratch, *names):
+    for name in names:
+        wait_until(f"the end of {name}", lambda name=name: not scratch.processes(name), 10)
+
+
+def test_interactive_program_is_asked_and_answers(scratch):
+    panel, console = started(scratch, scratch.sample("Greeter.java"))
+    shows(scratch, console, "What is your name? ")
+    type_line(console, "Ada")
+    shows(scratch, console, "Hello, Ada!")
+    type_line(console, "Grüße an Zoë 日本")
+    display = shows(scratch, console, "backwards")
+    assert "What is your name? Ada\n" in display, display
+    assert '> Grüße an Zoë 日本\n' in display, display
+    assert 'You said "Grüße an Zoë 日本", backwards "本日 ëoZ na eßürG".' in display, display
+
+    type_line(console, "bye")
+    display = shows(scratch, console, BANNER)
+    assert "Good bye, Ada.\n" in display and "Lines answered: 1\n" in display, display
+    nothing_left(scratch, "java")
+    # The console shows until somebody has seen it; the next key closes it.
+    time.sleep(1)
+    assert console.shows()
+    console.activate()
+    person.key("space")
+    console.is_gone()
+    assert panel.control("java").enabled
+
+
+def test_arguments_behind_the_class_reach_the_program(scratch):
+    path = scratch.compiled(scratch.sample("Arguments.java"))
+    _, panel = scratch.first_start()
+    panel.write(f'{world.quoted(path)} one "two words"', index=1)
+    panel.press("java")
+    console = person.Window("Arguments", seconds=40)
+    display = shows(scratch, console, BANNER)
+    assert "Arguments: 2\n1: one\n2: two words\n" in display, display
+
+
+def test_output_is_blue_errors_are_red_and_the_banner_is_green(scratch):
+    _, console = started(scratch, scratch.source("Colours.java"))
+    shows(scratch, console, "part of a line")
+    assert has_colour(console, "#0000FF") and has_colour(console, "#FF0000")
+    assert not has_colour(console, "#00FF00")
+    type_line(console, "")
+    shows(scratch, console, BANNER)
+    wait_until("the green banner", lambda: has_colour(console, "#00FF00"))
+
+
+def has_colour(console, colour):
+    """Whether glyphs of this colour show: pixels that are the colour itself, where no smoothing mixed in the paper."""
+    left, top, width, height = console.controls()[0].area
+    console.activate()
+    colours = subprocess.run(["import", "-silent", "-window", "root", "-crop", f"{width}x{height}+{left}+{top}",
+                              "-depth", "8", "-format", "%c", "histogram:info:-"],
+                             stdin=subprocess.DEVNULL, stdout=subprocess.PIPE, text=True, check=True, timeout=60).stdout
+    return sum(int(count) for count in re.findall(rf"(\d+): \([^)]*\) {colour}\b", colours)) >= 20
+
+
+def test_program_without_output_leaves_no_console(scratch):
+    program, panel = scratch.first_start()
+    path = scratch.compiled(scratch.source("Silent.java"))
+    panel.write(world.quoted(path), index=1)
+    panel.press("java")
+    wait_until("the console's process", lambda: len(scratch.processes("tarnwick")) == 2)
+    wait_until("the end of the console", lambda: scratch.processes("tarnwick") == [program.pid], 30)
+    assert [one.name for one in person.look()] == ["Tarnwick"]
+
+
+def test_closing_the_console_stops_the_program(scratch):
+    panel, console = started(scratch, scratch.sample("Clock.java"))
+    shows(scratch, console, "The clock runs")
+    assert len(scratch.processes("java")) == 1
+    console.close()
+    console.is_gone()
+    nothing_left(scratch, "java")
+    assert panel.shows()
+
+
+def test_exit_in_the_menu_stops_the_program(scratch):
+    _, console = started(scratch, scratch.sample("Clock.java"))
+    shows(scratch, console, "The clock runs")
+    console.press("File")
+    console.press("Exit")
+    console.is_gone()
+    nothing_left(scratch, "java")
+
+
+def test_closing_the_console_stops_what_the_program_started(scratch):
+    _, console = started(scratch, scratch.source("Parent.java"))
+    shows(scratch, console, "child ")
+    assert len(scratch.processes("java")) == 1 and len(scratch.processes("sleep")) == 1
+    console.close()
+    console.is_gone()
+    nothing_left(scratch, "java", "sleep")
+
+
+def test_killed_console_leaves_nothing(scratch):
+    program, panel = scratch.first_start()
+    console = scratch.run_class(panel, scratch.compiled(scratch.source("Parent.java")))
+    shows(scratch, console, "child ")
+    console_process, = [one for one in scratch.processes("tarnwick") if one != program.pid]
+    os.kill(console_process, signal.SIGKILL)
+    console.is_gone()
+    nothing_left(scratch, "java", "sleep")
+    assert panel.control("java").enabled
+
+
+def test_console_outlives_the_panel(scratch):
+    program, panel = scratch.first_start()
+    console = scratch.run_class(panel, scratch.compiled(scratch.sample("Greeter.java")))
+    shows(scratch, console, "What is your name? ")
+    panel.activate()
+    panel.press("Exit")
+    assert program.wait(20) == 0
+    type_line(console, "Ada")
+    shows(scratch, console, "Hello, Ada!")
+    console.close()
+    nothing_left(scratch, "java", "tarnwick")
+
+
+def test_two_consoles_run_side_by_side(scratch):
+    _, panel = scratch.first_start()
+    greeter = scratch.run_class(panel, scratch.compiled(scratch.sample("Greeter.java")))
+    clock = scratch.run_class(panel, scratch.compiled(scratch.sample("Clock.java")))
+    shows(scratch, clock, "The clock runs")
+    clock.close()
+    clock.is_gone()
+    type_line(greeter, "Ada")
+    shows(scratch, greeter, "Hello, Ada!")
+    assert len(scratch.processes("java")) == 1

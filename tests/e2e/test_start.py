@@ -1,0 +1,135 @@
+"""The first start, and what is remembered of it."""
+
+import os
+
+import person
+import world
+from person import Window, wait_until
+
+
+def test_first_start_welcomes_asks_for_the_jdk_and_saves_all_settings(scratch):
+    program = scratch.start()
+    welcome = Window("Welcome to Tarnwick")
+    words = welcome.labels()
+    assert "You seem to be using Tarnwick for the first time,\nas I can't find any data from a previous session." in words
+    assert "Look for a file \"javac\" in a \"bin\" subfolder of the JDK installation tree" in words
+    assert not os.path.exists(scratch.configuration)
+    welcome.press("OK")
+
+    settings = Window("Tarnwick settings")
+    assert settings.control("JDK tools").selected
+    folder = settings.field().text
+    assert os.path.join(folder, "javac") == world.real_javac(), folder
+    settings.press("OK")
+
+    panel = Window("Tarnwick")
+    with open(scratch.configuration, encoding="utf-8") as lines:
+        rows = lines.read().split("\n")
+    assert rows[:2] == [f"REM  This configuration file was written by {world.VERSION}", "REM"], rows[:2]
+    assert rows[-1] == "" and len(rows) == 2 + 111 + 1, len(rows)
+    assert scratch.settings()["JAVA_PATH"] == folder
+    assert scratch.settings()["TARNWICK_VERSION"] == world.VERSION
+    panel.press("Exit")
+    assert program.wait(20) == 0
+
+
+def test_cancel_at_the_first_start_still_saves_and_opens_the_panel(scratch):
+    program = scratch.start()
+    Window("Welcome to Tarnwick").press("OK")
+    Window("Tarnwick settings").press("Cancel")
+    panel = Window("Tarnwick")
+    assert len(scratch.settings()) == 111
+    panel.press("Exit")
+    assert program.wait(20) == 0
+
+
+def test_second_start_goes_straight_to_the_panel(scratch):
+    scratch.configured()
+    program = scratch.start()
+    panel = Window("Tarnwick")
+    assert [one.name for one in person.look()] == ["Tarnwick"]
+    assert [panel.control(label).label for label in ("Main program", "Applet", "Utilities")]
+    panel.press("Exit")
+    assert program.wait(20) == 0
+
+
+def test_what_this_program_cannot_do_yet_is_disabled(scratch):
+    _, panel = scratch.first_start()
+    for label in ("New", "jdb debug", "Projectview"):
+        assert not panel.control(label).enabled, label
+    for label in ("Browse", "Edit", "javac", "java", "Settings", "Exit"):
+        assert panel.control(label).enabled, label
+
+
+def test_another_version_is_told_of_the_upgrade(scratch):
+    scratch.configured()
+    scratch.change_settings(TARNWICK_VERSION="Tarnwick V4.6")
+    scratch.start()
+    welcome = Window("Welcome to Tarnwick")
+    assert "You seem to be upgrading from a previous Tarnwick version," in welcome.labels()
+    welcome.press("OK")
+    Window("Tarnwick")
+    assert scratch.settings()["TARNWICK_VERSION"] == world.VERSION
+
+
+def test_position_is_remembered(scratch):
+    program, panel = scratch.first_start()
+    person.xdotool("windowmove", panel.x_number(), 340, 210)
+    before = settled_area(panel)
+    panel.press("Exit")
+    program.wait(20)
+    scratch.start()
+    assert settled_area(Window("Tarnwick")) == before
+    assert scratch.settings()["WINDOW_POSITION"] != ""
+
+
+def settled_area(window):
+    last = None
+    def steady():
+        nonlocal last
+        before, last = last, window.controls()[0].area
+        return last if last == before else None
+    return wait_until("a window that stands still", steady)
+
+
+def test_keyboard_alone_reaches_and_presses_every_button(scratch):
+    program, panel = scratch.first_start()
+    panel.activate()
+    wanted = {one.label for one in panel.controls() if one.role == "push button" and one.enabled}
+    met = set()
+    for _ in range(40):
+        person.key("Tab")
+        met |= {one.label for one in panel.controls() if one.focused and one.role == "push button"}
+        if met >= wanted:
+            break
+    assert met >= wanted, wanted - met
+    for _ in range(40):
+        if any(one.focused and one.label == "Exit" for one in panel.controls()):
+            break
+        person.key("Tab")
+    person.key("space")
+    assert program.wait(20) == 0
+
+
+def test_close_box_ends_the_program(scratch):
+    program, panel = scratch.first_start()
+    panel.close()
+    assert program.wait(20) == 0
+
+
+def test_nothing_is_written_outside_the_configuration_folder_and_the_users_files(scratch):
+    source = scratch.sample("Greeter.java")
+    before = scratch.listing()
+    program, panel = scratch.first_start()
+    panel.write(world.quoted(source))
+    panel.press("javac")
+    wait_until("the class", lambda: os.path.exists(source.removesuffix("java") + "class"), 60)
+    console = scratch.run_class(panel, source.removesuffix("java") + "class")
+    console.close()
+    console.is_gone()
+    panel.press("Exit")
+    program.wait(20)
+    after = scratch.listing()
+    changed = {name for name in after if before.get(name) != after[name]} | (before.keys() - after.keys())
+    own = (os.path.relpath(scratch.config, scratch.root) + os.sep, os.path.relpath(scratch.work, scratch.root) + os.sep)
+    assert changed and not [name for name in changed if not name.startswith(own)], changed

@@ -1,0 +1,256 @@
+"""What a test needs around the program: folders, an accessibility bus, the JDK, an editor that takes notes.
+
+All folder names hold blanks and letters beyond ASCII. Everything that the program starts inherits the scratch HOME, by
+which it is recognised afterwards.
+"""
+
+import atexit
+import os
+import shlex
+import shutil
+import signal
+import subprocess
+import tempfile
+import time
+
+import person
+from person import Window, wait_until
+
+VERSION = "Tarnwick V4.7a"
+
+NOTES = """#!/bin/sh
+# Stands in for the user's editor: keeps a copy of each file that it is given, and writes its arguments down.
+cd {folder} || exit 1
+number=$(ls | grep -c arguments)
+for argument in "$@"; do
+  [ -f "$argument" ] && cp "$argument" "$number.file"
+done
+printf '%s\\n' "$@" > "$number.new"
+mv "$number.new" "$number.arguments"
+"""
+
+
+def start_bus(folder):
+    """The bus over which windows tell what is in them; for this process and all that it starts."""
+    os.makedirs(folder, mode=0o700)
+    os.environ["XDG_RUNTIME_DIR"] = folder
+    reading, writing = os.pipe()
+    bus = subprocess.Popen(["dbus-daemon", "--session", "--nofork", f"--print-address={writing}"], pass_fds=[writing],
+                           stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+    os.close(writing)
+    with os.fdopen(reading) as answer:
+        os.environ["DBUS_SESSION_BUS_ADDRESS"] = answer.readline().strip()
+
+    def end():
+        bus.terminate()
+        bus.wait(10)
+    atexit.register(end)
+    # Ended from outside, the process still has to end what it started.
+    signal.signal(signal.SIGTERM, lambda *_: os.sys.exit(143))
+
+
+def real_javac():
+    """The JDK as the program should find it."""
+    home = os.environ.get("JAVA_HOME")
+    if home and os.path.isfile(os.path.join(home, "bin", "javac")):
+        return os.path.realpath(os.path.join(home, "bin", "javac"))
+    return os.path.realpath(shutil.which("javac"))
+
+
+class World:
+    def __init__(self, project, variables=None):
+        self.project = project
+        self.program = os.path.join(project, "build", "linux", "tarnwick")
+        self.root = tempfile.mkdtemp(prefix="tarnwick Übung 日本 ")
+        self.home = self._folder("Zoës Heim")
+        self.config = self._folder("Meine Einstellungen 設定")
+        self.work = self._folder("Zoës Heim", "Java-Übungen 練習")
+        self.notes = self._folder("Notizen des Editors")
+        self.configuration = os.path.join(self.config, "Tarnwickdefault.CFG")
+        self.running = []
+        self.environment = {name: value for name, value in os.environ.items() if not name.startswith("TARNWICK_")}
+        self.environment |= {
+            "HOME": self.home, "TARNWICK_CFGDIR": self.config, "TMPDIR": self._folder("tmp"),
+            "XDG_CONFIG_HOME": os.path.join(self.home, ".config"), "XDG_DATA_HOME": os.path.join(self.home, ".local", "share"),
+            "XDG_CACHE_HOME": os.path.join(self.home, ".cache"), "XDG_STATE_HOME": os.path.join(self.home, ".local", "state"),
+            "GSETTINGS_BACKEND": "memory", "GTK_USE_PORTAL": "0", "LC_ALL": "C.UTF-8",
+        } | (variables or {})
+        self._install_editor()
+
+    def _folder(self, *names):
+        path = os.path.join(self.root, *names)
+        os.makedirs(path, exist_ok=True)
+        return path
+
+    def _install_editor(self):
+        """Makes the note-taker the user's application for plain text."""
+        script = os.path.join(self.root, "Editor für Notizen")
+        with open(script, "w", encoding="utf-8") as out:
+            out.write(NOTES.format(folder=shlex.quote(self.notes)))
+        os.chmod(script, 0o755)
+        applications = self._folder("Zoës Heim", ".local", "share", "applications")
+        with open(os.path.join(applications, "notes.desktop"), "w", encoding="utf-8") as out:
+            out.write(f'[Desktop Entry]\nType=Application\nName=Notes\nExec="{script}" %f\nMimeType=text/plain;\n')
+        self._folder("Zoës Heim", ".config")
+        with open(os.path.join(self.home, ".config", "mimeapps.list"), "w", encoding="utf-8") as out:
+            out.write("[Default Applications]\ntext/plain=notes.desktop\n")
+
+    def __enter__(self):
+        return self
+
+    def __exit__(self, *_):
+        for process in self.processes():
+            try:
+                os.kill(process, signal.SIGKILL)
+            except ProcessLookupError:
+                pass
+        for program in self.running:
+            program.wait(10)
+        for folder, _folders, _files in os.walk(self.root):
+            os.chmod(folder, 0o700)
+        shutil.rmtree(self.root)
+
+    # Files
+
+    def sample(self, name):
+        """A copy of one of the project's samples in the work folder."""
+        return shutil.copy(os.path.join(self.project, "samples", name), self.work)
+
+    def source(self, name):
+        """A copy of one of the end-to-end tests' own Java sources in the work folder."""
+        return shutil.copy(os.path.join(self.project, "tests", "e2e", "java", name), self.work)
+
+    def compiled(self, path):
+        """Compiles a source without the program; gives the class file."""
+        subprocess.run([real_javac(), "-encoding", "UTF-8", path], check=True, timeout=120, env=self.environment)
+        return path.removesuffix(".java") + ".class"
+
+    def listing(self):
+        """All files of the user, each with the time of its last change."""
+        found = {}
+        for folder, _folders, files in os.walk(self.root):
+            for name in files:
+                path = os.path.join(folder, name)
+                found[os.path.relpath(path, self.root)] = os.lstat(path).st_mtime_ns
+        return found
+
+    def settings(self):
+        """The saved configuration: its tags and values."""
+        with open(self.configuration, encoding="utf-8") as lines:
+            rows = [line.rstrip("\n").partition(" ") for line in lines]
+        return {tag: value.strip() for tag, _, value in rows if tag != "REM"}
+
+    def change_settings(self, **changes):
+        with open(self.configuration, encoding="utf-8") as lines:
+            rows = lines.readlines()
+        for number, row in enumerate(rows):
+            tag = row.split(maxsplit=1)[0]
+            if tag in changes:
+                rows[number] = f"{tag}  {changes.pop(tag)}\n"
+        assert not changes, f"no such setting: {changes}"
+        with open(self.configuration, "w", encoding="utf-8") as out:
+            out.writelines(rows)
+
+    def editor_notes(self):
+        """What the editor was given, one entry for each start: its arguments and the content of the file."""
+        result = []
+        for name in sorted(os.listdir(self.notes)):
+            if not name.endswith(".arguments"):
+                continue
+            with open(os.path.join(self.notes, name), encoding="utf-8") as lines:
+                arguments = lines.read().split("\n")[:-1]
+            content = None
+            copy = os.path.join(self.notes, name.replace(".arguments", ".file"))
+            if os.path.exists(copy):
+                with open(copy, encoding="utf-8") as text:
+                    content = text.read()
+            result.append((arguments, content))
+        return result
+
+    # Processes
+
+    def processes(self, name=None):
+        """All processes that run in this world, or those whose program is called so."""
+        mark = b"\0HOME=" + self.home.encode() + b"\0"
+        found = []
+        for entry in os.listdir("/proc"):
+            if not entry.isdigit():
+                continue
+            try:
+                with open(f"/proc/{entry}/environ", "rb") as variables:
+                    if mark not in b"\0" + variables.read():
+                        continue
+                with open(f"/proc/{entry}/stat", encoding="utf-8", errors="replace") as stat:
+                    if stat.read().rpartition(")")[2].split()[0] == "Z":
+                        continue
+                if name is None or os.path.basename(os.readlink(f"/proc/{entry}/exe")) == name:
+                    found.append(int(entry))
+            except OSError:
+                continue
+        return found
+
+    def start(self, *arguments, **variables):
+        """Starts the program as a user at a desktop does."""
+        started = subprocess.Popen([self.program, *arguments], env=self.environment | variables, cwd=self.home,
+                                   stdin=subprocess.DEVNULL, stdout=subprocess.PIPE, stderr=subprocess.PIPE)
+        self.running.append(started)
+        return started
+
+    # The ways through the program that many tests take
+
+    def first_start(self):
+        """Through Welcome and the settings dialog to the panel."""
+        program = self.start()
+        Window("Welcome to Tarnwick").press("OK")
+        Window("Tarnwick settings").press("OK")
+        return program, Window("Tarnwick")
+
+    def configured(self):
+        """A configuration as the first start leaves it, without walking through the windows for each test."""
+        program, panel = self.first_start()
+        panel.press("Exit")
+        program.wait(20)
+
+    def run_class(self, panel, path):
+        """Types a class file into the panel and presses "java"; gives the console's window."""
+        panel.activate()
+        panel.write(quoted(path), index=1)
+        panel.press("java")
+        return Window(os.path.basename(path).removesuffix(".class"), seconds=40)
+
+    def saved_display(self, console, name="display.txt"):
+        """What the console shows, by way of its menu."""
+        path = os.path.join(self.work, name)
+        console.activate()
+        console.press("File")
+        console.press("Save current display to file")
+        chooser = wait_until("the file dialog", lambda: next(
+            (one for one in person.look() if one.role in ("file chooser", "dialog") and one.name != console.title), None))
+        dialog = Window(chooser.name)
+        dialog.activate()
+        person.key("ctrl+a")
+        person.put_on_clipboard(path)
+        person.key("ctrl+v")
+        time.sleep(0.3)
+        person.key("Return")
+        wait_until("the saved display", lambda: os.path.exists(path) and os.path.getsize(path) > 0)
+        dialog.is_gone()
+        with open(path, encoding="utf-8") as text:
+            content = text.read()
+        os.remove(path)
+        return content
+
+
+def quoted(path):
+    return f'"{path}"' if " " in path else path
+
+
+def type_line(console, line):
+    """As a person types into a console; letters beyond ASCII come from the clipboard."""
+    console.activate()
+    if line.isascii():
+        person.type_text(line)
+    else:
+        person.put_on_clipboard(line)
+        person.key("ctrl+v")
+    person.key("Return")

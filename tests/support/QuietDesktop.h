@@ -1,0 +1,34 @@
+#pragma once
+
+#include "dialogbase/Desktop.h"
+
+#include <functional>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace tarnwick::test {
+
+/// A desktop without a user, for small tools: keeps the messages, answers nothing.
+class QuietDesktop : public Desktop {
+ public:
+  std::vector<std::string> messages;
+
+  void message(const std::string& text) override { messages.push_back(text); }
+  bool askOkCancel(const std::string& /*text*/) override { return false; }
+  bool askYesNo(const std::string& /*text*/) override { return false; }
+  std::optional<std::string> openFile(const FileRequest& /*request*/) override { return {}; }
+  std::optional<std::string> saveFile(const FileRequest& /*request*/) override { return {}; }
+  std::optional<std::string> browseFolder() override { return {}; }
+  void alert(AlertSound /*sound*/) override {}
+  std::optional<std::string> clipboardText() override { return {}; }
+  bool setClipboardText(const std::string& /*text*/) override { return false; }
+  int runDialog(const DialogLayout& /*layout*/, DialogHandler& /*handler*/) override { return 0; }
+  void runMainDialog(const DialogLayout& /*layout*/, DialogHandler& /*handler*/) override {}
+  void whileBusy(const std::function<void()>& work) override { work(); }
+  int startTimer(int /*milliseconds*/, std::function<void()> /*tick*/) override { return 1; }
+  void stopTimer(int /*timer*/) override {}
+  void post(std::function<void()> task) override { task(); }
+};
+
+}  // namespace tarnwick::test

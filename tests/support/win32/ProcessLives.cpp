@@ -1,0 +1,15 @@
+#include "support/Children.h"
+
+#include <windows.h>
+
+namespace tarnwick::test {
+
+bool processLives(int process) {
+  const HANDLE handle = OpenProcess(SYNCHRONIZE, FALSE, static_cast<DWORD>(process));
+  if (handle == nullptr) return false;
+  const bool lives = WaitForSingleObject(handle, 0) == WAIT_TIMEOUT;
+  CloseHandle(handle);
+  return lives;
+}
+
+}  // namespace tarnwick::test

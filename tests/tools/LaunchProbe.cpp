@@ -1,0 +1,58 @@
+// Tells what the system would start, as seen by a process that has never asked before:
+//
+//   open EXTENSION                                          the association's command text
+//   editors                                                 the plain-text editors, one a line, words with "|" between
+//   runapp EXTENSION FILE EXTRA                             starts the association's program; the result
+//   showlog FOLDER EDITNOTEPAD DISPLAYNOTEPAD TARGET        shows a log that lies in FOLDER; the log's path
+//
+// Messages to the user follow, each behind "message: ".
+#include "platform/Associations.h"
+#include "platform/FileSystem.h"
+#include "process/EditorLaunch.h"
+#include "process/ToolLog.h"
+#include "process/WinApp.h"
+#include "support/QuietDesktop.h"
+
+#include <cstdlib>
+#include <iostream>
+#include <string>
+#include <vector>
+
+namespace {
+
+void printEditors() {
+  for (const auto& editor : tarnwick::platform::plainTextEditors()) {
+    for (std::size_t i = 0; i < editor.size(); ++i) std::cout << (i == 0 ? "" : "|") << editor[i];
+    std::cout << '\n';
+  }
+}
+
+void showLogOf(tarnwick::Desktop& desktop, const std::vector<std::string>& words) {
+  tarnwick::ToolLog log(words.at(1));
+  log.open(tarnwick::FileMode::Write);
+  log.append("said\n", 5);
+  log.close();
+  tarnwick::EditorChoice choice;
+  choice.editWithNotepad = words.at(2) == "1";
+  choice.displayWithNotepad = words.at(3) == "1";
+  choice.target = words.size() > 4 ? words[4] : "";
+  std::cout << log.path() << std::endl;
+  tarnwick::showLog(desktop, log, choice);
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  tarnwick::platform::prepareProcess();
+  const std::vector<std::string> words(argv + 1, argv + argc);
+  tarnwick::test::QuietDesktop desktop;
+  if (words.at(0) == "open") std::cout << tarnwick::platform::openCommand(words.at(1)) << '\n';
+  if (words.at(0) == "editors") printEditors();
+  if (words.at(0) == "runapp") {
+    const tarnwick::WinApp app(desktop, words.at(1));
+    std::cout << app.runApp(words.at(2).c_str(), words.at(3).c_str(), 0) << '\n';
+  }
+  if (words.at(0) == "showlog") showLogOf(desktop, words);
+  for (const auto& message : desktop.messages) std::cout << "message: " << message << '\n';
+  return 0;
+}

@@ -1,0 +1,240 @@
+#include "app/FileView.h"
+
+#include <chrono>
+#include <thread>
+
+#include "PanelFixture.h"
+
+namespace tarnwick::test {
+namespace {
+
+class FileViewTest : public PanelFixture {
+ protected:
+  std::string makeFile(const std::string& name) {
+    writeFile(userFolder() + name, "class A {}\n");
+    return userFolder() + name;
+  }
+  std::string quoted(const std::string& path) { return "\"" + path + "\""; }
+  std::string saved(const std::string& tag) {
+    const std::string content = contentOf(configFile());
+    const auto begin = content.find("\n" + tag + "  ");
+    if (begin == std::string::npos) return "";
+    const auto value = begin + tag.size() + 3;
+    return content.substr(value, content.find_first_of("\r\n", value) - value);
+  }
+};
+
+TEST_F(FileViewTest, ShowsItsLabelsAndToolTips) {
+  saveEarlierRun();
+  runPanel([](ScriptedWindow&, ScriptedWindow& panel) {
+    EXPECT_EQ(panel.tabLabels(TABS),
+              (std::vector<std::string>{" Main program ", "  Applet  ", "  Utilities  "}));
+    const char* const labels[3][3] = {{"Browse", "jdb debug", "java"},
+                                      {"Browse", "appletdebug", "appletviewer"},
+                                      {"jar", "javadoc", "WinShortcut"}};
+    for (int tab = 0; tab < 3; ++tab) {
+      EXPECT_EQ(panel.page(TABS, tab).text(LEFT), labels[tab][0]);
+      EXPECT_EQ(panel.page(TABS, tab).text(MIDDLE), labels[tab][1]);
+      EXPECT_EQ(panel.page(TABS, tab).text(RIGHT), labels[tab][2]);
+    }
+    auto& main = panel.page(TABS, 0);
+    EXPECT_EQ(main.toolTip(LEFT), "Select executable class file");
+    EXPECT_EQ(main.toolTip(MIDDLE), "Execute class file under debugger control");
+    EXPECT_EQ(main.toolTip(RIGHT), "Execute class file");
+    EXPECT_EQ(main.toolTip(FIELD),
+              "File specification for executable class, optionally followed by runtime arguments");
+    auto& applet = panel.page(TABS, 1);
+    EXPECT_EQ(applet.toolTip(LEFT), "Select HTML file");
+    EXPECT_EQ(applet.toolTip(MIDDLE), "Start appletviewer under debugger control");
+    EXPECT_EQ(applet.toolTip(RIGHT), "Start appletviewer");
+    EXPECT_EQ(applet.toolTip(FIELD), "HTML file specification");
+    EXPECT_FALSE(panel.page(TABS, 2).visible(FIELD));
+    EXPECT_EQ(bar(panel).text(SWITCH_VIEW), "Projectview");
+    EXPECT_EQ(bar(panel).text(LAYOUT_LEFT), "==");
+    EXPECT_EQ(bar(panel).text(LAYOUT_RIGHT), "------");
+    exit(panel);
+  });
+}
+
+TEST_F(FileViewTest, WhatIsNotThereYetStandsDisabled) {
+  saveEarlierRun();
+  runPanel([](ScriptedWindow&, ScriptedWindow& panel) {
+    EXPECT_FALSE(panel.enabled(NEW));
+    EXPECT_FALSE(panel.enabled(EDIT));
+    EXPECT_TRUE(panel.enabled(BROWSE));
+    EXPECT_TRUE(panel.enabled(JAVAC));
+    EXPECT_TRUE(panel.page(TABS, 0).enabled(RIGHT));
+    EXPECT_FALSE(panel.page(TABS, 0).enabled(MIDDLE));
+    EXPECT_FALSE(panel.page(TABS, 1).enabled(RIGHT));
+    EXPECT_FALSE(panel.page(TABS, 2).enabled(LEFT));
+    EXPECT_FALSE(bar(panel).enabled(SWITCH_VIEW));
+    EXPECT_TRUE(bar(panel).enabled(SETTINGS));
+    exit(panel);
+  });
+}
+
+TEST_F(FileViewTest, TheFieldsShowTheStoredFilesQuotedIfTheyHoldABlank) {
+  saveEarlierRun([&](Settings& settings) {
+    settings.fileviewSource.setName(userFolder() + "A.java");
+    settings.fileviewClass.setName("plain.class");
+    settings.fileviewTab = 1;
+  });
+  runPanel([&](ScriptedWindow&, ScriptedWindow& panel) {
+    EXPECT_EQ(panel.text(SOURCE), quoted(userFolder() + "A.java"));
+    EXPECT_EQ(panel.page(TABS, 0).text(FIELD), "plain.class");
+    EXPECT_EQ(panel.page(TABS, 1).text(FIELD), "");
+    EXPECT_EQ(panel.selection(TABS), 1);
+    exit(panel);
+  });
+}
+
+TEST_F(FileViewTest, TheOpenTabIsStored) {
+  saveEarlierRun();
+  runPanel([&](ScriptedWindow& main, ScriptedWindow& panel) {
+    panel.choose(TABS, 2);
+    EXPECT_EQ(settings().fileviewTab, 2);
+    main.moveByHand({1, 2});
+    exit(panel);
+  });
+  EXPECT_EQ(saved("FILEVIEW_TAB"), "2");
+}
+
+TEST_F(FileViewTest, ACleanCompileSoundsTheAsterisk) {
+  saveEarlierRun();
+  const std::string source = makeFile("A.java");
+  runPanel([&](ScriptedWindow&, ScriptedWindow& panel) {
+    panel.type(SOURCE, quoted(source));
+    panel.press(JAVAC);
+    exit(panel);
+  });
+  EXPECT_EQ(desktop_.alerts(), (std::vector<AlertSound>{AlertSound::Asterisk}));
+  EXPECT_EQ(saved("FILEVIEW_SOURCE"), source + ";" + userFolder());
+  EXPECT_EQ(saved("FILEVIEW_CLASS"), ";" + userFolder()) << "the class field's dialog opens in the same folder";
+}
+
+TEST_F(FileViewTest, SoundsCanBeSwitchedOff) {
+  saveEarlierRun([](Settings& settings) { settings.javacSoundOnSuccess = 0; });
+  const std::string source = makeFile("A.java");
+  runPanel([&](ScriptedWindow&, ScriptedWindow& panel) {
+    panel.type(SOURCE, quoted(source));
+    panel.press(JAVAC);
+    exit(panel);
+  });
+  EXPECT_TRUE(desktop_.alerts().empty());
+}
+
+TEST_F(FileViewTest, NoSourceGivenIsTold) {
+  saveEarlierRun();
+  runPanel([&](ScriptedWindow&, ScriptedWindow& panel) {
+    desktop_.expectOpenFile(std::nullopt);
+    desktop_.expectMessage("No .java file known.");
+    panel.press(JAVAC);
+    exit(panel);
+  });
+  EXPECT_EQ(desktop_.lastRequest().filter, "Java source files|*.JAVA||");
+  EXPECT_EQ(desktop_.lastRequest().startFolder, platform::startFolder("C:\\"));
+}
+
+TEST_F(FileViewTest, AFileThatNoLongerExistsAsksInItsFolderAndKeepsTheArguments) {
+  saveEarlierRun([&](Settings& settings) { settings.fileviewSource.setLastFolder(userFolder()); });
+  const std::string source = makeFile("There.java");
+  runPanel([&](ScriptedWindow&, ScriptedWindow& panel) {
+    panel.type(SOURCE, quoted(userFolder() + "Gone.java") + " one two");
+    desktop_.expectOpenFile(source);
+    panel.press(JAVAC);
+    EXPECT_EQ(panel.text(SOURCE), quoted(source));
+    exit(panel);
+  });
+  EXPECT_EQ(desktop_.lastRequest().startFolder, userFolder());
+}
+
+TEST_F(FileViewTest, NoJdkAtThePathIsTold) {
+  saveEarlierRun([&](Settings& settings) { settings.javaPath = userFolder(); });
+  const std::string source = makeFile("A.java");
+  const std::string javac = userFolder() + platform::toolFileName("javac");
+  runPanel([&](ScriptedWindow&, ScriptedWindow& panel) {
+    panel.type(SOURCE, quoted(source));
+    desktop_.expectMessage("Can't access compiler " + javac +
+                           "\nNo such file or directory"
+                           "\nIs the JDK installed? Is the tools directory (Settings!) set correctly?");
+    panel.press(JAVAC);
+    exit(panel);
+  });
+  EXPECT_TRUE(desktop_.alerts().empty());
+  EXPECT_EQ(saved("FILEVIEW_SOURCE"), source + ";" + userFolder()) << "the bookkeeping still runs";
+}
+
+TEST_F(FileViewTest, BrowseTakesTheChosenFile) {
+  saveEarlierRun();
+  const std::string chosen = makeFile("B.class");
+  runPanel([&](ScriptedWindow&, ScriptedWindow& panel) {
+    auto& main = panel.page(TABS, 0);
+    desktop_.expectOpenFile(std::nullopt);
+    main.press(LEFT);
+    EXPECT_EQ(main.text(FIELD), "");
+    desktop_.expectOpenFile(chosen);
+    main.press(LEFT);
+    EXPECT_EQ(main.text(FIELD), quoted(chosen));
+    EXPECT_EQ(desktop_.lastRequest().filter, "Java class files|*.CLASS||");
+    panel.choose(TABS, 1);
+    desktop_.expectOpenFile(std::nullopt);
+    panel.page(TABS, 1).press(LEFT);
+    EXPECT_EQ(desktop_.lastRequest().filter, "htm* files|*.htm*||");
+    exit(panel);
+  });
+}
+
+TEST_F(FileViewTest, BrowseStartsWhereTheFileLies) {
+  saveEarlierRun();
+  const std::string source = makeFile("A.java");
+  runPanel([&](ScriptedWindow&, ScriptedWindow& panel) {
+    panel.type(SOURCE, quoted(source));
+    desktop_.expectOpenFile(std::nullopt);
+    panel.press(BROWSE);
+    exit(panel);
+  });
+  EXPECT_EQ(desktop_.lastRequest().startFolder, userFolder());
+}
+
+TEST_F(FileViewTest, CancelInTheFileDialogOfJavaIsTold) {
+  saveEarlierRun();
+  runPanel([&](ScriptedWindow&, ScriptedWindow& panel) {
+    desktop_.expectOpenFile(std::nullopt);
+    desktop_.expectMessage("No known .class file");
+    panel.page(TABS, 0).press(RIGHT);
+    exit(panel);
+  });
+}
+
+TEST_F(FileViewTest, JavaStartsTheProgramAgainWithTheClass) {
+  saveEarlierRun();
+  // The stand-in plays the second copy of the program.
+  program_.programPath = standInFolder() + platform::toolFileName("jdb");
+  const std::string classFile = makeFile("Main.class");
+  runPanel([&](ScriptedWindow&, ScriptedWindow& panel) {
+    panel.page(TABS, 0).type(FIELD, quoted(classFile) + " first second");
+    panel.page(TABS, 0).press(RIGHT);
+    exit(panel);
+  });
+  std::string recorded;
+  for (int tries = 0; tries < 100 && recorded.find("second") == std::string::npos; ++tries) {
+    std::this_thread::sleep_for(std::chrono::milliseconds(50));
+    if (platform::isFile(scratch_.file("record"))) recorded = contentOf(scratch_.file("record"));
+  }
+  for (const std::string& word : {std::string("\\/TITLE=Main\\/"), std::string("\\/RUN="), std::string("second")}) {
+    EXPECT_NE(recorded.find(word), std::string::npos) << recorded;
+  }
+  EXPECT_EQ(saved("FILEVIEW_CLASS"), classFile + ";" + userFolder());
+}
+
+TEST_F(FileViewTest, SettingsOpenFromTheBar) {
+  saveEarlierRun();
+  runPanel([&](ScriptedWindow&, ScriptedWindow& panel) {
+    desktop_.expectDialog("Tarnwick settings", [](ScriptedWindow& window) { window.press(IDCANCEL_CONTROL); });
+    bar(panel).press(SETTINGS);
+    exit(panel);
+  });
+}
+
+}  // namespace
+}  // namespace tarnwick::test

@@ -1,0 +1,154 @@
+#include "app/TarnwickDlg.h"
+
+#include "PanelFixture.h"
+
+namespace tarnwick::test {
+namespace {
+
+const char firstUse[] =
+    "You seem to be using Tarnwick for the first time,\n"
+    "as I can't find any data from a previous session.";
+const char lookForJavac[] =
+    "Please make sure that you have an installation of a JDK (J2SE) on your system.\n\n"
+    "On the next display you will have to tell Tarnwick where the JDK programs are located.\n"
+    "Look for a file \"javac.exe\" in a \"bin\" subfolder of the JDK installation tree and\n"
+    "enter it in the field \"Tools .exe directory\".\n";
+
+class TarnwickDlgTest : public PanelFixture {
+ protected:
+  /// The empty place of a JDK, with a release file that tells its version.
+  std::string makeJdk(const std::string& version) {
+    const std::string home = scratch_.file("jdk") + platform::folderSeparator;
+    const std::string tools = home + "bin" + platform::folderSeparator;
+    platform::makeFolders(tools);
+    writeFile(tools + platform::toolFileName("javac"), "");
+    writeFile(home + "release", "JAVA_VERSION=\"" + version + "\"\n");
+    return scratch_.file("jdk");
+  }
+
+  void expectWelcome(const std::string& first, const std::string& second) {
+    desktop_.expectDialog("Welcome to Tarnwick", [first, second](ScriptedWindow& window) {
+      EXPECT_EQ(window.text(1273), first);
+      EXPECT_EQ(window.text(1272), second);
+      window.press(IDOK_CONTROL);
+    });
+  }
+};
+
+TEST_F(TarnwickDlgTest, AFirstUseIsWelcomedAndAskedForTheTools) {
+  const ScopedEnvironment javaHome("JAVA_HOME", makeJdk("17.0.2"));
+  std::string offered;
+  expectWelcome(firstUse, platform::localText(lookForJavac));
+  desktop_.expectDialog("Tarnwick settings", [&](ScriptedWindow& window) {
+    offered = window.page(1092, 0).text(1041);
+    window.press(IDOK_CONTROL);
+  });
+  runPanel([](ScriptedWindow&, ScriptedWindow& panel) { exit(panel); });
+  EXPECT_EQ(platform::splitPath(offered + "x").base, "x");
+  EXPECT_TRUE(platform::isFile(offered + platform::toolFileName("javac"))) << offered;
+  const auto saved = freshSettings();
+  int status = -1;
+  saved->readDefaultConfiguration(status);
+  EXPECT_EQ(status, 0);
+  EXPECT_EQ(saved->javaPath, offered);
+  EXPECT_EQ(saved->javaXfuture, 0) << "from 13 on, java refuses it or warns about it";
+}
+
+TEST_F(TarnwickDlgTest, AnOlderJdkKeepsStrictChecks) {
+  const ScopedEnvironment javaHome("JAVA_HOME", makeJdk("1.8.0_302"));
+  expectWelcome(firstUse, platform::localText(lookForJavac));
+  desktop_.expectDialog("Tarnwick settings", [](ScriptedWindow& window) { window.press(IDOK_CONTROL); });
+  runPanel([](ScriptedWindow&, ScriptedWindow& panel) { exit(panel); });
+  EXPECT_EQ(settings().javaXfuture, 1);
+}
+
+TEST_F(TarnwickDlgTest, TheConfigurationIsSavedWhateverTheDialogsOutcome) {
+  const ScopedEnvironment javaHome("JAVA_HOME", "");
+  const ScopedEnvironment path("PATH", scratch_.path());
+  expectWelcome(firstUse, platform::localText(lookForJavac));
+  desktop_.expectDialog("Tarnwick settings", [](ScriptedWindow& window) {
+    EXPECT_EQ(window.page(1092, 0).text(1041), "") << "nothing found leaves the field empty";
+    window.press(IDCANCEL_CONTROL);
+  });
+  runPanel([](ScriptedWindow&, ScriptedWindow& panel) { exit(panel); });
+  EXPECT_TRUE(platform::isFile(configFile()));
+}
+
+TEST_F(TarnwickDlgTest, OneUnknownTagCountsAsAFirstUseUntilItIsSavedAway) {
+  saveEarlierRun();
+  writeFile(configFile(), contentOf(configFile()) + "SOMETHING  new\n");
+  expectWelcome(firstUse, platform::localText(lookForJavac));
+  desktop_.expectDialog("Tarnwick settings", [](ScriptedWindow& window) {
+    EXPECT_EQ(window.page(1092, 0).text(1041), standInFolder()) << "a known folder is not replaced";
+    window.press(IDCANCEL_CONTROL);
+  });
+  runPanel([](ScriptedWindow&, ScriptedWindow& panel) { exit(panel); });
+  EXPECT_EQ(contentOf(configFile()).find("SOMETHING"), std::string::npos);
+  runPanel([](ScriptedWindow&, ScriptedWindow& panel) { exit(panel); });
+}
+
+TEST_F(TarnwickDlgTest, AnotherVersionIsAnUpgrade) {
+  saveEarlierRun();
+  std::string content = contentOf(configFile());
+  const std::string line = "TARNWICK_VERSION  Tarnwick V4.7a";
+  content.replace(content.find(line), line.size(), "TARNWICK_VERSION  Tarnwick V4.6");
+  writeFile(configFile(), content);
+  expectWelcome(
+      "You seem to be upgrading from a previous Tarnwick version,\n"
+      "as far as I can tell from data from a previous session.",
+      "You may wish to review the javac options.\n"
+      "Depending on the JDK version, different options exist for\n"
+      "compiler warnings. They are not compatible across JDK versions,\n"
+      "so you should select the options appropriate for your JDK.");
+  runPanel([](ScriptedWindow&, ScriptedWindow& panel) { exit(panel); });
+  EXPECT_NE(contentOf(configFile()).find(line), std::string::npos);
+}
+
+TEST_F(TarnwickDlgTest, AnAbsentVersionLineIsAnUpgrade) {
+  writeFile(configFile(), "JAVA_XMS  1m\n");
+  desktop_.expectDialog("Welcome to Tarnwick", [](ScriptedWindow& window) { window.press(IDOK_CONTROL); });
+  runPanel([](ScriptedWindow&, ScriptedWindow& panel) { exit(panel); });
+}
+
+TEST_F(TarnwickDlgTest, AnOrdinaryStartAsksNothing) {
+  saveEarlierRun();
+  runPanel([](ScriptedWindow& main, ScriptedWindow& panel) {
+    EXPECT_EQ(main.title(), "Tarnwick");
+    exit(panel);
+  });
+}
+
+TEST_F(TarnwickDlgTest, AtTheFirstStartTheWindowGoesToItsPlaceWithTheCoordinatesExchanged) {
+  saveEarlierRun();
+  desktop_.setWindowPosition(Point{300, 200});
+  runPanel([](ScriptedWindow& main, ScriptedWindow& panel) {
+    EXPECT_EQ(main.position(), (Point{200, 300}));
+    exit(panel);
+  });
+}
+
+TEST_F(TarnwickDlgTest, ThePositionIsRememberedByExit) {
+  saveEarlierRun();
+  runPanel([](ScriptedWindow& main, ScriptedWindow& panel) {
+    main.moveByHand({120, 88});
+    exit(panel);
+  });
+  EXPECT_NE(contentOf(configFile()).find("WINDOW_POSITION  120;88"), std::string::npos);
+  desktop_.setWindowPosition(Point{0, 0});
+  runPanel([](ScriptedWindow& main, ScriptedWindow& panel) {
+    EXPECT_EQ(main.position(), (Point{120, 88}));
+    exit(panel);
+  });
+}
+
+TEST_F(TarnwickDlgTest, TheCloseBoxEndsWithoutThatSave) {
+  saveEarlierRun([](Settings& settings) { settings.windowPosition.fromString("5;6"); });
+  runPanel([](ScriptedWindow& main, ScriptedWindow&) {
+    main.moveByHand({120, 88});
+    main.closeBox();
+  });
+  EXPECT_EQ(contentOf(configFile()).find("120;88"), std::string::npos);
+}
+
+}  // namespace
+}  // namespace tarnwick::test

@@ -1,0 +1,164 @@
+#include "base/ReplacingFile.h"
+#include "platform/FileSystem.h"
+#include "platform/Path.h"
+#include "support/TestProgram.h"
+
+#include <cstdio>
+#include <filesystem>
+#include <gtest/gtest.h>
+#include <string>
+#include <vector>
+
+namespace tarnwick {
+namespace {
+
+using test::contentOf;
+using test::ScratchFolder;
+using test::writeFile;
+
+using Names = std::vector<std::string>;
+
+/// What lies in the folder.
+Names namesIn(const ScratchFolder& folder) {
+  EXPECT_TRUE(platform::changeDirectory(folder.path()));
+  Names names;
+  for (const auto& entry : std::filesystem::directory_iterator(".")) names.push_back(entry.path().filename().string());
+  return names;
+}
+
+TEST(ReplacingFile, WhatIsCommittedTakesTheTargetsPlace) {
+  const ScratchFolder folder;
+  writeFile(folder.file("x.cfg"), "old");
+  {
+    ReplacingFile file(folder.file("x.cfg"));
+    EXPECT_EQ(file.name().fullName(), folder.file("x.cfg"));
+    EXPECT_EQ(file.mode(), FileMode::Write);
+    std::fputs("new", file.stream());
+    EXPECT_EQ(contentOf(folder.file("x.cfg")), "old") << "nothing happens before the commit";
+    file.commit();
+    EXPECT_EQ(contentOf(folder.file("x.cfg")), "new");
+    EXPECT_FALSE(file.isOpen());
+  }
+  EXPECT_EQ(contentOf(folder.file("x.cfg")), "new");
+  EXPECT_EQ(namesIn(folder), Names{"x.cfg"}) << "nothing else is left";
+}
+
+TEST(ReplacingFile, ATargetThatIsMissingIsMade) {
+  const ScratchFolder folder;
+  {
+    ReplacingFile file(folder.file("x.cfg"));
+    std::fputs("new", file.stream());
+    EXPECT_FALSE(platform::isFile(folder.file("x.cfg")));
+    file.commit();
+  }
+  EXPECT_EQ(contentOf(folder.file("x.cfg")), "new");
+  EXPECT_EQ(namesIn(folder), Names{"x.cfg"});
+}
+
+TEST(ReplacingFile, WithoutACommitTheTargetStaysAsItWas) {
+  const ScratchFolder folder;
+  writeFile(folder.file("x.cfg"), "old");
+  {
+    const ReplacingFile file(folder.file("x.cfg"));
+    std::fputs("new", file.stream());
+  }
+  EXPECT_EQ(contentOf(folder.file("x.cfg")), "old");
+  EXPECT_EQ(namesIn(folder), Names{"x.cfg"});
+}
+
+TEST(ReplacingFile, WithoutACommitAMissingTargetStaysMissing) {
+  const ScratchFolder folder;
+  { const ReplacingFile file(folder.file("x.cfg")); }
+  EXPECT_EQ(namesIn(folder), Names{});
+}
+
+TEST(ReplacingFile, TheTargetsFolderIsMadeIfItIsMissing) {
+  const ScratchFolder folder;
+  const std::string target = folder.file("a") + platform::folderSeparator + "b" + platform::folderSeparator + "x.cfg";
+  ReplacingFile file(target);
+  std::fputs("new", file.stream());
+  file.commit();
+  EXPECT_EQ(contentOf(target), "new");
+}
+
+TEST(ReplacingFile, ATargetWithoutAFolderLiesInTheCurrentOne) {
+  const ScratchFolder folder;
+  ASSERT_TRUE(platform::changeDirectory(folder.path()));
+  ReplacingFile file("x.cfg");
+  std::fputs("new", file.stream());
+  file.commit();
+  EXPECT_EQ(contentOf(folder.file("x.cfg")), "new");
+}
+
+TEST(ReplacingFile, TwoSavesOfOneTargetDoNotMeet) {
+  const ScratchFolder folder;
+  ReplacingFile first(folder.file("x.cfg"));
+  ReplacingFile second(folder.file("x.cfg"));
+  std::fputs("first", first.stream());
+  std::fputs("second", second.stream());
+  first.commit();
+  EXPECT_EQ(contentOf(folder.file("x.cfg")), "first");
+  second.commit();
+  EXPECT_EQ(contentOf(folder.file("x.cfg")), "second");
+  EXPECT_EQ(namesIn(folder), Names{"x.cfg"});
+}
+
+TEST(ReplacingFile, ATargetThatIsHeldOpenForReadingIsSavedAllTheSame) {
+  const ScratchFolder folder;
+  writeFile(folder.file("x.cfg"), "a longer old content");
+  const Tarnwickfile reader(folder.file("x.cfg"), FileMode::Read);
+  {
+    ReplacingFile file(folder.file("x.cfg"));
+    std::fputs("new", file.stream());
+    file.commit();
+  }
+  EXPECT_EQ(contentOf(folder.file("x.cfg")), "new");
+  EXPECT_EQ(namesIn(folder), Names{"x.cfg"});
+}
+
+TEST(ReplacingFile, AFolderAsTargetThrowsWhatOpeningItForWritingThrows) {
+  const ScratchFolder folder;
+  ASSERT_TRUE(platform::makeFolders(folder.file("inner")));
+  try {
+    const ReplacingFile file(folder.file("inner"));
+    ADD_FAILURE() << "nothing was thrown";
+  } catch (const Tarnwickfile::FileNotOpenE& failure) {
+    EXPECT_EQ(failure.message, platform::folderSeparator == '/' ? "Is a directory" : "Permission denied");
+    EXPECT_EQ(failure.file, folder.file("inner"));
+  }
+  EXPECT_EQ(namesIn(folder), Names{"inner"});
+}
+
+TEST(ReplacingFile, AFolderThatCannotBeMadeThrowsWithTheTargetsName) {
+  const ScratchFolder folder;
+  writeFile(folder.file("x"), "a file");
+  const std::string target = folder.file("x") + platform::folderSeparator + "y" + platform::folderSeparator + "z.cfg";
+  try {
+    const ReplacingFile file(target);
+    ADD_FAILURE() << "nothing was thrown";
+  } catch (const Tarnwickfile::FileNotOpenE& failure) {
+    EXPECT_EQ(failure.message, platform::folderSeparator == '/' ? "Not a directory" : "No such file or directory");
+    EXPECT_EQ(failure.file, target);
+  }
+  EXPECT_EQ(contentOf(folder.file("x")), "a file");
+}
+
+TEST(ReplacingFile, ACommitOfAClosedFileThrowsAndLeavesTheTarget) {
+  const ScratchFolder folder;
+  writeFile(folder.file("x.cfg"), "old");
+  {
+    ReplacingFile file(folder.file("x.cfg"));
+    file.close();
+    try {
+      file.commit();
+      ADD_FAILURE() << "nothing was thrown";
+    } catch (const Tarnwickfile::FileNotOpenE& failure) {
+      EXPECT_EQ(failure.message, "Attempt to access file that has not been opened.");
+      EXPECT_EQ(failure.file, folder.file("x.cfg"));
+    }
+  }
+  EXPECT_EQ(contentOf(folder.file("x.cfg")), "old");
+}
+
+}  // namespace
+}  // namespace tarnwick

@@ -1,0 +1,264 @@
+#include "base/Tarnwickfile.h"
+#include "platform/FileSystem.h"
+#include "platform/Path.h"
+#include "support/TestProgram.h"
+
+#include <cerrno>
+#include <cstring>
+#include <functional>
+#include <gtest/gtest.h>
+#include <string>
+
+namespace tarnwick {
+namespace {
+
+using test::contentOf;
+using test::ScratchFolder;
+using test::writeFile;
+
+/// The failure that `action` throws.
+Tarnwickfile::FileNotOpenE failureOf(const std::function<void()>& action) {
+  try {
+    action();
+  } catch (const Tarnwickfile::FileNotOpenE& failure) {
+    return failure;
+  }
+  ADD_FAILURE() << "nothing was thrown";
+  return {"", ""};
+}
+
+std::string restOf(const Tarnwickfile& file) {
+  std::string text;
+  for (int c = std::fgetc(file.stream()); c != EOF; c = std::fgetc(file.stream())) text += static_cast<char>(c);
+  return text;
+}
+
+TEST(Tarnwickexception, WhereIsAlwaysUnknown) {
+  const Tarnwickexception plain("text");
+  EXPECT_EQ(plain.message, "text");
+  EXPECT_EQ(plain.where, "unknown");
+  const Tarnwickfile::FileNotOpenE named("text", "name");
+  EXPECT_EQ(named.message, "text");
+  EXPECT_EQ(named.where, "unknown");
+  EXPECT_EQ(named.file, "name");
+}
+
+TEST(Tarnwickexception, AHandlerForTheBaseCatchesWhatCarriesText) {
+  try {
+    throw Tarnwickfile::FileNotOpenE("text", "name");
+  } catch (const Tarnwickexception& failure) {
+    EXPECT_EQ(failure.message, "text");
+  }
+}
+
+TEST(Tarnwickfile, TheModesHaveTheirNumbers) {
+  EXPECT_EQ(static_cast<int>(FileMode::Read), 0);
+  EXPECT_EQ(static_cast<int>(FileMode::Write), 1);
+  EXPECT_EQ(static_cast<int>(FileMode::Append), 2);
+  EXPECT_EQ(static_cast<int>(FileMode::Undefined), 3);
+}
+
+TEST(Tarnwickfile, FromNothingItIsClosedWithNoNameAndNoMode) {
+  const Tarnwickfile file;
+  EXPECT_FALSE(file.isOpen());
+  EXPECT_EQ(file.name().fullName(), "");
+  EXPECT_EQ(file.mode(), FileMode::Undefined);
+}
+
+TEST(Tarnwickfile, ConstructionOpensForReading) {
+  const ScratchFolder folder;
+  writeFile(folder.file("x.txt"), "text");
+  const Tarnwickfile file(folder.file("x.txt"), FileMode::Read);
+  EXPECT_TRUE(file.isOpen());
+  EXPECT_EQ(file.mode(), FileMode::Read);
+  EXPECT_EQ(file.name().fullName(), folder.file("x.txt"));
+  EXPECT_EQ(restOf(file), "text");
+}
+
+TEST(Tarnwickfile, ConstructionFromFolderAndNameJoinsThem) {
+  const ScratchFolder folder;
+  writeFile(folder.file("x.txt"), "text");
+  const Tarnwickfile file(folder.path(), " \"x.txt\" ", FileMode::Read);
+  EXPECT_EQ(file.name().fullName(), folder.file("x.txt"));
+  EXPECT_EQ(restOf(file), "text");
+}
+
+TEST(Tarnwickfile, WritingTruncatesAndAppendingDoesNot) {
+  const ScratchFolder folder;
+  writeFile(folder.file("x.txt"), "before");
+  {
+    const Tarnwickfile file(folder.file("x.txt"), FileMode::Write);
+    std::fputs("one", file.stream());
+  }
+  EXPECT_EQ(contentOf(folder.file("x.txt")), "one");
+  {
+    const Tarnwickfile file(folder.file("x.txt"), FileMode::Append);
+    std::fputs("two", file.stream());
+  }
+  EXPECT_EQ(contentOf(folder.file("x.txt")), "onetwo");
+}
+
+TEST(Tarnwickfile, AppendingMakesAFileThatIsMissingAndReadsToo) {
+  const ScratchFolder folder;
+  const Tarnwickfile file(folder.file("x.txt"), FileMode::Append);
+  std::fputs("one", file.stream());
+  std::rewind(file.stream());
+  EXPECT_EQ(restOf(file), "one");
+}
+
+TEST(Tarnwickfile, ConstructionFromAPathThatCannotBeReadThrowsTheStrerrorText) {
+  const ScratchFolder folder;
+  const auto failure = failureOf([&] { const Tarnwickfile file(folder.file("missing.txt"), FileMode::Read); });
+  EXPECT_EQ(failure.message, std::strerror(ENOENT));
+  EXPECT_EQ(failure.message, "No such file or directory");
+  EXPECT_EQ(failure.file, folder.file("missing.txt"));
+}
+
+TEST(Tarnwickfile, AFolderGivenAsAFileThrowsInEveryMode) {
+  const ScratchFolder folder;
+  ASSERT_TRUE(platform::makeFolders(folder.file("inner")));
+  const bool windows = platform::folderSeparator == '\\';
+  for (const FileMode mode : {FileMode::Read, FileMode::Write, FileMode::Append}) {
+    const auto failure = failureOf([&] { const Tarnwickfile file(folder.file("inner"), mode); });
+    EXPECT_EQ(failure.message, windows ? "Permission denied" : "Is a directory");
+    EXPECT_EQ(failure.file, folder.file("inner"));
+  }
+}
+
+TEST(Tarnwickfile, AnUnopenedFileIsOpenedLater) {
+  const ScratchFolder folder;
+  writeFile(folder.file("x.txt"), "text");
+  Tarnwickfile file = Tarnwickfile::unopened(folder.file("x.txt"), FileMode::Read);
+  EXPECT_FALSE(file.isOpen());
+  file.open(FileMode::Undefined);
+  EXPECT_EQ(restOf(file), "text");
+}
+
+TEST(Tarnwickfile, OpenWithoutAnyModeDoesNotKnowHow) {
+  Tarnwickfile nameless;
+  const auto failure = failureOf([&] { nameless.open(FileMode::Undefined); });
+  EXPECT_EQ(failure.message, "Tarnwickfile::open(): Don't know how to open \"\"");
+  EXPECT_EQ(failure.file, "");
+
+  const std::string path = std::string("folder") + platform::folderSeparator + "x y.txt";
+  const auto named = failureOf([&] { const Tarnwickfile file(path, FileMode::Undefined); });
+  EXPECT_EQ(named.message, "Tarnwickfile::open(): Don't know how to open \"x y.txt\"");
+  EXPECT_EQ(named.file, path);
+}
+
+TEST(Tarnwickfile, OpenWithAModeChangesTheStoredModeForLaterOpens) {
+  const ScratchFolder folder;
+  writeFile(folder.file("x.txt"), "text");
+  Tarnwickfile file(folder.file("x.txt"), FileMode::Read);
+  file.open(FileMode::Write);
+  EXPECT_EQ(file.mode(), FileMode::Write);
+  std::fputs("new", file.stream());
+  file.close();
+  EXPECT_EQ(contentOf(folder.file("x.txt")), "new");
+  file.open(FileMode::Undefined);
+  EXPECT_EQ(file.mode(), FileMode::Write);
+  file.close();
+  EXPECT_EQ(contentOf(folder.file("x.txt")), "") << "opened for writing again";
+}
+
+TEST(Tarnwickfile, OpenInTheStoredModeStartsAgainFromTheBeginning) {
+  const ScratchFolder folder;
+  writeFile(folder.file("x.txt"), "text");
+  Tarnwickfile file(folder.file("x.txt"), FileMode::Read);
+  EXPECT_EQ(restOf(file), "text");
+  file.open(FileMode::Undefined);
+  EXPECT_EQ(restOf(file), "text");
+}
+
+TEST(Tarnwickfile, AFailedOpenLeavesTheStreamClosedAndTheModeStored) {
+  const ScratchFolder folder;
+  writeFile(folder.file("x.txt"), "text");
+  Tarnwickfile file(folder.file("x.txt"), FileMode::Read);
+  file.close();
+  ASSERT_TRUE(platform::deleteFile(folder.file("x.txt")));
+  EXPECT_THROW(file.open(FileMode::Undefined), Tarnwickfile::FileNotOpenE);
+  EXPECT_FALSE(file.isOpen());
+  EXPECT_EQ(file.mode(), FileMode::Read);
+  EXPECT_THROW(file.stream(), Tarnwickfile::FileNotOpenE);
+}
+
+TEST(Tarnwickfile, TheStreamOfAClosedFileThrows) {
+  const Tarnwickfile file = Tarnwickfile::unopened("x.txt", FileMode::Read);
+  const auto failure = failureOf([&] { file.stream(); });
+  EXPECT_EQ(failure.message, "Attempt to access file that has not been opened.");
+  EXPECT_EQ(failure.file, "x.txt");
+}
+
+TEST(Tarnwickfile, ClosingAClosedFileIsNoFailure) {
+  const ScratchFolder folder;
+  writeFile(folder.file("x.txt"), "text");
+  Tarnwickfile file(folder.file("x.txt"), FileMode::Read);
+  file.close();
+  EXPECT_FALSE(file.isOpen());
+  file.close();
+  EXPECT_FALSE(file.isOpen());
+  Tarnwickfile().close();
+}
+
+TEST(Tarnwickfile, TheDestructorClosesTheStream) {
+  const ScratchFolder folder;
+  {
+    const Tarnwickfile file(folder.file("x.txt"), FileMode::Write);
+    std::fputs("text", file.stream());
+  }
+  EXPECT_EQ(contentOf(folder.file("x.txt")), "text");
+}
+
+TEST(Tarnwickfile, AssignmentMovesTheOpenState) {
+  const ScratchFolder folder;
+  writeFile(folder.file("x.txt"), "text");
+  writeFile(folder.file("y.txt"), "other");
+  Tarnwickfile source(folder.file("x.txt"), FileMode::Read);
+  std::fgetc(source.stream());
+  Tarnwickfile file(folder.file("y.txt"), FileMode::Append);
+  file = source;
+  EXPECT_FALSE(source.isOpen());
+  EXPECT_EQ(file.name().fullName(), folder.file("x.txt"));
+  EXPECT_EQ(file.mode(), FileMode::Read);
+  EXPECT_EQ(restOf(file), "text") << "from the beginning";
+}
+
+TEST(Tarnwickfile, AssignmentFromAFileWithoutModeOpensNothing) {
+  const ScratchFolder folder;
+  writeFile(folder.file("x.txt"), "text");
+  Tarnwickfile file(folder.file("x.txt"), FileMode::Read);
+  Tarnwickfile source;
+  file = source;
+  EXPECT_FALSE(file.isOpen());
+  EXPECT_EQ(file.mode(), FileMode::Undefined);
+  EXPECT_EQ(file.name().fullName(), "");
+}
+
+TEST(Tarnwickfile, AssignmentThrowsWhatOpenThrows) {
+  const ScratchFolder folder;
+  Tarnwickfile source = Tarnwickfile::unopened(folder.file("missing.txt"), FileMode::Read);
+  Tarnwickfile file;
+  const auto failure = failureOf([&] { file = source; });
+  EXPECT_EQ(failure.message, "No such file or directory");
+  EXPECT_EQ(failure.file, folder.file("missing.txt"));
+  EXPECT_FALSE(file.isOpen());
+}
+
+TEST(Tarnwickfile, ATextWithCarriageReturnsReadsTheSameOnEverySystem) {
+  const ScratchFolder folder;
+  writeFile(folder.file("x.txt"), "one\r\ntwo\r\n");
+  const Tarnwickfile file(folder.file("x.txt"), FileMode::Read);
+  EXPECT_EQ(restOf(file), "one\ntwo\n");
+}
+
+TEST(CanBeRead, IsHowAFileIsFoundToExist) {
+  const ScratchFolder folder;
+  writeFile(folder.file("x.txt"), "text");
+  EXPECT_TRUE(canBeRead(folder.file("x.txt")));
+  EXPECT_FALSE(canBeRead(folder.file("missing.txt")));
+  EXPECT_FALSE(canBeRead(folder.path()));
+  EXPECT_FALSE(canBeRead(""));
+}
+
+}  // namespace
+}  // namespace tarnwick

@@ -1,0 +1,74 @@
+#include "base/Text.h"
+
+#include <gtest/gtest.h>
+#include <string>
+
+namespace tarnwick {
+namespace {
+
+TEST(Text, WhiteSpaceIsBlankTabAndTheLineEnds) {
+  for (int byte = 0; byte < 256; ++byte) {
+    const bool white = byte == ' ' || (byte >= 9 && byte <= 13);
+    EXPECT_EQ(isWhite(static_cast<char>(byte)), white) << byte;
+  }
+}
+
+TEST(Text, TrimmingTakesWhiteSpaceFromTheEnds) {
+  const std::string text = " \t\r\n a b \v\f ";
+  EXPECT_EQ(trim(text), "a b");
+  EXPECT_EQ(trimLeft(text), "a b \v\f ");
+  EXPECT_EQ(trimRight(text), " \t\r\n a b");
+  EXPECT_EQ(trim(""), "");
+  EXPECT_EQ(trimLeft(" \n"), "");
+  EXPECT_EQ(trimRight(" \n"), "");
+  EXPECT_EQ(trim("x"), "x");
+}
+
+TEST(Text, CaseChangesForTheLettersOfTheAlphabetOnly) {
+  EXPECT_EQ(lowerCase("AZaz[@`{1 \xC4\xE4"), "azaz[@`{1 \xC4\xE4");
+  EXPECT_EQ(upperCase("AZaz[@`{1 \xC4\xE4"), "AZAZ[@`{1 \xC4\xE4");
+}
+
+TEST(Text, ComparingIgnoresCaseOfTheAlphabetOnly) {
+  EXPECT_TRUE(equalsIgnoringCase("Vertical", "vERTICAL"));
+  EXPECT_TRUE(equalsIgnoringCase("", ""));
+  EXPECT_FALSE(equalsIgnoringCase("a", "ab"));
+  EXPECT_FALSE(equalsIgnoringCase("ab", "a"));
+  EXPECT_FALSE(equalsIgnoringCase("\xC4", "\xE4"));
+  EXPECT_FALSE(equalsIgnoringCase("[", "{"));
+}
+
+TEST(Text, ATextWithABlankIsQuoted) {
+  EXPECT_EQ(quotedIfBlank("a b"), "\"a b\"");
+  EXPECT_EQ(quotedIfBlank("a "), "\"a \"");
+  EXPECT_EQ(quotedIfBlank("ab"), "ab");
+  EXPECT_EQ(quotedIfBlank("a\tb"), "a\tb") << "a tab is no blank";
+  EXPECT_EQ(quotedIfBlank(""), "");
+}
+
+TEST(Text, ABlankInTheFirstPlaceDoesNotCount) {
+  EXPECT_EQ(quotedIfBlank(" x"), " x");
+  EXPECT_EQ(quotedIfBlank(" "), " ");
+  EXPECT_EQ(quotedIfBlank(" x y"), "\" x y\"");
+}
+
+TEST(Text, ACleanedPathHasNoWhiteSpaceAroundItAndNoQuotes) {
+  EXPECT_EQ(cleanedPath("  a b \n"), "a b");
+  EXPECT_EQ(cleanedPath(" \"a b\" "), "a b");
+  EXPECT_EQ(cleanedPath("\" a \""), " a ") << "what the quotes enclose stays";
+  EXPECT_EQ(cleanedPath("a\""), "a\"");
+  EXPECT_EQ(cleanedPath(""), "");
+  EXPECT_EQ(cleanedPath("\"\""), "");
+  EXPECT_EQ(cleanedPath("\""), "");
+}
+
+TEST(Text, APathThatBeginsWithAQuoteLosesItsLastCharacterWhateverItIs) {
+  EXPECT_EQ(cleanedPath("\"abc"), "ab");
+}
+
+TEST(Text, FoldExecutableIsTheFoldOfThePlatformFloor) {
+  EXPECT_EQ(foldExecutable("C:\\Java\\bin\\java.exe"), "c:\\JaVa\\bIn\\jAvA.ExE");
+}
+
+}  // namespace
+}  // namespace tarnwick

@@ -1,0 +1,462 @@
+// The child behind the console, played by a script.
+#include "console/ConsoleChild.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <chrono>
+#include <stdexcept>
+
+#include "platform/Path.h"
+#include "support/ConsoleFixture.h"
+#include "support/TestProgram.h"
+
+namespace tarnwick {
+namespace {
+
+using Lines = std::vector<std::string>;
+using Clock = std::chrono::steady_clock;
+using std::chrono::milliseconds;
+
+const char banner[] = "****  Tarnwick:  E n d   o f   j a v a   e x e c u t i o n   ****";
+
+bool namesIgnoreCase() { return platform::sameFileName("a", "A"); }
+
+class ConsoleChildTest : public test::ConsoleFixture {
+ protected:
+  bool bannerShows() {
+    const auto all = lines();
+    return std::find(all.begin(), all.end(), banner) != all.end();
+  }
+  bool shows(const std::string& line) {
+    const auto all = lines();
+    return std::find(all.begin(), all.end(), line) != all.end();
+  }
+  void openRunningVerbose() {
+    open();
+    ASSERT_TRUE(until([&] { return view->childState() == 1 && lineCount() == 4; }));
+  }
+  bool ended() { return view->childState() == 0 && bannerShows(); }
+};
+
+TEST_F(ConsoleChildTest, WaitsAsLongAsItShouldByDefault) {
+  const ConsoleTiming timing;
+  EXPECT_EQ(timing.settle, milliseconds(200));
+  EXPECT_EQ(timing.readerWait, milliseconds(400));
+  EXPECT_EQ(timing.readerTries, 8);
+}
+
+TEST_F(ConsoleChildTest, StartsTheExecutableWithTheRunArgumentsUnchanged) {
+  program.runArguments = " -cp \"a b\"  Main \\/b";
+  openRunning();
+  EXPECT_EQ(started.executable, "C:\\Jdk\\Bin\\Java.exe");
+  EXPECT_EQ(started.arguments, " -cp \"a b\"  Main \\/b");
+  EXPECT_TRUE(started.interactive);
+}
+
+TEST_F(ConsoleChildTest, EachReaderBeginsALine) {
+  openRunning();
+  EXPECT_EQ(lines(), (Lines{"", "", ""}));
+}
+
+TEST_F(ConsoleChildTest, OutputIsBlueAndErrorsAreRed) {
+  openRunning();
+  child->out("to out\n");
+  ASSERT_TRUE(until([&] { return shows("to out"); }));
+  child->err("to err\n");
+  ASSERT_TRUE(until([&] { return shows("to err"); }));
+  const TextGuard guard(document.textLock());
+  EXPECT_EQ(document.lines()[2].segments()[0].kind, KIND_OUTPUT);
+  EXPECT_EQ(document.lines()[3].segments()[0].kind, KIND_ERROR);
+}
+
+TEST_F(ConsoleChildTest, BlocksOfTheTwoOutputsDoNotMix) {
+  openRunning();
+  const std::string outBlock(512, 'o');
+  const std::string errBlock(512, 'e');
+  for (int block = 0; block < 200; ++block) {
+    child->out(outBlock);
+    child->err(errBlock);
+  }
+  ASSERT_TRUE(until([&] { return child->unread() == 0 && lastLine().size() == 2 * 200 * 512; }));
+  const TextGuard guard(document.textLock());
+  for (const auto& segment : document.lastLine().segments()) {
+    EXPECT_EQ(segment.text.size() % 512, 0U) << "a block was cut";
+  }
+}
+
+TEST_F(ConsoleChildTest, TheEndIsTold) {
+  openRunning();
+  child->out("done\n");
+  ASSERT_TRUE(until([&] { return shows("done"); }));
+  child->end();
+  ASSERT_TRUE(until([&] { return ended(); }));
+  const auto all = lines();
+  // The readers' ends, two lines, the banner, and a line for the caret.
+  EXPECT_EQ(all, (Lines{"", "", "done", "", "", "", "", banner, ""}));
+  {
+    const TextGuard guard(document.textLock());
+    EXPECT_EQ(document.lines()[all.size() - 2].segments()[0].kind, KIND_BANNER);
+  }
+  EXPECT_EQ(surface.closes, 0);
+}
+
+TEST_F(ConsoleChildTest, TheBannersPaintingIsAskedFor) {
+  openRunning();
+  child->out("x");
+  child->end();
+  ASSERT_TRUE(until([&] { return bannerShows() && view->childState() == 0; }));
+  ASSERT_TRUE(until([&] { return surface.allInvalidated > 0; }));
+}
+
+TEST_F(ConsoleChildTest, AChildThatWritesOnlyErrorsGetsItsBanner) {
+  openRunning();
+  child->err("broken\n");
+  ASSERT_TRUE(until([&] { return shows("broken"); }));
+  child->end();
+  ASSERT_TRUE(until([&] { return ended(); }));
+  const TextGuard guard(document.textLock());
+  EXPECT_EQ(document.lines()[2].segments()[0].kind, KIND_ERROR);
+}
+
+TEST_F(ConsoleChildTest, AChildThatSaidNothingLeavesNoConsoleBehind) {
+  openRunning();
+  child->end();
+  ASSERT_TRUE(until([&] { return surface.closes > 0; }));
+  EXPECT_FALSE(bannerShows());
+  EXPECT_EQ(view->childState(), 0);
+}
+
+TEST_F(ConsoleChildTest, TheBannerWaitsUntilTheOutputHasSettled) {
+  program.timing.settle = milliseconds(60);
+  openRunning();
+  child->out("a");
+  child->end(false);
+  const auto begin = Clock::now();
+  int said = 1;
+  while (Clock::now() - begin < milliseconds(400)) {
+    child->out("a");
+    ++said;
+    std::this_thread::sleep_for(milliseconds(10));
+    pump();
+  }
+  ASSERT_TRUE(until([&] { return ended(); }));
+  EXPECT_TRUE(shows(std::string(static_cast<std::size_t>(said), 'a')));
+}
+
+TEST_F(ConsoleChildTest, AGrandchildThatHoldsThePipesDoesNotKeepTheBannerAway) {
+  openRunning();
+  child->out("parent\n");
+  ASSERT_TRUE(until([&] { return shows("parent"); }));
+  child->end(false);
+  ASSERT_TRUE(until([&] { return ended(); }));
+  // What it says later still shows.
+  child->out("late\n");
+  EXPECT_TRUE(until([&] { return shows("late"); }));
+}
+
+TEST_F(ConsoleChildTest, AnActiveReaderIsWaitedForEightTimesAtMost) {
+  program.timing = {milliseconds(0), milliseconds(50), 8};
+  openRunning();
+  child->out("x\n");
+  ASSERT_TRUE(until([&] { return shows("x"); }));
+  child->end(false);
+  const auto begin = Clock::now();
+  // Keeps the reader active all the time; between two looks at the count it says nothing, so that this settles.
+  while (!ended() && Clock::now() - begin < milliseconds(5000)) {
+    child->out("y\n");
+    std::this_thread::sleep_for(milliseconds(5));
+    pump();
+  }
+  EXPECT_TRUE(ended());
+  EXPECT_GE(Clock::now() - begin, milliseconds(8 * 50));
+  EXPECT_LT(Clock::now() - begin, milliseconds(3000));
+}
+
+TEST_F(ConsoleChildTest, AVerboseRunShowsItsCommandFirst) {
+  program.exeFile = std::string("C:") + platform::folderSeparator + "Jdk" + platform::folderSeparator + "JaVa.eXe";
+  program.runArguments = " -verbose -cp x Main";
+  openRunningVerbose();
+  const TextGuard guard(document.textLock());
+  const std::string name = namesIgnoreCase() ? "java" : "JaVa";
+  EXPECT_EQ(test::segmentsOf(document.lines()[0]), (Lines{"1:" + name + "  -verbose -cp x Main"}));
+}
+
+TEST_F(ConsoleChildTest, AVerboseRunQuotesANameWithABlank) {
+  program.exeFile = std::string("dir") + platform::folderSeparator + "my java.exe";
+  program.runArguments = " -verbose Main";
+  openRunningVerbose();
+  EXPECT_EQ(lines()[0], "\"my java\"  -verbose Main");
+}
+
+TEST_F(ConsoleChildTest, OnlyVerboseBetweenBlanksCounts) {
+  for (const std::string arguments : {"-verbose Main", " -verbose", " -verbose:gc Main"}) {
+    test::RecordingDesktop ownDesktop;
+    TarnwickDoc text(ownDesktop, "");
+    ConsoleScreen screen(text);
+    auto script = std::make_shared<test::ChildScript>();
+    ConsoleChild quiet(
+        screen, ownDesktop,
+        {"java", arguments, [&](const platform::ChildCommand&) { return std::make_unique<test::FakeChild>(script); }, {}},
+        [] {});
+    quiet.start();
+    ASSERT_TRUE(until([&] { return quiet.childState() == 1; }));
+    quiet.close();
+    EXPECT_EQ(text.lines()[0].text(), "") << arguments;
+  }
+}
+
+TEST_F(ConsoleChildTest, AFailedStartIsToldAndLeavesTheWindow) {
+  program.start = [](const platform::ChildCommand&) -> std::unique_ptr<platform::ChildProcess> {
+    throw platform::SystemError{"CreateProcess", 2, "No such file"};
+  };
+  openWith(program);
+  ASSERT_TRUE(until([&] { return !desktop.messages.empty(); }));
+  const std::string name = namesIgnoreCase() ? "c:\\jdk\\bin\\java.exe" : "C:\\Jdk\\Bin\\Java.exe";
+  const platform::SystemError error{"CreateProcess", 2, "No such file"};
+  EXPECT_EQ(error.text(), "CreateProcess error 2\nNo such file");
+  EXPECT_EQ(desktop.messages, (Lines{"Can't start " + name + "\nCreateProcess error 2\nNo such file"}));
+  EXPECT_EQ(view->childState(), -1);
+  // Keys do nothing to the window.
+  view->onKey(ConsoleKey::Other, 0);
+  type("x\r");
+  pump();
+  EXPECT_EQ(surface.closes, 0);
+  EXPECT_EQ(desktop.messages.size(), 1U);
+}
+
+TEST_F(ConsoleChildTest, WhatNobodyExpectedAtTheStartEndsTheConsole) {
+  program.start = [](const platform::ChildCommand&) -> std::unique_ptr<platform::ChildProcess> {
+    throw std::runtime_error("anything");
+  };
+  openWith(program);
+  ASSERT_TRUE(until([&] { return surface.closes > 0 && !desktop.messages.empty(); }));
+  EXPECT_EQ(desktop.messages, (Lines{"Can't open C:\\Jdk\\Bin\\Java.exe.\nCheck java path in settings."}));
+  EXPECT_EQ(view->childState(), 0);
+}
+
+TEST_F(ConsoleChildTest, WhatIsTypedReachesTheChild) {
+  openRunning();
+  type("line one\r");
+  ASSERT_TRUE(until([&] { return child->writes().size() == 1; }));
+  EXPECT_EQ(child->writes(), (Lines{"line one\n"}));
+}
+
+TEST_F(ConsoleChildTest, AWriteThatFailsIsTold) {
+  openRunning();
+  child->answerWrites(-1);
+  type("x\r");
+  ASSERT_TRUE(until([&] { return !desktop.messages.empty(); }));
+  EXPECT_EQ(desktop.messages, (Lines{"WriteFile error to jStdin"}));
+  // The run goes on.
+  child->answerWrites(2);
+  type("y\r");
+  ASSERT_TRUE(until([&] { return child->writes().size() == 2; }));
+  EXPECT_EQ(view->childState(), 1);
+}
+
+TEST_F(ConsoleChildTest, AWriteThatComesShortIsTold) {
+  openRunning();
+  child->answerWrites(1);
+  type("xyz\r");
+  ASSERT_TRUE(until([&] { return !desktop.messages.empty(); }));
+  EXPECT_EQ(desktop.messages, (Lines{"WriteFile didn't write to jStdin"}));
+}
+
+TEST_F(ConsoleChildTest, FailuresAreNotPiledUponOneAnother) {
+  openRunning();
+  child->answerWrites(-1);
+  for (int line = 0; line < 50; ++line) type("\x04");
+  // The first message has not been shown yet, so the others have nothing to add.
+  const auto deadline = Clock::now() + std::chrono::seconds(10);
+  while (child->writes().size() < 50 && Clock::now() < deadline) std::this_thread::sleep_for(milliseconds(1));
+  ASSERT_EQ(child->writes().size(), 50U);
+  type("\x04");
+  ASSERT_TRUE(until([&] { return child->writes().size() == 51 && !desktop.messages.empty(); }));
+  EXPECT_LE(desktop.messages.size(), 2U);
+}
+
+TEST_F(ConsoleChildTest, AChildThatDoesNotReadItsInputDoesNotStopTheWindow) {
+  openRunning();
+  child->stopReadingInput();
+  type("one\r");
+  ASSERT_TRUE(until([&] { return child->writing(); }));
+  type("two");
+  EXPECT_EQ(lastLine(), "two");
+  child->out("alive\n");
+  EXPECT_TRUE(until([&] { return shows("twoalive"); }));
+  const auto begin = Clock::now();
+  view->onClose();
+  EXPECT_LT(Clock::now() - begin, milliseconds(1000));
+  EXPECT_TRUE(desktop.messages.empty());
+}
+
+TEST_F(ConsoleChildTest, WhatIsTypedBeforeTheStartWaitsForIt) {
+  std::mutex gate;
+  gate.lock();
+  program.start = [&](const platform::ChildCommand&) -> std::unique_ptr<platform::ChildProcess> {
+    const std::lock_guard wait(gate);
+    return std::make_unique<test::FakeChild>(child);
+  };
+  openWith(program);
+  type("early\r");
+  EXPECT_EQ(view->childState(), -1);
+  gate.unlock();
+  ASSERT_TRUE(until([&] { return !child->writes().empty(); }));
+  EXPECT_EQ(child->writes(), (Lines{"early\n"}));
+}
+
+TEST_F(ConsoleChildTest, AfterTheEndNothingIsWritten) {
+  openRunning();
+  child->out("x");
+  child->end();
+  ASSERT_TRUE(until([&] { return ended(); }));
+  child->answerWrites(-1);
+  type("y\r");
+  pump();
+  view->onClose();
+  EXPECT_TRUE(child->writes().empty());
+  EXPECT_TRUE(desktop.messages.empty());
+}
+
+TEST_F(ConsoleChildTest, ClosingEndsTheTreeOfARunningChildAndDoesNotWaitForIt) {
+  openRunning();
+  const auto begin = Clock::now();
+  view->onClose();
+  EXPECT_LT(Clock::now() - begin, milliseconds(1000));
+  EXPECT_EQ(child->treesEnded(), 1);
+  view->onClose();
+  EXPECT_EQ(child->treesEnded(), 1);
+}
+
+TEST_F(ConsoleChildTest, ClosingAfterTheEndEndsNothing) {
+  openRunning();
+  child->out("x");
+  child->end();
+  ASSERT_TRUE(until([&] { return ended(); }));
+  view->onClose();
+  EXPECT_EQ(child->treesEnded(), 0);
+}
+
+TEST_F(ConsoleChildTest, ClosingWhileTheOutputSettlesIsQuick) {
+  program.timing.settle = milliseconds(60000);
+  openRunning();
+  child->end();
+  const auto begin = Clock::now();
+  view->onClose();
+  EXPECT_LT(Clock::now() - begin, milliseconds(1000));
+}
+
+TEST_F(ConsoleChildTest, ClosingDuringTheStartEndsWhatHasStarted) {
+  std::mutex gate;
+  gate.lock();
+  program.start = [&](const platform::ChildCommand&) -> std::unique_ptr<platform::ChildProcess> {
+    const std::lock_guard wait(gate);
+    return std::make_unique<test::FakeChild>(child);
+  };
+  openWith(program);
+  std::thread opener([&] {
+    std::this_thread::sleep_for(milliseconds(20));
+    gate.unlock();
+  });
+  view->onClose();
+  opener.join();
+  EXPECT_EQ(child->treesEnded(), 1);
+}
+
+TEST_F(ConsoleChildTest, ClosingUnderAFloodIsQuick) {
+  openRunning();
+  std::atomic<bool> flooding{true};
+  std::string line(80, 'x');
+  line.back() = '\n';
+  std::thread flood([&] {
+    while (flooding) {
+      if (child->unread() < 100000) child->out(line);
+    }
+  });
+  EXPECT_TRUE(until([&] { return lineCount() > 100; }));
+  const auto begin = Clock::now();
+  view->onClose();
+  EXPECT_LT(Clock::now() - begin, milliseconds(1000));
+  flooding = false;
+  flood.join();
+}
+
+TEST_F(ConsoleChildTest, ClosingLeavesTheUnfinishedLineAlone) {
+  openRunning();
+  child->out("half");
+  ASSERT_TRUE(until([&] { return shows("half"); }));
+  const int before = lineCount();
+  view->onClose();
+  EXPECT_EQ(lineCount(), before);
+}
+
+TEST_F(ConsoleChildTest, BeepsAreMerged) {
+  openRunning();
+  child->out("a\a\a\ab");
+  ASSERT_TRUE(until([&] { return shows("ab") && !desktop.alerts.empty(); }));
+  EXPECT_EQ(desktop.alerts, (std::vector{AlertSound::Beep}));
+}
+
+TEST_F(ConsoleChildTest, AFloodCostsOneWakeUntilTheWindowHasFollowed) {
+  openRunning();
+  until([&] { return surface.wakes == 0; });
+  for (int line = 0; line < 5000; ++line) child->out("line\n");
+  const auto deadline = Clock::now() + std::chrono::seconds(10);
+  while (child->unread() > 0 && Clock::now() < deadline) std::this_thread::sleep_for(milliseconds(1));
+  EXPECT_EQ(child->unread(), 0U);
+  EXPECT_LE(surface.wakes, 1);
+  surface.forget();
+  ASSERT_TRUE(until([&] { return lineCount() == 1500; }));
+  EXPECT_LE(surface.sizeChanges, 3);
+}
+
+TEST_F(ConsoleChildTest, AKeyIsEchoedDuringAFlood) {
+  openRunning();
+  std::atomic<bool> flooding{true};
+  std::thread flood([&] {
+    while (flooding) {
+      if (child->unread() < 100000) child->out(std::string(4000, '\n'));
+    }
+  });
+  EXPECT_TRUE(until([&] { return lineCount() == 1500; }));
+  milliseconds slowest{0};
+  for (int key = 0; key < 50; ++key) {
+    const auto begin = Clock::now();
+    type("k");
+    slowest = std::max(slowest, std::chrono::duration_cast<milliseconds>(Clock::now() - begin));
+  }
+  flooding = false;
+  flood.join();
+  EXPECT_LT(slowest, milliseconds(1000));
+}
+
+TEST_F(ConsoleChildTest, AClosedErrorStreamBeginsALineAndTheRunGoesOn) {
+  openRunning();
+  child->closeError();
+  ASSERT_TRUE(until([&] { return lineCount() == 4; }));
+  child->out("on\n");
+  EXPECT_TRUE(until([&] { return shows("on"); }));
+  EXPECT_EQ(view->childState(), 1);
+}
+
+TEST_F(ConsoleChildTest, ARecordingUnderFloodHoldsEveryLine) {
+  test::ScratchFolder scratch;
+  const std::string file = scratch.file("record.txt");
+  openRunning();
+  desktop.saveAnswers = {file};
+  ASSERT_TRUE(document.startRecording());
+  std::string expected;
+  for (int line = 0; line < 5000; ++line) {
+    child->out("line " + std::to_string(line) + "\n");
+    expected += "line " + std::to_string(line) + "\n";
+  }
+  ASSERT_TRUE(until([&] { return shows("line 4999"); }));
+  document.stopRecording();
+  std::string content = test::contentOf(file);
+  content.erase(std::remove(content.begin(), content.end(), '\r'), content.end());
+  EXPECT_EQ(content, expected);
+}
+
+}  // namespace
+}  // namespace tarnwick

@@ -1,0 +1,477 @@
+// The view on its window: following the text, keys, timers, painting.
+#include "console/TarnwickView.h"
+
+#include <gtest/gtest.h>
+
+#include "support/ConsoleFixture.h"
+
+namespace tarnwick {
+namespace {
+
+using Lines = std::vector<std::string>;
+using Rects = std::vector<Rect>;
+using test::FakePainter;
+
+class TarnwickViewTest : public test::ConsoleFixture {
+ protected:
+  /// A view without any child's output under way: the start has failed.
+  TarnwickView& openIdle() {
+    program.start = [](const platform::ChildCommand&) -> std::unique_ptr<platform::ChildProcess> {
+      throw platform::SystemError{"CreateProcess", 2, ""};
+    };
+    openWith(program);
+    EXPECT_TRUE(until([&] { return !desktop.messages.empty(); }));
+    desktop.messages.clear();
+    surface.forget();
+    return *view;
+  }
+  void addLines(int count) {
+    const TextGuard guard(document.textLock());
+    for (int line = 0; line < count; ++line) document.newLine();
+  }
+  void addText(const std::string& text, int kind = KIND_OUTPUT) {
+    const TextGuard guard(document.textLock());
+    document.addText(text, kind);
+  }
+  /// The end of a child that has said something.
+  void endChild() {
+    child->out("x\n");
+    child->end();
+    ASSERT_TRUE(until([&] { return view->childState() == 0; }));
+    pump();
+  }
+};
+
+TEST_F(TarnwickViewTest, TheStartSetsTheSmallestScrollSizesAndTheBlinkTimer) {
+  open();
+  EXPECT_EQ(surface.sizes, (Point{1, 1}));
+  EXPECT_EQ(desktop.timersOf(700), 1U);
+  desktop.tick(700);
+}
+
+TEST_F(TarnwickViewTest, ATimerThatCantBeHadIsTold) {
+  desktop.timersWork = false;
+  open();
+  EXPECT_EQ(desktop.messages, (Lines{"Error creating timer"}));
+}
+
+TEST_F(TarnwickViewTest, AFontThatCantBeMeasuredIsTold) {
+  surface.cellSize = {0, 0};
+  open();
+  EXPECT_EQ(desktop.messages, (Lines{"Error getting font metrics"}));
+  // The next paint tries again.
+  surface.cellSize = {8, 16};
+  FakePainter painter;
+  view->paint(painter);
+  EXPECT_EQ(painter.inverted.size(), 1U);
+}
+
+TEST_F(TarnwickViewTest, PaintsTextCaretAndSelection) {
+  openIdle();
+  addText("abc def");
+  view->onDoubleClick({.at = {4 + 8 * 5, 3}});
+  FakePainter painter;
+  view->paint(painter);
+  EXPECT_EQ(painter.drawn, (std::vector<FakePainter::Drawn>{{4, 0, "abc def", {0, 0, 255}}}));
+  // The caret has two pixels' width and the cell's height.
+  EXPECT_EQ(painter.inverted, (Rects{{4, 0, 6, 16}, {36, 0, 60, 16}}));
+}
+
+TEST_F(TarnwickViewTest, AllTimersEndWithTheWindow) {
+  openIdle();
+  view->sendKeys("a\\nb");
+  view->onRightDown({});
+  EXPECT_EQ(desktop.runningTimers(), 3U);
+  view->onClose();
+  EXPECT_EQ(desktop.runningTimers(), 0U);
+}
+
+TEST_F(TarnwickViewTest, NothingAddressesTheWindowAfterTheClose) {
+  openRunning();
+  view->onClose();
+  surface.forget();
+  const int wakes = surface.wakes;
+  child->out("late\n");
+  view->onWake();
+  view->onResized();
+  view->refresh(5, 0, 1);
+  view->onKey(ConsoleKey::Up, 0);
+  view->onCharacter("x", 1);
+  view->sendKeys("y\\n");
+  view->onLeftDown({});
+  view->onMouseMove({.at = {50, 50}, .leftDown = true});
+  view->onLeftUp({});
+  view->onDoubleClick({});
+  view->onRightDown({});
+  view->selectAll();
+  FakePainter painter;
+  view->paint(painter);
+  EXPECT_EQ(surface.sizeChanges + surface.scrolls + surface.allInvalidated + surface.hintChanges, 0);
+  EXPECT_TRUE(surface.invalidated.empty());
+  EXPECT_EQ(surface.wakes, wakes);
+}
+
+// Following the text.
+
+TEST_F(TarnwickViewTest, RefreshSetsTheScrollSizesWhenTheyChange) {
+  openIdle();
+  addText("0123456789");
+  view->refresh(1, 0, 10);
+  EXPECT_EQ(surface.sizes, (Point{4 + 11 * 8, 16}));
+  EXPECT_EQ(surface.sizeChanges, 1);
+  view->refresh(1, 0, 10);
+  EXPECT_EQ(surface.sizeChanges, 1);
+  addLines(1);
+  view->refresh(2, 0, 1);
+  EXPECT_EQ(surface.sizes, (Point{4 + 11 * 8, 32}));
+}
+
+TEST_F(TarnwickViewTest, RefreshInvalidatesTheTailOfTheLastLineOnly) {
+  openIdle();
+  addText("0123456789");
+  view->refresh(1, 0, 10);
+  surface.forget();
+  view->refresh(1, 9, 10);
+  EXPECT_EQ(surface.invalidated, (Rects{{4 + 9 * 8, 0, 644, 16}}));
+  EXPECT_EQ(surface.allInvalidated, 0);
+  EXPECT_EQ(surface.scrolls, 0);
+}
+
+TEST_F(TarnwickViewTest, RefreshInvalidatesAllRowsThatHaveComeSinceTheLast) {
+  openIdle();
+  view->refresh(1, 0, 1);
+  surface.forget();
+  addLines(3);
+  view->refresh(4, 0, 1);
+  EXPECT_EQ(surface.invalidated, (Rects{{0, 0, 644, 64}}));
+}
+
+TEST_F(TarnwickViewTest, RefreshFollowsTheLastLine) {
+  openIdle();
+  addLines(99);
+  view->refresh(100, 0, 1);
+  EXPECT_EQ(surface.position, (Point{0, 100 * 16 - 400}));
+  EXPECT_EQ(surface.allInvalidated, 1);
+  // A user's scroll upward lasts until the next output.
+  surface.position = {0, 160};
+  view->refresh(100, 0, 1);
+  EXPECT_EQ(surface.position, (Point{0, 1200}));
+}
+
+TEST_F(TarnwickViewTest, RefreshShowsTheRightOfALongLine) {
+  openIdle();
+  addText(std::string(200, 'x'));
+  view->refresh(1, 0, 200);
+  EXPECT_EQ(surface.position.x, 4 + 201 * 8 - 644);
+}
+
+TEST_F(TarnwickViewTest, RefreshComesBackToTheLeft) {
+  openIdle();
+  addText(std::string(300, 'x'));
+  view->refresh(1, 0, 300);
+  // Column 100 is left of what is seen: it comes to the right edge.
+  ASSERT_GT(surface.position.x, 4 + 100 * 8);
+  view->refresh(1, 100, 99);
+  EXPECT_EQ(surface.position.x, 4 + 100 * 8 - 644);
+  // And never below 0.
+  view->refresh(1, 0, 1);
+  EXPECT_EQ(surface.position.x, 0);
+}
+
+TEST_F(TarnwickViewTest, OnceLinesHaveBeenDroppedEveryRefreshDrawsAll) {
+  openIdle();
+  addLines(1500);
+  view->refresh(1500, 0, 1);
+  surface.forget();
+  view->refresh(1500, 0, 1);
+  EXPECT_EQ(surface.allInvalidated, 1);
+  EXPECT_TRUE(surface.invalidated.empty());
+}
+
+TEST_F(TarnwickViewTest, RefreshDropsTheSelectionAndHidesTheHint) {
+  openIdle();
+  addText("word");
+  view->onRightDown({});
+  EXPECT_TRUE(surface.hint);
+  view->selectAll();
+  EXPECT_TRUE(view->canCopy());
+  surface.forget();
+  view->refresh(1, 0, 1);
+  EXPECT_FALSE(view->canCopy());
+  EXPECT_FALSE(surface.hint);
+  EXPECT_EQ(surface.allInvalidated, 1);
+}
+
+TEST_F(TarnwickViewTest, OutputDropsTheSelection) {
+  openRunning();
+  pump();
+  view->selectAll();
+  child->out("x");
+  EXPECT_TRUE(until([&] { return !view->canCopy(); }));
+}
+
+TEST_F(TarnwickViewTest, AWindowThatShowsTheEndGoesOnShowingItWhenResized) {
+  openIdle();
+  addLines(99);
+  view->refresh(100, 0, 1);
+  surface.client = {644, 200};
+  view->onResized();
+  EXPECT_EQ(surface.position.y, 1400);
+  surface.position.y = 100;  // the user looks further up
+  surface.client = {644, 160};
+  view->onResized();
+  EXPECT_EQ(surface.position.y, 100);
+}
+
+TEST_F(TarnwickViewTest, ALineWhosePixelsCantBeCountedDoesNoHarm) {
+  openIdle();
+  view->refresh(1, 0, 2000000000);
+  EXPECT_GE(surface.position.x, 0);
+  EXPECT_GT(surface.sizes.x, 0);
+}
+
+// Keys.
+
+TEST_F(TarnwickViewTest, TypedCharactersAreEchoedByTheView) {
+  openIdle();
+  view->onCharacter("a", 1);
+  view->onCharacter("b", 3);
+  EXPECT_EQ(lastSegments(), (Lines{"1:abbb"}));
+}
+
+TEST_F(TarnwickViewTest, TheCodeZeroAddsNothing) {
+  openIdle();
+  view->onCharacter(std::string(1, '\0'), 1);
+  EXPECT_EQ(lastSegments(), (Lines{}));
+}
+
+TEST_F(TarnwickViewTest, AKeyDropsTheSelectionAndHidesTheHint) {
+  openIdle();
+  view->onRightDown({});
+  view->selectAll();
+  view->onCharacter("a", 1);
+  EXPECT_FALSE(view->canCopy());
+  EXPECT_FALSE(surface.hint);
+}
+
+TEST_F(TarnwickViewTest, TypingFarRightScrolls) {
+  openIdle();
+  type(std::string(200, 'x'));
+  EXPECT_EQ(surface.position.x, 4 + 201 * 8 - 644);
+}
+
+TEST_F(TarnwickViewTest, PastedLinesReachTheChildOneByOneWithPausesOf100Milliseconds) {
+  openRunning();
+  desktop.clipboard = "one\r\ntwo\r\nthree";
+  EXPECT_TRUE(view->canPaste());
+  view->paste();
+  ASSERT_TRUE(until([&] { return child->writes() == Lines{"one\n"}; }));
+  ASSERT_EQ(desktop.timersOf(100), 1U);
+  desktop.tick(100);
+  // The line feed behind the Return is a control character of its own.
+  ASSERT_TRUE(until([&] { return child->writes() == Lines{"one\n", "\n", "two\n"}; }));
+  desktop.tick(100);
+  EXPECT_EQ(desktop.timersOf(100), 0U);
+  EXPECT_EQ(lastLine(), "three");
+}
+
+TEST_F(TarnwickViewTest, APastedLineFeedAloneIsAReturn) {
+  openRunning();
+  desktop.clipboard = "one\ntwo\n";
+  view->paste();
+  desktop.tick(100);
+  EXPECT_EQ(desktop.timersOf(100), 0U);
+  ASSERT_TRUE(until([&] { return child->writes() == Lines{"one\n", "two\n"}; }));
+}
+
+TEST_F(TarnwickViewTest, PastingNothingDoesNothing) {
+  openIdle();
+  EXPECT_FALSE(view->canPaste());
+  view->paste();
+  EXPECT_EQ(lastSegments(), (Lines{}));
+}
+
+TEST_F(TarnwickViewTest, APasteIsInsertedAtTheCaret) {
+  openIdle();
+  type("ad");
+  view->onKey(ConsoleKey::Left, 0);
+  desktop.clipboard = "bc";
+  view->paste();
+  EXPECT_EQ(lastLine(), "abcd");
+}
+
+TEST_F(TarnwickViewTest, SendKeysTakesBackslashNForReturn) {
+  openRunning();
+  view->sendKeys("locals\\n");
+  ASSERT_TRUE(until([&] { return child->writes() == Lines{"locals\n"}; }));
+}
+
+TEST_F(TarnwickViewTest, SendKeysKeepsALoneBackslash) {
+  openIdle();
+  view->sendKeys("a\\b\\");
+  EXPECT_EQ(lastLine(), "a\\b\\");
+}
+
+TEST_F(TarnwickViewTest, SendKeysWithoutReturnWaitsInTheInputLine) {
+  openRunning();
+  view->sendKeys("stop at ");
+  type("X");
+  EXPECT_EQ(lastLine(), "stop at X");
+  EXPECT_TRUE(child->writes().empty());
+}
+
+TEST_F(TarnwickViewTest, SendKeysJoinsWhatWasTyped) {
+  openIdle();
+  type("abc ");
+  view->sendKeys("stop at ");
+  EXPECT_EQ(lastLine(), "abc stop at ");
+}
+
+TEST_F(TarnwickViewTest, SeveralReturnsOfSendKeysAreSentWithPauses) {
+  openRunning();
+  view->sendKeys("a\\nb\\n");
+  ASSERT_TRUE(until([&] { return child->writes() == Lines{"a\n"}; }));
+  desktop.tick(100);
+  ASSERT_TRUE(until([&] { return child->writes() == Lines{"a\n", "b\n"}; }));
+  EXPECT_EQ(desktop.timersOf(100), 0U);
+}
+
+TEST_F(TarnwickViewTest, FunctionKeysAreLookedUpByGroupAndIndex) {
+  openIdle();
+  keyText = "k";
+  for (int group = 0; group < 8; ++group) {
+    for (int index = 0; index < 8; ++index) {
+      const auto key = static_cast<ConsoleKey>(static_cast<int>(ConsoleKey::F5) + index);
+      EXPECT_TRUE(view->onKey(key, group));
+      EXPECT_EQ(asked.back(), (std::pair{group, index}));
+    }
+  }
+  EXPECT_EQ(asked.size(), 64U);
+  EXPECT_EQ(lastLine(), std::string(64, 'k'));
+  EXPECT_EQ(static_cast<int>(SHIFT_BIT), 1);
+  EXPECT_EQ(static_cast<int>(CTRL_BIT), 2);
+  EXPECT_EQ(static_cast<int>(ALT_BIT), 4);
+}
+
+TEST_F(TarnwickViewTest, AnEmptyFunctionKeyWritesNothing) {
+  openRunning();
+  view->onKey(ConsoleKey::F5, SHIFT_BIT);
+  EXPECT_EQ(lastSegments(), (Lines{}));
+  EXPECT_TRUE(child->writes().empty());
+}
+
+TEST_F(TarnwickViewTest, NavigationKeysEditTheLine) {
+  openIdle();
+  type("abc");
+  EXPECT_TRUE(view->onKey(ConsoleKey::Home, 0));
+  EXPECT_TRUE(view->onKey(ConsoleKey::Delete, 0));
+  EXPECT_EQ(lastLine(), "bc");
+  FakePainter painter;
+  view->paint(painter);
+  EXPECT_EQ(painter.inverted, (Rects{{4, 0, 6, 16}}));
+  EXPECT_TRUE(view->onKey(ConsoleKey::End, 0));
+  FakePainter second;
+  view->paint(second);
+  EXPECT_EQ(second.inverted, (Rects{{20, 0, 22, 16}}));
+}
+
+TEST_F(TarnwickViewTest, WithAltANavigationKeyIsOfNoUse) {
+  openIdle();
+  type("abc");
+  EXPECT_FALSE(view->onKey(ConsoleKey::Home, ALT_BIT));
+  EXPECT_FALSE(view->onKey(ConsoleKey::Other, 0));
+  type("d");
+  EXPECT_EQ(lastLine(), "abcd");
+}
+
+TEST_F(TarnwickViewTest, AnyKeyAfterTheEndClosesTheWindow) {
+  openRunning();
+  endChild();
+  EXPECT_EQ(surface.closes, 0);
+  view->onKey(ConsoleKey::Other, 0);
+  EXPECT_EQ(surface.closes, 1);
+}
+
+TEST_F(TarnwickViewTest, ACharacterAfterTheEndClosesTheWindow) {
+  openRunning();
+  endChild();
+  view->onCharacter("x", 1);
+  EXPECT_EQ(surface.closes, 1);
+  EXPECT_EQ(lastLine(), "x");
+}
+
+TEST_F(TarnwickViewTest, ACommandAfterTheEndClosesTheWindow) {
+  openRunning();
+  endChild();
+  view->sendKeys("cont\\n");
+  EXPECT_EQ(surface.closes, 1);
+}
+
+TEST_F(TarnwickViewTest, AWindowThatEndsWithinItsCloseIsNotAddressedAgain) {
+  openRunning();
+  endChild();
+  surface.endsAtOnce = view.get();
+  surface.forget();
+  view->onCharacter("x", 1);
+  EXPECT_EQ(surface.closes, 1);
+  EXPECT_TRUE(surface.invalidated.empty());
+  EXPECT_EQ(desktop.runningTimers(), 0U);
+}
+
+TEST_F(TarnwickViewTest, WhileTheChildRunsAKeyClosesNothing) {
+  openRunning();
+  view->onKey(ConsoleKey::Other, 0);
+  type("x");
+  EXPECT_EQ(surface.closes, 0);
+}
+
+TEST_F(TarnwickViewTest, InputGoesOnInASegmentOfItsOwnWhileOutputArrives) {
+  openRunning();
+  type("ty");
+  child->out("out");
+  ASSERT_TRUE(until([&] { return lastLine() == "tyout"; }));
+  type("ped\b");
+  EXPECT_EQ(lastSegments(), (Lines{"1:ty", "2:out", "1:pe"}));
+  type("\r");
+  ASSERT_TRUE(until([&] { return child->writes() == Lines{"pe\n"}; }));
+}
+
+// The clipboard.
+
+TEST_F(TarnwickViewTest, CopyPutsTheSelectionOnTheClipboard) {
+  openIdle();
+  addText("one");
+  addLines(1);
+  addText("two");
+  EXPECT_FALSE(view->canCopy());
+  view->selectAll();
+  EXPECT_TRUE(view->canCopy());
+  view->copy();
+  EXPECT_EQ(desktop.clipboard, "one\r\ntwo");
+  EXPECT_TRUE(view->canCopy());
+}
+
+TEST_F(TarnwickViewTest, AClipboardThatTakesNothingIsTold) {
+  openIdle();
+  desktop.clipboardTakes = false;
+  view->selectAll();
+  view->copy();
+  ASSERT_EQ(desktop.messages.size(), 1U);
+  const std::string start = "Unable to set clipboard data.\n";
+  EXPECT_EQ(desktop.messages[0].substr(0, start.size()), start);
+  EXPECT_LE(desktop.messages[0].size(), start.size() + 512);
+}
+
+TEST_F(TarnwickViewTest, SelectAllIsShown) {
+  openIdle();
+  addText("abc");
+  surface.forget();
+  view->selectAll();
+  EXPECT_EQ(surface.allInvalidated, 1);
+  FakePainter painter;
+  view->paint(painter);
+  EXPECT_EQ(painter.inverted.back(), (Rect{4, 0, 28, 16}));
+}
+
+}  // namespace
+}  // namespace tarnwick

@@ -1,0 +1,81 @@
+#include "platform/FileSystem.h"
+#include "platform/Path.h"
+#include "support/TestProgram.h"
+
+#include <gtest/gtest.h>
+
+namespace tarnwick::platform {
+namespace {
+
+TEST(PosixPath, SplitsAtSlashesAndKnowsNoDrive) {
+  const PathParts parts = splitPath("/home/a b/X.java");
+  EXPECT_EQ(parts.drive, "");
+  EXPECT_EQ(parts.folder, "/home/a b/");
+  EXPECT_EQ(parts.base, "X");
+  EXPECT_EQ(parts.extension, ".java");
+  EXPECT_EQ(folderSeparator, '/');
+}
+
+TEST(PosixPath, ABackslashOrColonIsPartOfAName) {
+  EXPECT_EQ(splitPath("C:\\a\\b.c").folder, "");
+  EXPECT_EQ(splitPath("C:\\a\\b.c").drive, "");
+  EXPECT_EQ(splitPath("C:\\a\\b.c").base, "C:\\a\\b");
+  EXPECT_FALSE(endsInSeparator("a\\"));
+}
+
+TEST(PosixPath, AToolsFileHasNoExeAndJavawIsJava) {
+  EXPECT_EQ(toolFileName("javac"), "javac");
+  EXPECT_EQ(toolFileName("java"), "java");
+  EXPECT_EQ(toolFileName("javaw"), "java");
+}
+
+TEST(PosixPath, TextsNameTheToolsFilesAsTheyAreHere) {
+  EXPECT_EQ(localText("javac.exe"), "javac");
+  EXPECT_EQ(localText("Tools .exe directory"), "Tools directory");
+  EXPECT_EQ(localText("No path to javac.exe and other tools available from settings"),
+            "No path to javac and other tools available from settings");
+  EXPECT_EQ(localText("javaw.exe"), "java");
+  EXPECT_EQ(localText("java.exe, javaw.exe and jdb.exe"), "java, java and jdb");
+  EXPECT_EQ(localText("folder of .exe"), "folder of");
+  EXPECT_EQ(localText(".exe folder"), "folder");
+  EXPECT_EQ(localText(".exe"), "");
+  EXPECT_EQ(localText("nothing to change"), "nothing to change");
+  EXPECT_EQ(localText(""), "");
+}
+
+TEST(PosixPath, FileNamesCompareExactly) {
+  EXPECT_TRUE(sameFileName("/a/B.java", "/a/B.java"));
+  EXPECT_FALSE(sameFileName("/a/B.java", "/a/b.java"));
+}
+
+TEST(PosixPath, PathListsHaveColonsOnACommandLineAndSemicolonsInSettings) {
+  EXPECT_EQ(commandLineList("/a;/b c;."), "/a:/b c:.");
+  EXPECT_EQ(commandLineList(""), "");
+  EXPECT_EQ(storedList("/a:/b c:."), "/a;/b c;.");
+  EXPECT_EQ(storedList("/a;/b"), "/a;/b");
+  EXPECT_EQ(storedList("/a:/b;/c"), "/a;/b;/c");
+}
+
+TEST(PosixPath, TheExecutablesNameIsKeptAsItStands) {
+  EXPECT_EQ(keptExecutable("/usr/lib/jvm/Java/bin/java"), "/usr/lib/jvm/Java/bin/java");
+}
+
+TEST(PosixPath, TheStartFolderIsTheHomeFolder) {
+  const test::ScopedEnvironment home("HOME", "/home/somebody");
+  EXPECT_EQ(startFolder("C:\\"), "/home/somebody");
+  EXPECT_EQ(startFolder("C:"), "/home/somebody");
+}
+
+TEST(PosixPath, TheRawCommandLineIsTheArgumentsJoinedBySingleBlanks) {
+  char program[] = "/usr/bin/tarnwick";
+  char first[] = "\\/DEFAULTDIR=/a b\\/";
+  char second[] = "\\/RUN=x  y";
+  char* arguments[] = {program, first, second, nullptr};
+  EXPECT_EQ(rawCommandLine(3, arguments), "\\/DEFAULTDIR=/a b\\/ \\/RUN=x  y");
+  EXPECT_EQ(rawCommandLine(2, arguments), "\\/DEFAULTDIR=/a b\\/");
+  EXPECT_EQ(rawCommandLine(1, arguments), "");
+  EXPECT_EQ(rawCommandLine(0, arguments), "");
+}
+
+}  // namespace
+}  // namespace tarnwick::platform

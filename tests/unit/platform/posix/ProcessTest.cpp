@@ -1,0 +1,273 @@
+#include "platform/FileSystem.h"
+#include "platform/Process.h"
+#include "support/Children.h"
+
+#include <chrono>
+#include <csignal>
+#include <fcntl.h>
+#include <filesystem>
+#include <fstream>
+#include <functional>
+#include <gtest/gtest.h>
+#include <iterator>
+#include <sstream>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <thread>
+#include <unistd.h>
+
+namespace tarnwick::platform {
+namespace {
+
+using test::outputOf;
+using test::processLives;
+using test::readAll;
+using test::StandInScript;
+using test::waitUntil;
+using Stream = ChildProcess::Stream;
+using std::chrono::milliseconds;
+using std::chrono::steady_clock;
+
+std::string java() {
+  return StandInScript::tool("java");
+}
+
+/// The fields of a process's line in the system's table, from its state on.
+std::vector<std::string> tableFields(const std::string& process) {
+  std::ifstream file("/proc/" + process + "/stat");
+  const std::string stat{std::istreambuf_iterator<char>(file), {}};
+  const auto nameEnd = stat.rfind(')');
+  if (nameEnd == std::string::npos) return {};
+  std::istringstream rest(stat.substr(nameEnd + 2));
+  return {std::istream_iterator<std::string>(rest), {}};
+}
+
+/// Counts processes whose field with this index (0 state, 1 parent, 2 group) is `value`, and whose state is `state` if
+/// that is given.
+int processesWith(std::size_t field, int value, const std::string& state = "") {
+  int count = 0;
+  for (const auto& entry : std::filesystem::directory_iterator("/proc")) {
+    const std::string name = entry.path().filename().string();
+    if (name.find_first_not_of("0123456789") != std::string::npos) continue;
+    const auto fields = tableFields(name);
+    if (fields.size() > field && fields[field] == std::to_string(value) && (state.empty() || fields[0] == state)) {
+      ++count;
+    }
+  }
+  return count;
+}
+
+int ourZombies() {
+  return processesWith(1, getpid(), "Z");
+}
+
+std::ptrdiff_t openDescriptors() {
+  return std::distance(std::filesystem::directory_iterator("/proc/self/fd"), std::filesystem::directory_iterator());
+}
+
+/// Runs `work` in a copy of this process, which then ends with its result.
+pid_t inACopy(const std::function<int()>& work) {
+  const pid_t copy = fork();
+  if (copy == 0) _exit(work());
+  return copy;
+}
+
+int resultOf(pid_t copy) {
+  int status = 0;
+  waitpid(copy, &status, 0);
+  return WIFEXITED(status) ? WEXITSTATUS(status) : -WTERMSIG(status);
+}
+
+TEST(PosixProcessTest, SentencesComeFromTheSystem) {
+  errno = ENOENT;
+  EXPECT_EQ(lastSystemError("CreatePipe()").text(), "CreatePipe() error 2\nNo such file or directory");
+}
+
+TEST(PosixProcessTest, AFileWithoutTheRightToRunIsTold) {
+  const test::ScratchFolder folder;
+  test::writeFile(folder.file("plain"), "text");
+  try {
+    ChildProcess::start({folder.file("plain"), "", false});
+    FAIL() << "started a plain file";
+  } catch (const SystemError& error) {
+    EXPECT_EQ(error.text(), "CreateProcess error 13\nPermission denied");
+  }
+}
+
+TEST(PosixProcessTest, AFileInNoFormatForProgramsIsTold) {
+  const test::ScratchFolder folder;
+  test::writeFile(folder.file("plain"), "text");
+  chmod(folder.file("plain").c_str(), 0755);
+  try {
+    ChildProcess::start({folder.file("plain"), "", true});
+    FAIL() << "started a plain file";
+  } catch (const SystemError& error) {
+    EXPECT_EQ(error.text(), "CreateProcess error 8\nExec format error") << "and no shell plays it";
+  }
+}
+
+TEST(PosixProcessTest, AWorkingFolderThatHasGoneIsNoMissingProgram) {
+  const StandInScript script("out started");
+  const std::string before = currentDirectory();
+  {
+    const test::ScratchFolder gone;
+    ASSERT_TRUE(changeDirectory(gone.path()));
+    std::filesystem::remove(gone.path());
+    EXPECT_EQ(outputOf(java(), ""), "started\n");
+  }
+  changeDirectory(before);
+}
+
+TEST(PosixProcessTest, AChildInheritsNothingButItsStreams) {
+  const int extra = open("/dev/null", O_RDONLY);
+  EXPECT_EQ(outputOf("/bin/ls", "/proc/self/fd"), "0\n1\n2\n3\n") << "3 is the folder that ls reads";
+  close(extra);
+}
+
+TEST(PosixProcessTest, AChildStartsWithDefaultSignals) {
+  std::signal(SIGPIPE, SIG_IGN);
+  // The masks' low 28 bits; two of the higher numbers belong to the C library.
+  EXPECT_EQ(outputOf("/bin/grep", "-cE ^Sig(Blk|Ign):.*0{7}$ /proc/self/status"), "2\n");
+}
+
+TEST(PosixProcessTest, AChildHasAGroupOfItsOwn) {
+  const StandInScript script("grandchild 60000");
+  const auto child = ChildProcess::start({java(), "", true});
+  const int grandchild = script.grandchildren(1).at(0);
+  EXPECT_NE(getpgid(grandchild), getpgrp());
+  kill(grandchild, SIGKILL);
+  child->wait();
+}
+
+TEST(PosixProcessTest, WhatIgnoresTermIsKilledAfterTwoSeconds) {
+  const StandInScript script("ignoreterm\ngrandchild 60000\nsleep 60000");
+  const auto child = ChildProcess::start({java(), "", true});
+  const int grandchild = script.grandchildren(1).at(0);
+  const auto begin = steady_clock::now();
+  child->endTree();
+  EXPECT_LT(steady_clock::now() - begin, milliseconds(500)) << "nobody waits for it";
+  child->wait();
+  EXPECT_TRUE(waitUntil([&] { return !processLives(grandchild); }));
+  const auto taken = steady_clock::now() - begin;
+  EXPECT_GT(taken, milliseconds(1900));
+  EXPECT_LT(taken, milliseconds(4000));
+}
+
+TEST(PosixProcessTest, ATreeThatHeedsTermEndsAtOnce) {
+  const StandInScript script("grandchild 60000\nsleep 60000");
+  const auto child = ChildProcess::start({java(), "", true});
+  const int grandchild = script.grandchildren(1).at(0);
+  const auto begin = steady_clock::now();
+  child->endTree();
+  child->wait();
+  EXPECT_TRUE(waitUntil([&] { return !processLives(grandchild); }));
+  EXPECT_LT(steady_clock::now() - begin, milliseconds(1500));
+}
+
+TEST(PosixProcessTest, TheTreeEndsWhenItsOwnerIsKilled) {
+  const StandInScript script("ignoreterm\ngrandchild 60000\nsleep 60000");
+  const pid_t owner = inACopy([] {
+    const auto child = ChildProcess::start({java(), "", true});
+    child->wait();
+    return 0;
+  });
+  const int grandchild = script.grandchildren(1).at(0);
+  const int group = getpgid(grandchild);
+  kill(owner, SIGKILL);
+  EXPECT_EQ(resultOf(owner), -SIGKILL);
+  EXPECT_TRUE(waitUntil([&] { return !processLives(grandchild); }));
+  EXPECT_TRUE(waitUntil([&] { return !processLives(group); })) << "the child itself";
+}
+
+TEST(PosixProcessTest, TheOwnerMayLeaveRightAfterEndTree) {
+  const StandInScript script("ignoreterm\ngrandchild 60000\nsleep 60000");
+  const pid_t owner = inACopy([&script] {
+    auto child = ChildProcess::start({java(), "", true});
+    script.grandchildren(1);
+    child->endTree();
+    child.release();  // as a process leaves that cleans up nothing
+    return 7;
+  });
+  const int grandchild = script.grandchildren(1).at(0);
+  EXPECT_EQ(resultOf(owner), 7);
+  EXPECT_TRUE(waitUntil([&] { return !processLives(grandchild); }));
+}
+
+TEST(PosixProcessTest, AGuardGoesWithoutHarmWhenTheChildHasEnded) {
+  const StandInScript script("grandchild 60000");
+  const auto child = ChildProcess::start({java(), "", true});
+  const int grandchild = script.grandchildren(1).at(0);
+  const int group = getpgid(grandchild);
+  child->wait();
+  EXPECT_TRUE(waitUntil([&] { return processesWith(2, group) == 1; })) << "only the grandchild is left of the group";
+  EXPECT_TRUE(processLives(grandchild));
+  kill(grandchild, SIGKILL);
+}
+
+TEST(PosixProcessTest, AChildMaySignalItsOwnGroupWithoutHarmToUs) {
+  const StandInScript script("out bye\nsignal 9");
+  const auto child = ChildProcess::start({java(), "", true});
+  EXPECT_EQ(readAll(*child, Stream::Output), "bye\n");
+  child->wait();
+  child->endTree();
+}
+
+TEST(PosixProcessTest, FiftyRunsLeaveNoZombieAndNoOpenFile) {
+  const StandInScript script("out x\nerr y");
+  EXPECT_TRUE(waitUntil([] { return ourZombies() == 0; }));
+  const auto before = openDescriptors();
+  for (int i = 0; i < 50; ++i) {
+    auto child = ChildProcess::start({java(), "", i % 2 == 0});
+    EXPECT_EQ(readAll(*child, Stream::Output), "x\n");
+    if (i % 3 == 0) child->endTree();
+    if (i % 5 != 0) child->wait();
+    if (i % 10 == 0) startDetached(java(), {"java"});
+  }
+  EXPECT_EQ(openDescriptors(), before);
+  EXPECT_TRUE(waitUntil([] { return ourZombies() == 0; }));
+}
+
+TEST(PosixProcessTest, AFailedStartLeavesNothingOpen) {
+  const auto before = openDescriptors();
+  for (const bool interactive : {false, true}) {
+    EXPECT_THROW(ChildProcess::start({"/nothing/here", "", interactive}), SystemError);
+  }
+  EXPECT_EQ(openDescriptors(), before);
+}
+
+TEST(PosixProcessTest, StreamsStayRightWhenOurOwnAreClosed) {
+  const StandInScript script("readline\nout x\nerr y");
+  const pid_t copy = inACopy([] {
+    for (const int standard : {0, 1, 2}) close(standard);
+    const auto child = ChildProcess::start({java(), "", true});
+    if (child->write("in\n", 3) != 3) return 1;
+    if (readAll(*child, Stream::Output) != "got: in\nx\n") return 2;
+    if (readAll(*child, Stream::Error) != "y\n") return 3;
+    return 0;
+  });
+  EXPECT_EQ(resultOf(copy), 0);
+}
+
+TEST(PosixProcessTest, OneChildDoesNotKeepAnothersPipes) {
+  const StandInScript script("out x");
+  const auto sleeper = [] {
+    const test::ScratchFolder folder;
+    test::writeFile(folder.file("script"), "sleep 60000");
+    const test::ScopedEnvironment longer("STANDIN_SCRIPT", folder.file("script"));
+    auto child = ChildProcess::start({java(), "", true});
+    std::this_thread::sleep_for(milliseconds(100));
+    return child;
+  };
+  const auto first = sleeper();
+  const auto child = ChildProcess::start({java(), "", true});
+  const auto second = sleeper();
+  EXPECT_EQ(readAll(*child, Stream::Output), "x\n") << "the end is seen though others, and their guards, live";
+  child->wait();
+  first->endTree();
+  second->endTree();
+  first->wait();
+  second->wait();
+}
+
+}  // namespace
+}  // namespace tarnwick::platform

@@ -70,9 +70,16 @@ wxWindow* makeCombo(wxWindow& parent, const DialogItem& item) {
   return combo;
 }
 
+/// A field that the keyboard reaches even if it only shows: its text can be scrolled and copied.
+class Field : public wxTextCtrl {
+ public:
+  using wxTextCtrl::wxTextCtrl;
+  bool AcceptsFocusFromKeyboard() const override { return AcceptsFocus(); }
+};
+
 wxWindow* makeEdit(wxWindow& parent, const DialogItem& item) {
-  auto* edit = new wxTextCtrl(&parent, wxID_ANY, toWx(item.text), wxDefaultPosition, wxDefaultSize,
-                              item.readOnly ? wxTE_READONLY : 0);
+  auto* edit = new Field(&parent, wxID_ANY, toWx(item.text), wxDefaultPosition, wxDefaultSize,
+                         item.readOnly ? wxTE_READONLY : 0);
   if (item.readOnly) edit->SetBackgroundColour(wxSystemSettings::GetColour(wxSYS_COLOUR_BTNFACE));
   return edit;
 }

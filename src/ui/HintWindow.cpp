@@ -1,9 +1,9 @@
 #include "ui/HintWindow.h"
 
+#include "resources/HintLayout.h"
+
 #include <wx/dcclient.h>
 #include <wx/settings.h>
-
-#include "resources/HintLayout.h"
 
 namespace tarnwick::ui {
 

@@ -128,9 +128,9 @@ int inkIn(const wxImage& picture, const wxRect& rect, Colour colour) {
   int count = 0;
   for (int y = rect.y; y < rect.y + rect.height; ++y) {
     for (int x = rect.x; x < rect.x + rect.width; ++x) {
-      const auto near = [](int left, int right) { return std::abs(left - right) < 60; };
-      if (near(picture.GetRed(x, y), colour.red) && near(picture.GetGreen(x, y), colour.green) &&
-          near(picture.GetBlue(x, y), colour.blue)) {
+      const auto alike = [](int left, int right) { return std::abs(left - right) < 60; };
+      if (alike(picture.GetRed(x, y), colour.red) && alike(picture.GetGreen(x, y), colour.green) &&
+          alike(picture.GetBlue(x, y), colour.blue)) {
         ++count;
       }
     }

@@ -125,12 +125,20 @@ class World:
         subprocess.run([real_javac(), "-encoding", "UTF-8", path], check=True, timeout=120, env=self.environment)
         return path.removesuffix(".java") + ".class"
 
+    def messages(self):
+        """What the program wrote to its standard streams, less what GTK says to whoever looks at a notebook."""
+        with open(os.path.join(self.root, "messages"), encoding="utf-8", errors="replace") as lines:
+            return "".join(line for line in lines if line.strip() and "Atk-CRITICAL" not in line and
+                           "GLib-GObject-CRITICAL" not in line)
+
     def listing(self):
-        """All files of the user, each with the time of its last change."""
+        """All files below the scratch folder, each with the time of its last change."""
         found = {}
         for folder, _folders, files in os.walk(self.root):
             for name in files:
                 path = os.path.join(folder, name)
+                if name == "messages":
+                    continue
                 found[os.path.relpath(path, self.root)] = os.lstat(path).st_mtime_ns
         return found
 
@@ -191,8 +199,10 @@ class World:
 
     def start(self, *arguments, **variables):
         """Starts the program as a user at a desktop does."""
-        started = subprocess.Popen([self.program, *arguments], env=self.environment | variables, cwd=self.home,
-                                   stdin=subprocess.DEVNULL, stdout=subprocess.PIPE, stderr=subprocess.PIPE)
+        # A file takes whatever the toolkit has to say; a pipe that nobody reads would stop the program.
+        with open(os.path.join(self.root, "messages"), "ab") as messages:
+            started = subprocess.Popen([self.program, *arguments], env=self.environment | variables, cwd=self.home,
+                                       stdin=subprocess.DEVNULL, stdout=messages, stderr=messages)
         self.running.append(started)
         return started
 
@@ -210,6 +220,19 @@ class World:
         program, panel = self.first_start()
         panel.press("Exit")
         program.wait(20)
+
+    def compile(self, panel, source):
+        """Types a source into the panel and presses "javac"; waits until the class is there and the panel listens again."""
+        compiled = source.removesuffix(".java") + ".class"
+        panel.activate()
+        panel.write(quoted(source))
+        panel.press("javac")
+        wait_until("the class", lambda: os.path.exists(compiled), 60)
+        # While the compiler runs the panel takes no input. The settings are saved last of all.
+        wait_until("the end of the compilation", lambda: not self.processes("javac") and
+                   os.stat(self.configuration).st_mtime_ns > os.stat(compiled).st_mtime_ns, 60)
+        time.sleep(0.5)
+        return compiled
 
     def run_class(self, panel, path):
         """Types a class file into the panel and presses "java"; gives the console's window."""

@@ -58,13 +58,13 @@ def real_javac():
 
 
 class World:
-    def __init__(self, project, variables=None):
+    def __init__(self, project, letters="日本"):
         self.project = project
         self.program = os.path.join(project, "build", "linux", "tarnwick")
-        self.root = tempfile.mkdtemp(prefix="tarnwick Übung 日本 ")
+        self.root = tempfile.mkdtemp(prefix=f"tarnwick Übung {letters} ")
         self.home = self._folder("Zoës Heim")
-        self.config = self._folder("Meine Einstellungen 設定")
-        self.work = self._folder("Zoës Heim", "Java-Übungen 練習")
+        self.config = self._folder(f"Meine Einstellungen {letters}")
+        self.work = self._folder("Zoës Heim", f"Java-Übungen {letters}")
         self.notes = self._folder("Notizen des Editors")
         self.configuration = os.path.join(self.config, "Tarnwickdefault.CFG")
         self.running = []
@@ -74,7 +74,7 @@ class World:
             "XDG_CONFIG_HOME": os.path.join(self.home, ".config"), "XDG_DATA_HOME": os.path.join(self.home, ".local", "share"),
             "XDG_CACHE_HOME": os.path.join(self.home, ".cache"), "XDG_STATE_HOME": os.path.join(self.home, ".local", "state"),
             "GSETTINGS_BACKEND": "memory", "GTK_USE_PORTAL": "0", "LC_ALL": "C.UTF-8",
-        } | (variables or {})
+        }
         self._install_editor()
 
     def _folder(self, *names):

@@ -118,14 +118,17 @@ bool ConsoleChild::startProcess() {
 
 void ConsoleChild::startReaders() {
   using Stream = platform::ChildProcess::Stream;
-  stdoutThread_ = std::thread([this] { read(Stream::Output, KIND_OUTPUT); });
-  stderrThread_ = std::thread([this] { read(Stream::Error, KIND_ERROR); });
+  auto output = std::make_shared<OutputReader>(screen_, KIND_OUTPUT);
+  auto error = std::make_shared<OutputReader>(screen_, KIND_ERROR);
+  // Both begin their lines before either reads: a late one would cut the child's first words in two.
+  output->begin();
+  error->begin();
+  stdoutThread_ = std::thread([this, output] { read(Stream::Output, *output); });
+  stderrThread_ = std::thread([this, error] { read(Stream::Error, *error); });
   writer_.start(*process_);
 }
 
-void ConsoleChild::read(platform::ChildProcess::Stream stream, int kind) {
-  OutputReader reader(screen_, kind);
-  reader.begin();
+void ConsoleChild::read(platform::ChildProcess::Stream stream, OutputReader& reader) {
   char block[OutputReader::blockSize];
   for (;;) {
     const std::size_t count = process_->read(stream, block, sizeof block);

@@ -16,6 +16,8 @@
 
 namespace tarnwick {
 
+class OutputReader;
+
 /// The program that runs in the console: one thread starts it and waits for its end, two bring its output into the
 /// text, one writes its input. No thread touches the window: they note what has changed and call `wake`.
 ///
@@ -46,7 +48,7 @@ class ConsoleChild {
   void echoCommand();
   bool startProcess();
   void startReaders();
-  void read(platform::ChildProcess::Stream stream, int kind);
+  void read(platform::ChildProcess::Stream stream, OutputReader& reader);
   bool settle();
   bool waitForReaders();
   void writeBanner();

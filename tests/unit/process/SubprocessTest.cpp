@@ -348,8 +348,8 @@ TEST(ToolLogTest, IsMadeWithTheFirstOpenAndGoesWithTheProcess) {
 }
 
 TEST(ToolLogTest, LiesWhereTheConfigurationIsWhenItIsMade) {
-  const ScratchFolder before;
-  const ScratchFolder after;
+  const test::ScratchFolder before;
+  const test::ScratchFolder after;
   std::string folder = before.path();
   ToolLog log([&folder] { return folder; });
   folder = after.path();

@@ -1,10 +1,15 @@
 #include "platform/Sound.h"
 
+#include "platform/FileSystem.h"
+
 #include <canberra.h>
+#include <glib.h>
 
 #include <atomic>
+#include <string>
 #include <system_error>
 #include <thread>
+#include <vector>
 
 namespace tarnwick::platform {
 namespace {
@@ -32,8 +37,25 @@ ca_context* soundContext() {
   return context;
 }
 
+/// The sound in the theme that every desktop falls back to; empty where it has none.
+std::string soundFile(const std::string& event) {
+  std::vector<std::string> folders = {g_get_user_data_dir()};
+  for (auto folder = g_get_system_data_dirs(); *folder != nullptr; ++folder) folders.emplace_back(*folder);
+  for (const auto& folder : folders) {
+    for (const char* ending : {".oga", ".ogg", ".wav"}) {
+      const std::string path = folder + "/sounds/freedesktop/stereo/" + event + ending;
+      if (isFile(path)) return path;
+    }
+  }
+  return "";
+}
+
+/// By the sound's file: given the event's name, the sound library would write a cache of its own into the user's home.
 int play(const char* event) {
-  return ca_context_play(soundContext(), 0, CA_PROP_EVENT_ID, event, CA_PROP_EVENT_DESCRIPTION, event, nullptr);
+  const std::string file = soundFile(event);
+  if (file.empty()) return CA_ERROR_NOTFOUND;
+  return ca_context_play(soundContext(), 0, CA_PROP_MEDIA_FILENAME, file.c_str(), CA_PROP_MEDIA_ROLE, "event",
+                         CA_PROP_EVENT_DESCRIPTION, event, nullptr);
 }
 
 /// Plays the event, or the bell where the sound theme does not have it. False where there is no sound at all.

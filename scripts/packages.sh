@@ -14,7 +14,7 @@ runPackages() {
 # Python and the accessibility library find the buttons of the running program by their labels, as a person does.
 testPackages() {
   runPackages
-  echo googletest xvfb openbox xdotool xclip imagemagick x11-utils
+  echo googletest xvfb openbox xdotool xclip imagemagick x11-utils x11-xserver-utils
   echo dbus-daemon at-spi2-core python3 python3-gi gir1.2-atspi-2.0
 }
 

@@ -2,7 +2,6 @@
 
 #include "base/Filename.h"
 #include "base/Text.h"
-#include "console/OutputReader.h"
 #include "platform/Path.h"
 
 #include <cstdio>
@@ -23,7 +22,13 @@ std::string shownExecutable(const std::string& exeFile) {
 }
 
 ConsoleChild::ConsoleChild(ConsoleScreen& screen, Desktop& desktop, ConsoleProgram program, std::function<void()> wake)
-    : screen_(screen), desktop_(desktop), program_(std::move(program)), wake_(std::move(wake)), writer_(desktop) {}
+    : screen_(screen),
+      desktop_(desktop),
+      program_(std::move(program)),
+      wake_(std::move(wake)),
+      stdoutReader_(screen, KIND_OUTPUT),
+      stderrReader_(screen, KIND_ERROR),
+      writer_(desktop) {}
 
 ConsoleChild::~ConsoleChild() {
   close();
@@ -118,18 +123,21 @@ bool ConsoleChild::startProcess() {
 
 void ConsoleChild::startReaders() {
   using Stream = platform::ChildProcess::Stream;
-  stdoutThread_ = std::thread([this] { read(Stream::Output, KIND_OUTPUT); });
-  stderrThread_ = std::thread([this] { read(Stream::Error, KIND_ERROR); });
+  // Both lines begin before either thread runs: one that came late would cut what the other has brought.
+  stdoutReader_.begin();
+  stderrReader_.begin();
+  stdoutThread_ = std::thread([this] { read(Stream::Output, stdoutReader_); });
+  stderrThread_ = std::thread([this] { read(Stream::Error, stderrReader_); });
   writer_.start(*process_);
 }
 
-void ConsoleChild::read(platform::ChildProcess::Stream stream, int kind) {
-  OutputReader reader(screen_, kind);
-  reader.begin();
+void ConsoleChild::read(platform::ChildProcess::Stream stream, OutputReader& reader) {
   char block[OutputReader::blockSize];
   for (;;) {
     const std::size_t count = process_->read(stream, block, sizeof block);
-    if (count == 0 || stopping()) break;
+    // A console that closes leaves its unfinished line alone: it is not to reach a record file.
+    if (stopping()) return;
+    if (count == 0) break;
     readerActive_ = true;
     {
       const std::lock_guard guard(readerLock_);
@@ -138,10 +146,19 @@ void ConsoleChild::read(platform::ChildProcess::Stream stream, int kind) {
     }
     wake_();
   }
-  // A console that closes leaves its unfinished line alone: it is not to reach a record file.
-  if (stopping()) return;
-  reader.end();
+  endReader(reader);
   wake_();
+}
+
+void ConsoleChild::endReader(OutputReader& reader) {
+  const std::lock_guard guard(readerLock_);
+  reader.end();
+  // The line that each reader ends with waits for the other one, which may be in the middle of a line.
+  if (--openReaders_ > 0) return;
+  const TextGuard textGuard(screen_.lock());
+  screen_.newLine();
+  screen_.newLine();
+  screen_.changes.ask(screen_.document.lineCount(), 0, 1);
 }
 
 bool ConsoleChild::settle() {

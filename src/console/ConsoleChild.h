@@ -3,6 +3,7 @@
 #include "console/ConsoleProgram.h"
 #include "console/ConsoleScreen.h"
 #include "console/InputWriter.h"
+#include "console/OutputReader.h"
 #include "dialogbase/Desktop.h"
 
 #include <atomic>
@@ -46,7 +47,8 @@ class ConsoleChild {
   void echoCommand();
   bool startProcess();
   void startReaders();
-  void read(platform::ChildProcess::Stream stream, int kind);
+  void read(platform::ChildProcess::Stream stream, OutputReader& reader);
+  void endReader(OutputReader& reader);
   bool settle();
   bool waitForReaders();
   void writeBanner();
@@ -67,6 +69,9 @@ class ConsoleChild {
   std::unique_ptr<platform::ChildProcess> process_;
 
   std::mutex readerLock_;  ///< held for a whole block, so that the two outputs never mix within one
+  OutputReader stdoutReader_;
+  OutputReader stderrReader_;
+  int openReaders_ = 2;  ///< guarded by the reader lock
   std::atomic<int> childState_{-1};
   std::atomic<std::uint64_t> totalOutputBytes_{0};
   std::atomic<bool> readerActive_{false};  ///< a hint only

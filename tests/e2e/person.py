@@ -6,6 +6,7 @@ program cannot tell it from a real hand.
 
 import json
 import os
+import re
 import subprocess
 import sys
 import time
@@ -177,6 +178,6 @@ class Window:
 
 def x_windows(title):
     """Numbers of the X windows of this exact title."""
-    found = subprocess.run(["xdotool", "search", "--onlyvisible", "--name", f"^{title}$"], stdin=subprocess.DEVNULL,
+    found = subprocess.run(["xdotool", "search", "--onlyvisible", "--name", f"^{re.escape(title)}$"], stdin=subprocess.DEVNULL,
                            stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True, timeout=30)
     return found.stdout.split()

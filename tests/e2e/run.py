@@ -60,9 +60,7 @@ def run_one(name, function, project, pictures):
 def leave_traces(path, scratch):
     try:
         person.screenshot(path + ".png")
-        for program in scratch.running:
-            if program.poll() is not None:
-                print(f"the program ended with {program.returncode}: {program.stderr.read().decode(errors='replace')}")
+        print(f"exit codes: {[program.poll() for program in scratch.running]}; written:\n{scratch.messages()[-3000:]}")
         for window in person.look():
             print(f"on the screen: {window.role} {window.name!r}: {[one.name or one.text for one in window.all()]}")
     except Exception as problem:

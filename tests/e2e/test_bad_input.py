@@ -98,17 +98,24 @@ def test_class_that_is_not_there(scratch):
     assert len(scratch.processes("tarnwick")) == 1
 
 
-def test_configuration_file_that_is_a_directory(scratch):
-    os.mkdir(scratch.configuration)
+def refuses_to_save(scratch, reason):
+    """The first start, where the settings cannot be saved: another folder is asked for, by the reason."""
     scratch.start()
     Window("Welcome to Tarnwick").press("OK")
     Window("Tarnwick settings").press("OK")
-    # Another folder for the configuration is asked for.
+    other = Window(reason)
+    assert "default location:\n" + scratch.configuration in other.labels(), other.labels()
+    assert "TARNWICK_CFGDIR" in other.labels(), other.labels()
+    other.press("Cancel")
     words = message()
-    assert scratch.configuration in words, words
-    assert "TARNWICK_CFGDIR" in words, words
-    Window(person.look()[-1].name).press("Cancel")
-    wait_until("the reason", lambda: "Can't save configuration data in " + scratch.configuration in message())
+    assert reason in words and "\nCan't save configuration data in " + scratch.configuration in words, words
+
+
+def test_configuration_file_that_is_a_directory(scratch):
+    os.mkdir(scratch.configuration)
+    refuses_to_save(scratch, "Is a directory")
+    assert os.listdir(scratch.config) == ["Tarnwickdefault.CFG"]
+    assert os.listdir(scratch.configuration) == []
 
 
 def test_configuration_folder_that_cannot_be_written(scratch):
@@ -116,13 +123,7 @@ def test_configuration_folder_that_cannot_be_written(scratch):
     os.rmdir(scratch.config)
     with open(scratch.config, "w", encoding="utf-8") as out:
         out.write("a file")
-    scratch.start()
-    Window("Welcome to Tarnwick").press("OK")
-    Window("Tarnwick settings").press("OK")
-    words = message()
-    assert scratch.configuration in words and "TARNWICK_CFGDIR" in words, words
-    Window(person.look()[-1].name).press("Cancel")
-    wait_until("the reason", lambda: "Can't save configuration data in " + scratch.configuration in message())
+    refuses_to_save(scratch, "Not a directory")
     with open(scratch.config, encoding="utf-8") as kept:
         assert kept.read() == "a file"
 

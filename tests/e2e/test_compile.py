@@ -15,12 +15,8 @@ def class_of(source):
 def test_good_file_gives_a_class_and_opens_no_editor(scratch):
     source = scratch.sample("Greeter.java")
     _, panel = scratch.first_start()
-    panel.write(world.quoted(source))
-    panel.press("javac")
-    wait_until("the class", lambda: os.path.exists(class_of(source)), 60)
-    wait_until("the end of the compiler", lambda: not scratch.processes("javac"), 60)
-    # The panel answers again, and by then an editor would have been started.
-    assert panel.control("javac").enabled
+    scratch.compile(panel, source)
+    # By now an editor would have been started.
     time.sleep(1)
     assert scratch.editor_notes() == []
     assert [one.name for one in person.look()] == ["Tarnwick"]
@@ -50,38 +46,22 @@ def test_an_old_class_survives_a_failed_compilation(scratch):
     assert "int cannot be converted" in scratch.editor_notes()[0][1]
 
 
-def test_edit_gives_the_source_to_the_editor(scratch):
-    source = scratch.sample("Greeter.java")
-    _, panel = scratch.first_start()
-    panel.write(world.quoted(source))
-    panel.press("Edit")
-    (arguments, content), = wait_until("the source in the editor", scratch.editor_notes)
-    assert arguments[-1] == source, arguments
-    with open(source, encoding="utf-8") as text:
-        assert content == text.read()
-
-
 def test_the_panel_is_used_without_a_utf8_locale(scratch):
     """Tools that take the C locale cannot name such folders."""
     source = scratch.sample("Greeter.java")
     scratch.environment["LC_ALL"] = "C"
     scratch.environment.pop("LANG", None)
     _, panel = scratch.first_start()
-    panel.write(world.quoted(source))
-    panel.press("javac")
-    wait_until("the class", lambda: os.path.exists(class_of(source)), 60)
-    console = scratch.run_class(panel, class_of(source))
+    console = scratch.run_class(panel, scratch.compile(panel, source))
     wait_until("the question", lambda: "What is your name? " in scratch.saved_display(console), 30)
 
 
 def test_source_stays_in_the_field_for_the_next_start(scratch):
     source = scratch.sample("Greeter.java")
     program, panel = scratch.first_start()
-    panel.write(world.quoted(source))
-    panel.press("javac")
-    wait_until("the class", lambda: os.path.exists(class_of(source)), 60)
-    wait_until("the saved name", lambda: source in scratch.settings()["FILEVIEW_SOURCE"])
-    Window("Tarnwick").press("Exit")
+    scratch.compile(panel, source)
+    assert source in scratch.settings()["FILEVIEW_SOURCE"]
+    panel.press("Exit")
     program.wait(20)
     scratch.start()
     assert Window("Tarnwick").field().text == world.quoted(source)

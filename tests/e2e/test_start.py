@@ -55,9 +55,9 @@ def test_second_start_goes_straight_to_the_panel(scratch):
 
 def test_what_this_program_cannot_do_yet_is_disabled(scratch):
     _, panel = scratch.first_start()
-    for label in ("New", "jdb debug", "Projectview"):
+    for label in ("New", "Edit", "jdb debug", "Projectview"):
         assert not panel.control(label).enabled, label
-    for label in ("Browse", "Edit", "javac", "java", "Settings", "Exit"):
+    for label in ("Browse", "javac", "java", "Settings", "Exit"):
         assert panel.control(label).enabled, label
 
 
@@ -121,10 +121,7 @@ def test_nothing_is_written_outside_the_configuration_folder_and_the_users_files
     source = scratch.sample("Greeter.java")
     before = scratch.listing()
     program, panel = scratch.first_start()
-    panel.write(world.quoted(source))
-    panel.press("javac")
-    wait_until("the class", lambda: os.path.exists(source.removesuffix("java") + "class"), 60)
-    console = scratch.run_class(panel, source.removesuffix("java") + "class")
+    console = scratch.run_class(panel, scratch.compile(panel, source))
     console.close()
     console.is_gone()
     panel.press("Exit")

@@ -58,13 +58,13 @@ def real_javac():
 
 
 class World:
-    def __init__(self, project, variables=None):
+    def __init__(self, project, letters="日本"):
         self.project = project
         self.program = os.path.join(project, "build", "linux", "tarnwick")
-        self.root = tempfile.mkdtemp(prefix="tarnwick Übung 日本 ")
+        self.root = tempfile.mkdtemp(prefix=f"tarnwick Übung {letters} ")
         self.home = self._folder("Zoës Heim")
-        self.config = self._folder("Meine Einstellungen 設定")
-        self.work = self._folder("Zoës Heim", "Java-Übungen 練習")
+        self.config = self._folder(f"Meine Einstellungen {letters}")
+        self.work = self._folder("Zoës Heim", f"Java-Übungen {letters}")
         self.notes = self._folder("Notizen des Editors")
         self.configuration = os.path.join(self.config, "Tarnwickdefault.CFG")
         self.running = []
@@ -74,7 +74,7 @@ class World:
             "XDG_CONFIG_HOME": os.path.join(self.home, ".config"), "XDG_DATA_HOME": os.path.join(self.home, ".local", "share"),
             "XDG_CACHE_HOME": os.path.join(self.home, ".cache"), "XDG_STATE_HOME": os.path.join(self.home, ".local", "state"),
             "GSETTINGS_BACKEND": "memory", "GTK_USE_PORTAL": "0", "LC_ALL": "C.UTF-8",
-        } | (variables or {})
+        }
         self._install_editor()
 
     def _folder(self, *names):
@@ -125,12 +125,20 @@ class World:
         subprocess.run([real_javac(), "-encoding", "UTF-8", path], check=True, timeout=120, env=self.environment)
         return path.removesuffix(".java") + ".class"
 
+    def messages(self):
+        """What the program wrote to its standard streams, less what GTK says to whoever looks at a notebook."""
+        with open(os.path.join(self.root, "messages"), encoding="utf-8", errors="replace") as lines:
+            return "".join(line for line in lines if line.strip() and "Atk-CRITICAL" not in line and
+                           "GLib-GObject-CRITICAL" not in line)
+
     def listing(self):
-        """All files of the user, each with the time of its last change."""
+        """All files below the scratch folder, each with the time of its last change."""
         found = {}
         for folder, _folders, files in os.walk(self.root):
             for name in files:
                 path = os.path.join(folder, name)
+                if name == "messages":
+                    continue
                 found[os.path.relpath(path, self.root)] = os.lstat(path).st_mtime_ns
         return found
 
@@ -191,8 +199,10 @@ class World:
 
     def start(self, *arguments, **variables):
         """Starts the program as a user at a desktop does."""
-        started = subprocess.Popen([self.program, *arguments], env=self.environment | variables, cwd=self.home,
-                                   stdin=subprocess.DEVNULL, stdout=subprocess.PIPE, stderr=subprocess.PIPE)
+        # A file takes whatever the toolkit has to say; a pipe that nobody reads would stop the program.
+        with open(os.path.join(self.root, "messages"), "ab") as messages:
+            started = subprocess.Popen([self.program, *arguments], env=self.environment | variables, cwd=self.home,
+                                       stdin=subprocess.DEVNULL, stdout=messages, stderr=messages)
         self.running.append(started)
         return started
 
@@ -210,6 +220,19 @@ class World:
         program, panel = self.first_start()
         panel.press("Exit")
         program.wait(20)
+
+    def compile(self, panel, source):
+        """Types a source into the panel and presses "javac"; waits until the class is there and the panel listens again."""
+        compiled = source.removesuffix(".java") + ".class"
+        panel.activate()
+        panel.write(quoted(source))
+        panel.press("javac")
+        wait_until("the class", lambda: os.path.exists(compiled), 60)
+        # While the compiler runs the panel takes no input. The settings are saved last of all.
+        wait_until("the end of the compilation", lambda: not self.processes("javac") and
+                   os.stat(self.configuration).st_mtime_ns > os.stat(compiled).st_mtime_ns, 60)
+        time.sleep(0.5)
+        return compiled
 
     def run_class(self, panel, path):
         """Types a class file into the panel and presses "java"; gives the console's window."""

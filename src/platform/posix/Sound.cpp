@@ -1,10 +1,18 @@
 #include "platform/Sound.h"
 
+#include "platform/FileSystem.h"
+
+#include "platform/FileSystem.h"
+
 #include <canberra.h>
+#include <unistd.h>
+#include <glib.h>
 
 #include <atomic>
+#include <string>
 #include <system_error>
 #include <thread>
+#include <vector>
 
 namespace tarnwick::platform {
 namespace {
@@ -21,10 +29,19 @@ const char* eventOf(Alert alert) {
   return "bell";
 }
 
+/// False on a machine with neither a sound card nor a sound server: the sound library would only complain there.
+bool soundIsLikely() {
+  if (environment("PULSE_SERVER")) return true;
+  const auto runtime = environment("XDG_RUNTIME_DIR");
+  if (runtime && ::access((*runtime + "/pulse/native").c_str(), F_OK) == 0) return true;
+  return ::access("/proc/asound/card0", F_OK) == 0;
+}
+
 /// Lives as long as the process: a sound may still be on its way when everything else has gone.
 ca_context* soundContext() {
   static ca_context* const context = [] {
     ca_context* made = nullptr;
+    if (!soundIsLikely()) return made;
     if (ca_context_create(&made) != CA_SUCCESS) return static_cast<ca_context*>(nullptr);
     ca_context_change_props(made, CA_PROP_APPLICATION_NAME, "Tarnwick", nullptr);
     return made;
@@ -32,8 +49,25 @@ ca_context* soundContext() {
   return context;
 }
 
+/// The sound in the theme that every desktop falls back to; empty where it has none.
+std::string soundFile(const std::string& event) {
+  std::vector<std::string> folders = {g_get_user_data_dir()};
+  for (auto folder = g_get_system_data_dirs(); *folder != nullptr; ++folder) folders.emplace_back(*folder);
+  for (const auto& folder : folders) {
+    for (const char* ending : {".oga", ".ogg", ".wav"}) {
+      const std::string path = folder + "/sounds/freedesktop/stereo/" + event + ending;
+      if (isFile(path)) return path;
+    }
+  }
+  return "";
+}
+
+/// By the sound's file: given the event's name, the sound library would write a cache of its own into the user's home.
 int play(const char* event) {
-  return ca_context_play(soundContext(), 0, CA_PROP_EVENT_ID, event, CA_PROP_EVENT_DESCRIPTION, event, nullptr);
+  const std::string file = soundFile(event);
+  if (file.empty()) return CA_ERROR_NOTFOUND;
+  return ca_context_play(soundContext(), 0, CA_PROP_MEDIA_FILENAME, file.c_str(), CA_PROP_MEDIA_ROLE, "event",
+                         CA_PROP_EVENT_DESCRIPTION, event, nullptr);
 }
 
 /// Plays the event, or the bell where the sound theme does not have it. False where there is no sound at all.

@@ -1,12 +1,11 @@
 // The console with real children.
-#include <gtest/gtest.h>
-
-#include <algorithm>
-#include <chrono>
-
 #include "platform/Path.h"
 #include "support/Children.h"
 #include "support/ConsoleFixture.h"
+
+#include <algorithm>
+#include <chrono>
+#include <gtest/gtest.h>
 
 namespace tarnwick {
 namespace {
@@ -118,7 +117,9 @@ TEST_F(ConsoleRealChildTest, ClosingEndsTheWholeTreeThoughItIgnoresTerm) {
 TEST_F(ConsoleRealChildTest, ClosingAProgramThatNeverReadsItsInputIsQuick) {
   run("out up\nsleep 60000");
   ASSERT_TRUE(until([&] { return shows("up"); }));
-  desktop.clipboard = std::string(1000000, 'x') + "\r";
+  std::string line(1000000, 'x');
+  line += '\r';
+  desktop.clipboard = line;
   view->paste();
   EXPECT_EQ(lastLine(), "");
   const auto begin = Clock::now();

@@ -49,8 +49,8 @@ def use_real_editor(scratch):
 
 def widen(window):
     """The compiler's lines are long."""
-    person.xdotool("windowmove", window.x_number(), 10, 330)
-    person.xdotool("windowsize", window.x_number(), 1250, 330)
+    person.xdotool("windowmove", window.x_number(), 10, 685)
+    person.xdotool("windowsize", window.x_number(), 1250, 300)
 
 
 def first_start(scratch, album):

@@ -3,10 +3,11 @@
 # What all of our own code is compiled with.
 add_library(tarnwick_own INTERFACE)
 target_include_directories(tarnwick_own INTERFACE "${CMAKE_SOURCE_DIR}/src")
-target_compile_options(tarnwick_own INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Werror)
+# Not for the resource compiler, which knows no warnings.
+target_compile_options(tarnwick_own INTERFACE "$<$<COMPILE_LANGUAGE:CXX>:-Wall;-Wextra;-Wpedantic;-Wconversion;-Werror>")
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
   # GCC 12 warns of overlapping and endless copies inside its own std::string where there are none.
-  target_compile_options(tarnwick_own INTERFACE -Wno-restrict -Wno-stringop-overflow)
+  target_compile_options(tarnwick_own INTERFACE "$<$<COMPILE_LANGUAGE:CXX>:-Wno-restrict;-Wno-stringop-overflow>")
 endif()
 target_link_libraries(tarnwick_own INTERFACE Threads::Threads)
 if(WIN32)

@@ -9,8 +9,10 @@ if(WIN32)
   endif()
   target_include_directories(tarnwick_toolkit SYSTEM INTERFACE "${TARNWICK_TOOLKIT}/include")
   target_compile_definitions(tarnwick_toolkit INTERFACE __WXMSW__ _UNICODE UNICODE)
+  # uuid and oleacc both hold IID_IAccessible. Written as a flag, uuid keeps its place before the other, whose copy then
+  # stays out.
   target_link_libraries(tarnwick_toolkit INTERFACE
-    "${TARNWICK_TOOLKIT}/lib/libwxmsw32u_core.a" "${TARNWICK_TOOLKIT}/lib/libwxbase32u.a"
+    "${TARNWICK_TOOLKIT}/lib/libwxmsw32u_core.a" "${TARNWICK_TOOLKIT}/lib/libwxbase32u.a" -Wl,-luuid
     kernel32 user32 gdi32 gdiplus msimg32 comdlg32 winspool winmm shell32 shlwapi comctl32 ole32 oleaut32 uuid rpcrt4
     advapi32 version ws2_32 wininet oleacc uxtheme)
 else()

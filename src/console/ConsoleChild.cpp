@@ -2,7 +2,6 @@
 
 #include "base/Filename.h"
 #include "base/Text.h"
-#include "console/OutputReader.h"
 #include "platform/Path.h"
 
 #include <cstdio>
@@ -23,7 +22,13 @@ std::string shownExecutable(const std::string& exeFile) {
 }
 
 ConsoleChild::ConsoleChild(ConsoleScreen& screen, Desktop& desktop, ConsoleProgram program, std::function<void()> wake)
-    : screen_(screen), desktop_(desktop), program_(std::move(program)), wake_(std::move(wake)), writer_(desktop) {}
+    : screen_(screen),
+      desktop_(desktop),
+      program_(std::move(program)),
+      wake_(std::move(wake)),
+      stdoutReader_(screen, KIND_OUTPUT),
+      stderrReader_(screen, KIND_ERROR),
+      writer_(desktop) {}
 
 ConsoleChild::~ConsoleChild() {
   close();
@@ -118,13 +123,11 @@ bool ConsoleChild::startProcess() {
 
 void ConsoleChild::startReaders() {
   using Stream = platform::ChildProcess::Stream;
-  auto output = std::make_shared<OutputReader>(screen_, KIND_OUTPUT);
-  auto error = std::make_shared<OutputReader>(screen_, KIND_ERROR);
-  // Both begin their lines before either reads: a late one would cut the child's first words in two.
-  output->begin();
-  error->begin();
-  stdoutThread_ = std::thread([this, output] { read(Stream::Output, *output); });
-  stderrThread_ = std::thread([this, error] { read(Stream::Error, *error); });
+  // Both lines begin before either thread runs: one that came late would cut what the other has brought.
+  stdoutReader_.begin();
+  stderrReader_.begin();
+  stdoutThread_ = std::thread([this] { read(Stream::Output, stdoutReader_); });
+  stderrThread_ = std::thread([this] { read(Stream::Error, stderrReader_); });
   writer_.start(*process_);
 }
 
@@ -132,7 +135,9 @@ void ConsoleChild::read(platform::ChildProcess::Stream stream, OutputReader& rea
   char block[OutputReader::blockSize];
   for (;;) {
     const std::size_t count = process_->read(stream, block, sizeof block);
-    if (count == 0 || stopping()) break;
+    // A console that closes leaves its unfinished line alone: it is not to reach a record file.
+    if (stopping()) return;
+    if (count == 0) break;
     readerActive_ = true;
     {
       const std::lock_guard guard(readerLock_);
@@ -141,10 +146,19 @@ void ConsoleChild::read(platform::ChildProcess::Stream stream, OutputReader& rea
     }
     wake_();
   }
-  // A console that closes leaves its unfinished line alone: it is not to reach a record file.
-  if (stopping()) return;
-  reader.end();
+  endReader(reader);
   wake_();
+}
+
+void ConsoleChild::endReader(OutputReader& reader) {
+  const std::lock_guard guard(readerLock_);
+  reader.end();
+  // The line that each reader ends with waits for the other one, which may be in the middle of a line.
+  if (--openReaders_ > 0) return;
+  const TextGuard textGuard(screen_.lock());
+  screen_.newLine();
+  screen_.newLine();
+  screen_.changes.ask(screen_.document.lineCount(), 0, 1);
 }
 
 bool ConsoleChild::settle() {

@@ -3,6 +3,7 @@
 #include "console/ConsoleProgram.h"
 #include "console/ConsoleScreen.h"
 #include "console/InputWriter.h"
+#include "console/OutputReader.h"
 #include "dialogbase/Desktop.h"
 
 #include <atomic>
@@ -15,8 +16,6 @@
 #include <thread>
 
 namespace tarnwick {
-
-class OutputReader;
 
 /// The program that runs in the console: one thread starts it and waits for its end, two bring its output into the
 /// text, one writes its input. No thread touches the window: they note what has changed and call `wake`.
@@ -49,6 +48,7 @@ class ConsoleChild {
   bool startProcess();
   void startReaders();
   void read(platform::ChildProcess::Stream stream, OutputReader& reader);
+  void endReader(OutputReader& reader);
   bool settle();
   bool waitForReaders();
   void writeBanner();
@@ -69,6 +69,9 @@ class ConsoleChild {
   std::unique_ptr<platform::ChildProcess> process_;
 
   std::mutex readerLock_;  ///< held for a whole block, so that the two outputs never mix within one
+  OutputReader stdoutReader_;
+  OutputReader stderrReader_;
+  int openReaders_ = 2;  ///< guarded by the reader lock
   std::atomic<int> childState_{-1};
   std::atomic<std::uint64_t> totalOutputBytes_{0};
   std::atomic<bool> readerActive_{false};  ///< a hint only

@@ -54,10 +54,10 @@ void OutputReader::handle(std::string_view block) {
 }
 
 void OutputReader::end() {
+  if (cut_.empty()) return;
   const TextGuard guard(screen_.lock());
   add(cut_);
   cut_.clear();
-  screen_.newLine();
   show(1);
 }
 

@@ -20,7 +20,7 @@ class OutputReader {
   void begin();
   /// Handles one block. A character that it cuts waits for the next one.
   void handle(std::string_view block);
-  /// Nothing more comes.
+  /// Nothing more comes: what there is of a cut character shows as it is.
   void end();
 
  private:

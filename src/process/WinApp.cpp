@@ -19,7 +19,7 @@ std::string withoutLeadingBlanks(const std::string& text) {
 /// Takes the word up to the next blank off the text, with the blanks behind it.
 std::string takeWord(std::string& text) {
   const auto end = std::min(text.find(' '), text.size());
-  const std::string word = text.substr(0, end);
+  std::string word = text.substr(0, end);
   text = withoutLeadingBlanks(text.substr(end));
   return word;
 }

@@ -31,10 +31,17 @@ bool isForm(const Node& node) {
          isInput(node.children[1]);
 }
 
-int gapBetween(const Node& left, const Node& right, int plain, const Gaps& gaps) {
+bool isButtonRow(const Node& node) {
+  const auto fits = [](const Node& child) { return child.kind == ItemKind::Button || child.kind == ItemKind::Space; };
+  return node.kind == ItemKind::Row && std::all_of(node.children.begin(), node.children.end(), fits);
+}
+
+int gapBetween(const Node& first, const Node& second, int plain, const Gaps& gaps) {
   // A space is a gap already.
-  if (left.kind == ItemKind::Space || right.kind == ItemKind::Space) return plain;
-  return left.kind == ItemKind::Group || right.kind == ItemKind::Group ? std::max(plain, gaps.aroundGroups) : plain;
+  if (first.kind == ItemKind::Space || second.kind == ItemKind::Space) return plain;
+  const bool apart = first.kind == ItemKind::Group || second.kind == ItemKind::Group || isButtonRow(second) ||
+                     first.kind == ItemKind::Icon;
+  return apart ? std::max(plain, gaps.apart) : plain;
 }
 
 int gapsOf(const Node& node, int plain, const Gaps& gaps) {

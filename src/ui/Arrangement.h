@@ -16,8 +16,8 @@ namespace tarnwick::ui {
 struct Gaps {
   int inRow = 6;
   int inColumn = 6;
-  int aroundGroups = 10;  ///< between a group and its neighbours
-  int inGroup = 8;        ///< between a group's frame and its content
+  int apart = 12;   ///< beside a group or an icon, and above a row of buttons
+  int inGroup = 8;  ///< between a group's frame and its content
 };
 
 /// One item of a layout with its window, if it has one.

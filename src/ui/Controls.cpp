@@ -12,6 +12,7 @@
 #include <wx/notebook.h>
 #include <wx/panel.h>
 #include <wx/radiobut.h>
+#include <wx/settings.h>
 #include <wx/statbmp.h>
 #include <wx/statbox.h>
 #include <wx/stattext.h>
@@ -47,14 +48,14 @@ class Label : public wxStaticText {
   const std::string& text() const { return text_; }
 
  private:
-  static constexpr int charactersInLine = 90;
+  static constexpr int charactersInLine = 75;
   std::string text_;
 };
 
 /// Buttons with signs in the place of words are as narrow as their text.
-long buttonStyle(const std::string& text) {
+bool bearsSigns(const std::string& text) {
   const auto isLetter = [](unsigned char c) { return std::isalpha(c) != 0; };
-  return std::any_of(text.begin(), text.end(), isLetter) ? 0 : wxBU_EXACTFIT;
+  return std::none_of(text.begin(), text.end(), isLetter);
 }
 
 wxWindow* makeHeading(wxWindow& parent, const std::string& text) {
@@ -69,9 +70,18 @@ wxWindow* makeCombo(wxWindow& parent, const DialogItem& item) {
   return combo;
 }
 
+/// A field that the keyboard reaches even if it only shows: its text can be scrolled and copied.
+class Field : public wxTextCtrl {
+ public:
+  using wxTextCtrl::wxTextCtrl;
+  bool AcceptsFocusFromKeyboard() const override { return AcceptsFocus(); }
+};
+
 wxWindow* makeEdit(wxWindow& parent, const DialogItem& item) {
-  return new wxTextCtrl(&parent, wxID_ANY, toWx(item.text), wxDefaultPosition, wxDefaultSize,
-                        item.readOnly ? wxTE_READONLY : 0);
+  auto* edit = new Field(&parent, wxID_ANY, toWx(item.text), wxDefaultPosition, wxDefaultSize,
+                         item.readOnly ? wxTE_READONLY : 0);
+  if (item.readOnly) edit->SetBackgroundColour(wxSystemSettings::GetColour(wxSYS_COLOUR_BTNFACE));
+  return edit;
 }
 
 wxWindow* makeWindow(wxWindow& parent, const DialogItem& item) {
@@ -87,7 +97,7 @@ wxWindow* makeWindow(wxWindow& parent, const DialogItem& item) {
     case ItemKind::Edit:
       return makeEdit(parent, item);
     case ItemKind::Button:
-      return new wxButton(&parent, wxID_ANY, toWx(item.text), wxDefaultPosition, wxDefaultSize, buttonStyle(item.text));
+      return new wxButton(&parent, wxID_ANY, toWx(item.text));
     case ItemKind::CheckBox:
       return new wxCheckBox(&parent, wxID_ANY, toWx(item.text));
     case ItemKind::RadioButton:
@@ -177,7 +187,10 @@ wxSize naturalSize(const DialogItem& item, const Control& control) {
     return {window.GetTextExtent(window.GetLabel()).x + window.FromDIP(24), 0};
   }
   // Before it shows, a label does not know that its font has changed.
-  if (item.kind == ItemKind::Heading) size.IncTo(window.GetTextExtent(window.GetLabel()));
+  if (item.kind == ItemKind::Heading) size.IncTo(window.GetTextExtent(window.GetLabel()) + wxSize(2, 2));
+  if (item.kind == ItemKind::Button && bearsSigns(item.text)) {
+    size.x = window.GetTextExtent(window.GetLabel()).x + window.FromDIP(24);
+  }
   size.x = std::max(size.x, widthOfCharacters(window, item.width));
   return size;
 }

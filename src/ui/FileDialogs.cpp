@@ -3,6 +3,7 @@
 #include "platform/FileSystem.h"
 #include "platform/Path.h"
 #include "ui/MessageBoxes.h"
+#include "ui/NativeLoop.h"
 #include "ui/Text.h"
 
 #include <wx/dirdlg.h>
@@ -37,6 +38,7 @@ std::optional<std::string> run(WindowStack& stack, const FileRequest& request, c
   wxFileDialog dialog(stack.parent(), title, toWx(folder), toWx(presetOf(request)),
                       filter.empty() ? wxString(wxFileSelectorDefaultWildcardStr) : toWx(filter), style);
   const WindowStack::Place place(stack, nullptr);
+  const NativeLoop posted;
   if (dialog.ShowModal() != wxID_OK) return std::nullopt;
   return fromWx(dialog.GetPath());
 }
@@ -79,6 +81,7 @@ std::optional<std::string> saveFileDialog(WindowStack& stack, const FileRequest&
 std::optional<std::string> folderDialog(WindowStack& stack) {
   wxDirDialog dialog(stack.parent(), "Choose a folder", wxString(), wxDD_DEFAULT_STYLE | wxDD_DIR_MUST_EXIST);
   const WindowStack::Place place(stack, nullptr);
+  const NativeLoop posted;
   if (dialog.ShowModal() != wxID_OK) return std::nullopt;
   return fromWx(dialog.GetPath());
 }

@@ -1,6 +1,7 @@
 #include "ui/MessageBoxes.h"
 
 #include "base/Tarnwickexception.h"
+#include "ui/NativeLoop.h"
 #include "ui/Text.h"
 
 #include <wx/msgdlg.h>
@@ -28,6 +29,7 @@ long styleOf(MessageKind kind) {
 bool showMessage(WindowStack& stack, const std::string& text, MessageKind kind) {
   wxMessageDialog box(stack.parent(), toWx(text), "Tarnwick", styleOf(kind) | wxCENTRE);
   const WindowStack::Place place(stack, nullptr);
+  const NativeLoop posted;
   const int answer = box.ShowModal();
   return answer == wxID_OK || answer == wxID_YES;
 }

@@ -1,5 +1,6 @@
 #include "ui/RunProgram.h"
 
+#include "ui/Icons.h"
 #include "ui/Toolkit.h"
 #include "ui/WxDesktop.h"
 
@@ -30,6 +31,7 @@ class Application : public wxApp {
     delete wxLog::SetActiveTarget(new wxLogStderr);
     SetAppName("Tarnwick");
     SetExitOnFrameDelete(false);
+    useAsDefaultIcon(iconBitmap(48));
     return true;
   }
 

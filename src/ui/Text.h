@@ -14,4 +14,7 @@ wxString toWx(const std::string& bytes);
 /// A string of the toolkit as bytes; "?" stands for what the platform's character set does not know.
 std::string fromWx(const wxString& text);
 
+/// A text of the clipboard as bytes, with the platform's own line ends.
+std::string fromClipboard(const wxString& text);
+
 }  // namespace tarnwick::ui

@@ -8,6 +8,7 @@
 #include <optional>
 #include <string>
 
+class wxBitmap;
 class wxDC;
 class wxNotebook;
 class wxTopLevelWindow;
@@ -32,6 +33,9 @@ std::optional<Point> normalPosition(const wxTopLevelWindow& window);
 
 /// Lets the window system treat a dialog as a program's main window.
 void makeMainWindow(wxTopLevelWindow& window);
+
+/// Gives the program's picture to every window that has none of its own, such as a message box.
+void useAsDefaultIcon(const wxBitmap& picture);
 
 /// The size of a tab control whose pages are to have this size, wide enough for all of its tabs.
 wxSize sizeWithTabs(wxNotebook& tabs, const wxSize& page);

@@ -7,6 +7,7 @@
 #include "ui/WxConsolePainter.h"
 
 #include <wx/dcbuffer.h>
+#include <wx/fontenum.h>
 #include <wx/settings.h>
 
 #include <algorithm>
@@ -16,6 +17,15 @@ namespace tarnwick::ui {
 namespace {
 
 constexpr int wheelLines = 3;
+
+wxFont consoleFont() {
+  constexpr int leastPoints = 10;
+  const int points = std::max(leastPoints, wxSystemSettings::GetFont(wxSYS_DEFAULT_GUI_FONT).GetPointSize());
+  const wxFontInfo font = wxFontInfo(points).Family(wxFONTFAMILY_TELETYPE);
+  // Where it is known, this one reads better than what the toolkit picks for the family.
+  const wxString preferred = "Consolas";
+  return wxFontEnumerator::IsValidFacename(preferred) ? wxFont(wxFontInfo(font).FaceName(preferred)) : wxFont(font);
+}
 
 }  // namespace
 
@@ -45,8 +55,7 @@ WxConsoleSurface::~WxConsoleSurface() {
 }
 
 void WxConsoleSurface::measureCell() {
-  const int points = wxSystemSettings::GetFont(wxSYS_DEFAULT_GUI_FONT).GetPointSize();
-  SetFont(wxFont(wxFontInfo(points).Family(wxFONTFAMILY_TELETYPE)));
+  SetFont(consoleFont());
   constexpr int many = 100;
   const wxSize extent = GetTextExtent(wxString('M', many));
   cell_ = {std::max(1, (extent.x + many / 2) / many), std::max(1, extent.y)};
@@ -99,6 +108,7 @@ void WxConsoleSurface::tell(const std::function<void()>& action) {
 
 void WxConsoleSurface::start() {
   alive_ = true;
+  updateBars();  // none is needed yet
   tell([this] { client_.onStart(*this); });
 }
 

@@ -1,15 +1,14 @@
 #include "ui/WxDesktop.h"
 
 #include "platform/Sound.h"
+#include "ui/BusyLoop.h"
 #include "ui/FileDialogs.h"
-#include "ui/InputBlock.h"
 #include "ui/MessageBoxes.h"
 #include "ui/Text.h"
 #include "ui/WxConsoleFrame.h"
 #include "ui/WxTopWindow.h"
 
 #include <wx/clipbrd.h>
-#include <wx/evtloop.h>
 #include <wx/utils.h>
 
 #include <exception>
@@ -66,7 +65,7 @@ std::optional<std::string> WxDesktop::clipboardText() {
   if (!lock || !wxTheClipboard->IsSupported(wxDF_UNICODETEXT)) return std::nullopt;
   wxTextDataObject text;
   if (!wxTheClipboard->GetData(text)) return std::nullopt;
-  return fromWx(text.GetText());
+  return fromClipboard(text.GetText());
 }
 
 bool WxDesktop::setClipboardText(const std::string& text) {
@@ -98,9 +97,8 @@ void WxDesktop::runMainDialog(const DialogLayout& layout, DialogHandler& handler
 
 void WxDesktop::whileBusy(const std::function<void()>& work) {
   const WindowStack::Place place(stack_, nullptr);
-  const InputBlock noInput;
   const wxBusyCursor hourglass;
-  wxGUIEventLoop loop;
+  BusyLoop loop;
   std::exception_ptr failure;
   std::thread worker([&] {
     try {
@@ -108,9 +106,9 @@ void WxDesktop::whileBusy(const std::function<void()>& work) {
     } catch (...) {
       failure = std::current_exception();
     }
-    post([&loop] { loop.ScheduleExit(); });
+    post([&loop] { loop.end(); });
   });
-  loop.Run();
+  loop.run();
   worker.join();
   if (failure) std::rethrow_exception(failure);
 }

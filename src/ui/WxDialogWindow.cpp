@@ -50,7 +50,7 @@ WxDialogWindow::WxDialogWindow(WindowStack& stack, wxWindow& surface, const Dial
       firstFocus_(layout.firstFocus) {
   gaps_.inRow = surface.FromDIP(gaps_.inRow);
   gaps_.inColumn = surface.FromDIP(gaps_.inColumn);
-  gaps_.aroundGroups = surface.FromDIP(gaps_.aroundGroups);
+  gaps_.apart = surface.FromDIP(gaps_.apart);
   gaps_.inGroup = surface.FromDIP(gaps_.inGroup);
   root_ = build(layout.content, nullptr);
 }

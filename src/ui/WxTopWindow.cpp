@@ -23,6 +23,8 @@ wxDialog* makeDialog(WxTopWindow::Role role, const DialogLayout& layout, wxWindo
   if (isMain) makeMainWindow(*dialog);
   dialog->SetIcons(programIcons());
   dialog->SetEscapeId(wxID_NONE);
+  // Otherwise the toolkit would stretch an only child over the whole window, margins included.
+  dialog->SetAutoLayout(true);
   return dialog;
 }
 

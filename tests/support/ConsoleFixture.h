@@ -1,23 +1,24 @@
 #pragma once
 
-#include <gtest/gtest.h>
-
-#include <chrono>
-#include <memory>
-#include <string>
-#include <thread>
-#include <vector>
-
 #include "console/TarnwickView.h"
 #include "platform/Characters.h"
 #include "support/FakeChild.h"
 #include "support/FakeSurface.h"
 #include "support/RecordingDesktop.h"
 
+#include <chrono>
+#include <gtest/gtest.h>
+#include <memory>
+#include <string>
+#include <thread>
+#include <vector>
+
 namespace tarnwick::test {
 
 /// True where a character may be more than one byte.
-inline bool charactersAreUtf8() { return platform::columnsOf("\xC3\xA4") == 1; }
+inline bool charactersAreUtf8() {
+  return platform::columnsOf("\xC3\xA4") == 1;
+}
 
 /// The lines' texts.
 inline std::vector<std::string> textOf(const TarnwickDoc& document) {

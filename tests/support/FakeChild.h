@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/Process.h"
+
 #include <algorithm>
 #include <condition_variable>
 #include <cstddef>
@@ -7,8 +9,6 @@
 #include <mutex>
 #include <string>
 #include <vector>
-
-#include "platform/Process.h"
 
 namespace tarnwick::test {
 
@@ -48,6 +48,11 @@ class ChildScript {
     const std::lock_guard guard(lock_);
     return treesEnded_;
   }
+  /// How many reads have come upon the end of a stream.
+  int endsSeen() const {
+    const std::lock_guard guard(lock_);
+    return endsSeen_;
+  }
   bool writing() const {
     const std::lock_guard guard(lock_);
     return writing_;
@@ -82,6 +87,7 @@ class ChildScript {
   std::ptrdiff_t writeAnswer_ = -2;
   std::vector<std::string> writes_;
   int treesEnded_ = 0;
+  int endsSeen_ = 0;
 };
 
 class FakeChild : public platform::ChildProcess {
@@ -96,6 +102,7 @@ class FakeChild : public platform::ChildProcess {
     const std::size_t count = std::min(size, s.pipes_[which].size());
     std::copy_n(s.pipes_[which].begin(), count, buffer);
     s.pipes_[which].erase(0, count);
+    if (count == 0) ++s.endsSeen_;
     return count;
   }
   void stopReading() override {

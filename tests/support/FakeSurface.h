@@ -1,10 +1,10 @@
 #pragma once
 
+#include "console/ConsoleSurface.h"
+
 #include <atomic>
 #include <string>
 #include <vector>
-
-#include "console/ConsoleSurface.h"
 
 namespace tarnwick::test {
 
@@ -74,7 +74,9 @@ class FakePainter : public ConsolePainter {
   std::vector<Rect> inverted;
 
   Rect clip() const override { return clip_; }
-  void drawText(int x, int y, const std::string& text, Colour colour) override { drawn.push_back({x, y, text, colour}); }
+  void drawText(int x, int y, const std::string& text, Colour colour) override {
+    drawn.push_back({x, y, text, colour});
+  }
   void invert(const Rect& rect) override { inverted.push_back(rect); }
 
  private:

@@ -1,17 +1,16 @@
 #pragma once
 
-#include <gtest/gtest.h>
+#include "dialogbase/Desktop.h"
 
 #include <deque>
 #include <functional>
+#include <gtest/gtest.h>
 #include <map>
 #include <mutex>
 #include <optional>
 #include <string>
 #include <utility>
 #include <vector>
-
-#include "dialogbase/Desktop.h"
 
 namespace tarnwick::test {
 

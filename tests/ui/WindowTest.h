@@ -4,6 +4,7 @@
 #include "ui/WxDesktop.h"
 #include "ui/WxTopWindow.h"
 
+#include <wx/image.h>
 #include <wx/timer.h>
 
 #include <deque>
@@ -69,6 +70,9 @@ void key(int code, int modifiers = 0);
 /// Fails the test unless every control of the window and of its child windows can be seen whole: inside its parent,
 /// over no other, its text not cut.
 void expectGoodLooks(ui::WxDialogWindow& window);
+
+/// What the screen shows there.
+wxImage screen(const wxRect& area);
 
 /// Writes what the screen shows to the folder that the environment's TARNWICK_SHOTS names, if it names one.
 void shoot(const std::string& name);

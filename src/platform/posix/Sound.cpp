@@ -2,7 +2,10 @@
 
 #include "platform/FileSystem.h"
 
+#include "platform/FileSystem.h"
+
 #include <canberra.h>
+#include <unistd.h>
 #include <glib.h>
 
 #include <atomic>
@@ -26,10 +29,19 @@ const char* eventOf(Alert alert) {
   return "bell";
 }
 
+/// False on a machine with neither a sound card nor a sound server: the sound library would only complain there.
+bool soundIsLikely() {
+  if (environment("PULSE_SERVER")) return true;
+  const auto runtime = environment("XDG_RUNTIME_DIR");
+  if (runtime && ::access((*runtime + "/pulse/native").c_str(), F_OK) == 0) return true;
+  return ::access("/proc/asound/card0", F_OK) == 0;
+}
+
 /// Lives as long as the process: a sound may still be on its way when everything else has gone.
 ca_context* soundContext() {
   static ca_context* const context = [] {
     ca_context* made = nullptr;
+    if (!soundIsLikely()) return made;
     if (ca_context_create(&made) != CA_SUCCESS) return static_cast<ca_context*>(nullptr);
     ca_context_change_props(made, CA_PROP_APPLICATION_NAME, "Tarnwick", nullptr);
     return made;

@@ -23,4 +23,8 @@ std::string fromWx(const wxString& text) {
   return {bytes.data(), bytes.length()};
 }
 
+std::string fromClipboard(const wxString& text) {
+  return fromWx(text);
+}
+
 }  // namespace tarnwick::ui

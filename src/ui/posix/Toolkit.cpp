@@ -2,6 +2,7 @@
 
 #include "ui/posix/Gtk.h"
 
+#include <wx/bitmap.h>
 #include <wx/dc.h>
 #include <wx/notebook.h>
 #include <wx/toplevel.h>
@@ -67,6 +68,11 @@ std::optional<Point> normalPosition(const wxTopLevelWindow& window) {
 void makeMainWindow(wxTopLevelWindow& window) {
   const auto setHint = gtk::function<void(void*, int)>("gtk_window_set_type_hint");
   if (setHint) setHint(window.GetHandle(), typeHintNormal);
+}
+
+void useAsDefaultIcon(const wxBitmap& picture) {
+  const auto setIcon = gtk::function<void(void*)>("gtk_window_set_default_icon");
+  if (setIcon) setIcon(picture.GetPixbuf());
 }
 
 wxSize sizeWithTabs(wxNotebook& tabs, const wxSize& page) {

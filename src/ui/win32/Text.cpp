@@ -1,6 +1,7 @@
 #include "ui/Text.h"
 
 #include <windows.h>
+#include <wx/textbuf.h>
 
 namespace tarnwick::ui {
 
@@ -20,6 +21,11 @@ std::string fromWx(const wxString& text) {
   std::string bytes(static_cast<std::size_t>(needed), '\0');
   WideCharToMultiByte(CP_ACP, 0, wide.data(), length, bytes.data(), needed, nullptr, nullptr);
   return bytes;
+}
+
+// The toolkit takes the carriage returns out of whatever it finds there.
+std::string fromClipboard(const wxString& text) {
+  return fromWx(wxTextBuffer::Translate(text, wxTextFileType_Dos));
 }
 
 }  // namespace tarnwick::ui

@@ -36,6 +36,9 @@ std::optional<Point> normalPosition(const wxTopLevelWindow& window) {
 // A dialog without an owner is one already.
 void makeMainWindow(wxTopLevelWindow&) {}
 
+// The system's own dialogs show none.
+void useAsDefaultIcon(const wxBitmap&) {}
+
 wxSize sizeWithTabs(wxNotebook& tabs, const wxSize& page) {
   wxSize size = tabs.CalcSizeFromPage(page);
   int width = 2 * tabs.GetCharWidth();

@@ -1,9 +1,8 @@
 #include "console/ConsoleCaret.h"
-
-#include <gtest/gtest.h>
-
 #include "console/ConsoleScreen.h"
 #include "support/ConsoleFixture.h"
+
+#include <gtest/gtest.h>
 
 namespace tarnwick {
 namespace {

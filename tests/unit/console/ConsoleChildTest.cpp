@@ -1,15 +1,16 @@
 // The child behind the console, played by a script.
 #include "console/ConsoleChild.h"
-
-#include <gtest/gtest.h>
-
-#include <algorithm>
-#include <chrono>
-#include <stdexcept>
-
 #include "platform/Path.h"
 #include "support/ConsoleFixture.h"
 #include "support/TestProgram.h"
+
+#include <algorithm>
+#include <atomic>
+#include <chrono>
+#include <future>
+#include <gtest/gtest.h>
+#include <stdexcept>
+#include <thread>
 
 namespace tarnwick {
 namespace {
@@ -20,7 +21,9 @@ using std::chrono::milliseconds;
 
 const char banner[] = "****  Tarnwick:  E n d   o f   j a v a   e x e c u t i o n   ****";
 
-bool namesIgnoreCase() { return platform::sameFileName("a", "A"); }
+bool namesIgnoreCase() {
+  return platform::sameFileName("a", "A");
+}
 
 class ConsoleChildTest : public test::ConsoleFixture {
  protected:
@@ -195,10 +198,12 @@ TEST_F(ConsoleChildTest, OnlyVerboseBetweenBlanksCounts) {
     TarnwickDoc text(ownDesktop, "");
     ConsoleScreen screen(text);
     auto script = std::make_shared<test::ChildScript>();
-    ConsoleChild quiet(
-        screen, ownDesktop,
-        {"java", arguments, [&](const platform::ChildCommand&) { return std::make_unique<test::FakeChild>(script); }, {}},
-        [] {});
+    ConsoleChild quiet(screen, ownDesktop,
+                       {"java",
+                        arguments,
+                        [&](const platform::ChildCommand&) { return std::make_unique<test::FakeChild>(script); },
+                        {}},
+                       [] {});
     quiet.start();
     ASSERT_TRUE(until([&] { return quiet.childState() == 1; }));
     quiet.close();
@@ -292,16 +297,15 @@ TEST_F(ConsoleChildTest, AChildThatDoesNotReadItsInputDoesNotStopTheWindow) {
 }
 
 TEST_F(ConsoleChildTest, WhatIsTypedBeforeTheStartWaitsForIt) {
-  std::mutex gate;
-  gate.lock();
+  std::promise<void> gate;
   program.start = [&](const platform::ChildCommand&) -> std::unique_ptr<platform::ChildProcess> {
-    const std::lock_guard wait(gate);
+    gate.get_future().wait();
     return std::make_unique<test::FakeChild>(child);
   };
   openWith(program);
   type("early\r");
   EXPECT_EQ(view->childState(), -1);
-  gate.unlock();
+  gate.set_value();
   ASSERT_TRUE(until([&] { return !child->writes().empty(); }));
   EXPECT_EQ(child->writes(), (Lines{"early\n"}));
 }
@@ -348,16 +352,15 @@ TEST_F(ConsoleChildTest, ClosingWhileTheOutputSettlesIsQuick) {
 }
 
 TEST_F(ConsoleChildTest, ClosingDuringTheStartEndsWhatHasStarted) {
-  std::mutex gate;
-  gate.lock();
+  std::promise<void> gate;
   program.start = [&](const platform::ChildCommand&) -> std::unique_ptr<platform::ChildProcess> {
-    const std::lock_guard wait(gate);
+    gate.get_future().wait();
     return std::make_unique<test::FakeChild>(child);
   };
   openWith(program);
   std::thread opener([&] {
     std::this_thread::sleep_for(milliseconds(20));
-    gate.unlock();
+    gate.set_value();
   });
   view->onClose();
   opener.join();
@@ -431,13 +434,18 @@ TEST_F(ConsoleChildTest, AKeyIsEchoedDuringAFlood) {
   EXPECT_LT(slowest, milliseconds(1000));
 }
 
-TEST_F(ConsoleChildTest, AClosedErrorStreamBeginsALineAndTheRunGoesOn) {
+TEST_F(ConsoleChildTest, AStreamThatEndsFirstDoesNotCutALineOfTheOther) {
   openRunning();
+  child->out("one li");
+  ASSERT_TRUE(until([&] { return shows("one li"); }));
   child->closeError();
-  ASSERT_TRUE(until([&] { return lineCount() == 4; }));
-  child->out("on\n");
-  EXPECT_TRUE(until([&] { return shows("on"); }));
+  ASSERT_TRUE(until([&] { return child->endsSeen() == 1; }));
+  child->out("ne\n");
+  ASSERT_TRUE(until([&] { return shows("one line"); }));
   EXPECT_EQ(view->childState(), 1);
+  child->end();
+  ASSERT_TRUE(until([&] { return ended(); }));
+  EXPECT_EQ(lines(), (Lines{"", "", "one line", "", "", "", "", banner, ""}));
 }
 
 TEST_F(ConsoleChildTest, ARecordingUnderFloodHoldsEveryLine) {

@@ -1,8 +1,7 @@
 #include "console/ConsoleLine.h"
+#include "support/ConsoleFixture.h"
 
 #include <gtest/gtest.h>
-
-#include "support/ConsoleFixture.h"
 
 namespace tarnwick {
 namespace {

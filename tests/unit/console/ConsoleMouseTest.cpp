@@ -1,8 +1,8 @@
 // Selecting with the mouse, quick copy and the hint.
-#include <gtest/gtest.h>
-
 #include "console/TarnwickView.h"
 #include "support/ConsoleFixture.h"
+
+#include <gtest/gtest.h>
 
 namespace tarnwick {
 namespace {

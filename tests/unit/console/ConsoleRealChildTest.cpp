@@ -1,12 +1,11 @@
 // The console with real children.
-#include <gtest/gtest.h>
-
-#include <algorithm>
-#include <chrono>
-
 #include "platform/Path.h"
 #include "support/Children.h"
 #include "support/ConsoleFixture.h"
+
+#include <algorithm>
+#include <chrono>
+#include <gtest/gtest.h>
 
 namespace tarnwick {
 namespace {

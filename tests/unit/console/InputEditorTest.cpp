@@ -1,8 +1,7 @@
 #include "console/InputEditor.h"
+#include "support/ConsoleFixture.h"
 
 #include <gtest/gtest.h>
-
-#include "support/ConsoleFixture.h"
 
 namespace tarnwick {
 namespace {
@@ -25,9 +24,7 @@ class InputEditorTest : public testing::Test {
   void press(ConsoleKey key, int times = 1) {
     for (int count = 0; count < times; ++count) editor.navigate(key);
   }
-  void output(const std::string& text) {
-    screen.caret.setColumn(document.addText(text, KIND_OUTPUT).end);
-  }
+  void output(const std::string& text) { screen.caret.setColumn(document.addText(text, KIND_OUTPUT).end); }
   Lines segments() { return segmentsOf(document.lastLine()); }
   int caret() const { return screen.caret.column(); }
 

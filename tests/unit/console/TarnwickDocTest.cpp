@@ -1,14 +1,12 @@
 #include "console/TarnwickDoc.h"
-
-#include <gtest/gtest.h>
-
-#include <cerrno>
-#include <cstring>
-
 #include "platform/FileSystem.h"
 #include "platform/Path.h"
 #include "support/ConsoleFixture.h"
 #include "support/TestProgram.h"
+
+#include <cerrno>
+#include <cstring>
+#include <gtest/gtest.h>
 
 namespace tarnwick {
 namespace {

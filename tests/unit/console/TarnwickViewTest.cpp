@@ -1,9 +1,8 @@
 // The view on its window: following the text, keys, timers, painting.
 #include "console/TarnwickView.h"
+#include "support/ConsoleFixture.h"
 
 #include <gtest/gtest.h>
-
-#include "support/ConsoleFixture.h"
 
 namespace tarnwick {
 namespace {

@@ -1,16 +1,16 @@
 #include "console/TextCells.h"
-
-#include <gtest/gtest.h>
-
-#include <string>
-
 #include "platform/Characters.h"
 #include "support/ConsoleFixture.h"
+
+#include <gtest/gtest.h>
+#include <string>
 
 namespace tarnwick {
 namespace {
 
-int widthOf(const std::string& text) { return static_cast<int>(platform::columnsOf(text)); }
+int widthOf(const std::string& text) {
+  return static_cast<int>(platform::columnsOf(text));
+}
 
 TEST(TextCells, PlainTextHasOneByteAColumn) {
   EXPECT_EQ(byteAtColumn("abc", 3, 0), 0U);

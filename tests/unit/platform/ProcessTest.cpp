@@ -124,14 +124,15 @@ TEST(ChildProcessTest, AMissingProgramIsToldByTheSystemsSentence) {
 
 TEST(ChildProcessTest, AFolderIsNoProgram) {
   const test::ScratchFolder folder;
-  const int accessDenied = folderSeparator == '/' ? 13 : 5;
   for (const bool interactive : {false, true}) {
     try {
       ChildProcess::start({folder.path(), "", interactive});
       FAIL() << "started a folder";
     } catch (const SystemError& error) {
       EXPECT_EQ(error.label, "CreateProcess");
-      EXPECT_EQ(error.code, accessDenied);
+      EXPECT_NE(error.code, 0);
+      EXPECT_NE(error.code, 2) << "it is there";
+      EXPECT_FALSE(error.reason.empty());
     }
   }
 }
@@ -158,11 +159,12 @@ TEST(ChildProcessTest, WritingToAChildThatHasGoneFails) {
   const StandInScript script("");
   const auto child = startInteractive();
   child->wait();
-  EXPECT_EQ(child->write("x\n", 2), -1);
+  // The system may take a moment to close what the child had open.
+  EXPECT_TRUE(waitUntil([&] { return child->write("x\n", 2) == -1; }));
 }
 
 TEST(ChildProcessTest, WaitReturnsThoughAGrandchildKeepsThePipes) {
-  const StandInScript script("out said\ngrandchild 20000\nerr done");
+  const StandInScript script("out said\ngrandchild 5000\nerr done");
   const auto child = startInteractive();
   child->wait();
   const int grandchild = script.grandchildren(1).at(0);
@@ -229,7 +231,7 @@ TEST(ChildProcessTest, EndTreeEndsAToolWithoutInputToo) {
 }
 
 TEST(ChildProcessTest, TheDestructorLeavesTheChildAlone) {
-  const StandInScript script("grandchild 60000\nsleep 300\nexit 0");
+  const StandInScript script("grandchild 5000\nsleep 300\nexit 0");
   auto child = startInteractive();
   const int grandchild = script.grandchildren(1).at(0);
   child.reset();
@@ -281,7 +283,7 @@ TEST(ChildProcessTest, StopWaitingEndsAWriteThatNobodyReads) {
 }
 
 TEST(ChildProcessTest, AnEndedChildIsWaitedForAlsoAfterStopWaiting) {
-  const StandInScript script("grandchild 60000");
+  const StandInScript script("grandchild 5000");
   const auto child = startInteractive();
   const int grandchild = script.grandchildren(1).at(0);
   child->wait();
@@ -297,7 +299,7 @@ TEST(ChildProcessTest, LongInputArrivesWhole) {
   const auto child = startInteractive();
   const std::string line(300000, 'x');
   EXPECT_EQ(child->write((line + '\n').data(), line.size() + 1), static_cast<std::ptrdiff_t>(line.size() + 1));
-  EXPECT_EQ(readLine(*child), "got: " + line);
+  EXPECT_EQ(readAll(*child, Stream::Output), "got: " + line + '\n');
   child->wait();
 }
 

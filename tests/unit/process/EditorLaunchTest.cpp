@@ -4,6 +4,7 @@
 #include "support/Children.h"
 #include "support/ScriptedDesktop.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <gtest/gtest.h>
 
@@ -52,21 +53,24 @@ class ShowLogTest : public testing::Test {
     return copy;
   }
 
-  /// What the probe prints: the log's path, then messages. `switches` are the two for Notepad, for editing and display.
-  std::string show(const std::string& switches, const std::string& target) {
+  /// What the probe prints in a world where only our own programs are found.
+  std::string probe(const std::string& arguments) const {
     const test::ScopedEnvironment path("PATH", programs());
     const test::ScopedEnvironment data("XDG_DATA_HOME", script_.folder().file("data"));
     const test::ScopedEnvironment moreData("XDG_DATA_DIRS", script_.folder().file("data"));
     const test::ScopedEnvironment config("XDG_CONFIG_HOME", script_.folder().file("config"));
     const test::ScopedEnvironment moreConfig("XDG_CONFIG_DIRS", script_.folder().file("config"));
-    const std::string suffix = platform::folderSeparator == '/' ? "" : ".exe";
-    // A backslash before a quote would quote it.
-    const std::string folder = script_.folder().path() + (suffix.empty() ? "" : "\\");
-    std::string output = test::outputOf(
-        platform::resolvedPath(test::standInFolder() + "launch_probe" + suffix),
-        "showlog \"" + folder + "\" " + switches + (target.empty() ? "" : " \"" + quotesKept(target) + '"'));
+    std::string output =
+        test::outputOf(platform::resolvedPath(test::standInFolder() + programName("launch_probe")), arguments);
     output.erase(std::remove(output.begin(), output.end(), '\r'), output.end());
     return output;
+  }
+
+  /// The log's path, then messages. `switches` are the two for Notepad, for editing and display.
+  std::string show(const std::string& switches, const std::string& target) const {
+    // A backslash before a quote would quote it.
+    const std::string folder = script_.folder().path() + (platform::folderSeparator == '/' ? "" : "\\");
+    return probe("showlog \"" + folder + "\" " + switches + (target.empty() ? "" : " \"" + quotesKept(target) + '"'));
   }
 
   static std::string quotesKept(const std::string& text) {
@@ -76,6 +80,11 @@ class ShowLogTest : public testing::Test {
   }
 
   std::string logPath() const { return script_.folder().file("Tarnwick_LOG1.tmp"); }
+
+  static std::string unableToStart(const std::string& editor) {
+    const std::string reason = "No such file or directory\n";
+    return "message: Unable to start " + editor + " for log file display.\n\n" + reason + reason;
+  }
 
   bool recordIs(const std::string& expected) {
     return test::waitUntil([&] { return script_.hasRecord() && script_.record() == expected; });
@@ -107,40 +116,45 @@ TEST_F(ShowLogTest, AnEditorInQuotesIsStartedToo) {
 }
 
 TEST_F(ShowLogTest, NotepadIsUsedWhereASettingSaysSo) {
-  const std::string editor = makeProgram(programName("editor"));
-  const std::string reason = "No such file or directory";
-  const std::string message =
-      "message: Unable to start Notepad for log file display.\n\n" + reason + '\n' + reason + '\n';
+  makeProgram(programName(platform::folderSeparator == '/' ? "gedit" : "Notepad"));
+  const std::string missing = programs() + "nothing.exe";
   const struct {
     const char* switches;
     std::string target;
     bool notepad;
   } table[] = {
-      {"0 0", editor, false}, {"0 1", editor, true}, {"1 0", editor, true},
-      {"1 1", editor, true},  {"0 0", "", true},     {"0 1", "", true},
+      {"0 0", missing, false}, {"0 1", missing, true}, {"1 0", missing, true},
+      {"1 1", missing, true},  {"0 0", "", true},      {"0 1", "", true},
   };
-  if (platform::folderSeparator != '/') GTEST_SKIP() << "Windows always finds its own Notepad, and would open it";
   for (const auto& row : table) {
     platform::deleteFile(script_.folder().file("record"));
-    EXPECT_EQ(show(row.switches, row.target), logPath() + '\n' + (row.notepad ? message : "")) << row.switches;
-    EXPECT_EQ(test::waitUntil([&] { return row.notepad || script_.hasRecord(); }), true) << row.switches;
+    const std::string output = show(row.switches, row.target);
+    if (row.notepad) {
+      EXPECT_EQ(output, logPath() + '\n') << row.switches;
+      EXPECT_TRUE(recordIs(logPath() + '\n')) << row.switches;
+    } else {
+      EXPECT_EQ(output, logPath() + '\n' + unableToStart(missing)) << row.switches;
+      EXPECT_FALSE(script_.hasRecord());
+    }
   }
+}
+
+TEST_F(ShowLogTest, WithoutAnyNotepadTheUserIsToldSo) {
+  EXPECT_EQ(show("0 1", "never tried"), logPath() + '\n' + unableToStart("Notepad"));
 }
 
 TEST_F(ShowLogTest, AnEditorThatCannotBeStartedIsToldWithBothReasons) {
   const std::string missing = programs() + "nothing.exe";
-  const std::string reason = "No such file or directory";
-  EXPECT_EQ(show("0 0", missing), logPath() + "\nmessage: Unable to start " + missing + " for log file display.\n\n" +
-                                      reason + '\n' + reason + '\n');
+  EXPECT_EQ(show("0 0", missing), logPath() + "\nmessage: Unable to start " + missing +
+                                      " for log file display.\n\nNo such file or directory\n"
+                                      "No such file or directory\n");
 }
 
 TEST_F(ShowLogTest, AJarThatCannotBeActivatedIsToldAndThenTriedAsAProgram) {
-  const std::string jar = programs() + "editor.tarnwick.jar";
-  const std::string reason = "No such file or directory";
-  if (platform::folderSeparator != '/') GTEST_SKIP() << "the test's own associations are Linux's";
-  EXPECT_EQ(show("0 0", jar), logPath() + "\nmessage: Unable to activate jar: " + jar + " \"" + logPath() +
-                                  "\"\nmessage: Unable to start " + jar + " for log file display.\n\n" + reason + '\n' +
-                                  reason + '\n');
+  if (probe("open .jar") != "\n") GTEST_SKIP() << "this system has a program for .jar files";
+  const std::string jar = programs() + "editor.jar";
+  EXPECT_EQ(show("0 0", jar),
+            logPath() + "\nmessage: Unable to activate jar: " + jar + " \"" + logPath() + "\"\n" + unableToStart(jar));
 }
 
 }  // namespace

@@ -256,11 +256,9 @@ TEST_F(SubprocessTest, AFailedStartKeepsAnEarlierLog) {
   EXPECT_TRUE(run("out first"));
   Subprocess tool(desktop_, log_, script_.folder().path());
   tool.addArg("javac");
-  const int accessDenied = platform::folderSeparator == '/' ? 13 : 5;
   try {
     platform::ChildProcess::start({script_.folder().path(), "", false});
   } catch (const platform::SystemError& error) {
-    EXPECT_EQ(error.code, accessDenied);
     desktop_.expectMessage("Can't start " + script_.folder().path() + '\n' + error.text());
   }
   EXPECT_FALSE(tool.run(nullptr, FileMode::Write));

@@ -1,7 +1,6 @@
 #include "resources/HintLayout.h"
 
 #include <gtest/gtest.h>
-
 #include <string>
 #include <vector>
 

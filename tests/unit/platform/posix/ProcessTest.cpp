@@ -94,6 +94,16 @@ TEST(PosixProcessTest, AFileWithoutTheRightToRunIsTold) {
   }
 }
 
+TEST(PosixProcessTest, AFolderIsToldAsOneThatMayNotRun) {
+  const test::ScratchFolder folder;
+  try {
+    ChildProcess::start({folder.path(), "", false});
+    FAIL() << "started a folder";
+  } catch (const SystemError& error) {
+    EXPECT_EQ(error.text(), "CreateProcess error 13\nPermission denied");
+  }
+}
+
 TEST(PosixProcessTest, AFileInNoFormatForProgramsIsTold) {
   const test::ScratchFolder folder;
   test::writeFile(folder.file("plain"), "text");

@@ -1,0 +1,486 @@
+#include "ui/Text.h"
+#include "ui/WindowTest.h"
+#include "ui/WxConsoleSurface.h"
+
+#include <wx/dcclient.h>
+#include <wx/dcmemory.h>
+#include <wx/frame.h>
+#include <wx/menu.h>
+#include <wx/uiaction.h>
+
+#include <atomic>
+#include <chrono>
+#include <set>
+#include <sstream>
+#include <thread>
+
+namespace tarnwick::test {
+
+namespace {
+
+using Heard = std::vector<std::string>;
+
+constexpr Colour red{200, 0, 0};
+
+/// A console's rules that write down what they hear.
+class FakeConsole : public ConsoleFrame, public ConsoleSurfaceClient {
+ public:
+  const MenuBar& menuBar() const override { return consoleMenuBar(); }
+  const std::vector<Accelerator>& accelerators() const override { return consoleAccelerators(); }
+  std::string title() const override { return "Console under test"; }
+  bool commandEnabled(int command) const override { return disabled.count(command) == 0; }
+  void onCommand(int command) override { heard.push_back("command " + std::to_string(command)); }
+  ConsoleSurfaceClient& view() override { return *this; }
+
+  void onStart(ConsoleSurface& opened) override {
+    surface = &opened;
+    sizeAtStart = opened.clientSize();
+  }
+  void paint(ConsolePainter& painter) override {
+    ++paints;
+    if (onPaint) onPaint(painter);
+  }
+  void onWake() override { wakes.push_back(std::chrono::steady_clock::now()); }
+  void onResized() override { ++resized; }
+  bool onKey(ConsoleKey key, int modifiers) override {
+    if (key == ConsoleKey::Other) return false;
+    heard.push_back("key " + std::to_string(static_cast<int>(key)) + " " + std::to_string(modifiers));
+    return true;
+  }
+  void onCharacter(const std::string& character, int count) override {
+    std::ostringstream shown;
+    for (const char c : character) {
+      const int byte = static_cast<unsigned char>(c);
+      if (byte < 32) {
+        shown << '<' << byte << '>';
+      } else {
+        shown << c;
+      }
+    }
+    for (int i = 0; i < count; ++i) heard.push_back("char " + shown.str());
+  }
+  void onLeftDown(const MouseState& mouse) override { hearMouse("down", mouse); }
+  void onLeftUp(const MouseState& mouse) override { hearMouse("up", mouse); }
+  void onMouseMove(const MouseState&) override {}
+  void onDoubleClick(const MouseState& mouse) override { hearMouse("double", mouse); }
+  void onRightDown(const MouseState& mouse) override { hearMouse("right", mouse); }
+  void onClose() override {
+    heard.emplace_back("closed");
+    surface = nullptr;
+  }
+
+  ConsoleSurface* surface = nullptr;
+  Point sizeAtStart;
+  int paints = 0;
+  int resized = 0;
+  std::set<int> disabled;
+  std::vector<std::chrono::steady_clock::time_point> wakes;
+  Heard heard;
+  std::function<void(ConsolePainter&)> onPaint;
+
+ private:
+  void hearMouse(const std::string& what, const MouseState& mouse) {
+    heard.push_back(what + " " + std::to_string(mouse.at.x) + "," + std::to_string(mouse.at.y) +
+                    (mouse.shift ? " shift" : "") + (mouse.control ? " control" : ""));
+  }
+};
+
+class ConsoleTest : public WindowTest {
+ protected:
+  void play() { desktop().runConsoleFrame(console); }
+
+  void waitForFrame() {
+    steps.until("the frame shows", [this] {
+      const bool there = console.paints > 0 && wxWindow::FindFocus() == window();
+      if (there) console.heard.clear();
+      return there;
+    });
+  }
+
+  void thenClose() {
+    steps.then("close", [this] {
+      console.heard.clear();
+      console.surface->close();
+    });
+  }
+
+  void press(int code, int modifiers = 0) {
+    steps.then("key " + std::to_string(code), [code, modifiers] { key(code, modifiers); });
+    steps.settle();
+  }
+
+  void thenExpect(const Heard& heard) {
+    steps.settle();
+    steps.then("look", [this, heard] {
+      EXPECT_EQ(console.heard, heard);
+      console.heard.clear();
+    });
+  }
+
+  wxWindow* window() const { return dynamic_cast<ui::WxConsoleSurface*>(console.surface); }
+  wxFrame* frame() const { return dynamic_cast<wxFrame*>(wxGetTopLevelParent(window())); }
+
+  FakeConsole console;
+};
+
+/// How many pixels of the rectangle are of a kind.
+int countIn(const wxImage& picture, const wxRect& rect, bool (*isKind)(int red, int green, int blue)) {
+  int count = 0;
+  for (int y = rect.y; y < rect.y + rect.height; ++y) {
+    for (int x = rect.x; x < rect.x + rect.width; ++x) {
+      if (isKind(picture.GetRed(x, y), picture.GetGreen(x, y), picture.GetBlue(x, y))) ++count;
+    }
+  }
+  return count;
+}
+
+// Letters have soft edges, so their ink is told by its tone.
+bool isReddish(int r, int g, int b) {
+  return r - g > 40 && r - b > 40;
+}
+bool isCyanish(int r, int g, int b) {
+  return g - r > 40 && b - r > 40;
+}
+bool isWhite(int r, int g, int b) {
+  return r == 255 && g == 255 && b == 255;
+}
+bool isBlack(int r, int g, int b) {
+  return r == 0 && g == 0 && b == 0;
+}
+
+/// What a window's own device shows.
+wxImage pictureOf(wxWindow& window) {
+  const wxSize size = window.GetClientSize();
+  wxClientDC device(&window);
+  wxBitmap bitmap(size.x, size.y, 24);
+  wxMemoryDC memory(bitmap);
+  memory.Blit(0, 0, size.x, size.y, &device, 0, 0);
+  memory.SelectObject(wxNullBitmap);
+  return bitmap.ConvertToImage();
+}
+
+}  // namespace
+
+TEST_F(ConsoleTest, TheFrameHoldsEightyColumnsAndTwentyFiveRows) {
+  waitForFrame();
+  steps.then("look", [this] {
+    const Point cell = console.surface->cell();
+    const Point size = console.surface->clientSize();
+    EXPECT_GE(console.sizeAtStart.x, 80 * cell.x);
+    EXPECT_GE(size.x, 80 * cell.x);
+    EXPECT_GE(size.y, 25 * cell.y);
+    EXPECT_LE(size.y, 27 * cell.y);
+    EXPECT_EQ(frame()->GetTitle(), "Console under test");
+  });
+  thenClose();
+  play();
+  EXPECT_EQ(console.heard, Heard{"closed"});
+}
+
+TEST_F(ConsoleTest, TextAndInvertedCellsShowOnWhite) {
+  const auto cellRect = [this](int column, int row) {
+    const Point cell = console.surface->cell();
+    return wxRect(column * cell.x, row * cell.y, cell.x, cell.y);
+  };
+  console.onPaint = [this](ConsolePainter& painter) {
+    const Point cell = console.surface->cell();
+    painter.drawText(2 * cell.x, cell.y, "MMMMMMMMMM", red);
+    painter.drawText(2 * cell.x, 3 * cell.y, "MMMM", red);
+    painter.invert({3 * cell.x, 3 * cell.y, 5 * cell.x, 4 * cell.y});
+    painter.invert({4 * cell.x, 3 * cell.y, 5 * cell.x, 4 * cell.y});  // twice is as before
+  };
+  waitForFrame();
+  steps.settle(10);
+  steps.then("look", [&] {
+    shoot("console-cells");
+    const wxImage picture = pictureOf(*window());
+    const int whole = console.surface->cell().x * console.surface->cell().y;
+    EXPECT_EQ(countIn(picture, cellRect(1, 1), isWhite), whole);
+    EXPECT_EQ(countIn(picture, cellRect(12, 1), isWhite), whole);
+    for (int column = 2; column < 12; ++column) {
+      EXPECT_GT(countIn(picture, cellRect(column, 1), isReddish), whole / 10) << column;
+    }
+    EXPECT_GT(countIn(picture, cellRect(2, 3), isReddish), whole / 10);
+    EXPECT_EQ(countIn(picture, cellRect(3, 3), isReddish), 0);
+    EXPECT_GT(countIn(picture, cellRect(3, 3), isCyanish), whole / 10);
+    EXPECT_GT(countIn(picture, cellRect(3, 3), isBlack), whole / 5);
+    EXPECT_GT(countIn(picture, cellRect(4, 3), isReddish), whole / 10);
+    EXPECT_EQ(countIn(picture, cellRect(4, 3), isBlack), 0);
+  });
+  thenClose();
+  play();
+}
+
+TEST_F(ConsoleTest, ScrollingMovesTheDocumentUnderTheWindow) {
+  console.onPaint = [this](ConsolePainter& painter) {
+    const Point cell = console.surface->cell();
+    painter.drawText(0, 50 * cell.y, "MMMM", red);
+  };
+  waitForFrame();
+  steps.then("scroll", [this] {
+    const Point cell = console.surface->cell();
+    console.surface->setScrollSizes({200 * cell.x, 100 * cell.y});
+    console.surface->scrollTo({0, 45 * cell.y});
+    EXPECT_EQ(console.surface->scrollPosition(), (Point{0, 45 * cell.y}));
+  });
+  steps.settle(10);
+  steps.then("look", [this] {
+    const Point cell = console.surface->cell();
+    const wxImage picture = pictureOf(*window());
+    EXPECT_GT(countIn(picture, wxRect(0, 5 * cell.y, 4 * cell.x, cell.y), isReddish), cell.x * cell.y / 10);
+    EXPECT_EQ(countIn(picture, wxRect(0, 4 * cell.y, 4 * cell.x, cell.y), isReddish), 0);
+    console.surface->scrollTo({100000, 100000});
+    const Point size = console.surface->clientSize();
+    EXPECT_EQ(console.surface->scrollPosition(), (Point{200 * cell.x - size.x, 100 * cell.y - size.y}));
+    console.surface->scrollTo({-5, -5});
+    EXPECT_EQ(console.surface->scrollPosition(), (Point{0, 0}));
+    console.surface->scrollTo({0, 45 * cell.y});
+    console.surface->setScrollSizes({cell.x, 2 * cell.y});
+    EXPECT_EQ(console.surface->scrollPosition(), (Point{0, 0}));
+  });
+  thenClose();
+  play();
+}
+
+TEST_F(ConsoleTest, TheWheelScrollsThreeLines) {
+  waitForFrame();
+  steps.then("scroll", [this] {
+    const Point cell = console.surface->cell();
+    console.surface->setScrollSizes({cell.x, 100 * cell.y});
+    wxMouseEvent wheel(wxEVT_MOUSEWHEEL);
+    wheel.m_wheelRotation = -120;
+    wheel.m_wheelDelta = 120;
+    window()->ProcessWindowEvent(wheel);
+    EXPECT_EQ(console.surface->scrollPosition(), (Point{0, 3 * cell.y}));
+  });
+  thenClose();
+  play();
+}
+
+TEST_F(ConsoleTest, OnlyTheInvalidPartIsPainted) {
+  Rect clip;
+  waitForFrame();
+  steps.settle(10);
+  steps.then("invalidate", [&] {
+    console.onPaint = [&](ConsolePainter& painter) { clip = painter.clip(); };
+    console.surface->invalidate({16, 32, 48, 50});
+  });
+  steps.until("painted", [&] { return clip.width() > 0; });
+  steps.then("look", [&] {
+    EXPECT_LE(clip.left, 16);
+    EXPECT_LE(clip.top, 32);
+    EXPECT_GE(clip.right, 48);
+    EXPECT_GE(clip.bottom, 50);
+    EXPECT_LT(clip.height(), console.surface->clientSize().y);
+  });
+  thenClose();
+  play();
+}
+
+TEST_F(ConsoleTest, CharactersAndControlCharactersArrive) {
+  waitForFrame();
+  for (const int code : {static_cast<int>('a'), static_cast<int>(' '), static_cast<int>(WXK_RETURN),
+                         static_cast<int>(WXK_TAB), static_cast<int>(WXK_BACK), static_cast<int>(WXK_ESCAPE)}) {
+    press(code);
+  }
+  press('D', wxMOD_CONTROL);
+  press('Z', wxMOD_CONTROL);
+  thenExpect({"char a", "char  ", "char <13>", "char <9>", "char <8>", "char <27>", "char <4>", "char <26>"});
+  thenClose();
+  play();
+}
+
+TEST_F(ConsoleTest, NavigationAndFunctionKeysArriveWithTheirModifiers) {
+  waitForFrame();
+  press(WXK_HOME);
+  press(WXK_END);
+  press(WXK_DELETE);
+  press(WXK_UP);
+  press(WXK_F5);
+  press(WXK_F10);
+  press(WXK_F9, wxMOD_SHIFT);
+  press(WXK_F12, wxMOD_CONTROL);
+  press(WXK_F6, wxMOD_ALT);
+  const auto keyText = [](ConsoleKey key, int modifiers) {
+    return "key " + std::to_string(static_cast<int>(key)) + " " + std::to_string(modifiers);
+  };
+  thenExpect({keyText(ConsoleKey::Home, 0), keyText(ConsoleKey::End, 0), keyText(ConsoleKey::Delete, 0),
+              keyText(ConsoleKey::Up, 0), keyText(ConsoleKey::F5, 0), keyText(ConsoleKey::F10, 0),
+              keyText(ConsoleKey::F9, SHIFT_BIT), keyText(ConsoleKey::F12, CTRL_BIT),
+              keyText(ConsoleKey::F6, ALT_BIT)});
+  thenClose();
+  play();
+}
+
+TEST_F(ConsoleTest, AcceleratorsRunTheirCommandsAndTypeNothing) {
+  waitForFrame();
+  press('A', wxMOD_CONTROL);
+  press('C', wxMOD_CONTROL);
+  press(WXK_INSERT, wxMOD_CONTROL);
+  press('V', wxMOD_CONTROL);
+  press(WXK_INSERT, wxMOD_SHIFT);
+  press(WXK_DELETE, wxMOD_SHIFT);
+  thenExpect({"command 57642", "command 57634", "command 57634", "command 57637", "command 57637", "command 57635"});
+  thenClose();
+  play();
+}
+
+TEST_F(ConsoleTest, TheAcceleratorOfADisabledCommandDoesNothing) {
+  console.disabled = {COMMAND_COPY};
+  waitForFrame();
+  press('C', wxMOD_CONTROL);
+  thenExpect({});
+  thenClose();
+  play();
+}
+
+TEST_F(ConsoleTest, MenusAskWhatIsEnabledWhenTheyOpen) {
+  waitForFrame();
+  steps.then("open the menu", [this] {
+    console.disabled = {COMMAND_STOP_RECORDING, COMMAND_JDB_HELP};
+    wxMenuEvent open(wxEVT_MENU_OPEN, 0, frame()->GetMenuBar()->GetMenu(0));
+    frame()->ProcessWindowEvent(open);
+    wxMenuBar& bar = *frame()->GetMenuBar();
+    EXPECT_EQ(bar.GetMenuCount(), consoleMenuBar().size());
+    for (std::size_t i = 0; i < bar.GetMenuCount(); ++i) {
+      const auto& described = consoleMenuBar()[i];
+      EXPECT_EQ(bar.GetMenuLabel(i), ui::toWx(described.title));
+      const auto& items = bar.GetMenu(i)->GetMenuItems();
+      ASSERT_EQ(items.size(), described.items.size());
+      for (std::size_t k = 0; k < items.size(); ++k) {
+        EXPECT_EQ(items[k]->GetItemLabel(), ui::toWx(described.items[k].text));
+        if (!items[k]->IsSeparator()) {
+          EXPECT_EQ(items[k]->IsEnabled(), console.commandEnabled(described.items[k].command))
+              << described.items[k].text;
+        }
+      }
+    }
+  });
+  thenClose();
+  play();
+}
+
+TEST_F(ConsoleTest, AChosenMenuItemRunsItsCommand) {
+  waitForFrame();
+  steps.then("choose", [this] {
+    const auto* item = frame()->GetMenuBar()->GetMenu(0)->FindItemByPosition(0);
+    wxCommandEvent chosen(wxEVT_MENU, item->GetId());
+    frame()->ProcessWindowEvent(chosen);
+  });
+  thenExpect({"command 32771"});
+  thenClose();
+  play();
+}
+
+TEST_F(ConsoleTest, TheMouseSpeaksInTheWindowsCoordinates) {
+  waitForFrame();
+  steps.then("click", [this] {
+    wxUIActionSimulator hand;
+    hand.MouseMove(window()->ClientToScreen(wxPoint(40, 60)));
+    hand.MouseClick(wxMOUSE_BTN_LEFT);
+  });
+  thenExpect({"down 40,60", "up 40,60"});
+  steps.then("click right", [] {
+    wxUIActionSimulator hand;
+    hand.MouseClick(wxMOUSE_BTN_RIGHT);
+  });
+  thenExpect({"right 40,60"});
+  thenClose();
+  play();
+}
+
+TEST_F(ConsoleTest, WakesOfAnyThreadAreMergedAndKeepTheirDistance) {
+  std::thread other;
+  std::atomic<bool> flooded = false;
+  waitForFrame();
+  steps.then("flood", [&] {
+    other = std::thread([&] {
+      const auto end = std::chrono::steady_clock::now() + std::chrono::milliseconds(300);
+      while (std::chrono::steady_clock::now() < end) console.surface->wake();
+      flooded = true;
+    });
+  });
+  steps.until("the flood is over", [&] { return flooded.load(); });
+  steps.settle(10);
+  steps.then("look", [&] {
+    other.join();
+    EXPECT_GE(console.wakes.size(), 2u);
+    EXPECT_LE(console.wakes.size(), 10u);
+    for (std::size_t i = 1; i < console.wakes.size(); ++i) {
+      EXPECT_GE(console.wakes[i] - console.wakes[i - 1], std::chrono::milliseconds(25));
+    }
+  });
+  thenClose();
+  play();
+}
+
+TEST_F(ConsoleTest, AWakeThatComesAfterAnotherIsNotLost) {
+  waitForFrame();
+  steps.then("wake", [&] { console.surface->wake(); });
+  steps.until("woken", [&] { return console.wakes.size() == 1; });
+  steps.then("wake", [&] { console.surface->wake(); });
+  steps.until("woken", [&] { return console.wakes.size() == 2; });
+  thenClose();
+  play();
+}
+
+TEST_F(ConsoleTest, TheHintShowsNearTheCornerAndLeavesTheFocus) {
+  const auto hint = [this]() -> wxWindow* {
+    for (wxWindow* child : window()->GetChildren()) {
+      if (child->IsTopLevel() || child->IsShown()) return child;
+    }
+    return nullptr;
+  };
+  waitForFrame();
+  steps.then("show", [&] { console.surface->showHint(true); });
+  steps.settle(10);
+  steps.then("look", [&] {
+    shoot("console-hint");
+    ASSERT_NE(hint(), nullptr);
+    EXPECT_TRUE(hint()->IsShown());
+    EXPECT_EQ(hint()->GetScreenPosition(), window()->ClientToScreen(wxPoint(20, 20)));
+    EXPECT_EQ(wxWindow::FindFocus(), window());
+    console.surface->showHint(false);
+  });
+  steps.settle();
+  steps.then("look again", [&] { EXPECT_TRUE(!hint() || !hint()->IsShown()); });
+  thenClose();
+  play();
+}
+
+TEST_F(ConsoleTest, ResizingIsHeard) {
+  waitForFrame();
+  steps.then("resize", [this] {
+    console.resized = 0;
+    frame()->SetClientSize(400, 300);
+  });
+  steps.until("heard", [this] { return console.resized > 0 && console.surface->clientSize().x <= 400; });
+  thenClose();
+  play();
+}
+
+TEST_F(ConsoleTest, TheCloseBoxClosesTheConsole) {
+  waitForFrame();
+  steps.then("close box", [this] { frame()->Close(); });
+  play();
+  EXPECT_EQ(console.heard, Heard{"closed"});
+}
+
+TEST_F(ConsoleTest, AConsoleThatIsToCloseWaitsForItsMessageBox) {
+  waitForFrame();
+  steps.then("message", [] { desktop().message("WriteFile error to jStdin"); });
+  steps.settle(20);
+  steps.then("close", [this] {
+    console.heard.clear();
+    console.surface->close();
+  });
+  steps.settle(10);
+  steps.then("it waits", [this] {
+    EXPECT_EQ(console.heard, Heard{});
+    key(WXK_RETURN);
+  });
+  play();
+  EXPECT_EQ(console.heard, Heard{"closed"});
+}
+
+}  // namespace tarnwick::test

@@ -33,11 +33,14 @@ bool onX11() {
 
 }  // namespace
 
-std::string openDisplay() {
-  const auto initialise = gtk::function<int(int*, char***)>("gtk_init_check");
-  if (initialise && initialise(nullptr, nullptr)) return {};
-  const char* name = std::getenv("DISPLAY");
-  return std::string("Tarnwick: can't open the display ") + (name && *name ? name : "(DISPLAY is not set)");
+void prepareToolkit() {}
+
+std::string displayName() {
+  for (const char* variable : {"WAYLAND_DISPLAY", "DISPLAY"}) {
+    const char* name = std::getenv(variable);
+    if (name && *name) return name;
+  }
+  return "(DISPLAY is not set)";
 }
 
 void nameByLabel(wxWindow& control, wxWindow& label) {

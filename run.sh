@@ -8,6 +8,7 @@ set -euo pipefail
 if [ "${1:-}" = --demo ]; then
   "$root/scripts/packages.sh" run test
   build linux "" Tarnwick
+  export TARNWICK_DISPLAY_SIZE=1280x880x24
   exec timeout --kill-after=10 600 "$root/scripts/with-display.sh" /usr/bin/python3 "$root/tests/e2e/demo.py" "$root" </dev/null
 fi
 

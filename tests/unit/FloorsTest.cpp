@@ -1,4 +1,5 @@
 // The floors of the house, read from the includes of its sources.
+#include "platform/FileSystem.h"
 #include "platform/Path.h"
 #include "support/Floors.h"
 #include "support/TestProgram.h"
@@ -18,12 +19,14 @@ using Lines = std::vector<std::string>;
 class FloorsTest : public testing::Test {
  protected:
   Lines violationsOf(const std::vector<std::pair<std::string, std::string>>& sources) {
+    // Relative names: the scratch folder's own, in the process's character set, is not always a filesystem::path.
+    EXPECT_TRUE(platform::changeDirectory(scratch_.path()));
     for (const auto& [name, content] : sources) {
-      const auto path = fs::path(scratch_.path()) / "src" / fs::path(name);
+      const auto path = fs::path("src") / name;
       fs::create_directories(path.parent_path());
       writeFile(path.string(), content);
     }
-    const auto report = inspectFloors(fs::path(scratch_.path()) / "src");
+    const auto report = inspectFloors("src");
     EXPECT_EQ(report.files, static_cast<int>(sources.size()));
     return report.violations;
   }

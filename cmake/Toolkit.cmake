@@ -16,11 +16,14 @@ if(WIN32)
     kernel32 user32 gdi32 gdiplus msimg32 comdlg32 winspool winmm shell32 shlwapi comctl32 ole32 oleaut32 uuid rpcrt4
     advapi32 version ws2_32 wininet oleacc uxtheme)
 else()
+  find_package(PkgConfig REQUIRED)
   find_package(wxWidgets 3.2 REQUIRED COMPONENTS core base)
   target_include_directories(tarnwick_toolkit SYSTEM INTERFACE ${wxWidgets_INCLUDE_DIRS})
   target_compile_definitions(tarnwick_toolkit INTERFACE ${wxWidgets_DEFINITIONS})
   target_compile_options(tarnwick_toolkit INTERFACE ${wxWidgets_CXX_FLAGS})
-  target_link_libraries(tarnwick_toolkit INTERFACE ${wxWidgets_LIBRARIES})
+  # What the toolkit itself stands on here, for the few calls that it does not wrap.
+  pkg_check_modules(GTK REQUIRED IMPORTED_TARGET gtk+-3.0)
+  target_link_libraries(tarnwick_toolkit INTERFACE ${wxWidgets_LIBRARIES} PkgConfig::GTK)
 endif()
 
 # tarnwick_use_toolkit(TARGET): links the toolkit and shares one precompiled header of it.

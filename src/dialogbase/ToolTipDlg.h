@@ -61,6 +61,7 @@ class ToolTipDlg : public DialogHandler {
 
   bool initialised() const { return initialised_; }
   int pageId() const { return pageId_; }
+  int ownerId() const { return ownerId_; }
 
  protected:
   virtual void onOk() { close(IDOK_CONTROL); }

@@ -38,26 +38,45 @@ class Application : public wxApp {
   // From here rather than from OnInit: there, modal dialogs end with the exit code lost.
   int OnRun() override {
     WxDesktop desktop;
-    return program_(desktop, desktop);
+    int result = 1;
+    desktop.guard([&] { result = program_(desktop, desktop); });
+    return result;
   }
 
  private:
   Program program_;
 };
 
+/// Ends the toolkit on every path.
+struct Cleanup {
+  Cleanup() = default;
+  ~Cleanup() { wxEntryCleanup(); }
+  Cleanup(const Cleanup&) = delete;
+  Cleanup& operator=(const Cleanup&) = delete;
+};
+
+bool startToolkit(int argc, char** argv) {
+  prepareToolkit();
+  // The toolkit sees the program's name alone: among the arguments may be some that it would take for its own.
+  int count = argc > 0 ? 1 : 0;
+  const wxLogNull quiet;  // it would speak of a missing display in words of its own
+  return wxEntryStart(count, argv);
+}
+
 }  // namespace
 
 int runProgram(int argc, char** argv, Program program) {
-  const std::string problem = openDisplay();
-  if (!problem.empty()) {
-    std::fprintf(stderr, "%s\n", problem.c_str());
-    return 1;
-  }
   wxSetAssertHandler(printAssertion);
   wxApp::SetInstance(new Application(std::move(program)));
-  // The toolkit sees the program's name alone: among the arguments may be some that it would take for its own.
-  int count = argc > 0 ? 1 : 0;
-  return wxEntry(count, argv);
+  if (!startToolkit(argc, argv)) {
+    std::fprintf(stderr, "Tarnwick: can't open the display %s\n", displayName().c_str());
+    return 1;
+  }
+  const Cleanup cleanup;
+  if (!wxTheApp->CallOnInit()) return 1;
+  const int result = wxTheApp->OnRun();
+  wxTheApp->OnExit();
+  return result;
 }
 
 }  // namespace tarnwick::ui

@@ -16,8 +16,11 @@ class wxWindow;
 
 namespace tarnwick::ui {
 
-/// Opens the display. What went wrong, in one line; empty if all is well.
-std::string openDisplay();
+/// What has to be done before the toolkit starts.
+void prepareToolkit();
+
+/// What the program's windows would show on, for a message.
+std::string displayName();
 
 /// Makes `label` the name of `control` for readers of the screen.
 void nameByLabel(wxWindow& control, wxWindow& label);

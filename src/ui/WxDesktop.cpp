@@ -22,6 +22,10 @@ WxDesktop::WxDesktop()
 
 WxDesktop::~WxDesktop() = default;
 
+void WxDesktop::guard(const std::function<void()>& action) {
+  guarded(stack_, action);
+}
+
 void WxDesktop::message(const std::string& text) {
   showMessage(stack_, text, MessageKind::Ok);
 }

@@ -33,6 +33,9 @@ class WxDesktop : public Desktop, public ConsoleFrameHost {
   void post(std::function<void()> task) override;
   void runConsoleFrame(ConsoleFrame& frame) override;
 
+  /// Runs the action; an exception that leaves it is shown in words.
+  void guard(const std::function<void()>& action);
+
   /// The open dialogs, innermost last. For tests.
   const std::vector<WxTopWindow*>& openDialogs() const { return openDialogs_; }
 

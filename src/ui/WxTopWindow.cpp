@@ -13,13 +13,20 @@ namespace {
 
 constexpr int windowMargin = 12;
 
+/// The toolkit would stretch an only child over the whole window, margins and all.
+class FreeDialog : public wxDialog {
+ public:
+  using wxDialog::wxDialog;
+  bool Layout() override { return false; }
+};
+
 wxDialog* makeDialog(WxTopWindow::Role role, const DialogLayout& layout, wxWindow* parent) {
   long style = wxCAPTION | wxSYSTEM_MENU | wxCLOSE_BOX;
   if (layout.minimiseBox) style |= wxMINIMIZE_BOX;
   const bool isMain = role == WxTopWindow::Role::Main;
   if (isMain) style |= wxDIALOG_NO_PARENT;
   auto* dialog =
-      new wxDialog(isMain ? nullptr : parent, wxID_ANY, toWx(layout.title), wxDefaultPosition, wxDefaultSize, style);
+      new FreeDialog(isMain ? nullptr : parent, wxID_ANY, toWx(layout.title), wxDefaultPosition, wxDefaultSize, style);
   if (isMain) makeMainWindow(*dialog);
   dialog->SetIcons(programIcons());
   dialog->SetEscapeId(wxID_NONE);

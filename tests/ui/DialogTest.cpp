@@ -90,6 +90,26 @@ TEST_F(DialogTest, FieldsBeginAtOneLineBelowEachOther) {
   play();
 }
 
+TEST_F(DialogTest, AnOnlyControlKeepsItsMargins) {
+  DialogLayout only;
+  only.title = "Only a slot";
+  only.content = layout::column({layout::slot(SAMPLE_SLOT)});
+  rules.onInitialise = [this](DialogWindow& window) { window.addChild(SAMPLE_SLOT, samplePageLayout(), bar); };
+  waitForDialog();
+  steps.settle();
+  steps.then("look", [this] {
+    const Rect rect = top().rect(SAMPLE_SLOT);
+    const wxSize room = top().dialog().GetClientSize();
+    EXPECT_GE(rect.left, 8);
+    EXPECT_GE(rect.top, 8);
+    EXPECT_EQ(room.x - rect.right, rect.left);
+    EXPECT_EQ(room.y - rect.bottom, rect.top);
+    expectGoodLooks(top());
+  });
+  thenClose();
+  desktop().runDialog(only, rules);
+}
+
 TEST_F(DialogTest, TheFirstFocusIsTheLayouts) {
   waitForDialog();
   steps.until("focus", [this] { return wxWindow::FindFocus() == top().windowOf(SAMPLE_EDIT); });

@@ -1,30 +1,55 @@
+#include "base/Tarnwickexception.h"
 #include "platform/FileSystem.h"
 #include "support/TestProgram.h"
 #include "ui/RunProgram.h"
+#include "ui/SampleDialog.h"
 #include "ui/WindowTest.h"
+
+#include <wx/uiaction.h>
 
 #include <cstdlib>
 #include <string>
 
 namespace {
 
-using tarnwick::ConsoleFrameHost;
-using tarnwick::Desktop;
+using namespace tarnwick;
 
 int runAll(int argc, char** argv) {
-  return tarnwick::ui::runProgram(argc, argv, [argc, argv](Desktop& desktop, ConsoleFrameHost&) {
-    tarnwick::test::setDesktop(&dynamic_cast<tarnwick::ui::WxDesktop&>(desktop));
-    return tarnwick::test::runTests(argc, argv);
+  return ui::runProgram(argc, argv, [argc, argv](Desktop& desktop, ConsoleFrameHost&) {
+    test::setDesktop(&dynamic_cast<ui::WxDesktop&>(desktop));
+    return test::runTests(argc, argv);
   });
+}
+
+/// A program that shows a message, a dialog and a main dialog, each of which Return closes.
+int showDialogs(Desktop& desktop, int result) {
+  const int timer = desktop.startTimer(200, [] { wxUIActionSimulator().Char(WXK_RETURN); });
+  desktop.message("A message before any window");
+  test::Recorder rules;
+  rules.onPress[IDOK_CONTROL] = [&rules] { rules.window->close(IDOK_CONTROL); };
+  desktop.runDialog(test::smallLayout("Before the main dialog"), rules);
+  desktop.runMainDialog(test::smallLayout("Main"), rules);
+  desktop.stopTimer(timer);
+  return result;
+}
+
+/// Small programs of their own, for the tests of what a process gives back.
+int runSmall(const std::string& which, int result, Desktop& desktop) {
+  if (which == "--dialogs") return showDialogs(desktop, result);
+  if (which == "--throw") {
+    const int timer = desktop.startTimer(200, [] { wxUIActionSimulator().Char(WXK_RETURN); });
+    static_cast<void>(timer);
+    throw Tarnwickexception("thrown by the program");
+  }
+  return result;
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
-  // "--exit-code 7" is a program of its own, for the tests of what a process gives back.
-  if (argc == 3 && std::string(argv[1]) == "--exit-code") {
-    const int code = std::atoi(argv[2]);
-    return tarnwick::ui::runProgram(argc, argv, [code](Desktop&, ConsoleFrameHost&) { return code; });
-  }
-  return runAll(argc, argv);
+  const std::string which = argc == 3 ? argv[1] : "";
+  if (which != "--exit-code" && which != "--dialogs" && which != "--throw") return runAll(argc, argv);
+  const int result = std::atoi(argv[2]);
+  return ui::runProgram(
+      argc, argv, [which, result](Desktop& desktop, ConsoleFrameHost&) { return runSmall(which, result, desktop); });
 }

@@ -11,8 +11,10 @@
 
 namespace tarnwick::ui {
 
-std::string openDisplay() {
-  return {};
+void prepareToolkit() {}
+
+std::string displayName() {
+  return "of Windows";
 }
 
 // Readers of the screen take the text before a field as its name.

@@ -18,13 +18,15 @@ using Lines = std::vector<std::string>;
 /// Made-up sources: pairs of a name below the source folder and a content.
 class FloorsTest : public testing::Test {
  protected:
+  FloorsTest() { EXPECT_TRUE(platform::changeDirectory(scratch_.path())); }
+
   Lines violationsOf(const std::vector<std::pair<std::string, std::string>>& sources) {
-    // Relative names: the scratch folder's own, in the process's character set, is not always a filesystem::path.
-    EXPECT_TRUE(platform::changeDirectory(scratch_.path()));
     for (const auto& [name, content] : sources) {
-      const auto path = fs::path("src") / name;
-      fs::create_directories(path.parent_path());
-      writeFile(path.string(), content);
+      // Both systems take slashes. The names are relative, since the path of the scratch folder is in the system's
+      // character set, which fs::path does not take on Windows.
+      const std::string path = "src/" + name;
+      EXPECT_TRUE(platform::makeFolders(path.substr(0, path.rfind('/')))) << path;
+      writeFile(path, content);
     }
     const auto report = inspectFloors("src");
     EXPECT_EQ(report.files, static_cast<int>(sources.size()));

@@ -9,6 +9,8 @@ shift
 WINE=$(PATH=/usr/lib/wine:$PATH command -v wine64) || { echo "with-wine.sh: no wine64 here" >&2; exit 1; }
 server=$(PATH=/usr/lib/wine:$PATH command -v wineserver64 || PATH=/usr/lib/wine:$PATH command -v wineserver)
 mkdir -p "$folder/home" "$folder/prefix"
+# Wine takes its 8-bit character set and the names of files from the locale.
+export LC_ALL=C.UTF-8
 export WINE WINEPREFIX=$folder/prefix HOME=$folder/home WINEDEBUG=-all WINEARCH=win64
 # No offers to download a browser engine or another run-time.
 export WINEDLLOVERRIDES='mscoree,mshtml='

@@ -38,6 +38,11 @@ StandInScript::StandInScript(const std::string& script)
   setScript(script);
 }
 
+StandInScript::~StandInScript() {
+  // They work in the scratch folder, which Windows keeps as long as they live.
+  for (const int grandchild : notedGrandchildren()) endProcess(grandchild);
+}
+
 std::string StandInScript::tool(const std::string& name) {
   return platform::resolvedPath(standInFolder() + platform::toolFileName(name));
 }
@@ -46,12 +51,17 @@ bool StandInScript::hasRecord() const {
   return platform::isFile(folder_.file("record"));
 }
 
+std::vector<int> StandInScript::notedGrandchildren() const {
+  std::vector<int> numbers;
+  std::ifstream file(folder_.file("record.pids"));
+  for (std::string line; std::getline(file, line) && !file.eof();) numbers.push_back(std::stoi(line));
+  return numbers;
+}
+
 std::vector<int> StandInScript::grandchildren(std::size_t count) const {
   std::vector<int> numbers;
   const bool all = waitUntil([&] {
-    numbers.clear();
-    std::ifstream file(folder_.file("record.pids"));
-    for (std::string line; std::getline(file, line) && !file.eof();) numbers.push_back(std::stoi(line));
+    numbers = notedGrandchildren();
     return numbers.size() >= count;
   });
   if (!all) ADD_FAILURE() << "The stand-in has not started " << count << " grandchildren";

@@ -22,10 +22,16 @@ bool waitUntil(const std::function<bool()>& condition);
 /// True while a process with this number runs; one that has ended but was not waited for does not count.
 bool processLives(int process);
 
-/// A stand-in tool with its script, in a scratch folder of its own.
+/// Ends the process, if it still runs.
+void endProcess(int process);
+
+/// A stand-in tool with its script, in a scratch folder of its own. Its grandchildren end with it.
 class StandInScript {
  public:
   explicit StandInScript(const std::string& script);
+  ~StandInScript();
+  StandInScript(const StandInScript&) = delete;
+  StandInScript& operator=(const StandInScript&) = delete;
 
   const ScratchFolder& folder() const { return folder_; }
   /// The stand-in for this tool.
@@ -39,6 +45,9 @@ class StandInScript {
   std::vector<int> grandchildren(std::size_t count) const;
 
  private:
+  /// Those that have been noted down whole.
+  std::vector<int> notedGrandchildren() const;
+
   ScratchFolder folder_;
   ScopedEnvironment script_;
   ScopedEnvironment record_;

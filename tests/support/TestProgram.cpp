@@ -1,14 +1,15 @@
 #include "support/TestProgram.h"
 
-#include <gtest/gtest.h>
-
-#include <cstdio>
-#include <filesystem>
-#include <fstream>
-#include <sstream>
-
 #include "platform/FileSystem.h"
 #include "platform/Path.h"
+#include "support/TestFolders.h"
+
+#include <chrono>
+#include <cstdio>
+#include <fstream>
+#include <gtest/gtest.h>
+#include <sstream>
+#include <thread>
 
 namespace tarnwick::test {
 
@@ -30,18 +31,18 @@ std::string standInFolder() {
 
 ScratchFolder::ScratchFolder() {
   static int number = 0;
-  const auto base = std::filesystem::temp_directory_path().string();
   const std::string letters = platform::folderSeparator == '/' ? "\xC3\xA4\xC3\xB6 \xE6\x97\xA5" : "\xE4\xF6";
-  path_ = base + (platform::endsInSeparator(base) ? "" : std::string(1, platform::folderSeparator)) + "tarnwick test " +
-          letters + ' ' + std::to_string(platform::processId()) + '-' + std::to_string(++number) +
-          platform::folderSeparator;
+  path_ = temporaryFolder() + "tarnwick test " + letters + ' ' + std::to_string(platform::processId()) + '-' +
+          std::to_string(++number) + platform::folderSeparator;
   if (!platform::makeFolders(path_)) ADD_FAILURE() << "Can't make the folder " << path_;
 }
 
 ScratchFolder::~ScratchFolder() {
-  platform::changeDirectory(std::filesystem::temp_directory_path().string());
-  std::error_code ignored;
-  std::filesystem::remove_all(path_, ignored);
+  platform::changeDirectory(temporaryFolder());
+  // Windows keeps the working folder of a process until that has gone entirely, shortly after its end is told.
+  for (int tries = 0; tries < 200 && !removeTree(path_); ++tries)
+    std::this_thread::sleep_for(std::chrono::milliseconds(25));
+  if (platform::isFolder(path_)) ADD_FAILURE() << "Can't remove the folder " << path_;
 }
 
 std::string contentOf(const std::string& path) {
@@ -63,6 +64,8 @@ ScopedEnvironment::ScopedEnvironment(const std::string& name, const std::string&
   platform::setEnvironment(name + "=" + value);
 }
 
-ScopedEnvironment::~ScopedEnvironment() { platform::setEnvironment(name_ + "=" + before_); }
+ScopedEnvironment::~ScopedEnvironment() {
+  platform::setEnvironment(name_ + "=" + before_);
+}
 
 }  // namespace tarnwick::test

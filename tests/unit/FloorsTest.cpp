@@ -1,4 +1,5 @@
 // The floors of the house, read from the includes of its sources.
+#include "platform/FileSystem.h"
 #include "platform/Path.h"
 #include "support/Floors.h"
 #include "support/TestProgram.h"
@@ -17,13 +18,17 @@ using Lines = std::vector<std::string>;
 /// Made-up sources: pairs of a name below the source folder and a content.
 class FloorsTest : public testing::Test {
  protected:
+  FloorsTest() { EXPECT_TRUE(platform::changeDirectory(scratch_.path())); }
+
   Lines violationsOf(const std::vector<std::pair<std::string, std::string>>& sources) {
     for (const auto& [name, content] : sources) {
-      const auto path = fs::path(scratch_.path()) / "src" / fs::path(name);
-      fs::create_directories(path.parent_path());
-      writeFile(path.string(), content);
+      // Both systems take slashes. The names are relative, since the path of the scratch folder is in the system's
+      // character set, which fs::path does not take on Windows.
+      const std::string path = "src/" + name;
+      EXPECT_TRUE(platform::makeFolders(path.substr(0, path.rfind('/')))) << path;
+      writeFile(path, content);
     }
-    const auto report = inspectFloors(fs::path(scratch_.path()) / "src");
+    const auto report = inspectFloors("src");
     EXPECT_EQ(report.files, static_cast<int>(sources.size()));
     return report.violations;
   }

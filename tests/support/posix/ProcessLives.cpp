@@ -1,5 +1,6 @@
 #include "support/Children.h"
 
+#include <csignal>
 #include <fstream>
 #include <iterator>
 #include <string>
@@ -11,6 +12,10 @@ bool processLives(int process) {
   const std::string stat{std::istreambuf_iterator<char>(file), {}};
   const auto nameEnd = stat.rfind(')');
   return nameEnd != std::string::npos && stat.substr(nameEnd + 2, 1) != "Z";
+}
+
+void endProcess(int process) {
+  if (processLives(process)) kill(process, SIGKILL);
 }
 
 }  // namespace tarnwick::test

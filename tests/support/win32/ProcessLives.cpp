@@ -12,4 +12,11 @@ bool processLives(int process) {
   return lives;
 }
 
+void endProcess(int process) {
+  const HANDLE handle = OpenProcess(PROCESS_TERMINATE, FALSE, static_cast<DWORD>(process));
+  if (handle == nullptr) return;
+  TerminateProcess(handle, 1);
+  CloseHandle(handle);
+}
+
 }  // namespace tarnwick::test

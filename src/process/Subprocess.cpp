@@ -145,16 +145,16 @@ bool Subprocess::run(FileForSubprocess* file, FileMode logOpenMode) {
     return false;
   }
 
-  std::string logFault;
+  std::optional<Tarnwickfile::FileNotOpenE> logFault;
   try {
     log_.open(logOpenMode);
   } catch (const Tarnwickfile::FileNotOpenE& e) {
-    logFault = e.message + "\nCan't open log file " + e.file;
+    logFault.emplace(e.message + "\nCan't open log file " + e.file, e.file);
   }
   outputBytes_ = 0;
   LoggedRun run(*child, log_, command, outputBytes_);
   desktop_.whileBusy([&run] { run.waitForEnd(); });
-  if (!logFault.empty()) desktop_.message(logFault);
+  if (logFault) throw Tarnwickfile::FileNotOpenE(*logFault);
   return outputBytes_ > 0;
 }
 

@@ -39,7 +39,8 @@ class FloorsTest : public testing::Test {
 
 /// The sources of the checkout that this program was built from. Under Wine they are on drive Z:.
 fs::path sourceFolder() {
-  const auto folder = fs::path(TARNWICK_SOURCE_FOLDER) / "src";
+  const std::string checkout = TARNWICK_SOURCE_FOLDER;  // UTF-8, whatever this process's own set is
+  const auto folder = fs::path(std::u8string(checkout.begin(), checkout.end())) / "src";
   return platform::folderSeparator == '\\' && !folder.has_root_name() ? fs::path("Z:") / folder : folder;
 }
 

@@ -39,8 +39,8 @@ class FloorsTest : public testing::Test {
 
 /// The sources of the checkout that this program was built from. Under Wine they are on drive Z:.
 fs::path sourceFolder() {
-  const std::string folder = std::string(TARNWICK_SOURCE_FOLDER) + "/src";
-  return platform::folderSeparator == '\\' && folder.front() == '/' ? "Z:" + folder : folder;
+  const auto folder = fs::path(TARNWICK_SOURCE_FOLDER) / "src";
+  return platform::folderSeparator == '\\' && !folder.has_root_name() ? fs::path("Z:") / folder : folder;
 }
 
 TEST_F(FloorsTest, theHouseHolds) {

@@ -1,6 +1,6 @@
 """A person at the screen: sees windows and controls by their titles and labels, uses mouse, keyboard and clipboard.
 
-What is on the screen is read through the accessibility bus; everything that is done goes through the X server, so the
+What is on the screen is read through the accessibility bus (under Wine, by a small program); everything that is done goes through the X server, so the
 program cannot tell it from a real hand.
 """
 
@@ -57,9 +57,10 @@ def screenshot(path):
 def look():
     """All windows that show."""
     program = os.path.join(os.path.dirname(os.path.abspath(__file__)), "look.py")
+    command = [os.environ["WINE"], os.environ["TARNWICK_LOOK"]] if "TARNWICK_LOOK" in os.environ else [sys.executable, program]
     for _ in range(4):
         try:
-            done = subprocess.run([sys.executable, program], timeout=10, stdin=subprocess.DEVNULL,
+            done = subprocess.run(command, timeout=10, stdin=subprocess.DEVNULL,
                                   stdout=subprocess.PIPE, stderr=subprocess.DEVNULL)
         except subprocess.TimeoutExpired:
             continue

@@ -84,7 +84,7 @@ buildFor() { build "$@" || { fail "the build $1 failed"; return 1; }; }
 
 testLinux() {
   installPackages test || return
-  buildFor linux "TARNWICK_TESTS=ON" Tarnwick tarnwick_unit_tests tarnwick_window_tests || return
+  buildFor linux Tarnwick tarnwick_unit_tests tarnwick_window_tests -- TARNWICK_TESTS=ON || return
   inShards linux-unit 300 "$root/build/linux/tests/tarnwick_unit_tests"
   runTests linux-windows 600 "$root/scripts/with-display.sh" "$root/build/linux/tests/tarnwick_window_tests"
   runTests linux-end-to-end 1200 "$root/scripts/with-display.sh" /usr/bin/python3 "$root/tests/e2e/run.py" "$root"
@@ -112,7 +112,7 @@ testWindowsTarget() {
   esac
   [ -n "$loader" ] && targets+=(tarnwick_unit_tests tarnwick_window_tests)
   export "TARNWICK_TOOLKIT_${target^^}=$folder"
-  buildFor "$preset" "TARNWICK_TOOLKIT=$folder" "${targets[@]}" || return
+  buildFor "$preset" "${targets[@]}" -- "TARNWICK_TOOLKIT=$folder" || return
   runTests "$preset-program" 60 "$root/scripts/check-windows-program.sh" "$target" "$root/build/$preset/Tarnwick.exe"
   if [ -z "$loader" ]; then
     say "skipped: the tests of the $target build, since this machine has no Wine for it"
@@ -134,10 +134,10 @@ testSanitized() {
   export ASAN_OPTIONS=detect_stack_use_after_return=1:strict_string_checks=1
   export UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1
   export TSAN_OPTIONS=halt_on_error=1:second_deadlock_stack=1
-  if buildFor linux-asan "TARNWICK_TESTS=ON" tarnwick_unit_tests; then
+  if buildFor linux-asan tarnwick_unit_tests; then
     inShards linux-asan-unit 900 "$root/build/linux-asan/tests/tarnwick_unit_tests"
   fi
-  if buildFor linux-tsan "TARNWICK_TESTS=ON TARNWICK_TEST_FLOORS=process;console" tarnwick_unit_tests; then
+  if buildFor linux-tsan tarnwick_unit_tests -- "TARNWICK_TEST_FLOORS=process;console"; then
     inShards linux-tsan-unit 900 "$root/build/linux-tsan/tests/tarnwick_unit_tests"
   fi
 }

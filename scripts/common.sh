@@ -34,25 +34,28 @@ isConfigured() {
   done
 }
 
-# build PRESET "CACHE-ENTRY..." TARGET...: configures where needed and builds; one build at a time in this checkout.
+# build PRESET TARGET... [-- CACHE-ENTRY...]: configures where needed and builds; one build at a time in this checkout.
 build() {
-  local preset=$1 entries=$2 folder=$root/build/$1
-  shift 2
+  local preset=$1 folder=$root/build/$1 entry
+  local -a targets=() entries=()
+  shift
+  while [ $# -gt 0 ] && [ "$1" != -- ]; do targets+=("$1"); shift; done
+  for entry in "${@:2}"; do entries+=("$entry"); done
   mkdir -p "$root/build"
   (
     flock 9
-    # shellcheck disable=SC2086
-    if ! isConfigured "$preset" $entries; then
+    if ! isConfigured "$preset" "${entries[@]}"; then
       # A build folder that was moved here from another place is no use.
       if [ -f "$folder/CMakeCache.txt" ] && ! grep -qxF "CMAKE_HOME_DIRECTORY:INTERNAL=$root" "$folder/CMakeCache.txt"; then
         rm -rf "$folder"
       fi
       say "Configuring $preset ..."
-      (cd "$root" && quietly "$folder/configure.log" cmake --preset "$preset" ${entries:+$(printf -- '-D%s ' $entries)}) || exit
+      cd "$root" || exit
+      quietly "$folder/configure.log" cmake --preset "$preset" "${entries[@]/#/-D}" || exit
     fi
-    isUpToDate "$folder" "$@" && exit 0
-    say "Building $preset: $* ..."
-    quietly "$folder/build.log" cmake --build "$folder" -j "$cores" --target "$@"
+    isUpToDate "$folder" "${targets[@]}" && exit 0
+    say "Building $preset: ${targets[*]} ..."
+    quietly "$folder/build.log" cmake --build "$folder" -j "$cores" --target "${targets[@]}"
   ) 9>"$root/build/.lock"
 }
 

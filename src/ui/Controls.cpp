@@ -176,6 +176,8 @@ wxSize naturalSize(const DialogItem& item, const Control& control) {
   wxWindow& window = *control.window;
   wxSize size = window.GetBestSize();
   if (auto* edit = as<wxTextCtrl>(control)) {
+    // With the system set to larger letters, the toolkit asks for too little.
+    size.y = std::max(size.y, window.GetCharHeight() + window.FromDIP(10));
     if (item.width > 0) size.x = edit->GetSizeFromTextSize(widthOfCharacters(window, item.width)).x;
     return size;
   }
@@ -189,7 +191,7 @@ wxSize naturalSize(const DialogItem& item, const Control& control) {
   // Before it shows, a label does not know that its font has changed.
   if (item.kind == ItemKind::Heading) size.IncTo(window.GetTextExtent(window.GetLabel()) + wxSize(2, 2));
   if (item.kind == ItemKind::Button && bearsSigns(item.text)) {
-    size.x = window.GetTextExtent(window.GetLabel()).x + window.FromDIP(24);
+    size.x = window.GetTextExtent(window.GetLabel()).x + 3 * window.GetCharWidth();
   }
   size.x = std::max(size.x, widthOfCharacters(window, item.width));
   return size;

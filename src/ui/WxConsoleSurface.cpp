@@ -142,8 +142,9 @@ void WxConsoleSurface::updateBars() {
     const Point window = clientSize();
     const Point last = lastPosition();
     scroll_ = {std::clamp(scroll_.x, 0, last.x), std::clamp(scroll_.y, 0, last.y)};
-    SetScrollbar(wxHORIZONTAL, scroll_.x, window.x, document_.x);
-    SetScrollbar(wxVERTICAL, scroll_.y, window.y, document_.y);
+    // A range shorter than the window would show as if it had been scrolled too far.
+    SetScrollbar(wxHORIZONTAL, scroll_.x, window.x, std::max(window.x, document_.x));
+    SetScrollbar(wxVERTICAL, scroll_.y, window.y, std::max(window.y, document_.y));
   }
 }
 

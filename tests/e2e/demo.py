@@ -47,10 +47,12 @@ def use_real_editor(scratch):
     return os.path.exists("/usr/share/applications/org.xfce.mousepad.desktop")
 
 
-def widen(window):
-    """The compiler's lines are long."""
-    person.xdotool("windowmove", window.x_number(), 10, 330)
-    person.xdotool("windowsize", window.x_number(), 1250, 330)
+def put(window, left, top, width=None, height=None):
+    """Windows side by side hide nothing of one another."""
+    person.xdotool("windowmove", window.x_number(), left, top)
+    if width:
+        person.xdotool("windowsize", window.x_number(), width, height)
+    time.sleep(0.3)
 
 
 def first_start(scratch, album):
@@ -62,6 +64,7 @@ def first_start(scratch, album):
     album.take("settings", f"the settings dialog, with the JDK found: {settings.field().text}")
     settings.press("OK")
     panel = Window("Tarnwick")
+    put(panel, 20, 60)
     album.take("panel", "the panel after the first start; the settings are saved")
     return panel
 
@@ -75,7 +78,7 @@ def compile_samples(scratch, album, panel):
     shown = wait_until("the log in an editor", lambda: next(
         (one.name for one in person.look() if one.name not in known), None), 60)
     editor = Window(shown)
-    widen(editor)
+    put(editor, 20, 560, 1240, 300)
     album.take("compiler-message", "\"javac\" on it: the compiler's message opens in the editor")
     editor.close()
     editor.is_gone()
@@ -86,6 +89,7 @@ def compile_samples(scratch, album, panel):
 
 def talk(scratch, album, panel, compiled):
     console = scratch.run_class(panel, compiled)
+    put(console, 500, 60)
     wait_until("the question", lambda: "What is your name? " in scratch.saved_display(console), 30)
     album.take("console", "\"java\" on the class: a console, and the program's question, a line not yet ended, in blue")
     person.type_text("Ada Lovelace")
@@ -107,6 +111,7 @@ def talk(scratch, album, panel, compiled):
 
 def stop_clock(scratch, album, panel):
     console = scratch.run_class(panel, scratch.compile(panel, scratch.sample("Clock.java")))
+    put(console, 500, 60)
     time.sleep(3)
     album.take("clock", f"a program that never ends; java processes: {len(scratch.processes('java'))}")
     console.close()

@@ -91,7 +91,7 @@ def test_program_without_output_leaves_no_console(scratch):
     path = scratch.compiled(scratch.source("Silent.java"))
     panel.write(world.quoted(path), index=1)
     panel.press("java")
-    wait_until("the console's process", lambda: len(scratch.processes("tarnwick")) > 1)
+    wait_until("the program's run", lambda: os.path.exists(os.path.join(scratch.work, "silent-was-here")))
     wait_until("the end of the console", lambda: scratch.processes("tarnwick") == [program.pid], 30)
     assert [one.name for one in person.look()] == ["Tarnwick"]
 

@@ -61,7 +61,7 @@ class World:
     def __init__(self, project, letters="日本"):
         self.project = project
         self.program = os.path.join(project, "build", "linux", "tarnwick")
-        self.root = tempfile.mkdtemp(prefix=f"tarnwick Übung {letters} ")
+        self.root = tempfile.mkdtemp(prefix=f"tarnwick {letters} ")
         self.home = self._folder("Zoës Heim")
         self.config = self._folder(f"Meine Einstellungen {letters}")
         self.work = self._folder("Zoës Heim", f"Java-Übungen {letters}")

@@ -1,3 +1,4 @@
+#include "platform/Characters.h"
 #include "ui/Text.h"
 #include "ui/WindowTest.h"
 #include "ui/WxConsoleSurface.h"
@@ -206,6 +207,25 @@ TEST_F(ConsoleTest, TextAndInvertedCellsShowOnWhite) {
     EXPECT_GT(countIn(picture, cellRect(3, 3), isBlack), whole / 5);
     EXPECT_GT(countIn(picture, cellRect(4, 3), isReddish), whole / 10);
     EXPECT_EQ(countIn(picture, cellRect(4, 3), isBlack), 0);
+  });
+  thenClose();
+  play();
+}
+
+TEST_F(ConsoleTest, WideCharactersTakeTheirCells) {
+  const std::string before = ui::fromWx(wxString(wxUniChar(0x65E5)) + wxString(wxUniChar(0xE4)));
+  const auto columns = static_cast<int>(platform::columnsOf(before));
+  console.onPaint = [&](ConsolePainter& painter) { painter.drawText(0, 0, before + "M", red); };
+  waitForFrame();
+  steps.settle(10);
+  steps.then("look", [&] {
+    shoot("console-wide");
+    const Point cell = console.surface->cell();
+    const wxImage picture = pictureOf(*window());
+    const int whole = cell.x * cell.y;
+    EXPECT_GT(countIn(picture, wxRect(0, 0, cell.x, cell.y), isReddish), 0);
+    EXPECT_GT(countIn(picture, wxRect(columns * cell.x, 0, cell.x, cell.y), isReddish), whole / 10);
+    EXPECT_EQ(countIn(picture, wxRect((columns + 1) * cell.x, 0, 4 * cell.x, cell.y), isReddish), 0);
   });
   thenClose();
   play();

@@ -282,6 +282,76 @@ TEST_F(DesktopTest, ADialogThatIsToCloseWhileWorkRunsWaits) {
   EXPECT_EQ(rules.heard, (Heard{"worked", "detached"}));
 }
 
+TEST_F(DesktopTest, NothingClosesWhileWorkRunsUnderAModalDialog) {
+  Recorder inner;
+  std::atomic<bool> finish = false;
+  bool worked = false;
+  inner.onPress[IDOK_CONTROL] = [&] {
+    desktop().whileBusy([&] {
+      while (!finish) std::this_thread::sleep_for(std::chrono::milliseconds(1));
+    });
+    worked = true;
+  };
+  waitForDialog();
+  steps.then("open", [&] { desktop().runDialog(smallLayout("Inner"), inner); });
+  steps.until("it shows", [this] { return openDialogs() == 2 && top().dialog().IsActive(); });
+  steps.settle(10);
+  steps.then("work", [] { key(WXK_RETURN); });
+  steps.until("busy", [] { return wxIsBusy(); });
+  steps.settle(5);
+  steps.then("a person tries to close it", [] {
+    key(WXK_ESCAPE);
+    key(WXK_RETURN);
+    key(WXK_F4, wxMOD_ALT);
+  });
+  steps.settle(15);
+  steps.then("nothing happened", [&] {
+    EXPECT_EQ(inner.heard, Heard{"command 1"});
+    EXPECT_EQ(rules.heard, Heard{});
+    EXPECT_FALSE(worked);
+    finish = true;
+  });
+  steps.until("the work has ended", [&] { return worked; });
+  steps.then("close the inner one", [&] { inner.window->close(1); });
+  steps.until("closed", [this] { return openDialogs() == 1; });
+  thenClose();
+  play();
+}
+
+TEST_F(DesktopTest, AMessageOfATaskTakesInputWhileWorkRuns) {
+  std::atomic<bool> finish = false;
+  bool answered = false;
+  bool worked = false;
+  waitForDialog();
+  steps.then("work", [&] {
+    desktop().whileBusy([&] {
+      desktop().post([&] {
+        desktop().message("told while the work runs");
+        answered = true;
+        finish = true;
+      });
+      while (!finish) std::this_thread::sleep_for(std::chrono::milliseconds(1));
+    });
+    worked = true;
+  });
+  steps.settle(25);
+  steps.then("Return", [] { key(WXK_RETURN); });
+  steps.until("answered", [&] { return answered; });
+  steps.until("the work has ended", [&] { return worked; });
+  thenClose();
+  play();
+  EXPECT_EQ(rules.heard, Heard{"detached"});
+}
+
+TEST_F(DesktopTest, AnExceptionWhileADialogIsSetUpIsShownAndTheDialogStays) {
+  Answers answers;
+  rules.onInitialise = [](DialogWindow&) { throw Tarnwickexception("thrown at the start"); };
+  waitForDialog();
+  thenClose();
+  play();
+  EXPECT_EQ(answers.shown, Heard{"thrown at the start"});
+}
+
 TEST_F(DesktopTest, WorkBeforeAnyWindowShows) {
   bool worked = false;
   desktop().whileBusy([&] { worked = true; });

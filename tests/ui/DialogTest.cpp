@@ -259,6 +259,17 @@ TEST_F(DialogTest, ReturnInAListPressesTheDefaultButtonToo) {
   EXPECT_EQ(rules.heard, (Heard{"command 1", "detached"}));
 }
 
+TEST_F(DialogTest, ReturnPressesAnotherButtonThatHasTheFocus) {
+  waitForDialog();
+  steps.then("focus", [this] { top().focus(SAMPLE_BUTTON); });
+  steps.until("focus", [this] { return wxWindow::FindFocus() == top().windowOf(SAMPLE_BUTTON); });
+  steps.then("Return", [] { key(WXK_RETURN); });
+  steps.until("pressed", [this] { return !rules.heard.empty(); });
+  steps.then("look", [this] { EXPECT_EQ(rules.heard, Heard{"command 114"}); });
+  thenClose();
+  play();
+}
+
 TEST_F(DialogTest, EscapePressesCancel) {
   waitForDialog();
   steps.settle(5);

@@ -159,10 +159,14 @@ class Window:
     def write(self, text, index=0):
         """Replaces what stands in a field; letters of every kind."""
         self.field(index).click()
-        key("ctrl+a")
         put_on_clipboard(text)
-        key("ctrl+v")
-        wait_until(f"{text!r} in field {index}", lambda: self.field(index).text == text)
+
+        def pasted():
+            # Wine may take a moment to notice a new clipboard.
+            key("ctrl+a", "ctrl+v")
+            time.sleep(0.1)
+            return self.field(index).text == text
+        wait_until(f"{text!r} in field {index}", pasted)
 
     def activate(self):
         xdotool("windowactivate", "--sync", self.x_number())

@@ -5,14 +5,15 @@ character set that the program has there.
 """
 
 import os
-import re
 import shutil
 import subprocess
 import time
 
 import person
 import world
-from person import wait_until
+from person import Window, wait_until
+
+PROGRAMS = ("Tarnwick.exe", "javac.exe", "java.exe", "notepad.exe")
 
 
 def windows_path(path):
@@ -28,7 +29,8 @@ class World(world.World):
         for tool in ("javac", "java", "jdb"):
             shutil.copy(os.path.join(build, "stand-ins", tool + ".exe"), self.jdk)
         self.script, self.record = os.path.join(self.root, "script"), os.path.join(self.root, "record")
-        # Wine's own home is the prefix's; the scratch one tells which processes are this world's.
+        # With another folder for temporary files, the program would get a Wine server of its own.
+        self.environment.pop("TMPDIR")
         self.environment |= {"TARNWICK_CFGDIR": windows_path(self.config), "JAVA_HOME": "",
                              "STANDIN_SCRIPT": windows_path(self.script), "STANDIN_RECORD": windows_path(self.record)}
         os.environ["TARNWICK_LOOK"] = os.path.join(build, "stand-ins", "look.exe")
@@ -42,16 +44,16 @@ class World(world.World):
         return {tag: value.strip() for tag, _, value in rows if tag != "REM"}
 
     def processes(self, name=None):
-        """The Windows programs that run in this world, or those called so."""
+        """The programs that run in this world, or those of this file name. Wine's own services are not among them."""
         found = []
         for process in super().processes():
+            # Command lines and process names are as free here as the one who starts a program likes.
             try:
-                with open(f"/proc/{process}/cmdline", "rb") as line:
-                    words = line.read().decode("utf-8", "replace")
+                with open(f"/proc/{process}/maps", encoding="utf-8", errors="replace") as lines:
+                    files = {line.rstrip("\n").rpartition("/")[2] for line in lines}
             except OSError:
                 continue
-            program = re.search(r"([^\\/\0\"]+\.exe)", words, re.IGNORECASE)
-            if program and name in (None, program.group(1)):
+            if files.intersection(PROGRAMS if name is None else (name,)):
                 found.append(process)
         return found
 
@@ -76,3 +78,48 @@ class World(world.World):
         time.sleep(0.2)
         with open(self.record, encoding="cp1252", newline="") as lines:
             return lines.read().split("\n")[:-1]
+
+    def picture(self, name):
+        """Leaves a screenshot in build/e2e-windows/."""
+        time.sleep(0.3)
+        person.screenshot(os.path.join(self.project, "build", "e2e-windows", name + ".png"))
+
+    # The ways through the program that many tests take
+
+    def first_start(self):
+        """Through Welcome and the settings dialog, where the JDK's folder is typed, to the panel."""
+        program = self.start()
+        Window("Welcome to Tarnwick").press("OK")
+        settings = Window("Tarnwick settings")
+        settings.write(windows_path(self.jdk))
+        settings.press("OK")
+        return program, Window("Tarnwick")
+
+    def made(self, name):
+        """An empty file in the work folder; gives the program's path of it."""
+        path = os.path.join(self.work, name)
+        with open(path, "wb"):
+            return windows_path(path)
+
+    def run_class(self, panel, name, *script):
+        """Types a class file into the panel and presses "java"; gives the console's window."""
+        self.play(*script)
+        panel.write(world.quoted(self.made(name + ".class")), index=1)
+        panel.press("java")
+        return Window(name)
+
+    def saved_display(self, console, name="display.txt"):
+        """What the console shows, by way of its menu."""
+        path = os.path.join(self.work, name)
+        console.activate()
+        person.key("alt+f", "Return")
+        dialog = wait_until("the file dialog", lambda: next(
+            (one for one in person.look() if one.process == console.process and one.name not in ("", console.title)), None))
+        Window(dialog.name).write(windows_path(path))
+        person.key("Return")
+        wait_until("the saved display", lambda: os.path.exists(path) and os.path.getsize(path) > 0)
+        wait_until("the end of the file dialog", lambda: all(one.name != dialog.name for one in person.look()))
+        with open(path, encoding="cp1252") as text:
+            content = text.read()
+        os.remove(path)
+        return content

@@ -1,5 +1,5 @@
 // Writes what is on the screen to standard output: all windows with all that is in them, as JSON in UTF-8, in the words
-// of tests/e2e/look.py.
+// of tests/e2e/look.py. Menus are not among it: no process sees another's.
 #include <windows.h>
 
 #include <cstdio>
@@ -11,8 +11,7 @@
 
 namespace {
 
-constexpr UINT PATIENCE = 2000;      ///< milliseconds for a window to answer
-constexpr UINT POPUPS_MENU = 0x1E1;  ///< MN_GETHMENU: asks a menu that is open for its handle
+constexpr UINT PATIENCE = 2000;  ///< milliseconds for a window to answer
 
 std::string json(const std::wstring& text) {
   std::string bytes(text.size() * 4 + 1, '\0');
@@ -47,7 +46,6 @@ std::wstring plain(const std::wstring& label) {
   std::wstring result;
   for (std::size_t i = 0; i < label.size(); ++i) {
     if (label[i] == L'&' && i + 1 < label.size()) ++i;
-    if (label[i] == L'\t') break;
     result += label[i];
   }
   return result;
@@ -69,6 +67,11 @@ struct Seen {
   DWORD process = 0;
   std::string children;  ///< JSON already
 };
+
+void append(std::string& list, const std::string& more) {
+  if (!list.empty() && !more.empty()) list += ',';
+  list += more;
+}
 
 const char* truth(bool value) {
   return value ? "true" : "false";
@@ -100,28 +103,12 @@ std::string roleOf(HWND window, const std::wstring& className) {
   }
 }
 
-/// The entries of a menu; `owner` is none for a menu that popped up.
-std::string entriesOf(HMENU menu, HWND owner) {
-  std::string entries;
-  for (int i = 0; i < GetMenuItemCount(menu); ++i) {
-    wchar_t label[200] = L"";
-    Seen seen;
-    GetMenuStringW(menu, static_cast<UINT>(i), label, 200, MF_BYPOSITION);
-    seen.name = plain(label);
-    seen.role = "menu item";
-    seen.enabled = (GetMenuState(menu, static_cast<UINT>(i), MF_BYPOSITION) & (MF_GRAYED | MF_DISABLED)) == 0;
-    if (seen.name.empty() || !GetMenuItemRect(owner, menu, static_cast<UINT>(i), &seen.rect)) continue;
-    entries += (entries.empty() ? "" : ",") + described(seen);
-  }
-  return entries;
-}
-
 std::string lookAt(HWND window, bool isTop);
 
 std::string childrenOf(HWND window) {
   std::string children;
   for (HWND child = GetWindow(window, GW_CHILD); child != nullptr; child = GetWindow(child, GW_HWNDNEXT)) {
-    if (IsWindowVisible(child)) children += (children.empty() ? "" : ",") + lookAt(child, false);
+    if (IsWindowVisible(child)) append(children, lookAt(child, false));
   }
   return children;
 }
@@ -145,13 +132,6 @@ std::string lookAt(HWND window, bool isTop) {
     seen.name = isTop ? textOf(window) : plain(textOf(window));
   }
   seen.children = childrenOf(window);
-  HMENU menu = isTop ? GetMenu(window) : nullptr;
-  HWND owner = window;
-  if (className == L"#32768") {
-    menu = reinterpret_cast<HMENU>(ask(window, POPUPS_MENU));
-    owner = nullptr;
-  }
-  if (menu != nullptr) seen.children += (seen.children.empty() ? "" : ",") + entriesOf(menu, owner);
   return described(seen);
 }
 
@@ -168,7 +148,7 @@ int main() {
   EnumWindows(collect, reinterpret_cast<LPARAM>(&windows));
   std::string all;
   // The system names the uppermost first.
-  for (const HWND window : windows) all = lookAt(window, true) + (all.empty() ? "" : ",") + all;
+  for (auto window = windows.rbegin(); window != windows.rend(); ++window) append(all, lookAt(*window, true));
   std::printf("[%s]\n", all.c_str());
   return 0;
 }

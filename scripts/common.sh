@@ -53,15 +53,11 @@ build() {
       cd "$root" || exit
       quietly "$folder/configure.log" cmake --preset "$preset" "${entries[@]/#/-D}" || exit
     fi
-    isUpToDate "$folder" "${targets[@]}" && exit 0
-    say "Building $preset: ${targets[*]} ..."
-    quietly "$folder/build.log" cmake --build "$folder" -j "$cores" --target "${targets[@]}"
+    # Nobody wants to hear of a build that has nothing to do.
+    (sleep 0.5; say "Building $preset: ${targets[*]} ...") 9>&- &
+    local notice=$! status=0
+    quietly "$folder/build.log" cmake --build "$folder" -j "$cores" --target "${targets[@]}" || status=$?
+    { kill "$notice" && wait "$notice"; } 2>/dev/null || true
+    exit $status
   ) 9>"$root/build/.lock"
-}
-
-# A dry run takes a fraction of a second and spares the progress line when there is nothing to do.
-isUpToDate() {
-  local folder=$1
-  shift
-  ninja -C "$folder" -n "$@" 2>/dev/null </dev/null | grep -q 'no work to do'
 }

@@ -18,7 +18,17 @@ const char sourceFilter[] = "Java source files|*.JAVA||";
 const char classFilter[] = "Java class files|*.CLASS||";
 const char htmlFilter[] = "htm* files|*.htm*||";
 
-bool canEnter(const std::string& folder) { return !folder.empty() && platform::changeDirectory(folder); }
+/// The folder with its whole path if it could be made the current one; otherwise empty.
+std::string entered(const std::string& folder) {
+  const std::string whole = platform::absolutePath(folder);
+  return !whole.empty() && platform::changeDirectory(whole) ? whole : "";
+}
+
+/// What stands between the first and the second "|".
+std::string patternOf(const std::string& filter) {
+  const auto begin = filter.find('|') + 1;
+  return filter.substr(begin, filter.find('|', begin) - begin);
+}
 
 }  // namespace
 
@@ -76,6 +86,7 @@ bool FileView::prepareFile(const char* filter, FileForSubprocess& file) {
     try {
       file.open(FileMode::Read);
       file.close();
+      complete(file);
       return true;
     } catch (const Tarnwickfile::FileNotOpenE&) {
       // The user is asked for one that is there.
@@ -83,20 +94,32 @@ bool FileView::prepareFile(const char* filter, FileForSubprocess& file) {
   }
   std::string startFolder = platform::startFolder("C:\\");
   for (const auto& candidate : {file.name().fullName(), file.lastFolder(), file.previousName()}) {
-    if (!canEnter(candidate)) continue;
-    startFolder = candidate;
+    const std::string folder = entered(candidate);
+    if (folder.empty()) continue;
+    startFolder = folder;
     break;
   }
   return askForFile(filter, startFolder, file);
 }
 
+void FileView::complete(FileForSubprocess& file) {
+  // A run changes the current folder; afterwards the same words would name another file.
+  const std::string whole = platform::absolutePath(file.name().fullName());
+  if (whole == file.name().fullName()) return;
+  file.setName(whole);
+  std::string text = file.name().quoted();
+  for (const auto& argument : file.args()) text += ' ' + argument;
+  file.writeToControl(text.c_str());
+}
+
 void FileView::browse(const char* filter, FileForSubprocess& file) {
   file.readFromControl();
   std::string startFolder = platform::startFolder("C:\\");
-  if (canEnter(file.lastFolder())) {
-    startFolder = file.lastFolder();
+  const std::string lastFolder = entered(file.lastFolder());
+  if (!lastFolder.empty()) {
+    startFolder = lastFolder;
   } else if (!file.isEmpty() && canBeRead(file.name().fullName())) {
-    startFolder = file.name().directory();
+    startFolder = Filename(platform::absolutePath(file.name().fullName())).directory();
   }
   askForFile(filter, startFolder, file);
   settings_.saveIfWindowMoved();
@@ -106,6 +129,7 @@ bool FileView::askForFile(const char* filter, const std::string& startFolder, Fi
   FileRequest request;
   request.filter = filter;
   request.startFolder = startFolder;
+  request.name = patternOf(filter);
   request.mustExist = true;
   const auto chosen = desktop_.openFile(request);
   if (!chosen) return false;
@@ -141,9 +165,11 @@ void FileView::runClass() {
     desktop_.message("No known .class file");
     return;
   }
-  classFile_.setLastFolder(classFile_.name().directory());
+  const std::string folder = classFile_.name().directory();
+  classFile_.setLastFolder(folder);
   settings_.saveCurrent();
   runJava(settings_, classFile_, nullptr);
+  htmlFile_.setLastFolder(folder);
 }
 
 }  // namespace tarnwick

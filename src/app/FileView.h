@@ -27,6 +27,8 @@ class FileView : public PanelDlg {
   /// Makes sure that `file` names an existing file, or gets one from the user. False if the user gave none.
   bool prepareFile(const char* filter, FileForSubprocess& file);
   void browse(const char* filter, FileForSubprocess& file);
+  /// Gives a name that the current folder completes its whole path, here and in the field.
+  void complete(FileForSubprocess& file);
   bool askForFile(const char* filter, const std::string& startFolder, FileForSubprocess& file);
   void compileSource();
   void runClass();

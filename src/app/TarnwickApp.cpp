@@ -20,6 +20,15 @@ ProgramInfo programAt(const std::string& executablePath) {
   return program;
 }
 
+/// Gives the user's configuration folder its whole path: a run changes the current folder, and the second copy of the
+/// program begins in another one.
+ProgramInfo withWholeConfigFolder(ProgramInfo program) {
+  const std::string folder = Filename(platform::environment(program.configDirVariable).value_or("")).fullName();
+  const std::string whole = platform::absolutePath(folder);
+  if (whole != folder) platform::setEnvironment(program.configDirVariable + "=" + whole);
+  return program;
+}
+
 /// True for a line that names a project file which can be opened. A switch line is simply a name that no file bears.
 bool namesProject(const std::string& commandLine) {
   const Filename name(commandLine);
@@ -31,7 +40,7 @@ bool namesProject(const std::string& commandLine) {
 TarnwickApp::TarnwickApp(Desktop& desktop, ConsoleFrameHost& frameHost, const std::string& executablePath)
     : desktop_(desktop),
       frameHost_(frameHost),
-      program_(programAt(executablePath)),
+      program_(withWholeConfigFolder(programAt(executablePath))),
       log_([this] { return Filename(program_.configDirectory(), "x").directory(); }),
       context_{desktop, program_, log_},
       settings_(context_) {}

@@ -20,7 +20,8 @@ class TarnwickDlg : public ToolTipDlg {
   void detached() override;
 
  protected:
-  // Return and the title bar's close box end the dialog without the save of a moved window; Exit makes it.
+  // Return ends nothing here. The close box ends the dialog without the save of a moved window, which is meant: that
+  // is Exit's.
   void onOk() override {}
 
  private:

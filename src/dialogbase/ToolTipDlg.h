@@ -21,7 +21,7 @@ struct BindingRow {
 
 struct ToolTip {
   int control;
-  const char* text;
+  std::string text;
 };
 
 /// The base of all dialogs: moves values between controls and bound variables or the tag table, and shows tool tips.

@@ -40,6 +40,10 @@ bool replaceFile(const std::string& from, const std::string& to);
 /// exist gives the path that it names.
 std::string resolvedPath(const std::string& path);
 
+/// The path from the root on, as the current folder completes it; the path itself if it is whole already, or empty.
+/// Links stay as they are.
+std::string absolutePath(const std::string& path);
+
 bool changeDirectory(const std::string& folder);
 std::string currentDirectory();
 

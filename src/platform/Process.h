@@ -75,6 +75,10 @@ std::string detachedArgument(const std::string& path);
 /// Throws SystemError with the label "CreateProcess".
 void startCommandLine(const std::string& executable, const std::string& commandLine);
 
+/// A path as one word of a ChildCommand's arguments: in double quotes if a blank stands in it at a position above 0,
+/// and with the double quotes of its own, where a name may hold such, escaped.
+std::string commandWord(const std::string& path);
+
 /// A command text split into arguments by the C run-time's rules: blanks separate, double quotes group.
 std::vector<std::string> splitCommandText(const std::string& text);
 

@@ -5,8 +5,10 @@
 #include "platform/Process.h"
 
 #include <chrono>
+#include <condition_variable>
 #include <cstdio>
 #include <memory>
+#include <mutex>
 #include <thread>
 #include <utility>
 
@@ -45,6 +47,9 @@ class LoggedRun {
       } catch (const Tarnwickfile::FileNotOpenE&) {
       }
     }
+    const std::lock_guard lock(endLock_);
+    ++endedOutputs_;
+    outputEnded_.notify_all();
   }
 
   void append(const char* block, std::size_t size) {
@@ -56,13 +61,15 @@ class LoggedRun {
     outputBytes_ += log_.append(block, size);
   }
 
-  /// Something that the tool left behind may still be writing; the run ends when nothing more comes.
+  /// Something that the tool left behind may still be writing; the run ends when nothing more comes. Where both outputs
+  /// have ended nothing more can come.
   void settle() {
     std::size_t before = 0;
     do {
       before = outputBytes_;
       std::fflush(nullptr);
-      std::this_thread::sleep_for(settlingTime);
+      std::unique_lock lock(endLock_);
+      if (outputEnded_.wait_for(lock, settlingTime, [this] { return endedOutputs_ == 2; })) return;
     } while (outputBytes_ != before);
   }
 
@@ -70,6 +77,9 @@ class LoggedRun {
   ToolLog& log_;
   const std::string command_;
   std::atomic<std::size_t>& outputBytes_;
+  std::mutex endLock_;
+  std::condition_variable outputEnded_;
+  int endedOutputs_ = 0;
 };
 
 }  // namespace
@@ -135,16 +145,16 @@ bool Subprocess::run(FileForSubprocess* file, FileMode logOpenMode) {
     return false;
   }
 
-  std::string logFault;
+  std::optional<Tarnwickfile::FileNotOpenE> logFault;
   try {
     log_.open(logOpenMode);
   } catch (const Tarnwickfile::FileNotOpenE& e) {
-    logFault = e.message + "\nCan't open log file " + e.file;
+    logFault.emplace(e.message + "\nCan't open log file " + e.file, e.file);
   }
   outputBytes_ = 0;
   LoggedRun run(*child, log_, command, outputBytes_);
   desktop_.whileBusy([&run] { run.waitForEnd(); });
-  if (!logFault.empty()) desktop_.message(logFault);
+  if (logFault) throw Tarnwickfile::FileNotOpenE(*logFault);
   return outputBytes_ > 0;
 }
 

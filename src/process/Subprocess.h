@@ -30,7 +30,8 @@ class Subprocess {
   void reset(const std::string& executable);
 
   /// Runs the tool and waits. `file`, if not null, gives the folder to run in and further arguments.
-  /// Shows failures itself. True if the tool wrote anything.
+  /// Shows failures itself. True if the tool wrote anything. Where no log can be opened the tool runs to its end, and
+  /// then Tarnwickfile::FileNotOpenE is thrown: what the tool said is lost, so nobody may take it for silent.
   virtual bool run(FileForSubprocess* file, FileMode logOpenMode);
 
   const std::string& executable() const { return executable_; }

@@ -26,8 +26,8 @@ ToolsPage::ToolsPage(Desktop& desktop, const TagRow* rows)
   tags_ = rows;
   bindings_ = {{WITH_NOTEPAD, &withNotepad_, BIND_CHECK}, {FOLDER, &folder_, BIND_TEXT}};
   toolTips_ = {
-      {FOLDER, "Folder containing the file javac.exe (created by the installation of the JDK)"},
-      {BROWSE, "Locate the file javac.exe in the JDK installation folder"},
+      {FOLDER, platform::localText("Folder containing the file javac.exe (created by the installation of the JDK)")},
+      {BROWSE, platform::localText("Locate the file javac.exe in the JDK installation folder")},
       {WITH_NOTEPAD, "Display compiler (and other) diagnostics with the Windows Notepad"},
       {WITH_EDITOR,
        "Display compiler (and other) diagnostics with the editor you defined for editing source files"},

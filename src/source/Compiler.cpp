@@ -1,6 +1,7 @@
 #include "source/Compiler.h"
 
 #include "platform/Path.h"
+#include "platform/Process.h"
 #include "settings/OptionList.h"
 
 namespace tarnwick {
@@ -91,7 +92,7 @@ void Compiler::checkTool() const {
 bool Compiler::compile(FileForSubprocess& source, FileMode logMode) {
   if (settings_.javaPath.empty()) throw CannotCompileE(noToolsFolder());
   settings_.saveCurrent();
-  source.args().assign(1, source.name().quoted());
+  source.args().assign(1, platform::commandWord(source.name().fullName()));
   return tool_.run(&source, logMode);
 }
 

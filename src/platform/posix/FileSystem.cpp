@@ -118,6 +118,13 @@ std::string resolvedPath(const std::string& path) {
   return path;
 }
 
+std::string absolutePath(const std::string& path) {
+  if (path.empty() || path.starts_with('/')) return path;
+  const std::string folder = currentDirectory();
+  if (folder.empty()) return path;
+  return folder + (folder.ends_with('/') ? "" : "/") + path;
+}
+
 bool changeDirectory(const std::string& folder) {
   return ::chdir(folder.c_str()) == 0;
 }

@@ -147,6 +147,19 @@ void startDetached(const std::string& executable, const std::vector<std::string>
   startOnItsOwn("spawn", withoutQuotes(executable), std::move(words));
 }
 
+std::string commandWord(const std::string& path) {
+  std::string word;
+  std::size_t backslashes = 0;
+  for (const char c : path) {
+    // Backslashes are plain characters unless a double quote follows.
+    if (c == '"') word.append(backslashes + 1, '\\');
+    backslashes = c == '\\' ? backslashes + 1 : 0;
+    word += c;
+  }
+  if (path.find_first_of(" \t", 1) == std::string::npos) return word;
+  return '"' + word.append(backslashes, '\\') + '"';
+}
+
 std::string detachedArgument(const std::string& path) {
   return path;
 }

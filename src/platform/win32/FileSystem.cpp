@@ -143,6 +143,16 @@ std::string resolvedPath(const std::string& path) {
   return resolved.empty() ? path : withoutDevicePrefix(resolved);
 }
 
+std::string absolutePath(const std::string& path) {
+  const PathParts parts = splitPath(path);
+  const bool fromRoot = !parts.folder.empty() && endsInSeparator(parts.folder.substr(0, 1));
+  const bool isShare = fromRoot && parts.folder.size() > 1 && endsInSeparator(parts.folder.substr(0, 2));
+  if (path.empty() || isShare || (fromRoot && !parts.drive.empty())) return path;
+  const std::string whole =
+      filled([&](char* buffer, DWORD size) { return GetFullPathNameA(path.c_str(), size, buffer, nullptr); });
+  return whole.empty() ? path : whole;
+}
+
 bool changeDirectory(const std::string& folder) {
   return _chdir(folder.c_str()) == 0;
 }

@@ -163,9 +163,13 @@ void startDetached(const std::string& executable, const std::vector<std::string>
   CloseHandle(reinterpret_cast<HANDLE>(process));
 }
 
-std::string detachedArgument(const std::string& path) {
+std::string commandWord(const std::string& path) {
   const auto blank = path.find(' ', 1);
   return path.empty() || blank == std::string::npos ? path : '"' + path + '"';
+}
+
+std::string detachedArgument(const std::string& path) {
+  return commandWord(path);
 }
 
 void startCommandLine(const std::string& executable, const std::string& commandLine) {

@@ -1,5 +1,6 @@
 #include "app/FileView.h"
 
+#include <algorithm>
 #include <chrono>
 #include <thread>
 
@@ -15,6 +16,15 @@ class FileViewTest : public PanelFixture {
     return userFolder() + name;
   }
   std::string quoted(const std::string& path) { return "\"" + path + "\""; }
+  /// What the second copy of the program was started with, once `last` is among it.
+  std::string recordedUpTo(const std::string& last) {
+    std::string recorded;
+    for (int tries = 0; tries < 100 && recorded.find(last) == std::string::npos; ++tries) {
+      std::this_thread::sleep_for(std::chrono::milliseconds(50));
+      if (platform::isFile(scratch_.file("record"))) recorded = contentOf(scratch_.file("record"));
+    }
+    return recorded;
+  }
   std::string saved(const std::string& tag) {
     const std::string content = contentOf(configFile());
     const auto begin = content.find("\n" + tag + "  ");
@@ -133,9 +143,11 @@ TEST_F(FileViewTest, NoSourceGivenIsTold) {
   });
   EXPECT_EQ(desktop_.lastRequest().filter, "Java source files|*.JAVA||");
   EXPECT_EQ(desktop_.lastRequest().startFolder, platform::startFolder("C:\\"));
+  EXPECT_EQ(desktop_.lastRequest().name, "*.JAVA") << "the filter's pattern is the preset name";
+  EXPECT_TRUE(desktop_.lastRequest().mustExist);
 }
 
-TEST_F(FileViewTest, AFileThatNoLongerExistsAsksInItsFolderAndKeepsTheArguments) {
+TEST_F(FileViewTest, AFileThatNoLongerExistsAsksInTheLastFolder) {
   saveEarlierRun([&](Settings& settings) { settings.fileviewSource.setLastFolder(userFolder()); });
   const std::string source = makeFile("There.java");
   runPanel([&](ScriptedWindow&, ScriptedWindow& panel) {
@@ -216,15 +228,88 @@ TEST_F(FileViewTest, JavaStartsTheProgramAgainWithTheClass) {
     panel.page(TABS, 0).press(RIGHT);
     exit(panel);
   });
-  std::string recorded;
-  for (int tries = 0; tries < 100 && recorded.find("second") == std::string::npos; ++tries) {
-    std::this_thread::sleep_for(std::chrono::milliseconds(50));
-    if (platform::isFile(scratch_.file("record"))) recorded = contentOf(scratch_.file("record"));
-  }
+  const std::string recorded = recordedUpTo("second");
   for (const std::string& word : {std::string("\\/TITLE=Main\\/"), std::string("\\/RUN="), std::string("second")}) {
     EXPECT_NE(recorded.find(word), std::string::npos) << recorded;
   }
   EXPECT_EQ(saved("FILEVIEW_CLASS"), classFile + ";" + userFolder());
+  EXPECT_EQ(settings().fileviewHtml.lastFolder(), userFolder()) << "the HTML field's dialog opens there too";
+}
+
+TEST_F(FileViewTest, TheArgumentsBehindAClassThatNoLongerExistsAreKept) {
+  saveEarlierRun();
+  program_.programPath = standInFolder() + platform::toolFileName("jdb");
+  const std::string classFile = makeFile("Main.class");
+  runPanel([&](ScriptedWindow&, ScriptedWindow& panel) {
+    panel.page(TABS, 0).type(FIELD, quoted(userFolder() + "Gone.class") + " first second");
+    desktop_.expectOpenFile(classFile);
+    panel.page(TABS, 0).press(RIGHT);
+    exit(panel);
+  });
+  std::string recorded = recordedUpTo("second");
+  // As one argument, or as the words of one command line.
+  std::replace(recorded.begin(), recorded.end(), '\n', ' ');
+  EXPECT_NE(recorded.find("Main first second"), std::string::npos) << recorded;
+}
+
+TEST_F(FileViewTest, ANameWithoutItsWholePathStaysTheSameFileAfterARun) {
+  saveEarlierRun();
+  makeFile("A.java");
+  platform::changeDirectory(scratch_.path());
+  const std::string relative = "us er" + std::string(1, platform::folderSeparator) + "A.java";
+  const std::string whole = Filename(platform::currentDirectory(), relative).fullName();
+  runPanel([&](ScriptedWindow&, ScriptedWindow& panel) {
+    panel.type(SOURCE, quoted(relative) + " one");
+    panel.press(JAVAC);
+    EXPECT_EQ(panel.text(SOURCE), quoted(whole) + " one");
+    panel.press(JAVAC);
+    exit(panel);
+  });
+  EXPECT_EQ(desktop_.alerts().size(), 2U);
+  const std::string recorded = contentOf(scratch_.file("record"));
+  const auto first = recorded.find(whole);
+  ASSERT_NE(first, std::string::npos) << recorded;
+  EXPECT_NE(recorded.find(whole, first + 1), std::string::npos) << recorded;
+}
+
+TEST_F(FileViewTest, TheFileDialogIsGivenAWholePath) {
+  saveEarlierRun();
+  makeFile("A.java");
+  platform::changeDirectory(scratch_.path());
+  const std::string whole = Filename(platform::currentDirectory(), "us er").fullName();
+  runPanel([&](ScriptedWindow&, ScriptedWindow& panel) {
+    panel.type(SOURCE, quoted("us er"));
+    desktop_.expectOpenFile(std::nullopt);
+    desktop_.expectMessage("No .java file known.");
+    panel.press(JAVAC);
+    EXPECT_EQ(desktop_.lastRequest().startFolder, whole);
+    // The search for a folder has entered it.
+    panel.type(SOURCE, "A.java");
+    desktop_.expectOpenFile(std::nullopt);
+    panel.press(BROWSE);
+    EXPECT_EQ(desktop_.lastRequest().startFolder, whole + platform::folderSeparator);
+    exit(panel);
+  });
+}
+
+TEST_F(FileViewTest, ALogThatCannotBeMadeIsNoSuccess) {
+  saveEarlierRun();
+  const std::string source = makeFile("A.java");
+  writeFile(scratch_.file("script"), "err A.java:1: error\n");
+  ToolLog nowhere(scratch_.file("gone") + platform::folderSeparator);
+  SettingsContext context{desktop_, program_, nowhere};
+  Settings settings(context);
+  desktop_.expectMainDialog([&](ScriptedWindow& main) {
+    auto& panel = main.child(1);
+    panel.type(SOURCE, quoted(source));
+    desktop_.expectMessage("No such file or directory\nCan't open log file " + scratch_.file("gone") +
+                           platform::folderSeparator + "Tarnwick_LOG1.tmp");
+    panel.press(JAVAC);
+    exit(panel);
+  });
+  TarnwickDlg(settings).runModal();
+  EXPECT_TRUE(desktop_.alerts().empty()) << "what the compiler said is not known";
+  EXPECT_EQ(saved("FILEVIEW_SOURCE"), source + ";" + userFolder()) << "the bookkeeping still runs";
 }
 
 TEST_F(FileViewTest, SettingsOpenFromTheBar) {

@@ -133,6 +133,24 @@ TEST_F(TarnwickAppTest, DebugTablesWithFastCodeAreWarnedOfAndTheStartGoesOn) {
   EXPECT_EQ(host_.runs, 1);
 }
 
+TEST_F(TarnwickAppTest, AConfigurationFolderWithoutItsWholePathStaysTheSameFolder) {
+  settings().tarnwickVersion = program_.version;
+  settings().saveDefaultConfiguration(nullptr);
+  const ScopedEnvironment relative("TARNWICK_CFGDIR", "con fig");
+  platform::changeDirectory(scratch_.path());
+  const std::string whole = Filename(platform::currentDirectory(), "con fig").fullName();
+  TarnwickApp app(desktop_, host_, programFolder() + "tarnwick");
+  desktop_.expectMainDialog([&](ScriptedWindow& main) {
+    platform::changeDirectory(userFolder());
+    main.moveByHand({7, 9});
+    main.child(1).child(197).press(2);
+  });
+  EXPECT_EQ(app.run(""), 0);
+  EXPECT_EQ(platform::environment("TARNWICK_CFGDIR"), whole) << "what we start gets it too";
+  EXPECT_NE(contentOf(configFile()).find("WINDOW_POSITION  7;9"), std::string::npos);
+  EXPECT_FALSE(platform::isFolder(userFolder() + "con fig"));
+}
+
 TEST_F(TarnwickAppTest, NoArgumentOrAProjectOpensThePanel) {
   settings().tarnwickVersion = program_.version;
   settings().saveDefaultConfiguration(nullptr);

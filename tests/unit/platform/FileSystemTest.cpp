@@ -33,6 +33,16 @@ std::string readText(const std::string& path, const char* mode = "r") {
   return text;
 }
 
+TEST(FileSystem, AnAbsolutePathBeginsAtTheRoot) {
+  const ScratchFolder folder;
+  changeDirectory(folder.path());
+  EXPECT_EQ(absolutePath(folder.file("x")), folder.file("x")) << "a whole path stays as it is";
+  EXPECT_EQ(absolutePath(""), "");
+  const std::string here = currentDirectory() + folderSeparator;
+  EXPECT_EQ(absolutePath("a b.txt"), here + "a b.txt") << "it need not be there";
+  EXPECT_EQ(absolutePath("sub" + std::string(1, folderSeparator)), here + "sub" + folderSeparator);
+}
+
 TEST(FileSystem, OpenFileReadsWritesAndAppends) {
   const ScratchFolder folder;
   const std::string path = folder.file("x.txt");

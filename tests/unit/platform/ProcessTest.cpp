@@ -59,6 +59,16 @@ TEST(SplitCommandTextTest, SplitsByTheRunTimesRules) {
   for (const auto& row : table) EXPECT_EQ(splitCommandText(row.text), row.words) << row.text;
 }
 
+TEST(CommandWordTest, APathIsOneWordOfTheCommandText) {
+  EXPECT_EQ(commandWord("plain"), "plain");
+  EXPECT_EQ(commandWord("a b"), R"("a b")");
+  EXPECT_EQ(commandWord(""), "");
+  if (folderSeparator == '\\') GTEST_SKIP() << "no file name holds a double quote here";
+  for (const char* path : {R"(/a"b)", R"(/a "b" c)", R"(/a\"b)", R"(/a b\)", R"(/a\b)", "/a\tb", R"(/")"}) {
+    EXPECT_EQ(splitCommandText("x " + commandWord(path) + " y"), (std::vector<std::string>{"x", path, "y"}));
+  }
+}
+
 TEST(SystemErrorTest, TextIsTheLabelTheNumberAndTheSystemsSentence) {
   EXPECT_EQ((SystemError{"CreatePipe()", 5, "Access is denied."}).text(), "CreatePipe() error 5\nAccess is denied.");
 }

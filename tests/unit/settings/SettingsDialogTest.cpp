@@ -25,7 +25,14 @@ TEST_F(SettingsDialogTest, OpensOnTheToolsPageWithItsValues) {
     EXPECT_TRUE(page.checked(WITH_NOTEPAD));
     EXPECT_FALSE(page.checked(WITH_EDITOR));
     EXPECT_EQ(page.toolTip(FOLDER),
-              "Folder containing the file javac.exe (created by the installation of the JDK)");
+              platform::localText("Folder containing the file javac.exe (created by the installation of the JDK)"));
+    EXPECT_EQ(page.toolTip(1006), platform::localText("Locate the file javac.exe in the JDK installation folder"));
+    EXPECT_EQ(page.toolTip(WITH_NOTEPAD), "Display compiler (and other) diagnostics with the Windows Notepad");
+    EXPECT_EQ(page.toolTip(WITH_EDITOR),
+              "Display compiler (and other) diagnostics with the editor you defined for editing source files");
+    EXPECT_EQ(page.toolTip(1204),
+              "Create an icon on the Windows desktop. A double click on it will start Tarnwick.");
+    EXPECT_EQ(page.toolTip(1205), "Create an entry in the Windows startmenu tree that will start Tarnwick.");
     EXPECT_EQ(window.toolTip(IDOK_CONTROL), "Apply new settings and close this window");
     EXPECT_EQ(window.toolTip(IDCANCEL_CONTROL), "Continue with the previously active settings");
     window.press(IDCANCEL_CONTROL);

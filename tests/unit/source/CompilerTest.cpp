@@ -146,6 +146,17 @@ TEST_F(CompileTest, ASilentCompilerHasSucceeded) {
   EXPECT_TRUE(platform::isFile(configFile())) << "the settings are saved before the tool runs";
 }
 
+TEST_F(CompileTest, ANameMayHoldDoubleQuotesWhereTheSystemAllowsThem) {
+  if (platform::folderSeparator == '\\') GTEST_SKIP() << "no file name holds a double quote here";
+  for (const char* name : {"A\"b.java", "\"A\" b\\.java"}) {
+    const std::string path = makeSource(name);
+    FileForSubprocess source(path);
+    Compiler(settings(), nullptr).compile(source, FileMode::Write);
+    EXPECT_NE(contentOf(scratch_.file("record")).find("\n" + path + "\n"), std::string::npos)
+        << contentOf(scratch_.file("record"));
+  }
+}
+
 TEST_F(CompileTest, AnyOutputHasFailed) {
   writeFile(scratch_.file("script"), "err A.java:1: warning: deprecated\n");
   FileForSubprocess source(makeSource("A.java"));

@@ -133,6 +133,76 @@ TEST_F(FileViewTest, SoundsCanBeSwitchedOff) {
   EXPECT_TRUE(desktop_.alerts().empty());
 }
 
+TEST_F(FileViewTest, AnythingTheCompilerWritesSoundsTheExclamationAndShowsTheLog) {
+  for (const int sound : {1, 0}) {
+    saveEarlierRun([&](Settings& earlier) {
+      earlier.javacSoundOnError = sound;
+      // The stand-in plays the user's editor.
+      earlier.displayWithNotepad = 0;
+      earlier.editorTarget = standInFolder() + platform::toolFileName("javadoc");
+    });
+    const std::string source = makeFile("A.java");
+    writeFile(scratch_.file("script"), "err A.java:1: warning: deprecated\n");
+    runPanel([&](ScriptedWindow&, ScriptedWindow& panel) {
+      panel.type(SOURCE, quoted(source));
+      panel.press(JAVAC);
+      exit(panel);
+    });
+    const std::string recorded = recordedUpTo(log_.path());
+    EXPECT_NE(recorded.find(log_.path()), std::string::npos) << recorded;
+    EXPECT_EQ(desktop_.alerts(), (std::vector<AlertSound>{AlertSound::Exclamation})) << "only of the first run";
+    platform::deleteFile(scratch_.file("record"));
+  }
+}
+
+TEST_F(FileViewTest, AnUnknownToolsFolderIsAskedForAndThenTold) {
+  saveEarlierRun([](Settings& earlier) { earlier.javaPath.clear(); });
+  const std::string source = makeFile("A.java");
+  runPanel([&](ScriptedWindow&, ScriptedWindow& panel) {
+    panel.type(SOURCE, quoted(source));
+    desktop_.expectDialog("Tarnwick settings", [](ScriptedWindow& window) { window.press(IDCANCEL_CONTROL); });
+    desktop_.expectMessage(platform::localText("No path to javac.exe and other tools available from settings"));
+    panel.press(JAVAC);
+    exit(panel);
+  });
+  EXPECT_TRUE(desktop_.alerts().empty());
+  EXPECT_EQ(saved("FILEVIEW_SOURCE"), source + ";" + userFolder()) << "the bookkeeping still runs";
+}
+
+TEST_F(FileViewTest, BlanksBehindANameAreNoPartOfIt) {
+  saveEarlierRun();
+  const std::string source = makeFile("A.java");
+  runPanel([&](ScriptedWindow&, ScriptedWindow& panel) {
+    panel.type(SOURCE, "  " + quoted(source) + "   ");
+    panel.press(JAVAC);
+    exit(panel);
+  });
+  EXPECT_EQ(desktop_.alerts(), (std::vector<AlertSound>{AlertSound::Asterisk}));
+  EXPECT_EQ(saved("FILEVIEW_SOURCE"), source + ";" + userFolder());
+}
+
+TEST_F(FileViewTest, ANameThatBeginsWithAMinusIsNoOption) {
+  saveEarlierRun();
+  makeFile("-A.java");
+  platform::changeDirectory(userFolder());
+  const std::string whole = Filename(platform::currentDirectory(), "-A.java").fullName();
+  runPanel([&](ScriptedWindow&, ScriptedWindow& panel) {
+    panel.type(SOURCE, "-A.java");
+    panel.press(JAVAC);
+    exit(panel);
+  });
+  EXPECT_NE(contentOf(scratch_.file("record")).find("\n" + whole + "\n"), std::string::npos);
+}
+
+TEST_F(FileViewTest, TheUtilitiesTabMayBeTheOneThatOpens) {
+  saveEarlierRun([](Settings& earlier) { earlier.fileviewTab = 2; });
+  runPanel([](ScriptedWindow&, ScriptedWindow& panel) {
+    EXPECT_EQ(panel.selection(TABS), 2);
+    EXPECT_FALSE(panel.page(TABS, 2).visible(FIELD));
+    exit(panel);
+  });
+}
+
 TEST_F(FileViewTest, NoSourceGivenIsTold) {
   saveEarlierRun();
   runPanel([&](ScriptedWindow&, ScriptedWindow& panel) {

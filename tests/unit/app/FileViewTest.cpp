@@ -1,10 +1,9 @@
+#include "PanelFixture.h"
 #include "app/FileView.h"
 
 #include <algorithm>
 #include <chrono>
 #include <thread>
-
-#include "PanelFixture.h"
 
 namespace tarnwick::test {
 namespace {
@@ -37,11 +36,9 @@ class FileViewTest : public PanelFixture {
 TEST_F(FileViewTest, ShowsItsLabelsAndToolTips) {
   saveEarlierRun();
   runPanel([](ScriptedWindow&, ScriptedWindow& panel) {
-    EXPECT_EQ(panel.tabLabels(TABS),
-              (std::vector<std::string>{" Main program ", "  Applet  ", "  Utilities  "}));
-    const char* const labels[3][3] = {{"Browse", "jdb debug", "java"},
-                                      {"Browse", "appletdebug", "appletviewer"},
-                                      {"jar", "javadoc", "WinShortcut"}};
+    EXPECT_EQ(panel.tabLabels(TABS), (std::vector<std::string>{" Main program ", "  Applet  ", "  Utilities  "}));
+    const char* const labels[3][3] = {
+        {"Browse", "jdb debug", "java"}, {"Browse", "appletdebug", "appletviewer"}, {"jar", "javadoc", "WinShortcut"}};
     for (int tab = 0; tab < 3; ++tab) {
       EXPECT_EQ(panel.page(TABS, tab).text(LEFT), labels[tab][0]);
       EXPECT_EQ(panel.page(TABS, tab).text(MIDDLE), labels[tab][1]);
@@ -51,8 +48,7 @@ TEST_F(FileViewTest, ShowsItsLabelsAndToolTips) {
     EXPECT_EQ(main.toolTip(LEFT), "Select executable class file");
     EXPECT_EQ(main.toolTip(MIDDLE), "Execute class file under debugger control");
     EXPECT_EQ(main.toolTip(RIGHT), "Execute class file");
-    EXPECT_EQ(main.toolTip(FIELD),
-              "File specification for executable class, optionally followed by runtime arguments");
+    EXPECT_EQ(main.toolTip(FIELD), "File specification for executable class, optionally followed by runtime arguments");
     auto& applet = panel.page(TABS, 1);
     EXPECT_EQ(applet.toolTip(LEFT), "Select HTML file");
     EXPECT_EQ(applet.toolTip(MIDDLE), "Start appletviewer under debugger control");

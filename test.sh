@@ -110,7 +110,7 @@ testWindowsTarget() {
     x86_64) loader=$(PATH=/usr/lib/wine:$PATH command -v wine64) ;;
     i686) loader=$(PATH=/usr/lib/wine:$PATH command -v wine32 || ls /usr/lib/i386-linux-gnu/wine/wine 2>/dev/null) ;;
   esac
-  [ -n "$loader" ] && targets+=(tarnwick_unit_tests tarnwick_window_tests)
+  [ -n "$loader" ] && targets+=(tarnwick_unit_tests tarnwick_window_tests look)
   export "TARNWICK_TOOLKIT_${target^^}=$folder"
   buildFor "$preset" "${targets[@]}" -- "TARNWICK_TOOLKIT=$folder" || return
   runTests "$preset-program" 60 "$root/scripts/check-windows-program.sh" "$target" "$root/build/$preset/Tarnwick.exe"
@@ -121,6 +121,8 @@ testWindowsTarget() {
   fi
   underWine "$preset-unit" 900 "$loader" "$root/build/$preset/tests/tarnwick_unit_tests.exe"
   underWine "$preset-windows" 900 "$loader" "$root/build/$preset/tests/tarnwick_window_tests.exe"
+  # The 64-bit program is the one that is driven from outside.
+  [ "$target" = x86_64 ] && underWine "$preset-end-to-end" 600 /usr/bin/python3 "$root/tests/e2e/run.py" "$root"
 }
 
 underWine() {

@@ -1,10 +1,10 @@
 // Writes the program's picture as a Windows icon file to standard output. Run by scripts/make-icon.sh.
+#include "ui/IconPixels.h"
+
 #include <cstdint>
 #include <cstdio>
 #include <string>
 #include <vector>
-
-#include "ui/IconPixels.h"
 
 namespace {
 

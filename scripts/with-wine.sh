@@ -27,6 +27,8 @@ if [ ! -f "$WINEPREFIX/complete" ]; then
   timeout 300 "$WINE" wineboot -u </dev/null >/dev/null 2>&1 || { echo "with-wine.sh: wineboot failed" >&2; exit 1; }
   touch "$WINEPREFIX/complete"
 fi
+# Wine's own services start now, in this environment, and not as children of the first program.
+timeout 60 "$WINE" wineboot </dev/null >/dev/null 2>&1 || { echo "with-wine.sh: wineboot failed" >&2; exit 1; }
 
 status=0
 "$@" <&0 &

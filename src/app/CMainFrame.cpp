@@ -16,34 +16,55 @@ ConsoleProgram programOf(const ConsoleStart& start) {
 }  // namespace
 
 CMainFrame::CMainFrame(Desktop& desktop, const Settings& settings, const ConsoleStart& start)
-    : document_(desktop, start.title),
-      view_(document_, desktop, programOf(start),
-            [&settings](int group, int index) { return settings.functionKeys.key(group, index); }) {}
+    : document_(desktop, start.title), view_(document_, desktop, programOf(start), [&settings](int group, int index) {
+        return settings.functionKeys.key(group, index);
+      }) {}
 
 bool CMainFrame::commandEnabled(int command) const {
   switch (command) {
     case COMMAND_SAVE_DISPLAY:
-    case COMMAND_START_RECORDING: return !document_.recording();
-    case COMMAND_STOP_RECORDING: return document_.recording();
-    case COMMAND_COPY: return view_.canCopy();
-    case COMMAND_PASTE: return view_.canPaste();
+    case COMMAND_START_RECORDING:
+      return !document_.recording();
+    case COMMAND_STOP_RECORDING:
+      return document_.recording();
+    case COMMAND_COPY:
+      return view_.canCopy();
+    case COMMAND_PASTE:
+      return view_.canPaste();
     case COMMAND_SELECT_ALL:
-    case COMMAND_EXIT: return true;
+    case COMMAND_EXIT:
+      return true;
     // The guide, the About dialog and the debugger are not there yet; nothing answers to Cut.
-    default: return false;
+    default:
+      return false;
   }
 }
 
 void CMainFrame::onCommand(int command) {
   switch (command) {
-    case COMMAND_SAVE_DISPLAY: document_.saveDisplay(); break;
-    case COMMAND_START_RECORDING: document_.startRecording(); break;
-    case COMMAND_STOP_RECORDING: document_.stopRecording(); break;
-    case COMMAND_COPY: view_.copy(); break;
-    case COMMAND_PASTE: view_.paste(); break;
-    case COMMAND_SELECT_ALL: view_.selectAll(); break;
-    case COMMAND_EXIT: view_.closeWindow(); break;
-    default: break;
+    case COMMAND_SAVE_DISPLAY:
+      document_.saveDisplay();
+      break;
+    case COMMAND_START_RECORDING:
+      document_.startRecording();
+      break;
+    case COMMAND_STOP_RECORDING:
+      document_.stopRecording();
+      break;
+    case COMMAND_COPY:
+      view_.copy();
+      break;
+    case COMMAND_PASTE:
+      view_.paste();
+      break;
+    case COMMAND_SELECT_ALL:
+      view_.selectAll();
+      break;
+    case COMMAND_EXIT:
+      view_.closeWindow();
+      break;
+    default:
+      break;
   }
 }
 

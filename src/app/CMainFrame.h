@@ -1,13 +1,13 @@
 #pragma once
 
-#include <string>
-#include <vector>
-
 #include "app/ConsoleFrameHost.h"
 #include "console/TarnwickDoc.h"
 #include "console/TarnwickView.h"
 #include "dialogbase/Desktop.h"
 #include "settings/Settings.h"
+
+#include <string>
+#include <vector>
 
 namespace tarnwick {
 

@@ -1,9 +1,9 @@
 #pragma once
 
-#include <string>
-
 #include "console/ConsoleSurface.h"
 #include "resources/Menu.h"
+
+#include <string>
 
 namespace tarnwick {
 

@@ -64,14 +64,21 @@ void FileView::detached() {
   PanelDlg::detached();
 }
 
-void FileView::updateTitle() { settings_.context().mainWindow->setTitle(title_); }
+void FileView::updateTitle() {
+  settings_.context().mainWindow->setTitle(title_);
+}
 
-void FileView::onTabChanged() { settings_.fileviewTab = currentPage(); }
+void FileView::onTabChanged() {
+  settings_.fileviewTab = currentPage();
+}
 
 void FileView::onCommand(int control) {
-  if (control == BROWSE) browse(sourceFilter, sourceFile_);
-  else if (control == JAVAC) compileSource();
-  else PanelDlg::onCommand(control);
+  if (control == BROWSE)
+    browse(sourceFilter, sourceFile_);
+  else if (control == JAVAC)
+    compileSource();
+  else
+    PanelDlg::onCommand(control);
 }
 
 void FileView::onPageButton(int page, int control) {

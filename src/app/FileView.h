@@ -1,9 +1,9 @@
 #pragma once
 
-#include <string>
-
 #include "app/PanelDlg.h"
 #include "process/FileForSubprocess.h"
+
+#include <string>
 
 namespace tarnwick {
 

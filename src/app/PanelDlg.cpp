@@ -22,7 +22,9 @@ void PanelPage::initialise(DialogWindow& window) {
   window.setText(RIGHT, labels_[2]);
 }
 
-void PanelPage::onCommand(int control) { panel_.onPageButton(control); }
+void PanelPage::onCommand(int control) {
+  panel_.onPageButton(control);
+}
 
 ButtonBar::ButtonBar(Desktop& desktop, PanelDlg& panel, std::string switchLabel)
     : ToolTipDlg(desktop, verticalBarLayout().resource, 0), panel_(panel), switchLabel_(std::move(switchLabel)) {}
@@ -34,18 +36,20 @@ void ButtonBar::initialise(DialogWindow& window) {
   for (const int control : {SWITCH_VIEW, LAYOUT_LEFT, LAYOUT_RIGHT}) window.enable(control, false);
 }
 
-void ButtonBar::onCommand(int control) { panel_.onCommand(control); }
+void ButtonBar::onCommand(int control) {
+  panel_.onCommand(control);
+}
 
 PanelDlg::PanelDlg(Settings& settings, int resource, const std::string& switchLabel,
                    std::function<void()> endMainDialog)
     : TabbedDialog(settings.context().desktop, resource, TAB_CONTROL),
       settings_(settings),
-      leftPage_(desktop_, *this, {"Browse", "jdb debug", "java"},
-                {{PanelPage::LEFT, "Select executable class file"},
-                 {PanelPage::MIDDLE, "Execute class file under debugger control"},
-                 {PanelPage::RIGHT, "Execute class file"},
-                 {PanelPage::FIELD,
-                  "File specification for executable class, optionally followed by runtime arguments"}}),
+      leftPage_(
+          desktop_, *this, {"Browse", "jdb debug", "java"},
+          {{PanelPage::LEFT, "Select executable class file"},
+           {PanelPage::MIDDLE, "Execute class file under debugger control"},
+           {PanelPage::RIGHT, "Execute class file"},
+           {PanelPage::FIELD, "File specification for executable class, optionally followed by runtime arguments"}}),
       middlePage_(desktop_, *this, {"Browse", "appletdebug", "appletviewer"},
                   {{PanelPage::LEFT, "Select HTML file"},
                    {PanelPage::MIDDLE, "Start appletviewer under debugger control"},

@@ -1,11 +1,11 @@
 #pragma once
 
+#include "dialogbase/TabbedDialog.h"
+#include "settings/Settings.h"
+
 #include <array>
 #include <functional>
 #include <string>
-
-#include "dialogbase/TabbedDialog.h"
-#include "settings/Settings.h"
 
 namespace tarnwick {
 

@@ -1,13 +1,13 @@
 #pragma once
 
-#include <string>
-
 #include "app/ConsoleFrameHost.h"
 #include "base/ProgramInfo.h"
 #include "base/Tarnwickfile.h"
 #include "dialogbase/Desktop.h"
 #include "process/ToolLog.h"
 #include "settings/Settings.h"
+
+#include <string>
 
 namespace tarnwick {
 

@@ -12,9 +12,13 @@ TarnwickDlg::TarnwickDlg(Settings& settings)
       settings_(settings),
       fileView_(settings, [this] { close(DIALOG_OK); }) {}
 
-TarnwickDlg::~TarnwickDlg() { settings_.context().mainWindow = nullptr; }
+TarnwickDlg::~TarnwickDlg() {
+  settings_.context().mainWindow = nullptr;
+}
 
-void TarnwickDlg::runModal() { desktop_.runMainDialog(mainLayout(), *this); }
+void TarnwickDlg::runModal() {
+  desktop_.runMainDialog(mainLayout(), *this);
+}
 
 void TarnwickDlg::initialise(DialogWindow& window) {
   ToolTipDlg::initialise(window);
@@ -34,19 +38,21 @@ void TarnwickDlg::readSettings() {
   int status = 0;
   settings_.readDefaultConfiguration(status);
   // Any bit counts as a first use, even one unknown tag; stricter than the failure mask, and meant so.
-  if (status != 0) welcomeFirstUse(status);
-  else if (settings_.tarnwickVersion != settings_.context().program.version) welcomeUpgrade();
+  if (status != 0)
+    welcomeFirstUse(status);
+  else if (settings_.tarnwickVersion != settings_.context().program.version)
+    welcomeUpgrade();
 }
 
 void TarnwickDlg::welcomeFirstUse(int status) {
-  WelcomeDlg(desktop_,
-             "You seem to be using Tarnwick for the first time,\n"
-             "as I can't find any data from a previous session.",
-             platform::localText(
-                 "Please make sure that you have an installation of a JDK (J2SE) on your system.\n\n"
-                 "On the next display you will have to tell Tarnwick where the JDK programs are located.\n"
-                 "Look for a file \"javac.exe\" in a \"bin\" subfolder of the JDK installation tree and\n"
-                 "enter it in the field \"Tools .exe directory\".\n"))
+  WelcomeDlg(
+      desktop_,
+      "You seem to be using Tarnwick for the first time,\n"
+      "as I can't find any data from a previous session.",
+      platform::localText("Please make sure that you have an installation of a JDK (J2SE) on your system.\n\n"
+                          "On the next display you will have to tell Tarnwick where the JDK programs are located.\n"
+                          "Look for a file \"javac.exe\" in a \"bin\" subfolder of the JDK installation tree and\n"
+                          "enter it in the field \"Tools .exe directory\".\n"))
       .runModal();
   if (settings_.javaPath.empty()) {
     settings_.javaPath = discoverJdkTools();

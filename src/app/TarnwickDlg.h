@@ -1,11 +1,11 @@
 #pragma once
 
-#include <memory>
-#include <string>
-
 #include "app/FileView.h"
 #include "dialogbase/ToolTipDlg.h"
 #include "settings/Settings.h"
+
+#include <memory>
+#include <string>
 
 namespace tarnwick {
 

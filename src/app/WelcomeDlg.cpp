@@ -9,7 +9,9 @@ WelcomeDlg::WelcomeDlg(Desktop& desktop, std::string firstText, std::string seco
       firstText_(std::move(firstText)),
       secondText_(std::move(secondText)) {}
 
-void WelcomeDlg::runModal() { desktop_.runDialog(welcomeLayout(), *this); }
+void WelcomeDlg::runModal() {
+  desktop_.runDialog(welcomeLayout(), *this);
+}
 
 void WelcomeDlg::initialise(DialogWindow& window) {
   ToolTipDlg::initialise(window);

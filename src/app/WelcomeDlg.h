@@ -1,8 +1,8 @@
 #pragma once
 
-#include <string>
-
 #include "dialogbase/ToolTipDlg.h"
+
+#include <string>
 
 namespace tarnwick {
 

@@ -9,7 +9,7 @@ namespace tarnwick {
 struct Tarnwickexception {
   explicit Tarnwickexception(std::string text) : message(std::move(text)) {}
 
-  std::string message;          ///< what the user sees
+  std::string message;            ///< what the user sees
   std::string where = "unknown";  ///< always this; no handler shows it
 };
 

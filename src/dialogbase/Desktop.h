@@ -1,11 +1,11 @@
 #pragma once
 
+#include "dialogbase/DialogWindow.h"
+
 #include <functional>
 #include <optional>
 #include <string>
 #include <vector>
-
-#include "dialogbase/DialogWindow.h"
 
 namespace tarnwick {
 
@@ -17,9 +17,9 @@ struct FileRequest {
   /// Pairs of a description and patterns, as in "Java source files|*.JAVA||". Patterns ignore case.
   std::string filter;
   std::string startFolder;
-  std::string name;       ///< preset file name
-  std::string extension;  ///< added where the user gives none, for example ".cfg"; for saving
-  bool mustExist = false;        ///< file and folder; for opening
+  std::string name;               ///< preset file name
+  std::string extension;          ///< added where the user gives none, for example ".cfg"; for saving
+  bool mustExist = false;         ///< file and folder; for opening
   bool confirmOverwrite = false;  ///< for saving
 };
 

@@ -1,10 +1,10 @@
 #pragma once
 
+#include "resources/DialogLayout.h"
+
 #include <optional>
 #include <string>
 #include <vector>
-
-#include "resources/DialogLayout.h"
 
 namespace tarnwick {
 

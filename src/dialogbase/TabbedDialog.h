@@ -1,9 +1,9 @@
 #pragma once
 
+#include "dialogbase/ToolTipDlg.h"
+
 #include <string>
 #include <vector>
-
-#include "dialogbase/ToolTipDlg.h"
 
 namespace tarnwick {
 

@@ -4,9 +4,15 @@ namespace tarnwick {
 
 namespace {
 
-std::string& textOf(const BindingRow& row) { return *static_cast<std::string*>(row.variable); }
-int& checkOf(const BindingRow& row) { return *static_cast<int*>(row.variable); }
-StringableM& stringableOf(const BindingRow& row) { return *static_cast<StringableM*>(row.variable); }
+std::string& textOf(const BindingRow& row) {
+  return *static_cast<std::string*>(row.variable);
+}
+int& checkOf(const BindingRow& row) {
+  return *static_cast<int*>(row.variable);
+}
+StringableM& stringableOf(const BindingRow& row) {
+  return *static_cast<StringableM*>(row.variable);
+}
 
 }  // namespace
 
@@ -33,29 +39,48 @@ void ToolTipDlg::close(int result) {
   if (window_) window_->close(result);
 }
 
-void ToolTipDlg::scrollFieldToEnd(int control) { window_->scrollToEnd(control); }
+void ToolTipDlg::scrollFieldToEnd(int control) {
+  window_->scrollToEnd(control);
+}
 
 void ToolTipDlg::setFieldText(int control, const std::string& text) {
   window_->setText(control, text);
   scrollFieldToEnd(control);
 }
 
-void ToolTipDlg::showControl(int control, bool show) { window_->show(control, show); }
-void ToolTipDlg::enableControl(int control, bool enable) { window_->enable(control, enable); }
-void ToolTipDlg::moveControl(int control, const Rect& rect) { window_->setRect(control, rect); }
-bool ToolTipDlg::isControlVisible(int control) const { return window_->visible(control); }
-Rect ToolTipDlg::getControlRect(int control) const { return window_->rect(control); }
+void ToolTipDlg::showControl(int control, bool show) {
+  window_->show(control, show);
+}
+void ToolTipDlg::enableControl(int control, bool enable) {
+  window_->enable(control, enable);
+}
+void ToolTipDlg::moveControl(int control, const Rect& rect) {
+  window_->setRect(control, rect);
+}
+bool ToolTipDlg::isControlVisible(int control) const {
+  return window_->visible(control);
+}
+Rect ToolTipDlg::getControlRect(int control) const {
+  return window_->rect(control);
+}
 
 void ToolTipDlg::loadFromTags() {
   if (!tags_) return;
   for (const TagRow* row = tags_; row->kind != TAG_END; ++row) {
     if (row->page != pageId_) continue;
     switch (row->kind) {
-      case TAG_STRING: setText(row->control, *static_cast<std::string*>(row->variable)); break;
+      case TAG_STRING:
+        setText(row->control, *static_cast<std::string*>(row->variable));
+        break;
       case TAG_INT:
-      case TAG_BOOL: setCheck(row->control, *static_cast<int*>(row->variable)); break;
-      case TAG_STRINGABLE: setText(row->control, static_cast<StringableM*>(row->variable)->toString()); break;
-      default: break;
+      case TAG_BOOL:
+        setCheck(row->control, *static_cast<int*>(row->variable));
+        break;
+      case TAG_STRINGABLE:
+        setText(row->control, static_cast<StringableM*>(row->variable)->toString());
+        break;
+      default:
+        break;
     }
   }
 }
@@ -84,8 +109,10 @@ void ToolTipDlg::setText(int control, const std::string& text) {
   }
   updateVariables();
   try {
-    if (row->kind == BIND_TEXT) textOf(*row) = text;
-    else if (row->kind == BIND_STRINGABLE) stringableOf(*row).fromString(text);
+    if (row->kind == BIND_TEXT)
+      textOf(*row) = text;
+    else if (row->kind == BIND_STRINGABLE)
+      stringableOf(*row).fromString(text);
   } catch (const StringableM::InvalidDataE&) {
     // The value keeps what it had.
   }
@@ -122,11 +149,18 @@ void ToolTipDlg::storeToTags() {
     if (row->page != pageId_) continue;
     try {
       switch (row->kind) {
-        case TAG_STRING: *static_cast<std::string*>(row->variable) = getText(row->control); break;
+        case TAG_STRING:
+          *static_cast<std::string*>(row->variable) = getText(row->control);
+          break;
         case TAG_INT:
-        case TAG_BOOL: *static_cast<int*>(row->variable) = getCheck(row->control); break;
-        case TAG_STRINGABLE: static_cast<StringableM*>(row->variable)->fromString(getText(row->control)); break;
-        default: break;
+        case TAG_BOOL:
+          *static_cast<int*>(row->variable) = getCheck(row->control);
+          break;
+        case TAG_STRINGABLE:
+          static_cast<StringableM*>(row->variable)->fromString(getText(row->control));
+          break;
+        default:
+          break;
       }
     } catch (const StringableM::InvalidDataE&) {
       // The value keeps what it had.
@@ -134,7 +168,11 @@ void ToolTipDlg::storeToTags() {
   }
 }
 
-int ToolTipDlg::getCheck(int control) const { return window_->checked(control) ? 1 : 0; }
-std::string ToolTipDlg::getText(int control) const { return window_->text(control); }
+int ToolTipDlg::getCheck(int control) const {
+  return window_->checked(control) ? 1 : 0;
+}
+std::string ToolTipDlg::getText(int control) const {
+  return window_->text(control);
+}
 
 }  // namespace tarnwick

@@ -1,12 +1,12 @@
 #pragma once
 
-#include <string>
-#include <vector>
-
 #include "base/StringableM.h"
 #include "base/TagTable.h"
 #include "dialogbase/Desktop.h"
 #include "dialogbase/DialogWindow.h"
+
+#include <string>
+#include <vector>
 
 namespace tarnwick {
 

@@ -11,11 +11,11 @@ namespace tarnwick {
 enum class ItemKind {
   Column,
   Row,
-  Group,     ///< a titled frame around a column; may have a control number
-  Icon,      ///< the program's icon
-  Heading,   ///< a label in large letters
-  Label,     ///< static text; line feeds break it
-  Edit,      ///< one line of text
+  Group,    ///< a titled frame around a column; may have a control number
+  Icon,     ///< the program's icon
+  Heading,  ///< a label in large letters
+  Label,    ///< static text; line feeds break it
+  Edit,     ///< one line of text
   Button,
   CheckBox,
   RadioButton,  ///< a run of neighbours in one row or column excludes one another
@@ -31,19 +31,34 @@ struct DialogItem {
   ItemKind kind = ItemKind::Column;
   int control = 0;  ///< 0 for what nobody addresses
   std::string text;
-  int width = 0;          ///< least width in average characters; 0 for the natural one
-  bool stretch = false;   ///< takes the room that is left in its row or column
-  bool isDefault = false;  ///< a button that Return presses
-  bool readOnly = false;   ///< an edit field that only shows
-  bool equalWidths = false;  ///< a row or column whose buttons are equally wide
+  int width = 0;                     ///< least width in average characters; 0 for the natural one
+  bool stretch = false;              ///< takes the room that is left in its row or column
+  bool isDefault = false;            ///< a button that Return presses
+  bool readOnly = false;             ///< an edit field that only shows
+  bool equalWidths = false;          ///< a row or column whose buttons are equally wide
   std::vector<std::string> entries;  ///< of a combo box
   std::vector<DialogItem> children;
 
-  DialogItem stretched() && { stretch = true; return std::move(*this); }
-  DialogItem asDefault() && { isDefault = true; return std::move(*this); }
-  DialogItem showingOnly() && { readOnly = true; return std::move(*this); }
-  DialogItem withEqualWidths() && { equalWidths = true; return std::move(*this); }
-  DialogItem atLeast(int characters) && { width = characters; return std::move(*this); }
+  DialogItem stretched() && {
+    stretch = true;
+    return std::move(*this);
+  }
+  DialogItem asDefault() && {
+    isDefault = true;
+    return std::move(*this);
+  }
+  DialogItem showingOnly() && {
+    readOnly = true;
+    return std::move(*this);
+  }
+  DialogItem withEqualWidths() && {
+    equalWidths = true;
+    return std::move(*this);
+  }
+  DialogItem atLeast(int characters) && {
+    width = characters;
+    return std::move(*this);
+  }
 };
 
 /// A whole dialog or child window.

@@ -39,11 +39,10 @@ const DialogLayout& panelPageLayout() {
 }
 
 const DialogLayout& verticalBarLayout() {
-  static const DialogLayout bar = {
-      197, "", false,
-      row({button(1000, "Settings"), button(1, "Switch view"), button(2, "Exit"), space(), button(1244, "=="),
-           button(1242, "------")}),
-      0};
+  static const DialogLayout bar = {197, "", false,
+                                   row({button(1000, "Settings"), button(1, "Switch view"), button(2, "Exit"), space(),
+                                        button(1244, "=="), button(1242, "------")}),
+                                   0};
   return bar;
 }
 

@@ -26,7 +26,9 @@ AlternateLocationDlg::AlternateLocationDlg(Desktop& desktop, const ProgramInfo& 
       title_(printableStart(failure.message)),
       failedFile_(failure.file) {}
 
-int AlternateLocationDlg::runModal() { return desktop_.runDialog(alternateLocationLayout(), *this); }
+int AlternateLocationDlg::runModal() {
+  return desktop_.runDialog(alternateLocationLayout(), *this);
+}
 
 void AlternateLocationDlg::initialise(DialogWindow& window) {
   ToolTipDlg::initialise(window);
@@ -37,8 +39,10 @@ void AlternateLocationDlg::initialise(DialogWindow& window) {
 }
 
 void AlternateLocationDlg::onCommand(int control) {
-  if (control == BROWSE) browse();
-  else ToolTipDlg::onCommand(control);
+  if (control == BROWSE)
+    browse();
+  else
+    ToolTipDlg::onCommand(control);
 }
 
 void AlternateLocationDlg::browse() {

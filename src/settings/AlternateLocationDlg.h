@@ -1,10 +1,10 @@
 #pragma once
 
-#include <string>
-
 #include "base/ProgramInfo.h"
 #include "base/Tarnwickfile.h"
 #include "dialogbase/ToolTipDlg.h"
+
+#include <string>
 
 namespace tarnwick {
 

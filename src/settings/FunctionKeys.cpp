@@ -12,7 +12,9 @@ const char FunctionKeys::defaultText[] =
     ";;;;;;;!"
     ";;;;;;;";
 
-FunctionKeys::FunctionKeys() : groups_('!', ']') { groups_.fromString(defaultText); }
+FunctionKeys::FunctionKeys() : groups_('!', ']') {
+  groups_.fromString(defaultText);
+}
 
 void FunctionKeys::fromString(const std::string& text) {
   try {

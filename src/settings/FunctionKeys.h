@@ -1,8 +1,8 @@
 #pragma once
 
-#include <string>
-
 #include "base/TokenString.h"
+
+#include <string>
 
 namespace tarnwick {
 

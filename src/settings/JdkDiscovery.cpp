@@ -1,12 +1,12 @@
 #include "settings/JdkDiscovery.h"
 
-#include <cstdlib>
-#include <fstream>
-
 #include "base/Filename.h"
 #include "base/Text.h"
 #include "platform/FileSystem.h"
 #include "platform/Path.h"
+
+#include <cstdlib>
+#include <fstream>
 
 namespace tarnwick {
 

@@ -8,7 +8,9 @@ namespace {
 const char* const names[] = {"VERTICAL", "HORIZONTAL", "FLAT"};
 }
 
-std::string LayoutValue::toString() { return value >= 0 && value < 3 ? names[value] : names[VERTICAL]; }
+std::string LayoutValue::toString() {
+  return value >= 0 && value < 3 ? names[value] : names[VERTICAL];
+}
 
 void LayoutValue::fromString(const std::string& text) {
   value = VERTICAL;

@@ -1,8 +1,8 @@
 #pragma once
 
-#include <string>
-
 #include "base/StringableM.h"
+
+#include <string>
 
 namespace tarnwick {
 

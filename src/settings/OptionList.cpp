@@ -13,12 +13,10 @@ const OptionTable javacTargetOptions = {{{"1.1", 1, "-target 1.1"},
                                         6,
                                         0};
 
-const OptionTable javacSourceOptions = {{{"1.3", 1, "-source 1.3"},
-                                         {"1.4", 2, "-source 1.4"},
-                                         {"1.5", 3, "-source 1.5"},
-                                         {"User-defined", 4, "-source "}},
-                                        4,
-                                        0};
+const OptionTable javacSourceOptions = {
+    {{"1.3", 1, "-source 1.3"}, {"1.4", 2, "-source 1.4"}, {"1.5", 3, "-source 1.5"}, {"User-defined", 4, "-source "}},
+    4,
+    0};
 
 // Index 0 is both the oldest version and the default; this list has no entry of its own for no choice.
 const OptionTable javacVersionOptions = {{{"Pre-1.4", 0, ""}, {"1.4", 1, ""}, {"1.5", 2, ""}}, -1, 0};
@@ -26,7 +24,9 @@ const OptionTable javacVersionOptions = {{{"Pre-1.4", 0, ""}, {"1.4", 1, ""}, {"
 const OptionTable garbageCollectorOptions = {
     {{"Disabled", 1, "-Xnoclassgc"}, {"Incremental", 2, "-Xincgc"}, {"Concurrent", 3, "-Xconcgc"}}, -1, 0};
 
-OptionList::OptionList(const OptionTable& table, const std::string& text) : table_(table) { fromString(text); }
+OptionList::OptionList(const OptionTable& table, const std::string& text) : table_(table) {
+  fromString(text);
+}
 
 const OptionRow* OptionList::rowOf(int index) const {
   for (const auto& row : table_.rows) {
@@ -61,8 +61,10 @@ void OptionList::updateControls() {
 void OptionList::selectIndex(int index) {
   index_ = index;
   const OptionRow* row = rowOf(index);
-  if (!row) text_.clear();
-  else if (index != table_.userDefinedIndex) text_ = row->label;
+  if (!row)
+    text_.clear();
+  else if (index != table_.userDefinedIndex)
+    text_ = row->label;
   updateControls();
 }
 

@@ -1,10 +1,10 @@
 #pragma once
 
-#include <string>
-#include <vector>
-
 #include "base/StringableM.h"
 #include "dialogbase/DialogWindow.h"
+
+#include <string>
+#include <vector>
 
 namespace tarnwick {
 

@@ -20,8 +20,10 @@ std::string assertionOptions(const std::string& list, const std::string& prefix)
   const auto separates = [&](char c) { return separators.find(c) != std::string::npos; };
   std::string text = trim(list);
   for (std::size_t i = 0; i + 1 < text.size();) {
-    if (separates(text[i]) && separates(text[i + 1])) text.erase(i, 1);
-    else ++i;
+    if (separates(text[i]) && separates(text[i + 1]))
+      text.erase(i, 1);
+    else
+      ++i;
   }
   std::string result;
   while (!text.empty()) {

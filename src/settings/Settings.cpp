@@ -24,9 +24,8 @@ void prefixIfMissing(std::string& value, const std::string& prefix) {
 Settings::Settings(SettingsContext& context)
     : SettingsValues(context.mainWindow),
       TabbedDialog(context.desktop, SETTINGS_DIALOG, TAB_CONTROL),
-      TagTable(tagRows.data(), context.program.version, [&context](const std::string& text) {
-        context.desktop.message(text);
-      }),
+      TagTable(tagRows.data(), context.program.version,
+               [&context](const std::string& text) { context.desktop.message(text); }),
       context_(context),
       configPath_(defaultConfigurationPath(context.program)),
       toolsPage_(context.desktop, tagRows.data()) {
@@ -55,8 +54,7 @@ void Settings::resetAll() {
 }
 
 void Settings::readDefaultConfiguration(int& status) {
-  const std::string besideProgram =
-      Filename(context_.program.programDirectory, defaultConfigurationName).fullName();
+  const std::string besideProgram = Filename(context_.program.programDirectory, defaultConfigurationName).fullName();
   for (const auto& path : {configPath_, besideProgram}) {
     try {
       Tarnwickfile file(path, FileMode::Read);
@@ -117,8 +115,10 @@ void Settings::recoverFromFailedSave(const Tarnwickfile::FileNotOpenE& failure) 
 }
 
 void Settings::saveCurrent() {
-  if (currentProject) currentProject->save();
-  else saveDefaultConfiguration(nullptr);
+  if (currentProject)
+    currentProject->save();
+  else
+    saveDefaultConfiguration(nullptr);
 }
 
 void Settings::saveIfWindowMoved() {
@@ -132,7 +132,9 @@ std::string Settings::effectiveClasspath() const {
   return classpath.empty() ? "." : classpath;
 }
 
-void Settings::normaliseClasspath() { classpath = normalisedClasspath(classpath); }
+void Settings::normaliseClasspath() {
+  classpath = normalisedClasspath(classpath);
+}
 
 int Settings::runModal(int page) {
   initialPage_ = page;
@@ -162,6 +164,8 @@ void Settings::onOk() {
   close(DIALOG_OK);
 }
 
-EditorChoice Settings::editorChoice() const { return {editWithNotepad != 0, displayWithNotepad != 0, editorTarget}; }
+EditorChoice Settings::editorChoice() const {
+  return {editWithNotepad != 0, displayWithNotepad != 0, editorTarget};
+}
 
 }  // namespace tarnwick

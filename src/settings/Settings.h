@@ -1,8 +1,5 @@
 #pragma once
 
-#include <memory>
-#include <string>
-
 #include "base/TagTable.h"
 #include "dialogbase/TabbedDialog.h"
 #include "process/EditorLaunch.h"
@@ -10,6 +7,9 @@
 #include "settings/SettingsContext.h"
 #include "settings/SettingsValues.h"
 #include "settings/ToolsPage.h"
+
+#include <memory>
+#include <string>
 
 namespace tarnwick {
 

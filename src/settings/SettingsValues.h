@@ -1,14 +1,14 @@
 #pragma once
 
-#include <string>
-#include <vector>
-
 #include "base/TagTable.h"
 #include "base/TokenString.h"
 #include "process/FileForSubprocess.h"
 #include "settings/FunctionKeys.h"
 #include "settings/LayoutValue.h"
 #include "settings/WindowPosition.h"
+
+#include <string>
+#include <vector>
 
 namespace tarnwick {
 
@@ -19,8 +19,8 @@ struct JavadocValues {
   std::string packageList, docletPath, docletFile, docletOptions, destination, helpFile, styleSheet, subpackages,
       exclude, excludeSubdir;
   TokenString tag, taglet;
-  std::string tagletPath, windowTitle, docTitle, header, footer, bottom, link, linkOffline, group, docEncoding,
-      charset, noQualifier;
+  std::string tagletPath, windowTitle, docTitle, header, footer, bottom, link, linkOffline, group, docEncoding, charset,
+      noQualifier;
   int use = 0, version = 0, author = 0, splitIndex = 0, breakIterator = 0, docFilesSubdirs = 0, linkSource = 0,
       noComment = 0, noDeprecated = 0, noDeprecatedList = 0, noTree = 0, noSince = 0, noIndex = 0, noHelp = 0,
       noNavbar = 0, serialWarn = 0;

@@ -29,8 +29,7 @@ ToolsPage::ToolsPage(Desktop& desktop, const TagRow* rows)
       {FOLDER, platform::localText("Folder containing the file javac.exe (created by the installation of the JDK)")},
       {BROWSE, platform::localText("Locate the file javac.exe in the JDK installation folder")},
       {WITH_NOTEPAD, "Display compiler (and other) diagnostics with the Windows Notepad"},
-      {WITH_EDITOR,
-       "Display compiler (and other) diagnostics with the editor you defined for editing source files"},
+      {WITH_EDITOR, "Display compiler (and other) diagnostics with the editor you defined for editing source files"},
       {ON_DESKTOP, "Create an icon on the Windows desktop. A double click on it will start Tarnwick."},
       {IN_STARTMENU, "Create an entry in the Windows startmenu tree that will start Tarnwick."},
   };

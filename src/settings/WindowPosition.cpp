@@ -1,9 +1,9 @@
 #include "settings/WindowPosition.h"
 
+#include "base/TokenString.h"
+
 #include <cstdlib>
 #include <optional>
-
-#include "base/TokenString.h"
 
 namespace tarnwick {
 
@@ -21,10 +21,16 @@ int WindowPosition::checked(int& coordinate) {
   return coordinate;
 }
 
-int WindowPosition::getLeft() { return checked(left_); }
-int WindowPosition::getTop() { return checked(top_); }
+int WindowPosition::getLeft() {
+  return checked(left_);
+}
+int WindowPosition::getTop() {
+  return checked(top_);
+}
 
-void WindowPosition::setUndefined() { left_ = top_ = UNDEFINED; }
+void WindowPosition::setUndefined() {
+  left_ = top_ = UNDEFINED;
+}
 
 void WindowPosition::refreshFromWindow() {
   if (const auto placement = placementOf(mainWindow_)) {

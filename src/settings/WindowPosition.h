@@ -1,9 +1,9 @@
 #pragma once
 
-#include <string>
-
 #include "base/StringableM.h"
 #include "dialogbase/DialogWindow.h"
+
+#include <string>
 
 namespace tarnwick {
 

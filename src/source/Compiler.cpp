@@ -62,8 +62,10 @@ std::vector<std::string> javacArguments(const Settings& settings, const char* al
   add(!settings.sourcepath.empty(), "-sourcepath");
   add(!settings.sourcepath.empty(), commandLineList(settings.sourcepath));
   const std::string classpath = settings.effectiveClasspath();
-  if (alternativeClasspath) arguments.push_back("-classpath " + commandLineList(alternativeClasspath));
-  else add(!classpath.empty(), "-classpath " + commandLineList(classpath));
+  if (alternativeClasspath)
+    arguments.push_back("-classpath " + commandLineList(alternativeClasspath));
+  else
+    add(!classpath.empty(), "-classpath " + commandLineList(classpath));
   add(!settings.bootpath.empty(), "-bootclasspath " + commandLineList(settings.bootpath));
   add(!settings.extdirs.empty(), "-extdirs " + commandLineList(settings.extdirs));
   return arguments;
@@ -82,10 +84,9 @@ void Compiler::checkTool() const {
   try {
     Tarnwickfile probe(tool_.executable(), FileMode::Read);
   } catch (const Tarnwickfile::FileNotOpenE& failure) {
-    throw Tarnwickfile::FileNotOpenE(
-        "Can't access compiler " + failure.file + "\n" + failure.message +
-            "\nIs the JDK installed? Is the tools directory (Settings!) set correctly?",
-        failure.file);
+    throw Tarnwickfile::FileNotOpenE("Can't access compiler " + failure.file + "\n" + failure.message +
+                                         "\nIs the JDK installed? Is the tools directory (Settings!) set correctly?",
+                                     failure.file);
   }
 }
 

@@ -1,12 +1,12 @@
 #pragma once
 
-#include <string>
-#include <vector>
-
 #include "base/Tarnwickexception.h"
 #include "process/FileForSubprocess.h"
 #include "process/Subprocess.h"
 #include "settings/Settings.h"
+
+#include <string>
+#include <vector>
 
 namespace tarnwick {
 

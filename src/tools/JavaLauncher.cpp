@@ -13,7 +13,9 @@ std::string toolPath(const Settings& settings, const std::string& tool) {
   return settings.javaPath + platform::toolFileName(tool);
 }
 
-std::string switchText(const std::string& name, const std::string& value) { return "\\/" + name + "=" + value + "\\/"; }
+std::string switchText(const std::string& name, const std::string& value) {
+  return "\\/" + name + "=" + value + "\\/";
+}
 
 class ArgumentList {
  public:
@@ -31,8 +33,10 @@ class ArgumentList {
 
 void addPaths(ArgumentList& list, const Settings& settings, const JavaRun& run) {
   using platform::commandLineList;
-  if (run.classpath) list.add("-classpath " + commandLineList(run.classpath));
-  else list.addValue("-classpath ", commandLineList(settings.effectiveClasspath()));
+  if (run.classpath)
+    list.add("-classpath " + commandLineList(run.classpath));
+  else
+    list.addValue("-classpath ", commandLineList(settings.effectiveClasspath()));
   if (run.sourcepath) list.add("-sourcepath " + commandLineList(run.sourcepath));
   list.addValue("-Xbootclasspath:", commandLineList(settings.bootpath));
 }

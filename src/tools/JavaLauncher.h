@@ -1,10 +1,10 @@
 #pragma once
 
-#include <string>
-#include <vector>
-
 #include "process/FileForSubprocess.h"
 #include "settings/Settings.h"
+
+#include <string>
+#include <vector>
 
 namespace tarnwick {
 
@@ -19,8 +19,7 @@ struct JavaRun {
 
 /// The arguments with which the program starts a second copy of itself as the console of this run. Every value with
 /// blanks travels between marks; behind RUN stands the child's command line.
-std::vector<std::string> relaunchArguments(const Settings& settings, const FileForSubprocess& file,
-                                           const JavaRun& run);
+std::vector<std::string> relaunchArguments(const Settings& settings, const FileForSubprocess& file, const JavaRun& run);
 
 /// Starts `java` on a class file in a console of its own. Shows failures itself. `classpath` may be null.
 void runJava(Settings& settings, FileForSubprocess& file, const char* classpath);

@@ -62,7 +62,7 @@ bool matches(const wxKeyEvent& event, const Accelerator& accelerator) {
       break;
   }
   // Depending on the system Control with a letter comes as the letter or as its control character.
-  const int letter = accelerator.letter;
+  const int letter = static_cast<unsigned char>(accelerator.letter);
   const int key = event.GetKeyCode();
   return key == letter || (accelerator.control && key == letter - 'A' + 1);
 }

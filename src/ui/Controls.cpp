@@ -27,9 +27,17 @@ namespace {
 
 constexpr int listRows = 8;
 
+/// The control's window as what it is; its kind tells.
 template <typename Window>
-Window* as(const Control& control) {
-  return dynamic_cast<Window*>(control.window);
+Window& as(const Control& control) {
+  return static_cast<Window&>(*control.window);
+}
+
+/// The entries of a combo box or list; null for any other control.
+wxItemContainer* entryHolder(const Control& control) {
+  if (control.kind == ItemKind::ComboBox) return &as<wxComboBox>(control);
+  if (control.kind == ItemKind::ListBox) return &as<wxListBox>(control);
+  return nullptr;
 }
 
 /// A label whose long lines break, and that still knows its text as it was given.
@@ -175,10 +183,10 @@ Control makeControl(wxWindow& parent, const DialogItem& item, wxRadioButton* non
 wxSize naturalSize(const DialogItem& item, const Control& control) {
   wxWindow& window = *control.window;
   wxSize size = window.GetBestSize();
-  if (auto* edit = as<wxTextCtrl>(control)) {
+  if (item.kind == ItemKind::Edit) {
     // With the system set to larger letters, the toolkit asks for too little.
     size.y = std::max(size.y, window.GetCharHeight() + window.FromDIP(10));
-    if (item.width > 0) size.x = edit->GetSizeFromTextSize(widthOfCharacters(window, item.width)).x;
+    if (item.width > 0) size.x = as<wxTextCtrl>(control).GetSizeFromTextSize(widthOfCharacters(window, item.width)).x;
     return size;
   }
   if (item.kind == ItemKind::ListBox) {
@@ -198,40 +206,51 @@ wxSize naturalSize(const DialogItem& item, const Control& control) {
 }
 
 std::string textOf(const Control& control) {
-  if (auto* edit = as<wxTextCtrl>(control)) return fromWx(edit->GetValue());
-  if (auto* choice = as<wxComboBox>(control)) return fromWx(choice->GetStringSelection());
-  if (auto* list = as<wxListBox>(control)) return fromWx(list->GetStringSelection());
-  if (auto* label = as<Label>(control)) return label->text();
-  return fromWx(wxControl::RemoveMnemonics(control.window->GetLabel()));
+  switch (control.kind) {
+    case ItemKind::Edit:
+      return fromWx(as<wxTextCtrl>(control).GetValue());
+    case ItemKind::ComboBox:
+    case ItemKind::ListBox:
+      return fromWx(entryHolder(control)->GetStringSelection());
+    case ItemKind::Label:
+      return as<Label>(control).text();
+    default:
+      return fromWx(wxControl::RemoveMnemonics(control.window->GetLabel()));
+  }
 }
 
 void setTextOf(const Control& control, const std::string& text) {
   const wxString shown = toWx(text);
-  if (auto* edit = as<wxTextCtrl>(control)) {
-    edit->ChangeValue(shown);
-  } else if (auto* choice = as<wxComboBox>(control)) {
-    choice->SetSelection(choice->FindString(shown, true));
-  } else if (auto* label = as<Label>(control)) {
-    // Such a text is data: an "&" in a path is no mnemonic.
-    label->set(text, wxControl::EscapeMnemonics(shown));
-  } else {
-    control.window->SetLabel(shown);
+  switch (control.kind) {
+    case ItemKind::Edit:
+      as<wxTextCtrl>(control).ChangeValue(shown);
+      break;
+    case ItemKind::ComboBox:
+    case ItemKind::ListBox:
+      entryHolder(control)->SetSelection(entryHolder(control)->FindString(shown, true));
+      break;
+    case ItemKind::Label:
+      // Such a text is data: an "&" in a path is no mnemonic.
+      as<Label>(control).set(text, wxControl::EscapeMnemonics(shown));
+      break;
+    default:
+      control.window->SetLabel(shown);
+      break;
   }
 }
 
 bool isChecked(const Control& control) {
-  if (auto* box = as<wxCheckBox>(control)) return box->GetValue();
-  if (auto* radio = as<wxRadioButton>(control)) return radio->GetValue();
-  return false;
+  if (control.kind == ItemKind::CheckBox) return as<wxCheckBox>(control).GetValue();
+  return control.kind == ItemKind::RadioButton && as<wxRadioButton>(control).GetValue();
 }
 
 void setCheckedOf(const Control& control, bool on) {
-  if (auto* box = as<wxCheckBox>(control)) {
-    box->SetValue(on);
-  } else if (auto* radio = as<wxRadioButton>(control)) {
+  if (control.kind == ItemKind::CheckBox) {
+    as<wxCheckBox>(control).SetValue(on);
+  } else if (control.kind == ItemKind::RadioButton) {
     if (on) {
-      radio->SetValue(true);
-    } else if (radio->GetValue()) {
+      as<wxRadioButton>(control).SetValue(true);
+    } else if (as<wxRadioButton>(control).GetValue() && control.noneOfRun) {
       control.noneOfRun->SetValue(true);
     }
   }
@@ -239,42 +258,43 @@ void setCheckedOf(const Control& control, bool on) {
 
 std::vector<std::string> entriesOf(const Control& control) {
   std::vector<std::string> entries;
-  if (auto* container = as<wxItemContainer>(control)) {
-    for (const auto& entry : container->GetStrings()) entries.push_back(fromWx(entry));
-  } else if (auto* tabs = as<wxNotebook>(control)) {
-    for (std::size_t i = 0; i < tabs->GetPageCount(); ++i) entries.push_back(fromWx(tabs->GetPageText(i)));
+  if (auto* holder = entryHolder(control)) {
+    for (const auto& entry : holder->GetStrings()) entries.push_back(fromWx(entry));
+  } else if (control.kind == ItemKind::Tabs) {
+    const auto& tabs = as<wxNotebook>(control);
+    for (std::size_t i = 0; i < tabs.GetPageCount(); ++i) entries.push_back(fromWx(tabs.GetPageText(i)));
   }
   return entries;
 }
 
 void setEntriesOf(const Control& control, const std::vector<std::string>& entries) {
-  auto* container = as<wxItemContainer>(control);
-  if (!container) return;
+  auto* holder = entryHolder(control);
+  if (!holder) return;
   wxArrayString strings;
   for (const auto& entry : entries) strings.push_back(toWx(entry));
-  container->Set(strings);
+  holder->Set(strings);
 }
 
 int selectionOf(const Control& control) {
-  if (auto* container = as<wxItemContainer>(control)) return container->GetSelection();
-  if (auto* tabs = as<wxNotebook>(control)) return tabs->GetSelection();
-  return -1;
+  if (auto* holder = entryHolder(control)) return holder->GetSelection();
+  return control.kind == ItemKind::Tabs ? as<wxNotebook>(control).GetSelection() : -1;
 }
 
 void selectIn(const Control& control, int index) {
-  if (auto* container = as<wxItemContainer>(control)) {
-    container->SetSelection(index);
-  } else if (auto* tabs = as<wxNotebook>(control)) {
-    const bool known = index >= 0 && static_cast<std::size_t>(index) < tabs->GetPageCount();
-    if (known) tabs->ChangeSelection(static_cast<std::size_t>(index));
+  if (auto* holder = entryHolder(control)) {
+    holder->SetSelection(index);
+  } else if (control.kind == ItemKind::Tabs) {
+    auto& tabs = as<wxNotebook>(control);
+    const bool known = index >= 0 && static_cast<std::size_t>(index) < tabs.GetPageCount();
+    if (known) tabs.ChangeSelection(static_cast<std::size_t>(index));
   }
 }
 
 void scrollToEndOf(const Control& control) {
-  auto* edit = as<wxTextCtrl>(control);
-  if (!edit) return;
-  edit->SetInsertionPointEnd();
-  edit->ShowPosition(edit->GetLastPosition());
+  if (control.kind != ItemKind::Edit) return;
+  auto& edit = as<wxTextCtrl>(control);
+  edit.SetInsertionPointEnd();
+  edit.ShowPosition(edit.GetLastPosition());
 }
 
 }  // namespace tarnwick::ui

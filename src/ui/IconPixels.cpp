@@ -76,7 +76,9 @@ Shade averageOver(int column, int row, int side) {
   constexpr int fine = 6;  // samples along each side of a pixel
   Shade sum{};
   for (int i = 0; i < fine * fine; ++i) {
-    const Spot spot{(column + (i % fine + 0.5) / fine) / side, (row + (i / fine + 0.5) / fine) / side};
+    const int across = i % fine;
+    const int down = i / fine;
+    const Spot spot{(column + (across + 0.5) / fine) / side, (row + (down + 0.5) / fine) / side};
     const Shade shade = shadeAt(spot);
     for (std::size_t part = 0; part < 3; ++part) sum[part] += shade[part] * shade[3];
     sum[3] += shade[3];

@@ -1,6 +1,6 @@
 """A person at the screen: sees windows and controls by their titles and labels, uses mouse, keyboard and clipboard.
 
-What is on the screen is read through the accessibility bus; everything that is done goes through the X server, so the
+What is on the screen is read through the accessibility bus (under Wine, by a small program); everything that is done goes through the X server, so the
 program cannot tell it from a real hand.
 """
 
@@ -57,9 +57,10 @@ def screenshot(path):
 def look():
     """All windows that show."""
     program = os.path.join(os.path.dirname(os.path.abspath(__file__)), "look.py")
+    command = [os.environ["WINE"], os.environ["TARNWICK_LOOK"]] if "TARNWICK_LOOK" in os.environ else [sys.executable, program]
     for _ in range(4):
         try:
-            done = subprocess.run([sys.executable, program], timeout=10, stdin=subprocess.DEVNULL,
+            done = subprocess.run(command, timeout=10, stdin=subprocess.DEVNULL,
                                   stdout=subprocess.PIPE, stderr=subprocess.DEVNULL)
         except subprocess.TimeoutExpired:
             continue
@@ -158,10 +159,14 @@ class Window:
     def write(self, text, index=0):
         """Replaces what stands in a field; letters of every kind."""
         self.field(index).click()
-        key("ctrl+a")
         put_on_clipboard(text)
-        key("ctrl+v")
-        wait_until(f"{text!r} in field {index}", lambda: self.field(index).text == text)
+
+        def pasted():
+            # Wine may take a moment to notice a new clipboard.
+            key("ctrl+a", "ctrl+v")
+            time.sleep(0.1)
+            return self.field(index).text == text
+        wait_until(f"{text!r} in field {index}", pasted)
 
     def activate(self):
         xdotool("windowactivate", "--sync", self.x_number())

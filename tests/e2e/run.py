@@ -16,7 +16,12 @@ import traceback
 import person
 import world
 
-MODULES = ["test_start", "test_compile", "test_console", "test_bad_input"]
+# Under scripts/with-wine.sh it is the Windows program that is tested.
+if "WINE" in os.environ:
+    import wine_world
+    MODULES, World = ["test_windows"], wine_world.World
+else:
+    MODULES, World = ["test_start", "test_compile", "test_console", "test_bad_input"], world.World
 
 
 class Skipped(Exception):
@@ -39,7 +44,7 @@ def run_one(name, function, project, pictures):
     begin = time.monotonic()
     outcome = "       OK"
     try:
-        with world.World(project) as scratch:
+        with World(project) as scratch:
             try:
                 function(scratch)
             except Skipped:
@@ -71,8 +76,9 @@ def main():
     project, parts = os.path.abspath(sys.argv[1]), sys.argv[2:]
     runtime = tempfile.mkdtemp(prefix="tarnwick-bus-")
     try:
-        world.start_bus(os.path.join(runtime, "run"))
-        pictures = os.path.join(project, "build", "e2e")
+        if "WINE" not in os.environ:
+            world.start_bus(os.path.join(runtime, "run"))
+        pictures = os.path.join(project, "build", "e2e-windows" if "WINE" in os.environ else "e2e")
         shutil.rmtree(pictures, ignore_errors=True)
         os.makedirs(pictures)
         outcomes = [run_one(name, function, project, pictures) for name, function in tests(parts)]

@@ -30,8 +30,12 @@ void ScriptedWindow::collect(const DialogItem& item, int radioGroup) {
   for (const auto& child : item.children) collect(child, group);
 }
 
-ScriptedWindow::Control& ScriptedWindow::at(int control) { return controls_.at(control); }
-const ScriptedWindow::Control& ScriptedWindow::at(int control) const { return controls_.at(control); }
+ScriptedWindow::Control& ScriptedWindow::at(int control) {
+  return controls_.at(control);
+}
+const ScriptedWindow::Control& ScriptedWindow::at(int control) const {
+  return controls_.at(control);
+}
 
 ScriptedWindow::Control* ScriptedWindow::usable(int control, const char* what) {
   const auto found = controls_.find(control);
@@ -72,16 +76,30 @@ void ScriptedWindow::choose(int control, int index) {
   handler_.onSelectionChanged(control);
 }
 
-std::string ScriptedWindow::toolTip(int control) const { return at(control).toolTip; }
+std::string ScriptedWindow::toolTip(int control) const {
+  return at(control).toolTip;
+}
 
-std::vector<std::string> ScriptedWindow::tabLabels(int tabs) const { return at(tabs).entries; }
+std::vector<std::string> ScriptedWindow::tabLabels(int tabs) const {
+  return at(tabs).entries;
+}
 
-ScriptedWindow& ScriptedWindow::page(int tabs, int index) { return *pages_.at(tabs).at(static_cast<std::size_t>(index)); }
-ScriptedWindow& ScriptedWindow::child(int slot) { return *children_.at(slot); }
+ScriptedWindow& ScriptedWindow::page(int tabs, int index) {
+  return *pages_.at(tabs).at(static_cast<std::size_t>(index));
+}
+ScriptedWindow& ScriptedWindow::child(int slot) {
+  return *children_.at(slot);
+}
 
-std::string ScriptedWindow::text(int control) const { return at(control).text; }
-void ScriptedWindow::setText(int control, const std::string& text) { at(control).text = text; }
-bool ScriptedWindow::checked(int control) const { return at(control).checked; }
+std::string ScriptedWindow::text(int control) const {
+  return at(control).text;
+}
+void ScriptedWindow::setText(int control, const std::string& text) {
+  at(control).text = text;
+}
+bool ScriptedWindow::checked(int control) const {
+  return at(control).checked;
+}
 
 void ScriptedWindow::setChecked(int control, bool on) {
   Control& changed = at(control);
@@ -93,19 +111,45 @@ void ScriptedWindow::setChecked(int control, bool on) {
   changed.checked = on;
 }
 
-bool ScriptedWindow::enabled(int control) const { return at(control).enabled; }
-void ScriptedWindow::enable(int control, bool on) { at(control).enabled = on; }
-bool ScriptedWindow::visible(int control) const { return at(control).visible; }
-void ScriptedWindow::show(int control, bool on) { at(control).visible = on; }
-Rect ScriptedWindow::rect(int control) const { return at(control).rect; }
-void ScriptedWindow::setRect(int control, const Rect& rect) { at(control).rect = rect; }
-void ScriptedWindow::focus(int control) { at(control); }
-void ScriptedWindow::scrollToEnd(int control) { at(control).shownToEnd = true; }
-void ScriptedWindow::setToolTip(int control, const std::string& text) { at(control).toolTip = text; }
-std::vector<std::string> ScriptedWindow::entries(int control) const { return at(control).entries; }
-void ScriptedWindow::setEntries(int control, const std::vector<std::string>& entries) { at(control).entries = entries; }
-int ScriptedWindow::selection(int control) const { return at(control).selection; }
-void ScriptedWindow::select(int control, int index) { at(control).selection = index; }
+bool ScriptedWindow::enabled(int control) const {
+  return at(control).enabled;
+}
+void ScriptedWindow::enable(int control, bool on) {
+  at(control).enabled = on;
+}
+bool ScriptedWindow::visible(int control) const {
+  return at(control).visible;
+}
+void ScriptedWindow::show(int control, bool on) {
+  at(control).visible = on;
+}
+Rect ScriptedWindow::rect(int control) const {
+  return at(control).rect;
+}
+void ScriptedWindow::setRect(int control, const Rect& rect) {
+  at(control).rect = rect;
+}
+void ScriptedWindow::focus(int control) {
+  at(control);
+}
+void ScriptedWindow::scrollToEnd(int control) {
+  at(control).shownToEnd = true;
+}
+void ScriptedWindow::setToolTip(int control, const std::string& text) {
+  at(control).toolTip = text;
+}
+std::vector<std::string> ScriptedWindow::entries(int control) const {
+  return at(control).entries;
+}
+void ScriptedWindow::setEntries(int control, const std::vector<std::string>& entries) {
+  at(control).entries = entries;
+}
+int ScriptedWindow::selection(int control) const {
+  return at(control).selection;
+}
+void ScriptedWindow::select(int control, int index) {
+  at(control).selection = index;
+}
 
 DialogWindow& ScriptedWindow::addTabPage(int tabs, const std::string& label, const DialogLayout& layout,
                                          DialogHandler& handler) {
@@ -134,7 +178,9 @@ ScriptedDesktop::~ScriptedDesktop() {
   for (const auto& step : steps_) ADD_FAILURE() << "never came: " << step.kind << " \"" << step.text << "\"";
 }
 
-void ScriptedDesktop::expectMessage(const std::string& text) { steps_.push_back({"message", text, {}, false, {}}); }
+void ScriptedDesktop::expectMessage(const std::string& text) {
+  steps_.push_back({"message", text, {}, false, {}});
+}
 void ScriptedDesktop::expectQuestion(const std::string& text, bool answer) {
   steps_.push_back({"question", text, {}, answer, {}});
 }
@@ -166,7 +212,9 @@ std::optional<ScriptedDesktop::Step> ScriptedDesktop::take(const std::string& ki
   return step;
 }
 
-void ScriptedDesktop::message(const std::string& text) { take("message", text); }
+void ScriptedDesktop::message(const std::string& text) {
+  take("message", text);
+}
 
 bool ScriptedDesktop::ask(const std::string& text) {
   const auto step = take("question", text);

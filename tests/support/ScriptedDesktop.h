@@ -1,5 +1,7 @@
 #pragma once
 
+#include "dialogbase/Desktop.h"
+
 #include <deque>
 #include <functional>
 #include <map>
@@ -8,8 +10,6 @@
 #include <optional>
 #include <string>
 #include <vector>
-
-#include "dialogbase/Desktop.h"
 
 namespace tarnwick::test {
 

@@ -1,10 +1,5 @@
 #pragma once
 
-#include <gtest/gtest.h>
-
-#include <memory>
-#include <string>
-
 #include "base/ProgramInfo.h"
 #include "base/TempFile.h"
 #include "platform/FileSystem.h"
@@ -13,6 +8,10 @@
 #include "settings/Settings.h"
 #include "support/ScriptedDesktop.h"
 #include "support/TestProgram.h"
+
+#include <gtest/gtest.h>
+#include <memory>
+#include <string>
 
 namespace tarnwick::test {
 

@@ -1,4 +1,5 @@
 #include "platform/Characters.h"
+#include "ui/FakeConsole.h"
 #include "ui/Text.h"
 #include "ui/WindowTest.h"
 #include "ui/WxConsoleSurface.h"
@@ -11,80 +12,13 @@
 
 #include <atomic>
 #include <chrono>
-#include <set>
-#include <sstream>
 #include <thread>
 
 namespace tarnwick::test {
 
 namespace {
 
-using Heard = std::vector<std::string>;
-
 constexpr Colour red{200, 0, 0};
-
-/// A console's rules that write down what they hear.
-class FakeConsole : public ConsoleFrame, public ConsoleSurfaceClient {
- public:
-  const MenuBar& menuBar() const override { return consoleMenuBar(); }
-  const std::vector<Accelerator>& accelerators() const override { return consoleAccelerators(); }
-  std::string title() const override { return "Console under test"; }
-  bool commandEnabled(int command) const override { return disabled.count(command) == 0; }
-  void onCommand(int command) override { heard.push_back("command " + std::to_string(command)); }
-  ConsoleSurfaceClient& view() override { return *this; }
-
-  void onStart(ConsoleSurface& opened) override {
-    surface = &opened;
-    sizeAtStart = opened.clientSize();
-  }
-  void paint(ConsolePainter& painter) override {
-    ++paints;
-    if (onPaint) onPaint(painter);
-  }
-  void onWake() override { wakes.push_back(std::chrono::steady_clock::now()); }
-  void onResized() override { ++resized; }
-  bool onKey(ConsoleKey key, int modifiers) override {
-    if (key == ConsoleKey::Other) return false;
-    heard.push_back("key " + std::to_string(static_cast<int>(key)) + " " + std::to_string(modifiers));
-    return true;
-  }
-  void onCharacter(const std::string& character, int count) override {
-    std::ostringstream shown;
-    for (const char c : character) {
-      const int byte = static_cast<unsigned char>(c);
-      if (byte < 32) {
-        shown << '<' << byte << '>';
-      } else {
-        shown << c;
-      }
-    }
-    for (int i = 0; i < count; ++i) heard.push_back("char " + shown.str());
-  }
-  void onLeftDown(const MouseState& mouse) override { hearMouse("down", mouse); }
-  void onLeftUp(const MouseState& mouse) override { hearMouse("up", mouse); }
-  void onMouseMove(const MouseState&) override {}
-  void onDoubleClick(const MouseState& mouse) override { hearMouse("double", mouse); }
-  void onRightDown(const MouseState& mouse) override { hearMouse("right", mouse); }
-  void onClose() override {
-    heard.emplace_back("closed");
-    surface = nullptr;
-  }
-
-  ConsoleSurface* surface = nullptr;
-  Point sizeAtStart;
-  int paints = 0;
-  int resized = 0;
-  std::set<int> disabled;
-  std::vector<std::chrono::steady_clock::time_point> wakes;
-  Heard heard;
-  std::function<void(ConsolePainter&)> onPaint;
-
- private:
-  void hearMouse(const std::string& what, const MouseState& mouse) {
-    heard.push_back(what + " " + std::to_string(mouse.at.x) + "," + std::to_string(mouse.at.y) +
-                    (mouse.shift ? " shift" : "") + (mouse.control ? " control" : ""));
-  }
-};
 
 class ConsoleTest : public WindowTest {
  protected:

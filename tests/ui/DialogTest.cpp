@@ -1,7 +1,6 @@
 #include "base/Tarnwickexception.h"
-#include "ui/SampleDialog.h"
+#include "ui/DialogFixture.h"
 #include "ui/Text.h"
-#include "ui/WindowTest.h"
 
 #include <wx/button.h>
 #include <wx/listbox.h>
@@ -13,41 +12,6 @@
 #include <stdexcept>
 
 namespace tarnwick::test {
-
-namespace {
-
-using Heard = std::vector<std::string>;
-
-class DialogTest : public WindowTest {
- protected:
-  /// Opens the sample dialog, plays the steps and closes it by Cancel.
-  int play() {
-    rules.onPress[IDOK_CONTROL] = [this] { rules.window->close(IDOK_CONTROL); };
-    rules.onPress[IDCANCEL_CONTROL] = [this] { rules.window->close(IDCANCEL_CONTROL); };
-    return desktop().runDialog(sampleLayout(), rules);
-  }
-
-  void fill(DialogWindow& window) {
-    window.addTabPage(SAMPLE_TABS, " First page ", samplePageLayout(), firstPage);
-    window.addTabPage(SAMPLE_TABS, "  Second  ", samplePageLayout(), secondPage);
-    window.addChild(SAMPLE_SLOT, sampleBarLayout(), bar);
-  }
-
-  void thenClose() {
-    steps.then("close", [this] { rules.window->close(IDCANCEL_CONTROL); });
-  }
-
-  void waitForDialog() {
-    steps.until("the dialog shows", [this] { return openDialogs() == 1 && top().dialog().IsActive(); });
-  }
-
-  Recorder rules;
-  Recorder firstPage;
-  Recorder secondPage;
-  Recorder bar;
-};
-
-}  // namespace
 
 TEST_F(DialogTest, EveryKindOfControlShowsWholeAndInItsPlace) {
   rules.onInitialise = [this](DialogWindow& window) { fill(window); };
@@ -441,98 +405,6 @@ TEST_F(DialogTest, ToolTipsAndTitles) {
   });
   thenClose();
   play();
-}
-
-TEST_F(DialogTest, PagesHearTheirOwnControlsAndCloseTheWholeDialog) {
-  rules.onInitialise = [this](DialogWindow& window) { fill(window); };
-  firstPage.onPress[2] = [this] { firstPage.window->close(77); };
-  waitForDialog();
-  steps.then("use", [this] {
-    type(*top().children()[0], 1, "on the page");
-    press(*top().children()[2], 3);
-    press(*top().children()[0], 2);
-  });
-  EXPECT_EQ(play(), 77);
-  EXPECT_EQ(firstPage.heard, (Heard{"text 1", "command 2", "detached"}));
-  EXPECT_EQ(secondPage.heard, Heard{"detached"});
-  EXPECT_EQ(bar.heard, (Heard{"command 3", "detached"}));
-  EXPECT_EQ(rules.heard, Heard{"detached"});
-}
-
-TEST_F(DialogTest, AChildWindowHidesAndShows) {
-  rules.onInitialise = [this](DialogWindow& window) { fill(window); };
-  waitForDialog();
-  steps.then("hide", [this] {
-    bar.window->showWindow(false);
-    EXPECT_FALSE(top().children()[2]->surface().IsShown());
-    bar.window->showWindow(true);
-    EXPECT_TRUE(top().children()[2]->surface().IsShownOnScreen());
-  });
-  thenClose();
-  play();
-}
-
-TEST_F(DialogTest, AListSpeaksOfDoubleClicks) {
-  rules.onInitialise = [](DialogWindow& window) { window.setEntries(SAMPLE_LIST, {"one"}); };
-  waitForDialog();
-  steps.then("press twice", [this] {
-    wxWindow& list = *top().windowOf(SAMPLE_LIST);
-    wxCommandEvent event(wxEVT_LISTBOX_DCLICK, list.GetId());
-    list.ProcessWindowEvent(event);
-    EXPECT_EQ(rules.heard, Heard{"double 111"});
-  });
-  thenClose();
-  play();
-}
-
-TEST_F(DialogTest, AnOuterDialogThatIsToCloseWaitsForTheInnerOne) {
-  Recorder inner;
-  int innerResult = 0;
-  rules.onPress[SAMPLE_BUTTON] = [&] { innerResult = desktop().runDialog(smallLayout("Inner"), inner); };
-  waitForDialog();
-  steps.then("open the inner one", [this] { press(top(), SAMPLE_BUTTON); });
-  steps.until("the inner one shows", [this] { return openDialogs() == 2; });
-  steps.then("close the outer one", [this] { rules.window->close(5); });
-  steps.settle(5);
-  steps.then("look", [&] {
-    EXPECT_EQ(openDialogs(), 2u);
-    EXPECT_NE(inner.window, nullptr);
-    inner.window->close(3);
-  });
-  EXPECT_EQ(play(), 5);
-  EXPECT_EQ(innerResult, 3);
-  EXPECT_EQ(inner.heard, Heard{"detached"});
-  EXPECT_EQ(rules.heard, (Heard{"command 114", "detached"}));
-}
-
-TEST_F(DialogTest, ThreeDialogsDeepCloseInnermostFirst) {
-  Recorder second;
-  Recorder third;
-  std::vector<int> results;
-  rules.onPress[SAMPLE_BUTTON] = [&] { results.push_back(desktop().runDialog(smallLayout("Second"), second)); };
-  second.onPress[IDOK_CONTROL] = [&] { results.push_back(desktop().runDialog(smallLayout("Third"), third)); };
-  waitForDialog();
-  steps.then("second", [this] { press(top(), SAMPLE_BUTTON); });
-  steps.until("it shows", [this] { return openDialogs() == 2; });
-  steps.then("third", [this] { press(top(), IDOK_CONTROL); });
-  steps.until("it shows", [this] { return openDialogs() == 3; });
-  steps.then("close all", [&] {
-    rules.window->close(10);
-    second.window->close(20);
-    third.window->close(30);
-  });
-  EXPECT_EQ(play(), 10);
-  EXPECT_EQ(results, (std::vector<int>{30, 20}));
-}
-
-TEST_F(DialogTest, TheFirstResultCounts) {
-  waitForDialog();
-  steps.then("close twice", [this] {
-    DialogWindow& window = *rules.window;
-    window.close(8);
-    window.close(9);
-  });
-  EXPECT_EQ(play(), 8);
 }
 
 }  // namespace tarnwick::test

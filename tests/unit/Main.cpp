@@ -1,3 +1,5 @@
 #include "support/TestProgram.h"
 
-int main(int argc, char** argv) { return tarnwick::test::runTests(argc, argv); }
+int main(int argc, char** argv) {
+  return tarnwick::test::runTests(argc, argv);
+}

@@ -2,16 +2,14 @@
 
 #include "platform/FileSystem.h"
 
-#include "platform/FileSystem.h"
-
 #include <canberra.h>
-#include <unistd.h>
 #include <glib.h>
 
 #include <atomic>
 #include <string>
 #include <system_error>
 #include <thread>
+#include <unistd.h>
 #include <vector>
 
 namespace tarnwick::platform {

@@ -1,7 +1,8 @@
 #include "ui/BusyLoop.h"
 
-#include <gtk/gtk.h>
 #include <wx/evtloop.h>
+
+#include <gtk/gtk.h>
 
 namespace tarnwick::ui {
 

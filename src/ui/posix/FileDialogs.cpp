@@ -15,7 +15,11 @@ std::string eitherCase(const std::string& pattern) {
     const std::string letter(1, c);
     const std::string lower = lowerCase(letter);
     const std::string upper = upperCase(letter);
-    result += lower == upper ? letter : '[' + lower + upper + ']';
+    if (lower == upper) {
+      result += letter;
+    } else {
+      result.append(1, '[').append(lower).append(upper).append(1, ']');
+    }
   }
   return result;
 }

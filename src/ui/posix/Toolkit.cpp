@@ -1,6 +1,5 @@
 #include "ui/Toolkit.h"
 
-#include <gtk/gtk.h>
 #include <wx/bitmap.h>
 #include <wx/dc.h>
 #include <wx/notebook.h>
@@ -8,6 +7,7 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <gtk/gtk.h>
 #include <string_view>
 
 namespace tarnwick::ui {

@@ -1,10 +1,9 @@
+#include "PanelFixture.h"
 #include "app/FileView.h"
 
 #include <algorithm>
 #include <chrono>
 #include <thread>
-
-#include "PanelFixture.h"
 
 namespace tarnwick::test {
 namespace {
@@ -37,11 +36,9 @@ class FileViewTest : public PanelFixture {
 TEST_F(FileViewTest, ShowsItsLabelsAndToolTips) {
   saveEarlierRun();
   runPanel([](ScriptedWindow&, ScriptedWindow& panel) {
-    EXPECT_EQ(panel.tabLabels(TABS),
-              (std::vector<std::string>{" Main program ", "  Applet  ", "  Utilities  "}));
-    const char* const labels[3][3] = {{"Browse", "jdb debug", "java"},
-                                      {"Browse", "appletdebug", "appletviewer"},
-                                      {"jar", "javadoc", "WinShortcut"}};
+    EXPECT_EQ(panel.tabLabels(TABS), (std::vector<std::string>{" Main program ", "  Applet  ", "  Utilities  "}));
+    const char* const labels[3][3] = {
+        {"Browse", "jdb debug", "java"}, {"Browse", "appletdebug", "appletviewer"}, {"jar", "javadoc", "WinShortcut"}};
     for (int tab = 0; tab < 3; ++tab) {
       EXPECT_EQ(panel.page(TABS, tab).text(LEFT), labels[tab][0]);
       EXPECT_EQ(panel.page(TABS, tab).text(MIDDLE), labels[tab][1]);
@@ -51,8 +48,7 @@ TEST_F(FileViewTest, ShowsItsLabelsAndToolTips) {
     EXPECT_EQ(main.toolTip(LEFT), "Select executable class file");
     EXPECT_EQ(main.toolTip(MIDDLE), "Execute class file under debugger control");
     EXPECT_EQ(main.toolTip(RIGHT), "Execute class file");
-    EXPECT_EQ(main.toolTip(FIELD),
-              "File specification for executable class, optionally followed by runtime arguments");
+    EXPECT_EQ(main.toolTip(FIELD), "File specification for executable class, optionally followed by runtime arguments");
     auto& applet = panel.page(TABS, 1);
     EXPECT_EQ(applet.toolTip(LEFT), "Select HTML file");
     EXPECT_EQ(applet.toolTip(MIDDLE), "Start appletviewer under debugger control");
@@ -131,6 +127,76 @@ TEST_F(FileViewTest, SoundsCanBeSwitchedOff) {
     exit(panel);
   });
   EXPECT_TRUE(desktop_.alerts().empty());
+}
+
+TEST_F(FileViewTest, AnythingTheCompilerWritesSoundsTheExclamationAndShowsTheLog) {
+  for (const int sound : {1, 0}) {
+    saveEarlierRun([&](Settings& earlier) {
+      earlier.javacSoundOnError = sound;
+      // The stand-in plays the user's editor.
+      earlier.displayWithNotepad = 0;
+      earlier.editorTarget = standInFolder() + platform::toolFileName("javadoc");
+    });
+    const std::string source = makeFile("A.java");
+    writeFile(scratch_.file("script"), "err A.java:1: warning: deprecated\n");
+    runPanel([&](ScriptedWindow&, ScriptedWindow& panel) {
+      panel.type(SOURCE, quoted(source));
+      panel.press(JAVAC);
+      exit(panel);
+    });
+    const std::string recorded = recordedUpTo(log_.path());
+    EXPECT_NE(recorded.find(log_.path()), std::string::npos) << recorded;
+    EXPECT_EQ(desktop_.alerts(), (std::vector<AlertSound>{AlertSound::Exclamation})) << "only of the first run";
+    platform::deleteFile(scratch_.file("record"));
+  }
+}
+
+TEST_F(FileViewTest, AnUnknownToolsFolderIsAskedForAndThenTold) {
+  saveEarlierRun([](Settings& earlier) { earlier.javaPath.clear(); });
+  const std::string source = makeFile("A.java");
+  runPanel([&](ScriptedWindow&, ScriptedWindow& panel) {
+    panel.type(SOURCE, quoted(source));
+    desktop_.expectDialog("Tarnwick settings", [](ScriptedWindow& window) { window.press(IDCANCEL_CONTROL); });
+    desktop_.expectMessage(platform::localText("No path to javac.exe and other tools available from settings"));
+    panel.press(JAVAC);
+    exit(panel);
+  });
+  EXPECT_TRUE(desktop_.alerts().empty());
+  EXPECT_EQ(saved("FILEVIEW_SOURCE"), source + ";" + userFolder()) << "the bookkeeping still runs";
+}
+
+TEST_F(FileViewTest, BlanksBehindANameAreNoPartOfIt) {
+  saveEarlierRun();
+  const std::string source = makeFile("A.java");
+  runPanel([&](ScriptedWindow&, ScriptedWindow& panel) {
+    panel.type(SOURCE, "  " + quoted(source) + "   ");
+    panel.press(JAVAC);
+    exit(panel);
+  });
+  EXPECT_EQ(desktop_.alerts(), (std::vector<AlertSound>{AlertSound::Asterisk}));
+  EXPECT_EQ(saved("FILEVIEW_SOURCE"), source + ";" + userFolder());
+}
+
+TEST_F(FileViewTest, ANameThatBeginsWithAMinusIsNoOption) {
+  saveEarlierRun();
+  makeFile("-A.java");
+  platform::changeDirectory(userFolder());
+  const std::string whole = Filename(platform::currentDirectory(), "-A.java").fullName();
+  runPanel([&](ScriptedWindow&, ScriptedWindow& panel) {
+    panel.type(SOURCE, "-A.java");
+    panel.press(JAVAC);
+    exit(panel);
+  });
+  EXPECT_NE(contentOf(scratch_.file("record")).find("\n" + whole + "\n"), std::string::npos);
+}
+
+TEST_F(FileViewTest, TheUtilitiesTabMayBeTheOneThatOpens) {
+  saveEarlierRun([](Settings& earlier) { earlier.fileviewTab = 2; });
+  runPanel([](ScriptedWindow&, ScriptedWindow& panel) {
+    EXPECT_EQ(panel.selection(TABS), 2);
+    EXPECT_FALSE(panel.page(TABS, 2).visible(FIELD));
+    exit(panel);
+  });
 }
 
 TEST_F(FileViewTest, NoSourceGivenIsTold) {

@@ -1,10 +1,10 @@
 #pragma once
 
-#include <functional>
-#include <string>
-
 #include "app/TarnwickDlg.h"
 #include "support/SettingsFixture.h"
+
+#include <functional>
+#include <string>
 
 namespace tarnwick::test {
 

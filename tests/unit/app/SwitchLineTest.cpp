@@ -1,7 +1,6 @@
 #include "app/SwitchLine.h"
 
 #include <gtest/gtest.h>
-
 #include <vector>
 
 namespace tarnwick::test {

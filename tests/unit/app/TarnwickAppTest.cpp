@@ -1,5 +1,4 @@
 #include "app/TarnwickApp.h"
-
 #include "support/SettingsFixture.h"
 
 namespace tarnwick::test {

@@ -1,6 +1,5 @@
-#include "app/TarnwickDlg.h"
-
 #include "PanelFixture.h"
+#include "app/TarnwickDlg.h"
 
 namespace tarnwick::test {
 namespace {

@@ -1,8 +1,7 @@
 #include "dialogbase/DirDialog.h"
+#include "support/ScriptedDesktop.h"
 
 #include <gtest/gtest.h>
-
-#include "support/ScriptedDesktop.h"
 
 namespace tarnwick::test {
 namespace {
@@ -13,7 +12,9 @@ std::string browsed(std::optional<std::string> answer) {
   return DirDialog(desktop).browse();
 }
 
-TEST(DirDialog, CancelGivesTheEmptyText) { EXPECT_EQ(browsed(std::nullopt), ""); }
+TEST(DirDialog, CancelGivesTheEmptyText) {
+  EXPECT_EQ(browsed(std::nullopt), "");
+}
 
 TEST(DirDialog, AFolderWithABlankIsQuoted) {
   EXPECT_EQ(browsed("C:\\a b"), "\"C:\\a b\"");

@@ -1,9 +1,8 @@
+#include "base/TokenString.h"
 #include "dialogbase/ToolTipDlg.h"
+#include "support/ScriptedDesktop.h"
 
 #include <gtest/gtest.h>
-
-#include "base/TokenString.h"
-#include "support/ScriptedDesktop.h"
 
 namespace tarnwick::test {
 namespace {
@@ -89,12 +88,10 @@ TEST_F(ToolTipDlgTest, MovesTheRowsOfItsPageAndNoOthers) {
   std::string shown = "shown", other = "other";
   int flag = 1, number = 1;
   TokenString list("x;y", ';', ']');
-  const TagRow rows[] = {{"A", TAG_STRING, &shown, nullptr, 0, 7, 7, 10},
-                         {"B", TAG_BOOL, &flag, nullptr, 0, 7, 7, 11},
-                         {"C", TAG_STRINGABLE, &list, nullptr, 0, 7, 7, 12},
-                         {"D", TAG_STRING, &other, nullptr, 0, 8, 7, 10},
-                         {"E", TAG_INT, &number, nullptr, 0, 8, 7, 11},
-                         {"", TAG_END, nullptr, nullptr, 0, 0, 0, 0}};
+  const TagRow rows[] = {
+      {"A", TAG_STRING, &shown, nullptr, 0, 7, 7, 10},    {"B", TAG_BOOL, &flag, nullptr, 0, 7, 7, 11},
+      {"C", TAG_STRINGABLE, &list, nullptr, 0, 7, 7, 12}, {"D", TAG_STRING, &other, nullptr, 0, 8, 7, 10},
+      {"E", TAG_INT, &number, nullptr, 0, 8, 7, 11},      {"", TAG_END, nullptr, nullptr, 0, 0, 0, 0}};
   dialog_.useRows(rows);
   ScriptedWindow window(sample, dialog_);
   dialog_.initialise(window);

@@ -1,8 +1,7 @@
 #include "settings/OptionList.h"
+#include "support/ScriptedDesktop.h"
 
 #include <gtest/gtest.h>
-
-#include "support/ScriptedDesktop.h"
 
 namespace tarnwick::test {
 namespace {

@@ -1,8 +1,7 @@
 #include "settings/PathRules.h"
+#include "support/SettingsFixture.h"
 
 #include <gtest/gtest.h>
-
-#include "support/SettingsFixture.h"
 
 namespace tarnwick::test {
 namespace {

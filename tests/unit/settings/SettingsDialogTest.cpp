@@ -1,7 +1,7 @@
-#include <gtest/gtest.h>
-
 #include "settings/JdkDiscovery.h"
 #include "support/SettingsFixture.h"
+
+#include <gtest/gtest.h>
 
 namespace tarnwick::test {
 namespace {
@@ -30,8 +30,7 @@ TEST_F(SettingsDialogTest, OpensOnTheToolsPageWithItsValues) {
     EXPECT_EQ(page.toolTip(WITH_NOTEPAD), "Display compiler (and other) diagnostics with the Windows Notepad");
     EXPECT_EQ(page.toolTip(WITH_EDITOR),
               "Display compiler (and other) diagnostics with the editor you defined for editing source files");
-    EXPECT_EQ(page.toolTip(1204),
-              "Create an icon on the Windows desktop. A double click on it will start Tarnwick.");
+    EXPECT_EQ(page.toolTip(1204), "Create an icon on the Windows desktop. A double click on it will start Tarnwick.");
     EXPECT_EQ(page.toolTip(1205), "Create an entry in the Windows startmenu tree that will start Tarnwick.");
     EXPECT_EQ(window.toolTip(IDOK_CONTROL), "Apply new settings and close this window");
     EXPECT_EQ(window.toolTip(IDCANCEL_CONTROL), "Continue with the previously active settings");

@@ -1,7 +1,7 @@
 // How the settings reach the disk and come back.
-#include <gtest/gtest.h>
-
 #include "support/SettingsFixture.h"
+
+#include <gtest/gtest.h>
 
 namespace tarnwick::test {
 namespace {
@@ -31,8 +31,9 @@ TEST_F(SettingsFileTest, TheDefaultConfigurationByteForByte) {
       "JAVA_SYSTEMASSERTENABLE  OFF\nJAVA_SYSTEMASSERTDISABLE  OFF\nJAVA_GARBAGECOLLECTOR \nJDB_LAUNCH  ON\n"
       "JAVA_XRUNHPROF \nJAVA_PROPERTY \nJAVA_XMS \nJAVA_XMX \nJAVA_XSS \nAPPLETV_J_OPTION \nAPPLETV_ENCODING \n"
       "LAST_JAR_ARCHIVE \nLAST_JAR_BASEFOLDER \nJAR_OPEN_AS_ZIP  ON\nLAST_PROJECT_FILE \nFILEVIEW_TAB  0\n"
-      "FILEVIEW_SOURCE  ;\nFILEVIEW_CLASS  ;\nFILEVIEW_HTML  ;\nFUNCTIONKEYS  " + keys + "\n" +
-      "HELPFILE  " + programFolder() + "usersguide.htm\nWINDOW_POSITION  \nPERSONAL_TEMPLATES  \n"
+      "FILEVIEW_SOURCE  ;\nFILEVIEW_CLASS  ;\nFILEVIEW_HTML  ;\nFUNCTIONKEYS  " +
+      keys + "\n" + "HELPFILE  " + programFolder() +
+      "usersguide.htm\nWINDOW_POSITION  \nPERSONAL_TEMPLATES  \n"
       "TARNWICK_VERSION  Tarnwick V4.7a\nJDOC_OVERVIEW \nJDOC_LOCALE \nJDOC_ENCODING \nJDOC_JOPTION \n"
       "JDOC_PUBLIC  OFF\nJDOC_PROTECTED  OFF\nJDOC_PRIVATE  OFF\nJDOC_PACKAGE  OFF\nJDOC_VERBOSE  OFF\n"
       "JDOC_QUIET  OFF\nJDOC_PACKAGELIST \nJDOC_DOCLETPATH \nJDOC_DOCLETFILE \nJDOC_DOCLETOPTIONS \n"
@@ -78,7 +79,9 @@ TEST_F(SettingsFileTest, TheGuidesLocationIsKeptFromTheFile) {
   EXPECT_EQ(settings().helpFile, "there");
 }
 
-TEST_F(SettingsFileTest, NoConfigurationAnywhereIsALostFile) { EXPECT_EQ(readDefault(settings()), READ_FILE_LOST); }
+TEST_F(SettingsFileTest, NoConfigurationAnywhereIsALostFile) {
+  EXPECT_EQ(readDefault(settings()), READ_FILE_LOST);
+}
 
 TEST_F(SettingsFileTest, TheFileBesideTheProgramIsReadWhereThereIsNoOther) {
   writeFile(programFolder() + defaultConfigurationName, "JAVA_XMS  64m\n");
@@ -159,8 +162,8 @@ TEST_F(RelocationTest, AFailedSaveLeadsToAnotherFolder) {
   const std::string other = scratch_.file("other place");
   platform::makeFolders(other);
   desktop_.expectDialog(title, [&](ScriptedWindow& window) {
-    EXPECT_EQ(window.text(1167), "Tarnwick could not write configuration data to the default location:\n" +
-                                     configFile());
+    EXPECT_EQ(window.text(1167),
+              "Tarnwick could not write configuration data to the default location:\n" + configFile());
     EXPECT_EQ(window.text(1165),
               "The new definition will be retained in the environment variable TARNWICK_CFGDIR until Tarnwick is "
               "terminated.");

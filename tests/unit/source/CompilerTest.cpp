@@ -1,8 +1,7 @@
 #include "source/Compiler.h"
+#include "support/SettingsFixture.h"
 
 #include <gtest/gtest.h>
-
-#include "support/SettingsFixture.h"
 
 namespace tarnwick::test {
 namespace {
@@ -26,7 +25,9 @@ class CompilerTest : public SettingsFixture {
   std::string compilerFile() { return settings().javaPath + platform::toolFileName("javac"); }
 };
 
-TEST_F(CompilerTest, TheDefaults) { EXPECT_EQ(command(), "javac -d . -g -classpath ."); }
+TEST_F(CompilerTest, TheDefaults) {
+  EXPECT_EQ(command(), "javac -d . -g -classpath .");
+}
 
 TEST_F(CompilerTest, EveryArgumentInItsPlace) {
   Settings& s = settings();
@@ -99,8 +100,7 @@ TEST_F(CompilerTest, AnUnknownFolderOpensTheSettings) {
     Compiler compiler(settings(), nullptr);
     FAIL() << "no exception";
   } catch (const Compiler::CannotCompileE& failure) {
-    EXPECT_EQ(failure.message,
-              platform::localText("No path to javac.exe and other tools available from settings"));
+    EXPECT_EQ(failure.message, platform::localText("No path to javac.exe and other tools available from settings"));
   }
 }
 

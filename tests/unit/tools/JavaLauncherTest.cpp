@@ -1,10 +1,8 @@
+#include "support/SettingsFixture.h"
 #include "tools/JavaLauncher.h"
 
-#include <gtest/gtest.h>
-
 #include <algorithm>
-
-#include "support/SettingsFixture.h"
+#include <gtest/gtest.h>
 
 namespace tarnwick::test {
 namespace {
@@ -31,10 +29,10 @@ class JavaLauncherTest : public SettingsFixture {
 };
 
 TEST_F(JavaLauncherTest, TheSwitchesOfThePlainestRun) {
-  EXPECT_EQ(arguments(), (Words{"Tarnwick", "\\/DEFAULTDIR=" + userFolder() + "\\/",
-                                "\\/EXEFILE=" + settings().javaPath + platform::toolFileName("java") + "\\/",
-                                "\\/TITLE=My Class\\/", "\\/CFG=" + configFile() + "\\/", "\\/RUN=", "-classpath .",
-                                "My Class"}));
+  EXPECT_EQ(arguments(),
+            (Words{"Tarnwick", "\\/DEFAULTDIR=" + userFolder() + "\\/",
+                   "\\/EXEFILE=" + settings().javaPath + platform::toolFileName("java") + "\\/", "\\/TITLE=My Class\\/",
+                   "\\/CFG=" + configFile() + "\\/", "\\/RUN=", "-classpath .", "My Class"}));
 }
 
 TEST_F(JavaLauncherTest, AnOpenProjectIsTheConfiguration) {

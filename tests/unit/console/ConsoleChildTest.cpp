@@ -107,6 +107,7 @@ TEST_F(ConsoleChildTest, TheEndIsTold) {
 TEST_F(ConsoleChildTest, TheBannersPaintingIsAskedFor) {
   openRunning();
   child->out("x");
+  ASSERT_TRUE(until([&] { return shows("x"); }));
   child->end();
   ASSERT_TRUE(until([&] { return bannerShows() && view->childState() == 0; }));
   ASSERT_TRUE(until([&] { return surface.allInvalidated > 0; }));
@@ -131,13 +132,13 @@ TEST_F(ConsoleChildTest, AChildThatSaidNothingLeavesNoConsoleBehind) {
 }
 
 TEST_F(ConsoleChildTest, TheBannerWaitsUntilTheOutputHasSettled) {
-  program.timing.settle = milliseconds(60);
+  program.timing.settle = milliseconds(250);
   openRunning();
   child->out("a");
   child->end(false);
   const auto begin = Clock::now();
   int said = 1;
-  while (Clock::now() - begin < milliseconds(400)) {
+  while (Clock::now() - begin < milliseconds(800)) {
     child->out("a");
     ++said;
     std::this_thread::sleep_for(milliseconds(10));
@@ -313,6 +314,7 @@ TEST_F(ConsoleChildTest, WhatIsTypedBeforeTheStartWaitsForIt) {
 TEST_F(ConsoleChildTest, AfterTheEndNothingIsWritten) {
   openRunning();
   child->out("x");
+  ASSERT_TRUE(until([&] { return shows("x"); }));
   child->end();
   ASSERT_TRUE(until([&] { return ended(); }));
   child->answerWrites(-1);
@@ -336,6 +338,7 @@ TEST_F(ConsoleChildTest, ClosingEndsTheTreeOfARunningChildAndDoesNotWaitForIt) {
 TEST_F(ConsoleChildTest, ClosingAfterTheEndEndsNothing) {
   openRunning();
   child->out("x");
+  ASSERT_TRUE(until([&] { return shows("x"); }));
   child->end();
   ASSERT_TRUE(until([&] { return ended(); }));
   view->onClose();

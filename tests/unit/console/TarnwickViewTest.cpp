@@ -2,6 +2,7 @@
 #include "console/TarnwickView.h"
 #include "support/ConsoleFixture.h"
 
+#include <algorithm>
 #include <gtest/gtest.h>
 
 namespace tarnwick {
@@ -35,6 +36,11 @@ class TarnwickViewTest : public test::ConsoleFixture {
   /// The end of a child that has said something.
   void endChild() {
     child->out("x\n");
+    // What is not read before the end has settled would count as nothing said.
+    ASSERT_TRUE(until([&] {
+      const auto all = lines();
+      return std::find(all.begin(), all.end(), "x") != all.end();
+    }));
     child->end();
     ASSERT_TRUE(until([&] { return view->childState() == 0; }));
     pump();

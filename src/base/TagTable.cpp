@@ -38,10 +38,11 @@ const TagRow* rowOf(const TagRow* rows, const std::string& tag) {
   return nullptr;
 }
 
-/// A text shorter than the line it came from was cut at a zero byte; the C string functions see no further, nor do we.
+/// The line that `fgets` gives. A text shorter than the line it came from was cut at a zero byte; the C string
+/// functions see no further, nor do we.
 std::optional<std::string> nextLine(std::FILE* stream, std::string& buffer) {
   if (!std::fgets(buffer.data(), static_cast<int>(buffer.size()) - 1, stream)) return std::nullopt;
-  return std::string(buffer.c_str());
+  return buffer.substr(0, buffer.find('\0'));
 }
 
 int readNumber(int& variable, const std::string& value) {

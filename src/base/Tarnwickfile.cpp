@@ -36,6 +36,7 @@ Tarnwickfile::~Tarnwickfile() {
 }
 
 Tarnwickfile& Tarnwickfile::operator=(Tarnwickfile& source) {
+  if (&source == this) return *this;
   name_ = source.name_;
   mode_ = source.mode_;
   close();

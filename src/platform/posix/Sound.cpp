@@ -53,7 +53,8 @@ std::string soundFile(const std::string& event) {
   for (auto folder = g_get_system_data_dirs(); *folder != nullptr; ++folder) folders.emplace_back(*folder);
   for (const auto& folder : folders) {
     for (const char* ending : {".oga", ".ogg", ".wav"}) {
-      const std::string path = folder + "/sounds/freedesktop/stereo/" + event + ending;
+      std::string path = folder + "/sounds/freedesktop/stereo/";
+      path.append(event).append(ending);
       if (isFile(path)) return path;
     }
   }

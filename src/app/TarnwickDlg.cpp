@@ -54,13 +54,18 @@ void TarnwickDlg::welcomeFirstUse(int status) {
                           "Look for a file \"javac.exe\" in a \"bin\" subfolder of the JDK installation tree and\n"
                           "enter it in the field \"Tools .exe directory\".\n"))
       .runModal();
-  if (settings_.javaPath.empty()) {
-    settings_.javaPath = discoverJdkTools();
-    // From version 13 on, java warns about -Xfuture, and later ones refuse it. An existing configuration keeps it.
-    if (status == READ_FILE_LOST && jdkVersion(settings_.javaPath) >= 13) settings_.javaXfuture = 0;
-  }
+  if (settings_.javaPath.empty()) settings_.javaPath = discoverJdkTools();
+  const bool noConfiguration = status == READ_FILE_LOST;
+  if (noConfiguration) suitJdk();
+  const std::string offered = settings_.javaPath;
   settings_.runModal(0);
+  if (noConfiguration && settings_.javaPath != offered) suitJdk();
   settings_.saveDefaultConfiguration(nullptr);
+}
+
+void TarnwickDlg::suitJdk() {
+  // From version 13 on, java warns about -Xfuture, and later ones refuse it. An existing configuration keeps it.
+  if (jdkVersion(settings_.javaPath) >= 13) settings_.javaXfuture = 0;
 }
 
 void TarnwickDlg::welcomeUpgrade() {

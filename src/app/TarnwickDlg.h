@@ -27,6 +27,7 @@ class TarnwickDlg : public ToolTipDlg {
  private:
   void readSettings();
   void welcomeFirstUse(int status);
+  void suitJdk();
   void welcomeUpgrade();
 
   Settings& settings_;

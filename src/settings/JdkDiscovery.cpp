@@ -43,7 +43,8 @@ std::string discoverJdkTools() {
 
 int jdkVersion(const std::string& toolsFolder) {
   // <jdk>/release beside <jdk>/bin holds a line JAVA_VERSION="17.0.15"; up to 8 it begins with "1.".
-  const std::string home = Filename(Filename(toolsFolder, "x").directoryNoSlash()).directory();
+  const std::string real = toolsIn(toolsFolder);
+  const std::string home = Filename(Filename(real.empty() ? toolsFolder : real, "x").directoryNoSlash()).directory();
   std::ifstream release(home + "release");
   const std::string key = "JAVA_VERSION=";
   for (std::string line; std::getline(release, line);) {

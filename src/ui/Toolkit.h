@@ -34,6 +34,9 @@ bool handlesKey();
 /// Left and top of a window in its normal state; nothing where the window system does not tell.
 std::optional<Point> normalPosition(const wxTopLevelWindow& window);
 
+/// Moves left and top of a window, which may be still to be shown.
+void moveWindow(wxTopLevelWindow& window, const Point& leftTop);
+
 /// Lets the window system treat a dialog as a program's main window.
 void makeMainWindow(wxTopLevelWindow& window);
 

@@ -133,7 +133,7 @@ std::optional<Point> WxTopWindow::position() const {
 
 void WxTopWindow::moveTo(const Point& leftTop) {
   moved_ = true;
-  dialog_->Move(leftTop.x, leftTop.y, wxSIZE_ALLOW_MINUS_ONE);
+  moveWindow(*dialog_, leftTop);
 }
 
 }  // namespace tarnwick::ui

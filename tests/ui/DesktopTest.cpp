@@ -96,6 +96,16 @@ TEST_F(DesktopTest, TheMainDialogStaysWhereItWasMoved) {
   play();
 }
 
+TEST_F(DesktopTest, TheMainDialogMayStandInTheCorner) {
+  rules.onInitialise = [](DialogWindow& window) { window.moveTo({0, 0}); };
+  waitForDialog();
+  steps.until("the window manager has placed it", [this] { return top().dialog().IsActive(); });
+  steps.settle(20);
+  steps.then("look", [this] { EXPECT_EQ(top().position(), (Point{0, 0})); });
+  thenClose();
+  play();
+}
+
 TEST_F(DesktopTest, ADialogMayOpenBeforeTheMainDialogShows) {
   Recorder welcome;
   int result = 0;

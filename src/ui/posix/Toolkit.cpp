@@ -58,6 +58,12 @@ std::optional<Point> normalPosition(const wxTopLevelWindow& window) {
   return Point{at.x, at.y};
 }
 
+void moveWindow(wxTopLevelWindow& window, const Point& leftTop) {
+  window.Move(leftTop.x, leftTop.y, wxSIZE_ALLOW_MINUS_ONE);
+  // The toolkit takes a window that was never moved to be in that corner, and would leave its place to others.
+  if (leftTop == Point{0, 0}) gtk_window_move(GTK_WINDOW(widget(window)), 0, 0);
+}
+
 void makeMainWindow(wxTopLevelWindow& window) {
   gtk_window_set_type_hint(GTK_WINDOW(widget(window)), GDK_WINDOW_TYPE_HINT_NORMAL);
 }

@@ -35,6 +35,10 @@ std::optional<Point> normalPosition(const wxTopLevelWindow& window) {
   return Point{static_cast<int>(placement.rcNormalPosition.left), static_cast<int>(placement.rcNormalPosition.top)};
 }
 
+void moveWindow(wxTopLevelWindow& window, const Point& leftTop) {
+  window.Move(leftTop.x, leftTop.y, wxSIZE_ALLOW_MINUS_ONE);
+}
+
 // A dialog without an owner is one already.
 void makeMainWindow(wxTopLevelWindow&) {}
 

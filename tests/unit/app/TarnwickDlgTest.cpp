@@ -61,6 +61,23 @@ TEST_F(TarnwickDlgTest, AnOlderJdkKeepsStrictChecks) {
   EXPECT_EQ(settings().javaXfuture, 1);
 }
 
+TEST_F(TarnwickDlgTest, AJdkThatIsOnlyNamedInTheDialogCountsToo) {
+  const ScopedEnvironment javaHome("JAVA_HOME", "");
+  const ScopedEnvironment path("PATH", scratch_.path());
+  const std::string tools = Filename(makeJdk("25"), "bin").fullName();
+  expectWelcome(firstUse, platform::localText(lookForJavac));
+  desktop_.expectDialog("Tarnwick settings", [&tools](ScriptedWindow& window) {
+    window.page(1092, 0).type(1041, tools);
+    window.press(IDOK_CONTROL);
+  });
+  runPanel([](ScriptedWindow&, ScriptedWindow& panel) { exit(panel); });
+  const auto saved = freshSettings();
+  int status = -1;
+  saved->readDefaultConfiguration(status);
+  EXPECT_EQ(saved->javaPath, tools + platform::folderSeparator);
+  EXPECT_EQ(saved->javaXfuture, 0);
+}
+
 TEST_F(TarnwickDlgTest, TheConfigurationIsSavedWhateverTheDialogsOutcome) {
   const ScopedEnvironment javaHome("JAVA_HOME", "");
   const ScopedEnvironment path("PATH", scratch_.path());

@@ -1,6 +1,7 @@
 #include "settings/JdkDiscovery.h"
 #include "support/SettingsFixture.h"
 
+#include <filesystem>
 #include <gtest/gtest.h>
 
 namespace tarnwick::test {
@@ -172,6 +173,17 @@ TEST_F(JdkDiscoveryTest, TheReleaseFileTellsTheVersion) {
   EXPECT_EQ(jdkVersion(makeJdk("c", "17.0.15")), 17);
   EXPECT_EQ(jdkVersion(makeJdk("d", "25")), 25);
   EXPECT_EQ(jdkVersion(scratch_.file("none")), 0);
+}
+
+TEST_F(JdkDiscoveryTest, TheVersionIsThatOfTheJdkThatALinkLeadsTo) {
+  const std::string tools = makeJdk("real", "25.0.1");
+  const std::string links = scratch_.file("links") + platform::folderSeparator;
+  platform::makeFolders(links);
+  std::error_code failure;
+  const std::string javac = platform::toolFileName("javac");
+  std::filesystem::create_symlink(tools + javac, links + javac, failure);
+  if (failure) GTEST_SKIP() << "no links here: " << failure.message();
+  EXPECT_EQ(jdkVersion(links), 25);
 }
 
 }  // namespace

@@ -32,8 +32,9 @@ namespace {
 }
 
 /// Runs in the first copy: makes the guard a child of nobody, so that it leaves nothing behind for us to wait for.
-[[noreturn]] void becomeGuard(int line, pid_t group) {
-  if (setpgid(0, group) != 0) _exit(errno);
+[[noreturn]] void becomeGuard(int line) {
+  if (setpgid(0, 0) != 0) _exit(errno);
+  const pid_t group = getpid();
   // Our copies of other files are gone before the owner goes on, so that the ends of its pipes are seen at once.
   dup2(line, 0);
   syscall(SYS_close_range, 1U, ~0U, 0U);
@@ -63,13 +64,14 @@ class SignalsBlocked {
 
 }  // namespace
 
-ChildGuard::ChildGuard(pid_t group) {
+ChildGuard::ChildGuard() {
   Pipe pipe = makePipe();
   const SignalsBlocked blocked;
   const pid_t copy = fork();
   if (copy < 0) throw lastSystemError("CreateProcess");
-  if (copy == 0) becomeGuard(pipe.read.number(), group);
+  if (copy == 0) becomeGuard(pipe.read.number());
 
+  group_ = copy;
   int status = 0;
   while (waitpid(copy, &status, 0) < 0 && errno == EINTR) {
   }

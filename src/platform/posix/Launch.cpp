@@ -32,7 +32,7 @@ class FileActions {
 
 class Attributes {
  public:
-  explicit Attributes(bool ownSession) {
+  Attributes(bool ownSession, pid_t group) {
     posix_spawnattr_init(&attributes_);
     sigset_t none;
     sigset_t all;
@@ -40,7 +40,7 @@ class Attributes {
     sigfillset(&all);
     posix_spawnattr_setsigmask(&attributes_, &none);
     posix_spawnattr_setsigdefault(&attributes_, &all);
-    posix_spawnattr_setpgroup(&attributes_, 0);
+    posix_spawnattr_setpgroup(&attributes_, group);
     const int place = ownSession ? POSIX_SPAWN_SETSID : POSIX_SPAWN_SETPGROUP;
     posix_spawnattr_setflags(&attributes_, static_cast<short>(POSIX_SPAWN_SETSIGMASK | POSIX_SPAWN_SETSIGDEF | place));
   }
@@ -63,7 +63,7 @@ int launch(const Launch& what, pid_t& process) {
   actions.use(what.output, STDOUT_FILENO);
   actions.use(what.error, STDERR_FILENO);
   actions.closeAllOthers();
-  const Attributes attributes(what.ownSession);
+  const Attributes attributes(what.ownSession, what.group);
 
   std::vector<char*> words;
   for (const auto& argument : what.arguments) words.push_back(const_cast<char*>(argument.c_str()));

@@ -14,7 +14,8 @@ struct Launch {
   int output = -1;                     ///< -1: where ours goes
   int error = -1;                      ///< -1: where ours goes
   bool searchPath = false;             ///< look for a name without a folder in PATH
-  bool ownSession = false;             ///< lives on when our terminal goes; otherwise in a group of its own
+  bool ownSession = false;             ///< lives on when our terminal goes; otherwise in a process group
+  pid_t group = 0;                     ///< the group to join; 0: one of its own
 };
 
 /// Starts the process with default signals and none of our open files. Gives 0, or the system's error number.

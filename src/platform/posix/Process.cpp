@@ -79,19 +79,12 @@ class Child final : public ChildProcess {
     what.input = input.read.number();
     what.output = output.write.number();
     what.error = error.write.number();
+    if (command.interactive) {
+      guard_ = std::make_unique<ChildGuard>();
+      what.group = guard_->group();
+    }
     if (const int failure = launch(what, process_)) throw systemError("CreateProcess", failure);
     processHandle_ = Descriptor(static_cast<int>(syscall(SYS_pidfd_open, process_, 0)));
-    if (command.interactive) guardOrGiveUp();
-  }
-
-  void guardOrGiveUp() {
-    try {
-      guard_ = std::make_unique<ChildGuard>(process_);
-    } catch (...) {
-      kill(-process_, SIGKILL);
-      reapLater(process_);
-      throw;
-    }
   }
 
   bool hasEnded() {

@@ -138,11 +138,12 @@ void ConsoleChild::read(platform::ChildProcess::Stream stream, OutputReader& rea
     // A console that closes leaves its unfinished line alone: it is not to reach a record file.
     if (stopping()) return;
     if (count == 0) break;
+    // Counted before it is handled: however busy the machine, a child that spoke never counts as silent.
     readerActive_ = true;
+    totalOutputBytes_ += count;
     {
       const std::lock_guard guard(readerLock_);
       reader.handle({block, count});
-      totalOutputBytes_ += count;
     }
     wake_();
   }

@@ -16,9 +16,10 @@ ConsoleProgram programOf(const ConsoleStart& start) {
 }  // namespace
 
 CMainFrame::CMainFrame(Desktop& desktop, const Settings& settings, const ConsoleStart& start)
-    : document_(desktop, start.title), view_(document_, desktop, programOf(start), [&settings](int group, int index) {
-        return settings.functionKeys.key(group, index);
-      }) {}
+    : debugging_(start.debugging),
+      document_(desktop, start.title),
+      view_(document_, desktop, programOf(start),
+            [&settings](int group, int index) { return settings.functionKeys.key(group, index); }) {}
 
 bool CMainFrame::commandEnabled(int command) const {
   switch (command) {
@@ -34,7 +35,9 @@ bool CMainFrame::commandEnabled(int command) const {
     case COMMAND_SELECT_ALL:
     case COMMAND_EXIT:
       return true;
-    // The guide, the About dialog and the debugger are not there yet; nothing answers to Cut.
+    case COMMAND_JDB_HELP:
+      return debugging_;
+    // The guide and the About dialog are not there yet; nothing answers to Cut.
     default:
       return false;
   }
@@ -59,6 +62,9 @@ void CMainFrame::onCommand(int command) {
       break;
     case COMMAND_SELECT_ALL:
       view_.selectAll();
+      break;
+    case COMMAND_JDB_HELP:
+      view_.sendKeys("help\\n");
       break;
     case COMMAND_EXIT:
       view_.closeWindow();

@@ -32,6 +32,7 @@ class CMainFrame : public ConsoleFrame {
   ConsoleSurfaceClient& view() override { return view_; }
 
  private:
+  bool debugging_;
   TarnwickDoc document_;
   TarnwickView view_;
 };

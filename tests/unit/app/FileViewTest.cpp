@@ -94,6 +94,15 @@ TEST_F(FileViewTest, TheFieldsShowTheStoredFilesQuotedIfTheyHoldABlank) {
   });
 }
 
+TEST_F(FileViewTest, ATabThatIsNotThereOpensTheFirst) {
+  saveEarlierRun([](Settings& settings) { settings.fileviewTab = 7; });
+  runPanel([&](ScriptedWindow&, ScriptedWindow& panel) {
+    EXPECT_EQ(panel.selection(TABS), 0);
+    panel.page(TABS, 0);
+    exit(panel);
+  });
+}
+
 TEST_F(FileViewTest, TheOpenTabIsStored) {
   saveEarlierRun();
   runPanel([&](ScriptedWindow& main, ScriptedWindow& panel) {

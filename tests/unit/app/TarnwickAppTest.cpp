@@ -85,6 +85,27 @@ TEST_F(TarnwickAppTest, ASwitchLineOpensTheConsole) {
   EXPECT_FALSE(host_.stop);
 }
 
+TEST_F(TarnwickAppTest, ADebuggingStartEnablesTheDebuggersHelp) {
+  EXPECT_EQ(app().run("\\/TITLE=Main\\/ " + cfg(configFile()) + "\\/JDEBUG\\/ \\/RUN=Main"), 0);
+  EXPECT_TRUE(host_.jdbHelp);
+}
+
+TEST_F(TarnwickAppTest, AnUnexpectedFailureOfTheReadingIsTold) {
+  writeFile(configFile(), "JAVAC_DEBUG  ON\nJAVAC_FASTCODE  ON\n");
+  struct FailingDesktop : ScriptedDesktop {
+    void message(const std::string& text) override {
+      texts.push_back(text);
+      if (texts.size() == 1) throw 1;
+    }
+    std::vector<std::string> texts;
+  } desktop;
+  TarnwickApp failing(desktop, host_, programFolder() + "tarnwick");
+  EXPECT_EQ(failing.run(cfg(configFile())), 1);
+  ASSERT_EQ(desktop.texts.size(), 2u);
+  EXPECT_EQ(desktop.texts[1], "Encountered unexpected problems reading the configuration");
+  EXPECT_EQ(host_.runs, 0);
+}
+
 TEST_F(TarnwickAppTest, ConsoleModeWritesNoConfiguration) {
   const std::string before = contentOf(configFile());
   app().run("\\/TITLE=Main\\/ " + cfg(configFile()) + "\\/RUN=Main");

@@ -1,9 +1,10 @@
 #include "base/ReplacingFile.h"
 
 #include "platform/FileSystem.h"
+#include "platform/Replacement.h"
 
+#include <algorithm>
 #include <array>
-#include <atomic>
 #include <cerrno>
 #include <cstring>
 
@@ -11,80 +12,82 @@ namespace tarnwick {
 
 namespace {
 
-/// A name that no other instance and no other save of this one uses.
-std::string freshNameBeside(const std::string& target) {
-  static std::atomic<int> number = 0;
-  return target + '.' + std::to_string(platform::processId()) + '-' + std::to_string(++number) + ".tmp";
+/// So many saves of one target may run at once.
+constexpr int mostAtOnce = 20;
+
+/// Reasons that concern one name, and not the next one: somebody is saving under it, or has laid something else there.
+bool nextNameMayDo(int reason) {
+  constexpr std::array reasons = {EBUSY, EACCES, EPERM, EEXIST, ELOOP, EISDIR};
+  return std::find(reasons.begin(), reasons.end(), reason) != reasons.end();
 }
 
-bool copyBytes(std::FILE* from, std::FILE* to) {
-  std::array<char, 8192> block;
-  while (const std::size_t count = std::fread(block.data(), 1, block.size(), from))
-    if (std::fwrite(block.data(), 1, count, to) != count) return false;
-  return !std::ferror(from) && platform::flushToDisk(to);
-}
-
-/// Writes the content of one file over another. False with `errno` on failure.
-bool overwrite(const std::string& from, const std::string& to) {
-  std::FILE* source = platform::openFile(from, "rb");
-  if (!source) return false;
-  std::FILE* target = platform::openFile(to, "wb");
-  const bool copied = target && copyBytes(source, target);
-  const int reason = errno;
-  if (target) std::fclose(target);
-  std::fclose(source);
-  errno = reason;
-  return copied;
+/// Reasons for which a folder takes no file beside one that it has. A full disk is none: what is there must stay.
+bool folderRefuses(int reason) {
+  constexpr std::array reasons = {EACCES, EPERM, ENAMETOOLONG};
+  return std::find(reasons.begin(), reasons.end(), reason) != reasons.end();
 }
 
 }  // namespace
 
-ReplacingFile::ReplacingFile(const std::string& target) {
+ReplacingFile::ReplacingFile(const std::string& target) : ReplacingFile(target, "w") {}
+
+ReplacingFile::ReplacingFile(const std::string& target, Bytes) : ReplacingFile(target, "wb") {}
+
+ReplacingFile::ReplacingFile(const std::string& target, const char* letters) {
   setFile(Filename(target), FileMode::Write);
   place_ = platform::resolvedPath(name().fullName());
   const std::string folder = Filename(place_).directory();
   if (!folder.empty() && !platform::isFolder(folder)) platform::makeFolders(folder);
-  if (!openFresh()) Tarnwickfile::open(FileMode::Write);
+  if (openFresh(letters)) return;
+  setStream(platform::openFile(name().fullName(), letters));
+  if (!isOpen()) fail(errno);
 }
 
-bool ReplacingFile::openFresh() {
-  if (platform::lastChange(place_)) {
-    // A folder gives its message, and a device takes what is written, when the target itself is opened.
-    if (!platform::isFile(place_)) return false;
-    // A file that refuses to be written must not be replaced either.
-    std::FILE* writable = platform::openFile(place_, "r+");
-    if (!writable) fail(errno);
-    std::fclose(writable);
-  }
-  fresh_ = freshNameBeside(place_);
-  std::FILE* stream = platform::openFile(fresh_, "w");
-  if (!stream) {
-    fresh_.clear();
-    return false;
-  }
-  setStream(stream);
+bool ReplacingFile::openFresh(const char* letters) {
+  if (!platform::lastChange(place_)) return openFreshAs(place_, letters, false);
+  // A folder gives its message, and a device takes what is written, when the target itself is opened.
+  if (!platform::isFile(place_)) return false;
+  // A file that refuses to be written must not be replaced either.
+  if (!platform::isWritable(place_)) fail(errno);
+  if (openFreshAs(place_, letters, true)) return true;
+  // Opening the target itself would empty it before the new content is known to be whole.
+  if (!folderRefuses(errno) || !openFreshAs(platform::temporaryFolder() + "tarnwick-save", letters, true)) fail(errno);
   return true;
 }
 
+bool ReplacingFile::openFreshAs(const std::string& base, const char* letters, bool ownerOnly) {
+  // The first free number: a file that a killed process has left is used again, so that such files do not pile up.
+  for (int i = 1; i <= mostAtOnce; ++i) {
+    fresh_ = base + '.' + std::to_string(i) + ".tmp";
+    if (std::FILE* stream = platform::openReplacement(fresh_, letters, ownerOnly)) {
+      setStream(stream);
+      return true;
+    }
+    if (!nextNameMayDo(errno)) break;
+  }
+  fresh_.clear();
+  return false;
+}
+
 ReplacingFile::~ReplacingFile() {
-  close();
-  if (!fresh_.empty()) platform::deleteFile(fresh_);
+  discard();
 }
 
 void ReplacingFile::commit() {
   if (!platform::flushToDisk(stream())) fail(errno);
+  if (!fresh_.empty() && !platform::putInPlace(stream(), fresh_, place_)) fail(errno);
+  fresh_.clear();
   close();
-  if (fresh_.empty()) return;
-  if (platform::replaceFile(fresh_, place_)) {
-    fresh_.clear();
-    return;
-  }
-  // A file that another program holds open, or that belongs to somebody else, can be written though not replaced.
-  if (!overwrite(fresh_, place_)) fail(errno);
+}
+
+void ReplacingFile::discard() {
+  if (isOpen() && !fresh_.empty()) platform::discardReplacement(stream(), fresh_);
+  fresh_.clear();
+  close();
 }
 
 void ReplacingFile::fail(int reason) {
-  close();
+  discard();
   throw FileNotOpenE(std::strerror(reason), name().fullName());
 }
 

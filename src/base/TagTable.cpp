@@ -53,7 +53,7 @@ int readNumber(int& variable, const std::string& value) {
   for (; at < value.size() && value[at] >= '0' && value[at] <= '9'; ++at)
     number = number * 10 + static_cast<std::uint32_t>(value[at] - '0');
   variable = static_cast<int>(negative ? 0 - number : number);
-  // The digits before a character that is none count all the same.
+  // The digits before a character that is none count all the same, and a lone "-" is 0: both are meant.
   return at < value.size() ? READ_BAD_VALUE : 0;
 }
 
@@ -172,6 +172,7 @@ int TagTable::readLine(const std::string& line) {
 }
 
 void TagTable::write(Tarnwickfile& file) {
+  // The header comes with each call, and is meant to: a file that two tables write holds it twice.
   std::fprintf(file.stream(), "REM  This configuration file was written by %s\nREM\n", version_.c_str());
   for (const TagRow* row = rows_; row->kind != TAG_END; ++row)
     if (const auto value = writtenValue(*row)) std::fprintf(file.stream(), "%s%s\n", row->tag, value->c_str());

@@ -31,8 +31,9 @@ void TokenString::fromString(const std::string& text) {
 }
 
 int TokenString::find(const std::string& text) const {
-  for (int i = 0; i < count_; ++i)
-    if (equalsIgnoringCase(element(i), text)) return i;
+  std::size_t at = 0;
+  for (int i = 0; i < count_; ++i, ++at)
+    if (equalsIgnoringCase(elementFrom(at), text)) return i;
   return -1;
 }
 
@@ -58,6 +59,10 @@ std::string TokenString::element(int index) const {
     else if (text_[at] == separator_)
       ++skipped;
   }
+  return elementFrom(at);
+}
+
+std::string TokenString::elementFrom(std::size_t& at) const {
   std::string result;
   for (; at < text_.size() && text_[at] != separator_; ++at) {
     // An escape in the last place stays.

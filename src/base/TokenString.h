@@ -2,6 +2,7 @@
 
 #include "base/StringableM.h"
 
+#include <cstddef>
 #include <string>
 
 namespace tarnwick {
@@ -32,6 +33,9 @@ class TokenString : public StringableM {
   int count() const { return count_; }
 
  private:
+  /// The element that begins at a place of the text; `at` then is where its separator stands, or the text's end.
+  std::string elementFrom(std::size_t& at) const;
+
   char escape_;
   char separator_;
   std::string text_;

@@ -9,9 +9,15 @@
 namespace tarnwick::platform {
 
 /// Opens a file in text mode as `fopen` does: with "r", a carriage return directly before a line feed is dropped on
-/// every system. A "b" in the mode leaves the bytes alone. A folder is refused in every mode, and no child inherits the
-/// stream. Null on failure, with the reason in `errno`.
+/// every system. A "b" in the mode leaves the bytes alone. A folder is refused in every mode, so is a pipe to write
+/// to that nobody reads, and no child inherits the stream. Null on failure, with the reason in `errno`.
 std::FILE* openFile(const std::string& path, const char* mode);
+
+/// Lets a stream that was opened in text mode write bytes as they are from here on.
+void leaveBytesAlone(std::FILE* stream);
+
+/// How a line of a text ends on disk.
+extern const char lineEnd[];
 
 /// Makes an empty file where there is none. False with `errno` on failure, EEXIST if the name is taken.
 bool claimFile(const std::string& path);
@@ -30,11 +36,6 @@ bool makeFolders(const std::string& path);
 
 /// Sends what was written to `stream` to the disk. False with `errno` on failure.
 bool flushToDisk(std::FILE* stream);
-
-/// Puts `from` in the place of `to` in one step. On Linux owner and permissions of a file that was there are kept, and
-/// a file whose owner cannot be kept is not replaced. False with `errno` on failure, with the content of both as it
-/// was.
-bool replaceFile(const std::string& from, const std::string& to);
 
 /// The path with links resolved and made absolute; the path itself where that is not possible. A link to what does not
 /// exist gives the path that it names.

@@ -16,6 +16,9 @@ struct PathParts {
 /// The folder separator.
 extern const char folderSeparator;
 
+/// The sign "broken bar" in the platform's character set.
+extern const char brokenBar[];
+
 /// Takes a path apart as the C run-time's `_splitpath` does.
 PathParts splitPath(const std::string& path);
 
@@ -45,6 +48,11 @@ std::string keptExecutable(const std::string& value);
 
 /// The start folder of a file dialog for which the program has nothing better than "C:\" or "C:".
 std::string startFolder(const std::string& windowsFolder);
+
+/// The address under which a browser shows a document at an anchor such as "#paths"; the anchor may be empty.
+/// On Windows the path with the anchor behind it, on Linux a file address, since a path would take the "#" for a
+/// letter.
+std::string documentAddress(const std::string& path, const std::string& anchor);
 
 /// Drops the file name from a program's command line, so that what the user gave is left.
 /// On Linux the arguments joined by single blanks.

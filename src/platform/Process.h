@@ -54,6 +54,10 @@ class ChildProcess {
   /// Waits until the child itself has ended, or until `stopWaiting`.
   virtual void wait() = 0;
 
+  /// After `wait`: the system's word for the signal that ended the child, such as "Killed"; empty if it ended by
+  /// itself, and where there are no signals.
+  virtual std::string causeOfDeath() const { return ""; }
+
   /// Makes a `wait` or a `write` that another thread is in return at once, and every later one; any thread may call it.
   virtual void stopWaiting() = 0;
 
@@ -75,8 +79,8 @@ std::string detachedArgument(const std::string& path);
 /// Throws SystemError with the label "CreateProcess".
 void startCommandLine(const std::string& executable, const std::string& commandLine);
 
-/// A path as one word of a ChildCommand's arguments: in double quotes if a blank stands in it at a position above 0,
-/// and with the double quotes of its own, where a name may hold such, escaped.
+/// A path as one word of a ChildCommand's arguments: in double quotes if a blank stands in it at a position above 0
+/// (on Linux at any), and with the double quotes of its own, where a name may hold such, escaped.
 std::string commandWord(const std::string& path);
 
 /// A command text split into arguments by the C run-time's rules: blanks separate, double quotes group.

@@ -1,5 +1,8 @@
 #include "platform/Associations.h"
 
+#include "platform/FileSystem.h"
+#include "platform/Path.h"
+
 #include <gio/gdesktopappinfo.h>
 #include <gio/gio.h>
 
@@ -104,6 +107,10 @@ std::vector<std::vector<std::string>> plainTextEditors() {
   for (const char* name : commonEditors) {
     if (Text(g_find_program_in_path(name))) editors.push_back({name});
   }
+  // Our own small one, where nothing else can be had.
+  const auto program = splitPath(executablePath());
+  const std::string own = program.folder + "tarnwick-notepad";
+  if (isFile(own)) editors.push_back({own});
   return editors;
 }
 

@@ -1,6 +1,8 @@
 #include "platform/Characters.h"
 
 #include <algorithm>
+#include <cstdint>
+#include <cstring>
 #include <wchar.h>
 
 namespace tarnwick::platform {
@@ -37,6 +39,19 @@ std::size_t matchingBytes(std::string_view text) {
     if (count == 1 ? !secondFits(first, next) : (next & 0xC0) != 0x80) break;
     ++count;
   }
+  return count;
+}
+
+/// How many bytes from the front are characters of their own. Nearly all text is of these, so they are passed over in
+/// words.
+std::size_t plainPrefix(std::string_view text) {
+  constexpr std::uint64_t highBits = 0x8080808080808080U;
+  std::size_t count = 0;
+  for (std::uint64_t word = 0; text.size() - count >= sizeof word; count += sizeof word) {
+    std::memcpy(&word, text.data() + count, sizeof word);
+    if (word & highBits) break;
+  }
+  while (count < text.size() && byteAt(text, count) < 0x80) ++count;
   return count;
 }
 
@@ -77,7 +92,11 @@ std::string validText(std::string_view bytes) {
   const char replacement[] = "\xEF\xBF\xBD";
   std::string text;
   text.reserve(bytes.size());
-  while (!bytes.empty()) {
+  for (;;) {
+    const std::size_t plain = plainPrefix(bytes);
+    text += bytes.substr(0, plain);
+    bytes.remove_prefix(plain);
+    if (bytes.empty()) return text;
     const std::size_t length = wholeCharacter(bytes);
     if (length == 0)
       text += replacement;
@@ -85,19 +104,21 @@ std::string validText(std::string_view bytes) {
       text += bytes.substr(0, length);
     bytes.remove_prefix(std::max<std::size_t>(length, 1));
   }
-  return text;
 }
 
 std::size_t columnsOf(std::string_view text) {
   std::size_t columns = 0;
-  while (!text.empty()) {
+  for (;;) {
+    const std::size_t plain = plainPrefix(text);
+    columns += plain;
+    text.remove_prefix(plain);
+    if (text.empty()) return columns;
     const std::size_t length = wholeCharacter(text);
     // A byte that is no character shows as one replacement character; so does what the locale cannot print.
-    const int width = length > 1 ? ::wcwidth(codeOf(text.substr(0, length))) : 1;
+    const int width = length > 0 ? ::wcwidth(codeOf(text.substr(0, length))) : 1;
     columns += width < 0 ? 1 : static_cast<std::size_t>(width);
     text.remove_prefix(std::max<std::size_t>(length, 1));
   }
-  return columns;
 }
 
 std::size_t characterLength(std::string_view text, std::size_t position) {

@@ -1,49 +1,113 @@
 #include "platform/posix/ChildGuard.h"
 
 #include "platform/Process.h"
+#include "platform/posix/Descendants.h"
 
+#include <array>
 #include <cerrno>
 #include <csignal>
 #include <ctime>
+#include <fcntl.h>
+#include <poll.h>
 #include <sys/prctl.h>
+#include <sys/signalfd.h>
 #include <sys/syscall.h>
 #include <sys/wait.h>
+#include <system_error>
 #include <unistd.h>
 
 namespace tarnwick::platform {
 namespace {
 
 // Between fork and the end of the guard only calls that are safe beside other threads: the copy has this one thread,
-// and whatever lock another one held stays locked.
+// and whatever lock another one held stays locked. (The C library sees to it that memory can still be had.)
 
-[[noreturn]] void watch(pid_t group) {
-  char word = 0;
-  ssize_t count = 0;
-  do {
-    count = read(0, &word, 1);
-  } while (count < 0 && errno == EINTR);
-  if (count != 0) _exit(0);
+constexpr int lineEnd = 0;
+constexpr int reportEnd = 1;
+constexpr char endedWord = 'e';
 
-  kill(-group, SIGTERM);
-  const timespec grace{2, 0};
-  nanosleep(&grace, nullptr);
-  kill(-group, SIGKILL);  // the guard is one of them
+/// Takes leave of all that has ended below the guard. False once nothing is left there.
+bool reap(pid_t child) {
+  for (;;) {
+    const pid_t gone = waitpid(-1, nullptr, WNOHANG);
+    if (gone == 0) return true;
+    if (gone < 0 && errno != EINTR) return false;
+    // The report may find nobody who still wants it.
+    if (gone == child) [[maybe_unused]]
+      const ssize_t ignored = write(reportEnd, &endedWord, 1);
+  }
+}
+
+/// Milliseconds since some beginning.
+long now() {
+  timespec time{};
+  clock_gettime(CLOCK_MONOTONIC, &time);
+  return time.tv_sec * 1000 + time.tv_nsec / 1000000;
+}
+
+[[noreturn]] void endTree(pid_t child, int childrenEnd) {
+  constexpr long grace = 2000;
+  constexpr long lastTries = 5000;
+  constexpr int step = 50;
+  const long begin = now();
+  kill(-getpgrp(), SIGTERM);  // the guard blocks it
+  signalDescendants(SIGTERM);
+  while (reap(child) && now() - begin < lastTries) {
+    // Again and again: what is killed may have had a child just then.
+    if (now() - begin >= grace) signalDescendants(SIGKILL);
+    pollfd waiting{childrenEnd, POLLIN, 0};
+    poll(&waiting, 1, step);
+    signalfd_siginfo ignored{};
+    while (read(childrenEnd, &ignored, sizeof ignored) > 0) {
+    }
+  }
   _exit(0);
 }
 
-/// Runs in the first copy: makes the guard a child of nobody, so that it leaves nothing behind for us to wait for.
-[[noreturn]] void becomeGuard(int line) {
-  if (setpgid(0, 0) != 0) _exit(errno);
-  const pid_t group = getpid();
-  // Our copies of other files are gone before the owner goes on, so that the ends of its pipes are seen at once.
-  dup2(line, 0);
-  syscall(SYS_close_range, 1U, ~0U, 0U);
+[[noreturn]] void watch(pid_t child) {
+  sigset_t childEnds;
+  sigemptyset(&childEnds);
+  sigaddset(&childEnds, SIGCHLD);
+  const int childrenEnd = signalfd(-1, &childEnds, SFD_NONBLOCK | SFD_CLOEXEC);
+  for (;;) {
+    reap(child);
+    std::array<pollfd, 2> waiting{pollfd{lineEnd, POLLIN, 0}, pollfd{childrenEnd, POLLIN, 0}};
+    if (poll(waiting.data(), waiting.size(), -1) < 0) continue;
+    signalfd_siginfo ignored{};
+    while (read(childrenEnd, &ignored, sizeof ignored) > 0) {
+    }
+    if (waiting[0].revents == 0) continue;
+    char word = 0;
+    const ssize_t count = read(lineEnd, &word, 1);
+    if (count > 0) _exit(0);
+    if (count == 0) endTree(child, childrenEnd);
+  }
+}
+
+[[noreturn]] void guard(Launch& what, int line, int report) {
   prctl(PR_SET_NAME, "tarnwick-guard");
-  if (chdir("/") != 0) _exit(errno);
-  const pid_t guard = fork();
-  if (guard < 0) _exit(errno);
-  if (guard > 0) _exit(0);
-  watch(group);
+  // What loses its parent becomes the guard's own child.
+  prctl(PR_SET_CHILD_SUBREAPER, 1);
+  what.group = getpgrp();
+  pid_t child = -1;
+  const int failure = launch(what, child);
+  // Our copies of all files are gone before the owner goes on, so that the ends of its pipes are seen at once.
+  const int high = fcntl(report, F_DUPFD, STDERR_FILENO + 1);
+  dup2(line, lineEnd);
+  dup2(high, reportEnd);
+  syscall(SYS_close_range, static_cast<unsigned>(reportEnd) + 1, ~0U, 0U);
+  const bool told = write(reportEnd, &failure, sizeof failure) == sizeof failure;
+  if (failure != 0 || !told || chdir("/") != 0) _exit(failure);
+  watch(child);
+}
+
+/// Runs in the first copy: makes the guard a child of nobody, so that it leaves nothing behind for us to wait for.
+[[noreturn]] void becomeGuard(Launch& what, int line, int report) {
+  if (setpgid(0, 0) != 0) _exit(errno);
+  const pid_t copy = fork();
+  if (copy < 0) _exit(errno);
+  if (copy > 0) _exit(0);
+  guard(what, line, report);
 }
 
 /// Blocks all signals for its lifetime. The copies inherit that: the TERM for the group is not meant for the guard.
@@ -62,22 +126,41 @@ class SignalsBlocked {
   sigset_t before_{};
 };
 
+SystemError startFailure(int code) {
+  return {"CreateProcess", code, std::generic_category().message(code)};
+}
+
+/// The system's number for what kept the child from starting, 0 if nothing did.
+int answer(int report) {
+  int failure = 0;
+  ssize_t count = 0;
+  do {
+    count = read(report, &failure, sizeof failure);
+  } while (count < 0 && errno == EINTR);
+  return count == sizeof failure ? failure : EAGAIN;
+}
+
 }  // namespace
 
-ChildGuard::ChildGuard() {
-  Pipe pipe = makePipe();
-  const SignalsBlocked blocked;
-  const pid_t copy = fork();
-  if (copy < 0) throw lastSystemError("CreateProcess");
-  if (copy == 0) becomeGuard(pipe.read.number());
-
-  group_ = copy;
-  int status = 0;
-  while (waitpid(copy, &status, 0) < 0 && errno == EINTR) {
+ChildGuard::ChildGuard(Launch what) {
+  Pipe line = makePipe();
+  Pipe report = makePipe();
+  {
+    const SignalsBlocked blocked;
+    group_ = fork();
+    if (group_ == 0) becomeGuard(what, line.read.number(), report.write.number());
   }
-  errno = WIFEXITED(status) ? WEXITSTATUS(status) : EAGAIN;
-  if (errno != 0) throw lastSystemError("CreateProcess");
-  line_ = std::move(pipe.write);
+  if (group_ < 0) throw startFailure(errno);
+
+  int status = 0;
+  while (waitpid(group_, &status, 0) < 0 && errno == EINTR) {
+  }
+  if (!WIFEXITED(status)) throw startFailure(EAGAIN);
+  if (WEXITSTATUS(status) != 0) throw startFailure(WEXITSTATUS(status));
+  report.write.close();
+  if (const int failure = answer(report.read.number())) throw startFailure(failure);
+  line_ = std::move(line.write);
+  report_ = std::move(report.read);
 }
 
 void ChildGuard::release() {
@@ -85,6 +168,11 @@ void ChildGuard::release() {
   // If the guard has been ended by force, there is nobody to tell.
   [[maybe_unused]] const ssize_t ignored = write(line_.number(), "r", 1);
   line_.close();
+}
+
+void ChildGuard::settle() {
+  char word = 0;
+  if (read(report_.number(), &word, 1) != 1 && line_.number() >= 0) kill(-group_, SIGKILL);
 }
 
 }  // namespace tarnwick::platform

@@ -23,6 +23,8 @@ class Descriptor {
   Descriptor& operator=(const Descriptor&) = delete;
 
   int number() const { return number_; }
+  /// Gives the descriptor away.
+  int release() { return std::exchange(number_, -1); }
   void close() {
     if (number_ >= 0) ::close(std::exchange(number_, -1));
   }

@@ -26,7 +26,15 @@ int openDescriptor(const std::string& path, const std::string& mode) {
   if (mode.starts_with('r')) flags |= both ? O_RDWR : O_RDONLY;
   if (mode.starts_with('w')) flags |= (both ? O_RDWR : O_WRONLY) | O_CREAT | O_TRUNC;
   if (mode.starts_with('a')) flags |= (both ? O_RDWR : O_WRONLY) | O_CREAT | O_APPEND;
+  // A pipe that nobody reads would otherwise keep us waiting for somebody who does.
+  if (flags & O_WRONLY) flags |= O_NONBLOCK;
   return ::open(path.c_str(), flags, 0666);
+}
+
+/// What was opened for writing waits until what is written has been taken.
+bool waitsFromNowOn(int descriptor) {
+  const int flags = ::fcntl(descriptor, F_GETFL);
+  return flags >= 0 && ::fcntl(descriptor, F_SETFL, flags & ~O_NONBLOCK) == 0;
 }
 
 /// Closes without losing the reason of the failure.
@@ -44,10 +52,15 @@ std::FILE* openFile(const std::string& path, const char* mode) {
   struct stat status {};
   if (::fstat(descriptor, &status) != 0) return refused(descriptor, errno);
   if (S_ISDIR(status.st_mode)) return refused(descriptor, EISDIR);
+  if (!waitsFromNowOn(descriptor)) return refused(descriptor, errno);
   if (std::string(mode) == "r") return openTextInput(descriptor);
   std::FILE* stream = ::fdopen(descriptor, mode);
   return stream ? stream : refused(descriptor, errno);
 }
+
+void leaveBytesAlone(std::FILE* /*stream*/) {}
+
+const char lineEnd[] = "\n";
 
 bool claimFile(const std::string& path) {
   const int descriptor = ::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
@@ -90,18 +103,6 @@ bool flushToDisk(std::FILE* stream) {
   }
   // EINVAL: a device or pipe that knows no disk.
   return ::fsync(::fileno(stream)) == 0 || errno == EINVAL;
-}
-
-bool replaceFile(const std::string& from, const std::string& to) {
-  const auto before = statusOf(to);
-  const auto fresh = statusOf(from);
-  if (before && fresh) {
-    // A file that would change hands is not replaced; changing its owner is the superuser's right.
-    const bool sameOwner = before->st_uid == fresh->st_uid && before->st_gid == fresh->st_gid;
-    if (!sameOwner && ::chown(from.c_str(), before->st_uid, before->st_gid) != 0) return false;
-    if (::chmod(from.c_str(), before->st_mode & 07777) != 0) return false;
-  }
-  return ::rename(from.c_str(), to.c_str()) == 0;
 }
 
 std::string resolvedPath(const std::string& path) {

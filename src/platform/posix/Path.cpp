@@ -3,6 +3,8 @@
 #include "platform/FileSystem.h"
 
 #include <algorithm>
+#include <cctype>
+#include <string_view>
 
 namespace tarnwick::platform {
 
@@ -29,6 +31,7 @@ void dropExe(std::string& text) {
 }  // namespace
 
 const char folderSeparator = '/';
+const char brokenBar[] = "\xC2\xA6";
 
 PathParts splitPath(const std::string& path) {
   PathParts parts;
@@ -88,6 +91,21 @@ std::string rawCommandLine(int argc, char** argv) {
     line += argv[i];
   }
   return line;
+}
+
+std::string documentAddress(const std::string& path, const std::string& anchor) {
+  static const char digits[] = "0123456789ABCDEF";
+  std::string address = "file://";
+  for (const char c : absolutePath(path)) {
+    const auto byte = static_cast<unsigned char>(c);
+    const bool plain =
+        byte < 128 && (std::isalnum(byte) != 0 || std::string_view("/-._~").find(c) != std::string_view::npos);
+    if (plain)
+      address += c;
+    else
+      address += {'%', digits[byte >> 4], digits[byte & 15]};
+  }
+  return address + anchor;
 }
 
 }  // namespace tarnwick::platform

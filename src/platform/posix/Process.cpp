@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <cerrno>
 #include <csignal>
+#include <cstring>
 #include <mutex>
 #include <poll.h>
 #include <sys/syscall.h>
@@ -29,7 +30,7 @@ class Child final : public ChildProcess {
       : Child(command, makePipe(), makePipe(), command.interactive ? makePipe() : Pipe{}) {}
 
   ~Child() override {
-    if (!ended_) reapLater(process_);
+    if (!ended_ && !guard_) reapLater(process_);
   }
 
   std::size_t read(Stream stream, char* buffer, std::size_t size) override {
@@ -42,17 +43,26 @@ class Child final : public ChildProcess {
   void wait() override {
     while (!hasEnded()) {
       // Where a process can't be polled, it is looked at now and then.
-      if (!waitFor(processHandle_.number(), POLLIN, stopWaiting_, processHandle_.number() < 0 ? 50 : -1)) {
+      if (!waitFor(endHandle(), POLLIN, stopWaiting_, endHandle() < 0 ? 50 : -1)) {
         if (!hasEnded()) return;
       }
     }
     const std::lock_guard lock(stateLock_);
     if (ended_) return;
     ended_ = true;
-    if (guard_) guard_->release();
+    if (guard_) {
+      guard_->settle();
+      // What the child has left behind goes its own way.
+      guard_->release();
+      return;
+    }
     // Only now does the child lose its number, when `endTree` no longer signals it.
     int status = 0;
-    waitpid(process_, &status, 0);
+    if (waitpid(process_, &status, 0) == process_ && WIFSIGNALED(status)) signal_ = WTERMSIG(status);
+  }
+  std::string causeOfDeath() const override {
+    const char* const word = signal_ == 0 ? nullptr : sigdescr_np(signal_);
+    return word != nullptr ? word : signal_ == 0 ? "" : std::to_string(signal_);
   }
   void stopWaiting() override { stopWaiting_.set(); }
 
@@ -60,7 +70,7 @@ class Child final : public ChildProcess {
     const std::lock_guard lock(stateLock_);
     if (ended_) return;
     if (guard_) {
-      guard_->endGroup();
+      guard_->endTree();
     } else {
       kill(-process_, SIGKILL);
     }
@@ -80,16 +90,23 @@ class Child final : public ChildProcess {
     what.output = output.write.number();
     what.error = error.write.number();
     if (command.interactive) {
-      guard_ = std::make_unique<ChildGuard>();
-      what.group = guard_->group();
+      guard_ = std::make_unique<ChildGuard>(what);
+      return;
     }
     if (const int failure = launch(what, process_)) throw systemError("CreateProcess", failure);
     processHandle_ = Descriptor(static_cast<int>(syscall(SYS_pidfd_open, process_, 0)));
   }
 
+  /// Can be read from once the child has ended; -1 where there is no such thing.
+  int endHandle() const { return guard_ ? guard_->ended() : processHandle_.number(); }
+
   bool hasEnded() {
     const std::lock_guard lock(stateLock_);
     if (ended_) return true;
+    if (guard_) {
+      pollfd report{guard_->ended(), POLLIN, 0};
+      return poll(&report, 1, 0) > 0;
+    }
     siginfo_t info{};
     const int result = waitid(P_PID, static_cast<id_t>(process_), &info, WEXITED | WNOWAIT | WNOHANG);
     return result == 0 ? info.si_pid != 0 : errno != EINTR;
@@ -104,6 +121,7 @@ class Child final : public ChildProcess {
   Descriptor processHandle_;
   std::mutex stateLock_;
   bool ended_ = false;
+  int signal_ = 0;  ///< what ended the child, if it was one
   std::unique_ptr<ChildGuard> guard_;
 };
 
@@ -149,7 +167,7 @@ std::string commandWord(const std::string& path) {
     backslashes = c == '\\' ? backslashes + 1 : 0;
     word += c;
   }
-  if (path.find_first_of(" \t", 1) == std::string::npos) return word;
+  if (path.find_first_of(" \t") == std::string::npos) return word;
   return '"' + word.append(backslashes, '\\') + '"';
 }
 

@@ -1,8 +1,10 @@
 #include "platform/posix/TextInput.h"
 
+#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <cstddef>
+#include <cstring>
 #include <memory>
 #include <unistd.h>
 
@@ -23,10 +25,12 @@ class TextInput {
     std::size_t count = 0;
     // What is in hand goes out before the next block is waited for.
     while (count < size && (count == 0 || at_ < end_)) {
+      if (at_ == end_ && size - count >= block_.size()) {
+        count += readStraight(buffer + count, size - count);
+        break;
+      }
       if (!fill()) break;
-      const char c = block_[at_++];
-      if (c == '\r' && fill() && block_[at_] == '\n') continue;
-      buffer[count++] = c;
+      count += take(buffer + count, size - count);
     }
     position_ += static_cast<off64_t>(count);
     return count == 0 && failed_ ? -1 : static_cast<ssize_t>(count);
@@ -56,13 +60,65 @@ class TextInput {
   /// True if there is a character at `at_`.
   bool fill() {
     if (at_ < end_) return true;
+    end_ = readBlock(block_.data(), block_.size());
+    at_ = 0;
+    return end_ > 0;
+  }
+
+  /// The number of bytes; 0 at the end and in failure.
+  std::size_t readBlock(char* block, std::size_t size) {
     ssize_t count = 0;
-    do count = ::read(descriptor_, block_.data(), block_.size());
+    do count = ::read(descriptor_, block, size);
     while (count < 0 && errno == EINTR);
     failed_ = count < 0;
-    at_ = 0;
-    end_ = failed_ ? 0 : static_cast<std::size_t>(count);
-    return end_ > 0;
+    return failed_ ? 0 : static_cast<std::size_t>(count);
+  }
+
+  /// Takes from the block in hand up to and including the next carriage return.
+  std::size_t take(char* buffer, std::size_t size) {
+    const char* const from = block_.data() + at_;
+    const std::size_t most = std::min(size, end_ - at_);
+    const void* const found = std::memchr(from, '\r', most);
+    if (!found) {
+      std::memcpy(buffer, from, most);
+      at_ += most;
+      return most;
+    }
+    const auto before = static_cast<std::size_t>(static_cast<const char*>(found) - from);
+    std::memcpy(buffer, from, before);
+    at_ += before + 1;
+    if (fill() && block_[at_] == '\n') return before;
+    buffer[before] = '\r';
+    return before + 1;
+  }
+
+  /// A large block goes to where it is wanted without a stop on the way.
+  std::size_t readStraight(char* buffer, std::size_t size) {
+    for (;;) {
+      std::size_t count = readBlock(buffer, size);
+      if (count == 0) return 0;
+      // Behind the last character only the next block tells.
+      if (buffer[count - 1] == '\r' && fill() && block_[at_] == '\n') --count;
+      count = withoutReturns(buffer, count);
+      if (count > 0) return count;
+    }
+  }
+
+  /// Drops each carriage return before a line feed; tells how many characters are left.
+  static std::size_t withoutReturns(char* text, std::size_t size) {
+    char* const end = text + size;
+    char* to = static_cast<char*>(std::memchr(text, '\r', size));
+    if (!to) return size;
+    for (const char* from = to; from < end;) {
+      if (from + 1 < end && from[0] == '\r' && from[1] == '\n') ++from;
+      // The character here stays, and so does all up to the next carriage return.
+      const void* const next = std::memchr(from + 1, '\r', static_cast<std::size_t>(end - from - 1));
+      const char* const stop = next ? static_cast<const char*>(next) : end;
+      std::memmove(to, from, static_cast<std::size_t>(stop - from));
+      to += stop - from;
+      from = stop;
+    }
+    return static_cast<std::size_t>(to - text);
   }
 
   bool skip(off64_t most) {

@@ -1,6 +1,7 @@
 #include "platform/FileSystem.h"
 
 #include "platform/Path.h"
+#include "platform/win32/LastError.h"
 
 #include <windows.h>
 
@@ -8,39 +9,34 @@
 #include <cstdint>
 #include <cstdio>
 #include <direct.h>
+#include <fcntl.h>
 #include <io.h>
 
 namespace tarnwick::platform {
 
 namespace {
 
-/// The C run-time's number for what the system has just refused.
-int errnoOfLastError() {
-  switch (GetLastError()) {
-    case ERROR_FILE_NOT_FOUND:
-    case ERROR_PATH_NOT_FOUND:
-    case ERROR_INVALID_NAME:
-    case ERROR_INVALID_DRIVE:
-      return ENOENT;
-    case ERROR_FILE_EXISTS:
-    case ERROR_ALREADY_EXISTS:
-      return EEXIST;
-    case ERROR_DISK_FULL:
-    case ERROR_HANDLE_DISK_FULL:
-      return ENOSPC;
-    case ERROR_ACCESS_DENIED:
-    case ERROR_SHARING_VIOLATION:
-    case ERROR_LOCK_VIOLATION:
-    case ERROR_WRITE_PROTECT:
-      return EACCES;
-    default:
-      return EIO;
-  }
-}
-
 bool hasAttribute(const std::string& path, DWORD attribute, bool wanted) {
   const DWORD attributes = GetFileAttributesA(path.c_str());
   return attributes != INVALID_FILE_ATTRIBUTES && ((attributes & attribute) != 0) == wanted;
+}
+
+/// As `fopen` does, but a reader does not keep anybody from replacing or removing the file.
+std::FILE* openForReading(const std::string& path) {
+  const HANDLE file = CreateFileA(path.c_str(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
+                                  nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
+  if (file == INVALID_HANDLE_VALUE) {
+    errno = errnoOfLastError();
+    return nullptr;
+  }
+  const int descriptor = _open_osfhandle(reinterpret_cast<std::intptr_t>(file), _O_RDONLY | _O_TEXT);
+  if (descriptor < 0) {
+    CloseHandle(file);
+    return nullptr;
+  }
+  std::FILE* stream = _fdopen(descriptor, "r");
+  if (!stream) _close(descriptor);
+  return stream;
 }
 
 /// A call that fills a buffer and tells how much it needs.
@@ -68,9 +64,16 @@ std::string withoutDevicePrefix(const std::string& path) {
 }  // namespace
 
 std::FILE* openFile(const std::string& path, const char* mode) {
+  if (std::string(mode) == "r") return openForReading(path);
   // "N": children do not inherit it.
   return std::fopen(path.c_str(), (std::string(mode) + "N").c_str());
 }
+
+void leaveBytesAlone(std::FILE* stream) {
+  _setmode(_fileno(stream), _O_BINARY);
+}
+
+const char lineEnd[] = "\r\n";
 
 bool claimFile(const std::string& path) {
   const HANDLE file = CreateFileA(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW, FILE_ATTRIBUTE_NORMAL, nullptr);
@@ -124,13 +127,6 @@ bool flushToDisk(std::FILE* stream) {
     return false;
   }
   return _commit(_fileno(stream)) == 0;
-}
-
-bool replaceFile(const std::string& from, const std::string& to) {
-  // ReplaceFile would work in several steps, and leave a file of its own behind when one of them fails.
-  if (MoveFileExA(from.c_str(), to.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH)) return true;
-  errno = errnoOfLastError();
-  return false;
 }
 
 std::string resolvedPath(const std::string& path) {

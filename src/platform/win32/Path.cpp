@@ -38,6 +38,8 @@ std::string upperCaseName(std::string name) {
 }  // namespace
 
 const char folderSeparator = '\\';
+// The same in all the European sets.
+const char brokenBar[] = "\xA6";
 
 PathParts splitPath(const std::string& path) {
   PathParts parts;
@@ -95,6 +97,10 @@ std::string withoutProgramName(const std::string& commandLine) {
 
 std::string rawCommandLine(int, char**) {
   return withoutProgramName(GetCommandLineA());
+}
+
+std::string documentAddress(const std::string& path, const std::string& anchor) {
+  return path + anchor;
 }
 
 }  // namespace tarnwick::platform

@@ -3,9 +3,13 @@
 #include "platform/Path.h"
 #include "support/TestProgram.h"
 
+#include <algorithm>
+#include <cerrno>
 #include <cstdio>
+#include <cstring>
 #include <filesystem>
 #include <gtest/gtest.h>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -100,6 +104,54 @@ TEST(ReplacingFile, TwoSavesOfOneTargetDoNotMeet) {
   EXPECT_EQ(contentOf(folder.file("x.cfg")), "first");
   second.commit();
   EXPECT_EQ(contentOf(folder.file("x.cfg")), "second");
+  EXPECT_EQ(namesIn(folder), Names{"x.cfg"});
+}
+
+TEST(ReplacingFile, SavesAtTheSameTimeHaveNumbersOfTheirOwn) {
+  const ScratchFolder folder;
+  const ReplacingFile first(folder.file("x.cfg"));
+  const ReplacingFile second(folder.file("x.cfg"));
+  Names names = namesIn(folder);
+  std::sort(names.begin(), names.end());
+  EXPECT_EQ(names, (Names{"x.cfg.1.tmp", "x.cfg.2.tmp"}));
+}
+
+TEST(ReplacingFile, WhatAKilledSaveHasLeftIsUsedByTheNext) {
+  const ScratchFolder folder;
+  writeFile(folder.file("x.cfg"), "old");
+  writeFile(folder.file("x.cfg.1.tmp"), "half of a longer conte");
+  ReplacingFile file(folder.file("x.cfg"));
+  EXPECT_EQ(namesIn(folder).size(), 2U);
+  std::fputs("new", file.stream());
+  file.commit();
+  EXPECT_EQ(contentOf(folder.file("x.cfg")), "new");
+  EXPECT_EQ(namesIn(folder), Names{"x.cfg"});
+}
+
+TEST(ReplacingFile, AFolderUnderTheFreshFilesNameIsPassedOver) {
+  const ScratchFolder folder;
+  ASSERT_TRUE(platform::makeFolders(folder.file("x.cfg.1.tmp")));
+  ReplacingFile file(folder.file("x.cfg"));
+  std::fputs("new", file.stream());
+  file.commit();
+  EXPECT_EQ(contentOf(folder.file("x.cfg")), "new");
+  EXPECT_TRUE(platform::isFolder(folder.file("x.cfg.1.tmp")));
+}
+
+TEST(ReplacingFile, MoreSavesAtOnceThanThereAreNumbersFailAndLeaveTheTarget) {
+  const ScratchFolder folder;
+  writeFile(folder.file("x.cfg"), "old");
+  std::vector<std::unique_ptr<ReplacingFile>> saves;
+  for (int i = 0; i < 20; ++i) saves.push_back(std::make_unique<ReplacingFile>(folder.file("x.cfg")));
+  try {
+    const ReplacingFile oneMore(folder.file("x.cfg"));
+    ADD_FAILURE() << "nothing was thrown";
+  } catch (const Tarnwickfile::FileNotOpenE& failure) {
+    EXPECT_EQ(failure.message, std::strerror(EBUSY));
+    EXPECT_EQ(failure.file, folder.file("x.cfg"));
+  }
+  EXPECT_EQ(contentOf(folder.file("x.cfg")), "old");
+  saves.clear();
   EXPECT_EQ(namesIn(folder), Names{"x.cfg"});
 }
 

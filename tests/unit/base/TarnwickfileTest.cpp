@@ -33,24 +33,6 @@ std::string restOf(const Tarnwickfile& file) {
   return text;
 }
 
-TEST(Tarnwickexception, WhereIsAlwaysUnknown) {
-  const Tarnwickexception plain("text");
-  EXPECT_EQ(plain.message, "text");
-  EXPECT_EQ(plain.where, "unknown");
-  const Tarnwickfile::FileNotOpenE named("text", "name");
-  EXPECT_EQ(named.message, "text");
-  EXPECT_EQ(named.where, "unknown");
-  EXPECT_EQ(named.file, "name");
-}
-
-TEST(Tarnwickexception, AHandlerForTheBaseCatchesWhatCarriesText) {
-  try {
-    throw Tarnwickfile::FileNotOpenE("text", "name");
-  } catch (const Tarnwickexception& failure) {
-    EXPECT_EQ(failure.message, "text");
-  }
-}
-
 TEST(Tarnwickfile, TheModesHaveTheirNumbers) {
   EXPECT_EQ(static_cast<int>(FileMode::Read), 0);
   EXPECT_EQ(static_cast<int>(FileMode::Write), 1);
@@ -258,6 +240,101 @@ TEST(CanBeRead, IsHowAFileIsFoundToExist) {
   EXPECT_FALSE(canBeRead(folder.file("missing.txt")));
   EXPECT_FALSE(canBeRead(folder.path()));
   EXPECT_FALSE(canBeRead(""));
+}
+
+TEST(Tarnwickfile, ALoneCarriageReturnIsPartOfTheText) {
+  const ScratchFolder folder;
+  writeFile(folder.file("x.txt"), "one\rtwo\r\r\nthree\n\rfour\r");
+  const Tarnwickfile file(folder.file("x.txt"), FileMode::Read);
+  EXPECT_EQ(restOf(file), "one\rtwo\r\nthree\n\rfour\r");
+}
+
+TEST(Tarnwickfile, LinesAreReadTheSameWhateverEndsThem) {
+  const ScratchFolder folder;
+  for (const std::string end : {"\n", "\r\n"}) {
+    writeFile(folder.file("x.txt"), "one" + end + end + "two" + end);
+    const Tarnwickfile file(folder.file("x.txt"), FileMode::Read);
+    char line[20];
+    for (const char* expected : {"one\n", "\n", "two\n"}) {
+      ASSERT_TRUE(std::fgets(line, sizeof line, file.stream()));
+      EXPECT_STREQ(line, expected);
+    }
+    EXPECT_FALSE(std::fgets(line, sizeof line, file.stream()));
+  }
+}
+
+TEST(Tarnwickfile, WhatIsWrittenReadsBackAsTheSameText) {
+  const ScratchFolder folder;
+  Tarnwickfile file(folder.file("x.txt"), FileMode::Write);
+  std::fputs("one\n\ntwo\n", file.stream());
+  file.open(FileMode::Append);
+  std::fputs("three", file.stream());
+  file.open(FileMode::Read);
+  EXPECT_EQ(restOf(file), "one\n\ntwo\nthree");
+}
+
+TEST(Tarnwickfile, ConstructionFromFolderAndNameThrowsWhatOpenThrows) {
+  const ScratchFolder folder;
+  const auto failure = failureOf([&] { const Tarnwickfile file(folder.path(), "no thing.txt", FileMode::Read); });
+  EXPECT_EQ(failure.message, "No such file or directory");
+  EXPECT_EQ(failure.file, folder.file("no thing.txt"));
+}
+
+TEST(Tarnwickfile, WritingIntoAFolderThatIsMissingThrows) {
+  const ScratchFolder folder;
+  const std::string path = folder.file("missing") + platform::folderSeparator + "x.txt";
+  for (const FileMode mode : {FileMode::Write, FileMode::Append}) {
+    const auto failure = failureOf([&] { const Tarnwickfile file(path, mode); });
+    EXPECT_EQ(failure.message, "No such file or directory");
+    EXPECT_EQ(failure.file, path);
+  }
+}
+
+TEST(Tarnwickfile, AFailureTellsTheNameWithoutQuotes) {
+  const auto failure = failureOf([] { const Tarnwickfile file(" \"no where/no thing\" ", FileMode::Read); });
+  EXPECT_EQ(failure.file, "no where/no thing");
+}
+
+TEST(Tarnwickfile, AFailedOpenStoresItsModeAllTheSame) {
+  const ScratchFolder folder;
+  Tarnwickfile file = Tarnwickfile::unopened(folder.file("x.txt"), FileMode::Undefined);
+  EXPECT_THROW(file.open(FileMode::Read), Tarnwickfile::FileNotOpenE);
+  EXPECT_EQ(file.mode(), FileMode::Read);
+  writeFile(folder.file("x.txt"), "text");
+  file.open(FileMode::Undefined);
+  EXPECT_EQ(restOf(file), "text");
+}
+
+TEST(Tarnwickfile, AnUnopenedFileWithoutModeIsToldHowLater) {
+  const ScratchFolder folder;
+  Tarnwickfile file = Tarnwickfile::unopened(folder.file("x.txt"), FileMode::Undefined);
+  const auto failure = failureOf([&] { file.open(FileMode::Undefined); });
+  EXPECT_EQ(failure.message, "Tarnwickfile::open(): Don't know how to open \"x.txt\"");
+  EXPECT_FALSE(platform::isFile(folder.file("x.txt")));
+  file.open(FileMode::Write);
+  EXPECT_TRUE(platform::isFile(folder.file("x.txt")));
+}
+
+TEST(Tarnwickfile, AssignmentOpensAlsoWhatWasClosed) {
+  const ScratchFolder folder;
+  writeFile(folder.file("x.txt"), "text");
+  Tarnwickfile source = Tarnwickfile::unopened(folder.file("x.txt"), FileMode::Read);
+  Tarnwickfile file;
+  file = source;
+  EXPECT_FALSE(source.isOpen());
+  EXPECT_EQ(restOf(file), "text");
+  EXPECT_EQ(source.name().fullName(), folder.file("x.txt")) << "the source keeps its name";
+  EXPECT_EQ(source.mode(), FileMode::Read);
+}
+
+TEST(Tarnwickfile, AssignmentToItselfChangesNothing) {
+  const ScratchFolder folder;
+  writeFile(folder.file("x.txt"), "text");
+  Tarnwickfile file(folder.file("x.txt"), FileMode::Read);
+  std::fgetc(file.stream());
+  Tarnwickfile& same = file;
+  file = same;
+  EXPECT_EQ(restOf(file), "ext");
 }
 
 }  // namespace

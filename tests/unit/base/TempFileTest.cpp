@@ -220,5 +220,71 @@ TEST(TempFile, WhatCouldNotBeOpenedIsNotDeleted) {
   EXPECT_EQ(contentOf(tempName(folder, 1)), "somebody else's");
 }
 
+TEST(TempFile, AFileOfADayExactlyIsALeftover) {
+  const ScratchFolder folder;
+  writeFile(tempName(folder, 1), "old");
+  makeOlder(tempName(folder, 1), day);
+  TempFile file("Tarnwick_LOG", folder.path());
+  file.openTemp(FileMode::Write);
+  EXPECT_EQ(file.name().fullName(), tempName(folder, 1));
+}
+
+TEST(TempFile, NumbersInUseArePassedOverUpToTheFirstThatIsFreeOrOld) {
+  const ScratchFolder folder;
+  for (int number = 1; number <= 12; ++number) writeFile(tempName(folder, number), "in use");
+  makeOlder(tempName(folder, 11), 2 * day);
+  TempFile old("Tarnwick_LOG", folder.path());
+  old.openTemp(FileMode::Write);
+  EXPECT_EQ(old.name().fullName(), tempName(folder, 11)) << "two digits";
+  TempFile free("Tarnwick_LOG", folder.path());
+  free.openTemp(FileMode::Write);
+  EXPECT_EQ(free.name().fullName(), tempName(folder, 13));
+}
+
+TEST(TempFile, ALowerNumberThatBecameFreeIsTakenFirst) {
+  const ScratchFolder folder;
+  auto first = std::make_unique<TempFile>("Tarnwick_LOG", folder.path());
+  TempFile second("Tarnwick_LOG", folder.path());
+  first->openTemp(FileMode::Write);
+  second.openTemp(FileMode::Write);
+  first.reset();
+  TempFile third("Tarnwick_LOG", folder.path());
+  third.openTemp(FileMode::Write);
+  EXPECT_EQ(third.name().fullName(), tempName(folder, 1));
+}
+
+TEST(TempFile, WithoutAModeItIsOpenedForWriting) {
+  const ScratchFolder folder;
+  TempFile file("Tarnwick_LOG", folder.path());
+  file.openTemp(FileMode::Undefined);
+  EXPECT_EQ(file.mode(), FileMode::Write);
+  std::fputs("text", file.stream());
+  file.close();
+  EXPECT_EQ(contentOf(tempName(folder, 1)), "text");
+}
+
+TEST(TempFile, AFolderInTheWayIsPassedOver) {
+  const ScratchFolder folder;
+  ASSERT_TRUE(platform::makeFolders(tempName(folder, 1)));
+  TempFile file("Tarnwick_LOG", folder.path());
+  file.openTemp(FileMode::Write);
+  EXPECT_EQ(file.name().fullName(), tempName(folder, 2));
+}
+
+TEST(TempFile, ADestructorWithoutAFileDeletesNothing) {
+  const ScratchFolder folder;
+  writeFile(tempName(folder, 1), "somebody else's");
+  { const TempFile file("Tarnwick_LOG", folder.path()); }
+  EXPECT_EQ(contentOf(tempName(folder, 1)), "somebody else's");
+}
+
+TEST(TempFile, ClosingDoesNotDelete) {
+  const ScratchFolder folder;
+  TempFile file("Tarnwick_LOG", folder.path());
+  file.openTemp(FileMode::Write);
+  file.close();
+  EXPECT_TRUE(platform::isFile(tempName(folder, 1))) << "an editor may be looking at it";
+}
+
 }  // namespace
 }  // namespace tarnwick

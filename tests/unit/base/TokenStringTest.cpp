@@ -158,5 +158,102 @@ TEST(TokenString, AnIndexOutsideTheListIsOutOfBounds) {
   EXPECT_EQ(list.element(1), "b");
 }
 
+TEST(TokenString, FindComparesWholeElementsWithoutTheirEscapes) {
+  const TokenString list = listOf({"ab", "a", "x;y", "]z", "\xC3\x84"});
+  EXPECT_EQ(list.find("A"), 1);
+  EXPECT_EQ(list.find("X;Y"), 2);
+  EXPECT_EQ(list.find("x];y"), -1);
+  EXPECT_EQ(list.find("]Z"), 3);
+  EXPECT_EQ(list.find("\xC3\xA4"), -1) << "case is ignored for the letters of the alphabet";
+}
+
+TEST(TokenString, AnEmptyElementIsFound) {
+  EXPECT_EQ(listOf({"a", "", ""}).find(""), 1);
+  EXPECT_EQ(listOf({"a", "b", ""}).find(""), 2) << "also the last";
+  EXPECT_EQ(listOf({""}).find(""), 0);
+}
+
+TEST(TokenString, TheOperatorsAddAsAddDoes) {
+  TokenString list;
+  list += 7;
+  list += std::string("a;b");
+  EXPECT_EQ(list.toString(), "7;a];b");
+  EXPECT_EQ(list.count(), 2);
+}
+
+TEST(TokenString, ElementsCanBeAddedToWhatWasRead) {
+  TokenString list;
+  list.fromString("a;b");
+  list.add(std::string("c;"));
+  EXPECT_EQ(list.toString(), "a;b;c];");
+  EXPECT_EQ(list.count(), 3);
+  EXPECT_EQ(list.element(2), "c;");
+}
+
+TEST(TokenString, BehindTheUncountedEmptyElementFurtherOnesAreCounted) {
+  TokenString list;
+  list.add(std::string());
+  list.add(std::string("a"));
+  EXPECT_EQ(list.toString(), ";a");
+  EXPECT_EQ(list.count(), 2);
+  EXPECT_EQ(list.element(0), "");
+  EXPECT_EQ(list.element(1), "a");
+}
+
+TEST(TokenString, AskingForAnElementChangesNothing) {
+  TokenString list = listOf({"a;b", "c"});
+  list.element(0);
+  list.element(1);
+  EXPECT_EQ(list.toString(), "a];b;c");
+  EXPECT_EQ(list.count(), 2);
+}
+
+TEST(TokenString, AListInAListKeepsBoth) {
+  TokenString outer('!', ']');
+  TokenString inner = listOf({"a;b!", "c]"});
+  outer.add(inner.toString());
+  outer.add(std::string());
+  EXPECT_EQ(outer.toString(), "a]];b]!;c]]]]!");
+  TokenString again;
+  again.fromString(outer.element(0));
+  EXPECT_EQ(again.element(0), "a;b!");
+  EXPECT_EQ(again.element(1), "c]");
+}
+
+TEST(TokenString, LettersBeyondAsciiAreKept) {
+  TokenString list =
+      listOf({"Gr\xC3\xB6\xC3\x9F"
+              "e",
+              "\xE6\x97\xA5"});
+  EXPECT_EQ(list.toString(),
+            "Gr\xC3\xB6\xC3\x9F"
+            "e;\xE6\x97\xA5");
+  EXPECT_EQ(list.element(1), "\xE6\x97\xA5");
+}
+
+TEST(TokenString, AVeryLongElementIsKept) {
+  const std::string piece = "a;b]c";
+  std::string element;
+  for (int i = 0; i < 200000; ++i) element += piece;
+  TokenString list;
+  list.add(element);
+  list.add(std::string("end"));
+  TokenString again(list.toString(), ';', ']');
+  EXPECT_EQ(again.count(), 2);
+  EXPECT_EQ(again.element(0), element);
+  EXPECT_EQ(again.find("end"), 1);
+}
+
+TEST(TokenString, AListOfVeryManyElementsIsSearchedInOneWalk) {
+  constexpr int many = 200000;
+  TokenString list;
+  for (int i = 0; i < many; ++i) list.add(i);
+  TokenString again(list.toString(), ';', ']');
+  EXPECT_EQ(again.count(), many);
+  EXPECT_EQ(again.element(many - 1), std::to_string(many - 1));
+  EXPECT_EQ(again.find(std::to_string(many - 1)), many - 1);
+  EXPECT_EQ(again.find("x"), -1);
+}
+
 }  // namespace
 }  // namespace tarnwick

@@ -82,6 +82,24 @@ TEST(FileSystem, ReadingDropsACarriageReturnAtEveryPlaceOfABlock) {
   }
 }
 
+TEST(FileSystem, ReadingLargeBlocksDropsTheSameCarriageReturns) {
+  const ScratchFolder folder;
+  const std::string path = folder.file("x.txt");
+  // Around the place where a reader's large block ends.
+  constexpr std::size_t block = 65'536;
+  for (std::size_t before = block - 4; before <= block + 1; ++before) {
+    const std::string text = std::string(before, 'a') + "\r\r\n\r\nb\rc\n\r";
+    writeFile(path, "\r\n" + text);
+    std::FILE* stream = openFile(path, "r");
+    ASSERT_TRUE(stream);
+    std::string all(block, '\0');
+    std::string read;
+    while (const std::size_t count = std::fread(all.data(), 1, block, stream)) read.append(all, 0, count);
+    std::fclose(stream);
+    EXPECT_EQ(read, '\n' + std::string(before, 'a') + "\r\n\nb\rc\n\r") << before;
+  }
+}
+
 TEST(FileSystem, ReadingBytesDropsNothing) {
   const ScratchFolder folder;
   const std::string path = folder.file("x.txt");
@@ -191,26 +209,6 @@ TEST(FileSystem, MakeFoldersFailsWhereAFileStands) {
   EXPECT_FALSE(makeFolders(folder.file("x") + folderSeparator + "y"));
   EXPECT_FALSE(makeFolders(""));
   EXPECT_EQ(contentOf(folder.file("x")), "x");
-}
-
-TEST(FileSystem, ReplaceFilePutsOneFileInTheOthersPlace) {
-  const ScratchFolder folder;
-  writeFile(folder.file("new"), "new");
-  writeFile(folder.file("old"), "old");
-  EXPECT_TRUE(replaceFile(folder.file("new"), folder.file("old")));
-  EXPECT_EQ(contentOf(folder.file("old")), "new");
-  EXPECT_FALSE(isFile(folder.file("new")));
-  EXPECT_TRUE(replaceFile(folder.file("old"), folder.file("fresh"))) << "where nothing was";
-  EXPECT_EQ(contentOf(folder.file("fresh")), "new");
-}
-
-TEST(FileSystem, ReplaceFileTellsWhyItFailed) {
-  const ScratchFolder folder;
-  writeFile(folder.file("old"), "old");
-  errno = 0;
-  EXPECT_FALSE(replaceFile(folder.file("missing"), folder.file("old")));
-  EXPECT_EQ(errno, ENOENT);
-  EXPECT_EQ(contentOf(folder.file("old")), "old");
 }
 
 TEST(FileSystem, FlushToDiskBringsWhatWasWritten) {

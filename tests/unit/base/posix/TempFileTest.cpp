@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 #include <string>
+#include <unistd.h>
 
 namespace tarnwick {
 namespace {
@@ -27,6 +28,15 @@ TEST(PosixTempFile, AfterTheLastCandidateItGivesUp) {
   ASSERT_TRUE(platform::deleteFile(name(last)));
   file.openTemp(FileMode::Write);
   EXPECT_EQ(file.name().fullName(), name(last));
+}
+
+TEST(PosixTempFile, ALinkThatLeadsNowhereIsNotFollowed) {
+  const ScratchFolder folder;
+  ASSERT_EQ(::symlink("elsewhere", folder.file("Tarnwick_LOG1.tmp").c_str()), 0);
+  TempFile file("Tarnwick_LOG", folder.path());
+  file.openTemp(FileMode::Write);
+  EXPECT_EQ(file.name().fullName(), folder.file("Tarnwick_LOG2.tmp"));
+  EXPECT_FALSE(platform::isFile(folder.file("elsewhere")));
 }
 
 }  // namespace

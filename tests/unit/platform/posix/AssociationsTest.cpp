@@ -87,6 +87,15 @@ TEST_F(PosixAssociationsTest, AJarEditorGetsTheLogThroughItsAssociation) {
   EXPECT_TRUE(recordIs("-jar\n/my tools/edit.jar\n" + log + '\n'));
 }
 
+TEST_F(PosixAssociationsTest, AJarEditorGetsTheSourceThroughItsAssociation) {
+  makeProgram("runner");
+  xdg_.addApplication("jars", "runner -jar %f", "application/x-java-archive;");
+  const std::string source = script_.folder().file("my A.java");
+  EXPECT_EQ(probe("edit 0 \"" + source + "\" \"/my tools/edit.jar\""), "1 " + currentDirectory() + '\n')
+      << "the folder stays, other than with a program";
+  EXPECT_TRUE(recordIs("-jar\n/my tools/edit.jar\n" + source + '\n'));
+}
+
 TEST_F(PosixAssociationsTest, PlainTextEditorsBeginWithTheUsersDefault) {
   for (const char* name : {"kate", "gedit", "mine"}) makeProgram(name);
   xdg_.addApplication("mine", "mine --new \"two words\" %U -x", "text/plain;");
@@ -105,6 +114,18 @@ TEST_F(PosixAssociationsTest, WithoutADefaultTheCommonEditorsAreTaken) {
 
 TEST_F(PosixAssociationsTest, WithNoEditorAtAllThereIsNone) {
   EXPECT_EQ(probe("editors"), "");
+}
+
+TEST_F(PosixAssociationsTest, OurOwnSmallEditorBesideTheProgramComesLast) {
+  std::filesystem::copy_file(test::standInFolder() + "launch_probe", programs() + "launch_probe");
+  makeProgram("tarnwick-notepad");
+  const auto ask = [&](const std::string& arguments) { return test::outputOf(programs() + "launch_probe", arguments); };
+  EXPECT_EQ(ask("editors"), programs() + "tarnwick-notepad\n");
+  const std::string log = script_.folder().file("Tarnwick_LOG1.tmp");
+  EXPECT_EQ(ask("showlog \"" + script_.folder().path() + "\" 0 1"), log + '\n');
+  EXPECT_TRUE(recordIs(log + '\n')) << "a machine without any editor shows the log all the same";
+  makeProgram("gedit");
+  EXPECT_EQ(ask("editors"), "gedit\n" + programs() + "tarnwick-notepad\n");
 }
 
 TEST_F(PosixAssociationsTest, NotepadIsTheUsersEditorForPlainText) {

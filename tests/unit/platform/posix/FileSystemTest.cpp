@@ -31,6 +31,28 @@ int descriptorOf(const std::string& path) {
   return -1;
 }
 
+TEST(PosixFileSystem, APipeIsWrittenToOnlyIfSomebodyReadsIt) {
+  const ScratchFolder folder;
+  const std::string path = folder.file("pipe");
+  ASSERT_EQ(::mkfifo(path.c_str(), 0600), 0);
+  for (const char* mode : {"w", "wb", "a"}) {
+    errno = 0;
+    EXPECT_FALSE(openFile(path, mode)) << mode;
+    EXPECT_EQ(errno, ENXIO) << mode;
+  }
+  const int reader = ::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+  ASSERT_GE(reader, 0);
+  std::FILE* stream = openFile(path, "w");
+  ASSERT_TRUE(stream);
+  EXPECT_FALSE(::fcntl(::fileno(stream), F_GETFL) & O_NONBLOCK) << "a slow reader is waited for";
+  std::fputs("x", stream);
+  std::fclose(stream);
+  char c = 0;
+  EXPECT_EQ(::read(reader, &c, 1), 1);
+  EXPECT_EQ(c, 'x');
+  ::close(reader);
+}
+
 TEST(PosixFileSystem, NoChildInheritsAStream) {
   const ScratchFolder folder;
   const std::string path = folder.file("x");
@@ -71,17 +93,6 @@ TEST(PosixFileSystem, ATextCanBeSoughtFromItsEnd) {
   ASSERT_EQ(std::fseek(stream, 2, SEEK_CUR), 0);
   EXPECT_EQ(std::fgetc(stream), 't');
   std::fclose(stream);
-}
-
-TEST(PosixFileSystem, AFileThatReplacesAnotherTakesItsPermissions) {
-  const ScratchFolder folder;
-  writeFile(folder.file("new"), "new");
-  writeFile(folder.file("old"), "old");
-  ASSERT_EQ(::chmod(folder.file("old").c_str(), 0640), 0);
-  ASSERT_TRUE(replaceFile(folder.file("new"), folder.file("old")));
-  struct stat status {};
-  ASSERT_EQ(::stat(folder.file("old").c_str(), &status), 0);
-  EXPECT_EQ(status.st_mode & 07777, 0640u);
 }
 
 TEST(PosixFileSystem, ResolvedPathFollowsLinks) {

@@ -23,6 +23,12 @@ TEST(PosixPath, ABackslashOrColonIsPartOfAName) {
   EXPECT_FALSE(endsInSeparator("a\\"));
 }
 
+TEST(PosixPath, ADocumentsAddressIsAFileAddressWithTheAnchor) {
+  EXPECT_EQ(documentAddress("/opt/a b/\xC3\xA4#%?.htm", "#paths"), "file:///opt/a%20b/%C3%A4%23%25%3F.htm#paths");
+  EXPECT_EQ(documentAddress("/opt/guide.htm", ""), "file:///opt/guide.htm");
+  EXPECT_EQ(documentAddress("guide.htm", ""), documentAddress(absolutePath("guide.htm"), ""));
+}
+
 TEST(PosixPath, AToolsFileHasNoExeAndJavawIsJava) {
   EXPECT_EQ(toolFileName("javac"), "javac");
   EXPECT_EQ(toolFileName("java"), "java");

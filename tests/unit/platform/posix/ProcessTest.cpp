@@ -1,12 +1,12 @@
 #include "platform/FileSystem.h"
 #include "platform/Process.h"
 #include "support/Children.h"
+#include "support/posix/ProcessTable.h"
 
 #include <chrono>
 #include <csignal>
 #include <fcntl.h>
 #include <filesystem>
-#include <fstream>
 #include <functional>
 #include <gtest/gtest.h>
 #include <iterator>
@@ -20,6 +20,7 @@ namespace tarnwick::platform {
 namespace {
 
 using test::outputOf;
+using test::processFields;
 using test::processLives;
 using test::readAll;
 using test::StandInScript;
@@ -32,16 +33,6 @@ std::string java() {
   return StandInScript::tool("java");
 }
 
-/// The fields of a process's line in the system's table, from its state on.
-std::vector<std::string> tableFields(const std::string& process) {
-  std::ifstream file("/proc/" + process + "/stat");
-  const std::string stat{std::istreambuf_iterator<char>(file), {}};
-  const auto nameEnd = stat.rfind(')');
-  if (nameEnd == std::string::npos) return {};
-  std::istringstream rest(stat.substr(nameEnd + 2));
-  return {std::istream_iterator<std::string>(rest), {}};
-}
-
 /// Counts processes whose field with this index (0 state, 1 parent, 2 group) is `value`, and whose state is `state` if
 /// that is given.
 int processesWith(std::size_t field, int value, const std::string& state = "") {
@@ -49,7 +40,7 @@ int processesWith(std::size_t field, int value, const std::string& state = "") {
   for (const auto& entry : std::filesystem::directory_iterator("/proc")) {
     const std::string name = entry.path().filename().string();
     if (name.find_first_not_of("0123456789") != std::string::npos) continue;
-    const auto fields = tableFields(name);
+    const auto fields = processFields(name);
     if (fields.size() > field && fields[field] == std::to_string(value) && (state.empty() || fields[0] == state)) {
       ++count;
     }
@@ -187,6 +178,58 @@ TEST(PosixProcessTest, TheTreeEndsWhenItsOwnerIsKilled) {
   EXPECT_EQ(resultOf(owner), -SIGKILL);
   EXPECT_TRUE(waitUntil([&] { return !processLives(grandchild); }));
   EXPECT_TRUE(waitUntil([&] { return !processLives(group); })) << "the child itself";
+}
+
+TEST(PosixProcessTest, WhatWentIntoASessionOfItsOwnEndsWithTheTree) {
+  const StandInScript script("orphan 60000\nsleep 60000");
+  const auto child = ChildProcess::start({java(), "", true});
+  const int orphan = script.grandchildren(1).at(0);
+  EXPECT_EQ(getsid(orphan) == getsid(0), false);
+  const auto begin = steady_clock::now();
+  child->endTree();
+  child->wait();
+  EXPECT_TRUE(waitUntil([&] { return !processLives(orphan); }));
+  EXPECT_LT(steady_clock::now() - begin, milliseconds(1500)) << "it heeds TERM";
+}
+
+TEST(PosixProcessTest, AStubbornProcessInASessionOfItsOwnIsKilledAlsoWhenTheOwnerIsKilled) {
+  const StandInScript script("ignoreterm\norphan 60000\nsleep 60000");
+  const pid_t owner = inACopy([] {
+    const auto child = ChildProcess::start({java(), "", true});
+    child->wait();
+    return 0;
+  });
+  const int orphan = script.grandchildren(1).at(0);
+  const auto begin = steady_clock::now();
+  kill(owner, SIGKILL);
+  EXPECT_EQ(resultOf(owner), -SIGKILL);
+  EXPECT_TRUE(waitUntil([&] { return !processLives(orphan); }));
+  EXPECT_LT(steady_clock::now() - begin, milliseconds(3000));
+}
+
+TEST(PosixProcessTest, WhatEndsBelowTheChildLeavesNoZombie) {
+  const StandInScript script("orphan 10\norphan 10\nout done\nsleep 60000");
+  const auto child = ChildProcess::start({java(), "", true});
+  const auto orphans = script.grandchildren(2);
+  for (const int orphan : orphans) {
+    EXPECT_TRUE(waitUntil([orphan] { return processFields(std::to_string(orphan)).empty(); }));
+  }
+  child->endTree();
+  child->wait();
+}
+
+TEST(PosixProcessTest, WithoutItsGuardAChildEndsAtOnce) {
+  const auto child = ChildProcess::start({"/bin/sh", "-c \"echo $PPID $$; exec sleep 60\"", true});
+  char text[64] = "";
+  child->read(Stream::Output, text, sizeof text - 1);
+  int guard = 0;
+  int process = 0;
+  std::istringstream(text) >> guard >> process;
+  ASSERT_GT(guard, 1);
+  EXPECT_TRUE(processLives(process));
+  kill(guard, SIGKILL);
+  child->wait();
+  EXPECT_TRUE(waitUntil([process] { return !processLives(process); }));
 }
 
 TEST(PosixProcessTest, TheOwnerMayLeaveRightAfterEndTree) {

@@ -1,0 +1,9 @@
+#include "platform/SystemVersion.h"
+
+namespace tarnwick::platform {
+
+bool isWindows98() {
+  return false;
+}
+
+}  // namespace tarnwick::platform

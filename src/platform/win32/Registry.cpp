@@ -1,0 +1,89 @@
+#include "platform/win32/Registry.h"
+
+namespace tarnwick::platform {
+namespace {
+
+struct Trace {
+  HKEY root;
+  RegistryPath path;
+  const char* key;
+};
+
+std::string textValue(HKEY key, const char* name) {
+  char buffer[100] = "";
+  DWORD size = sizeof buffer - 1;
+  if (RegQueryValueExA(key, name, nullptr, nullptr, reinterpret_cast<BYTE*>(buffer), &size) != ERROR_SUCCESS) return "";
+  return buffer;
+}
+
+}  // namespace
+
+HKEY openKeyPath(HKEY root, const RegistryPath& path) {
+  std::string message = "Couldn't find registry subkey ";
+  HKEY key = root;
+  for (const auto& name : path) {
+    message += '\\' + name;
+    HKEY next = nullptr;
+    if (RegOpenKeyExA(key, name.c_str(), 0, KEY_READ, &next) != ERROR_SUCCESS) throw NoSuchRegistryEntryE{message};
+    key = next;
+  }
+  return key;
+}
+
+void deleteKeyTree(HKEY parent, const std::string& name) {
+  HKEY key = nullptr;
+  try {
+    key = openKeyPath(parent, {name});
+  } catch (const NoSuchRegistryEntryE&) {
+    return;
+  }
+  char subkey[256];
+  // The index goes up although subkeys disappear, so that every second one is passed over. This is meant: the keys that
+  // this is for have one level and few entries.
+  for (DWORD index = 0;; ++index) {
+    DWORD size = sizeof subkey;
+    if (RegEnumKeyExA(key, index, subkey, &size, nullptr, nullptr, nullptr, nullptr) != ERROR_SUCCESS) break;
+    deleteKeyTree(key, subkey);
+  }
+  RegDeleteKeyA(parent, name.c_str());
+}
+
+void removeFileTypeTraces() {
+  const Trace traces[] = {
+      {HKEY_CLASSES_ROOT, {}, ".twp"},
+      {HKEY_CLASSES_ROOT, {}, "Tarnwick.Project"},
+      {HKEY_CLASSES_ROOT, {}, "twp_auto_file"},
+      {HKEY_CURRENT_USER, {"SOFTWARE", "Microsoft", "Windows", "CurrentVersion", "Explorer", "FileExts"}, ".twp"},
+  };
+  for (const auto& trace : traces) {
+    try {
+      const HKEY parent = openKeyPath(trace.root, trace.path);
+      deleteKeyTree(parent, trace.key);
+      RegFlushKey(parent);
+    } catch (const NoSuchRegistryEntryE&) {
+      // Nothing to remove in this row.
+    }
+  }
+}
+
+bool writeDefaultValue(HKEY root, const std::string& path, const std::string& value) {
+  HKEY key = nullptr;
+  if (RegCreateKeyExA(root, path.c_str(), 0, nullptr, 0, KEY_ALL_ACCESS, nullptr, &key, nullptr) != ERROR_SUCCESS) {
+    return false;
+  }
+  const LONG result = RegSetValueExA(key, nullptr, 0, REG_SZ, reinterpret_cast<const BYTE*>(value.c_str()),
+                                     static_cast<DWORD>(value.size() + 1));
+  RegCloseKey(key);
+  return result == ERROR_SUCCESS;
+}
+
+bool tellsOfWindows98(HKEY root, const RegistryPath& path) {
+  try {
+    const HKEY key = openKeyPath(root, path);
+    return textValue(key, "ProductName") == "Microsoft Windows 98" || textValue(key, "Version") == "Windows 98";
+  } catch (const NoSuchRegistryEntryE&) {
+    return false;
+  }
+}
+
+}  // namespace tarnwick::platform

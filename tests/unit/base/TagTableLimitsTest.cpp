@@ -1,0 +1,150 @@
+// Files that are large, or in which everything goes wrong at once.
+#include "base/TagTable.h"
+#include "base/TokenString.h"
+#include "support/TestProgram.h"
+
+#include <gtest/gtest.h>
+#include <string>
+#include <vector>
+
+namespace tarnwick {
+namespace {
+
+using test::ScratchFolder;
+using test::writeFile;
+
+/// Notes the order in which values are set.
+struct Noter : StringableM {
+  Noter(std::vector<std::string>& notes, std::string name) : notes_(notes), name_(std::move(name)) {}
+  std::string toString() override { return ""; }
+  void fromString(const std::string& text) override { notes_.push_back(name_ + '=' + text); }
+
+ private:
+  std::vector<std::string>& notes_;
+  std::string name_;
+};
+
+class TagTableLimits : public testing::Test {
+ protected:
+  int read(const std::string& content) {
+    writeFile(path_, content);
+    Tarnwickfile file = Tarnwickfile::unopened(path_, FileMode::Read);
+    return table_.read(file);
+  }
+
+  const ScratchFolder folder_;
+  const std::string path_ = folder_.file("x.cfg");
+  std::string text_ = "old";
+  int number_ = 77;
+  int verbose_ = 1;
+  int bad_ = 0;
+  std::vector<std::string> messages_;
+  TagRow rows_[5] = {
+      {"TEXT", TAG_STRING, &text_, nullptr, 0, 0, 0, 0},     {"NUMBER", TAG_INT, &number_, nullptr, 0, 0, 0, 0},
+      {"VERBOSE", TAG_BOOL, &verbose_, nullptr, 0, 0, 0, 0}, {"BAD", 17, &bad_, nullptr, 0, 0, 0, 0},
+      {"", TAG_END, nullptr, nullptr, 0, 0, 0, 0},
+  };
+  TagTable table_{rows_, "Tarnwick V4.7a", [this](const std::string& message) { messages_.push_back(message); }};
+};
+
+TEST_F(TagTableLimits, KindsAndTheMaskHaveTheirNumbers) {
+  EXPECT_EQ(TAG_STRING, 0);
+  EXPECT_EQ(TAG_INT, 1);
+  EXPECT_EQ(TAG_BOOL, 2);
+  EXPECT_EQ(TAG_STRINGABLE, 3);
+  EXPECT_EQ(TAG_END, 4);
+  EXPECT_EQ(READ_FAILURE_MASK, 26);
+}
+
+TEST_F(TagTableLimits, EveryStatusBitAloneAndCombined) {
+  const struct {
+    const char* line;
+    int bit;
+  } faults[] = {{"NO_SUCH_TAG  x\n", READ_UNKNOWN_TAG}, {"NUMBER  x\n", READ_BAD_VALUE}, {"VERBOSE\n", READ_NO_VALUE}};
+  for (int set = 0; set < 8; ++set) {
+    std::string content;
+    int bits = 0;
+    for (int i = 0; i < 3; ++i) {
+      if ((set >> i & 1) == 0) continue;
+      content += faults[i].line;
+      bits |= faults[i].bit;
+    }
+    text_ = "old";
+    EXPECT_EQ(read(content + "TEXT  read on\n"), bits) << content;
+    EXPECT_EQ(text_, "read on");
+    EXPECT_EQ((bits & READ_FAILURE_MASK) != 0, (set & 2) != 0) << "only the bad value is a failure";
+    EXPECT_EQ(read(content + "BAD  x\nTEXT  never\n"), READ_BAD_ROW) << content;
+    EXPECT_EQ(text_, "read on");
+  }
+}
+
+TEST_F(TagTableLimits, ALineOfAMillionCharactersIsReadWhole) {
+  const std::string value(1000000 - std::string("TEXT  ").size(), 'x');
+  EXPECT_EQ(read("NUMBER  4\nTEXT  " + value + "\nVERBOSE  OFF\n"), 0);
+  EXPECT_EQ(text_.size(), value.size());
+  EXPECT_TRUE(text_ == value);
+  EXPECT_EQ(number_, 4);
+  EXPECT_EQ(verbose_, 0);
+}
+
+TEST_F(TagTableLimits, AFileOf100000LinesIsReadToItsLastOne) {
+  std::string content;
+  for (int i = 0; i < 50000; ++i)
+    content += "NUMBER  " + std::to_string(i) + "\nTEXT  line " + std::to_string(i) + '\n';
+  EXPECT_EQ(read(content), 0);
+  EXPECT_EQ(number_, 49999);
+  EXPECT_EQ(text_, "line 49999");
+}
+
+TEST_F(TagTableLimits, AFileWithoutALastLineEndIsReadWholeForEveryKind) {
+  EXPECT_EQ(read("NUMBER  12"), 0);
+  EXPECT_EQ(number_, 12);
+  EXPECT_EQ(read("NUMBER  4\nVERBOSE  OFF"), 0);
+  EXPECT_EQ(verbose_, 0);
+  EXPECT_EQ(read("TEXT"), 0);
+  EXPECT_EQ(text_, "");
+  EXPECT_EQ(read("NUMBER"), READ_NO_VALUE);
+}
+
+TEST_F(TagTableLimits, TheMessageOfABadRowNamesTheTagOfTheLineAndThatOfTheRow) {
+  EXPECT_EQ(read("bad x\n"), READ_BAD_ROW);
+  EXPECT_EQ(messages_, std::vector<std::string>{"Settings: Error processing tag \"BAD\"/\"BAD\""});
+}
+
+TEST_F(TagTableLimits, ATagOf63CharactersIsReadAndALongerOneIsUnknown) {
+  const std::string longest(63, 'T');
+  rows_[0].tag = longest.c_str();
+  EXPECT_EQ(read(longest + "  x\n"), 0);
+  EXPECT_EQ(text_, "x");
+  EXPECT_EQ(read(longest + "T  y\n"), READ_UNKNOWN_TAG);
+  EXPECT_EQ(text_, "x");
+}
+
+TEST_F(TagTableLimits, ResettingGoesInTheOrderOfTheTable) {
+  std::vector<std::string> notes;
+  Noter first(notes, "first");
+  Noter second(notes, "second");
+  Noter third(notes, "third");
+  const TagRow rows[] = {
+      {"C", TAG_STRINGABLE, static_cast<StringableM*>(&first), "1", 0, 0, 148, 0},
+      {"B", TAG_STRINGABLE, static_cast<StringableM*>(&third), "3", 0, 0, 150, 0},
+      {"A", TAG_STRINGABLE, static_cast<StringableM*>(&second), nullptr, 0, 0, 148, 0},
+      {"", TAG_END, nullptr, nullptr, 0, 0, 0, 0},
+  };
+  TagTable(rows, "", nullptr).resetToDefaults(148);
+  EXPECT_EQ(notes, (std::vector<std::string>{"first=1", "second="}));
+}
+
+TEST_F(TagTableLimits, NeitherReadingNorWritingNorResettingLooksAtPageOrControl) {
+  rows_[0].page = rows_[1].page = 999;
+  rows_[0].control = -1;
+  EXPECT_EQ(read("TEXT  x\nNUMBER  3\n"), 0);
+  EXPECT_EQ(text_, "x");
+  rows_[1].owner = 148;
+  table_.resetToDefaults(148);
+  EXPECT_EQ(number_, 0);
+  EXPECT_EQ(text_, "x");
+}
+
+}  // namespace
+}  // namespace tarnwick

@@ -1,0 +1,79 @@
+#include "platform/FileSystem.h"
+#include "platform/ProjectType.h"
+#include "platform/SystemVersion.h"
+#include "support/Children.h"
+#include "support/posix/XdgFolders.h"
+
+#include <filesystem>
+#include <gtest/gtest.h>
+
+namespace tarnwick::platform {
+namespace {
+
+using test::StandInScript;
+
+/// Registration happens in a fresh process: the system's answers are kept for the life of one.
+class PosixProjectTypeTest : public testing::Test {
+ protected:
+  std::string data() const { return script_.folder().file("data/"); }
+  std::string probe(const std::string& arguments) const {
+    return test::outputOf(resolvedPath(test::standInFolder() + "launch_probe"), arguments);
+  }
+  std::string makeProgram(const std::string& name) const {
+    std::filesystem::copy_file(StandInScript::tool("java"), script_.folder().file(name));
+    return script_.folder().file(name);
+  }
+  StandInScript script_{""};
+  test::XdgFolders xdg_{script_.folder().path()};
+};
+
+TEST_F(PosixProjectTypeTest, TheTypeAndItsOpenerStandInTheUsersData) {
+  const std::string program = makeProgram("tarnwick");
+  EXPECT_EQ(probe("register " + commandWord(program)), "");
+  const std::string type = test::contentOf(data() + "mime/packages/tarnwick-project.xml");
+  EXPECT_NE(type.find("<mime-type type=\"application/x-tarnwick-project\">"), std::string::npos) << type;
+  EXPECT_NE(type.find("<comment>Java Development Project</comment>"), std::string::npos);
+  EXPECT_NE(type.find("<glob pattern=\"*.twp\""), std::string::npos);
+  const std::string launcher = test::contentOf(data() + "applications/tarnwick-project.desktop");
+  EXPECT_NE(launcher.find("\nExec=\"" + program + "\" %f\n"), std::string::npos) << launcher;
+  EXPECT_NE(launcher.find("\nMimeType=application/x-tarnwick-project;\n"), std::string::npos) << launcher;
+  EXPECT_NE(test::contentOf(script_.folder().file("config/mimeapps.list"))
+                .find("application/x-tarnwick-project=tarnwick-project.desktop"),
+            std::string::npos);
+}
+
+TEST_F(PosixProjectTypeTest, AProjectFileIsOpenedByTheProgram) {
+  if (!isFile("/usr/bin/update-mime-database")) GTEST_SKIP() << "this system has no update-mime-database";
+  // Somebody else's claim does not survive.
+  makeProgram("other");
+  xdg_.addApplication("other", script_.folder().file("other") + " %f", "application/x-tarnwick-project;");
+  xdg_.setDefaults("application/x-tarnwick-project=other.desktop\n");
+  const std::string program = makeProgram("my tarnwick");
+  probe("register " + commandWord(program));
+  probe("register " + commandWord(program));  // a second time changes nothing
+  EXPECT_EQ(probe("open .twp"), '"' + program + "\" %f\n");
+  EXPECT_EQ(probe("runapp .twp \"/some where/p.twp\" \"\""), "1\n");
+  EXPECT_TRUE(test::waitUntil([&] { return script_.hasRecord() && script_.record() == "/some where/p.twp\n"; }));
+}
+
+TEST_F(PosixProjectTypeTest, AProgramsOddNameIsEscapedTwice) {
+  const std::string program = makeProgram("a\"b`c$d\\e");
+  probe("register " + commandWord(program));
+  const std::string launcher = test::contentOf(data() + "applications/tarnwick-project.desktop");
+  EXPECT_NE(launcher.find("a\\\\\"b\\\\`c\\\\$d\\\\\\\\e\" %f\n"), std::string::npos) << launcher;
+  // The system understands it: an opener that it could not find would not have become the default.
+  EXPECT_NE(test::contentOf(script_.folder().file("config/mimeapps.list")).find("tarnwick-project.desktop"),
+            std::string::npos);
+}
+
+TEST_F(PosixProjectTypeTest, WhatCannotBeWrittenIsNotTold) {
+  const test::ScopedEnvironment nowhere("XDG_DATA_HOME", "/proc/nothing");
+  EXPECT_EQ(probe("register /bin/true"), "");
+}
+
+TEST(PosixSystemTest, IsNoWindows98) {
+  EXPECT_FALSE(isWindows98());
+}
+
+}  // namespace
+}  // namespace tarnwick::platform

@@ -2,6 +2,7 @@
 
 #include "resources/DialogLayout.h"
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -69,6 +70,20 @@ class DialogWindow {
   virtual std::string title() const = 0;
   virtual void setTitle(const std::string& title) = 0;
   virtual void showWindow(bool on) = 0;
+
+  /// Adds a separator and a command to the window's system menu, where the system lets programs do so (Windows).
+  virtual void addSystemCommand(const std::string& label, std::function<void()> action) = 0;
+
+  /// The window's own rectangle: a top window's on the screen with its frame, a child window's in its parent's client
+  /// coordinates.
+  virtual Rect windowRect() const = 0;
+  /// Places and sizes the window itself. A tab's page fills its tab control, whatever is asked here.
+  virtual void setWindowRect(const Rect& rect) = 0;
+  /// The room inside the frame; left and top are 0.
+  virtual Rect clientRect() const = 0;
+  /// Gives the window the size that its content needs, and puts all controls where the layouts put them, those of its
+  /// child windows too. Otherwise that happens when the window opens.
+  virtual void arrangeControls() = 0;
 
   /// Left and top of the top window on the screen; nothing where the window system does not tell.
   virtual std::optional<Point> position() const = 0;

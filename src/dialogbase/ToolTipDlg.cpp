@@ -1,5 +1,7 @@
 #include "dialogbase/ToolTipDlg.h"
 
+#include "dialogbase/AddPathDlg.h"
+
 namespace tarnwick {
 
 namespace {
@@ -173,6 +175,20 @@ int ToolTipDlg::getCheck(int control) const {
 }
 std::string ToolTipDlg::getText(int control) const {
   return window_->text(control);
+}
+
+void ToolTipDlg::askPathEntry(int control, const std::string& description) {
+  appendPathEntry(control, AddPathDlg(desktop_, description, getText(control)).runModal());
+}
+
+void ToolTipDlg::addFolderToField(int control) {
+  appendPathEntry(control, chosenFolderElement(desktop_));
+}
+
+void ToolTipDlg::appendPathEntry(int control, const std::string& entry) {
+  if (entry.empty()) return;
+  const std::string list = getText(control);
+  setText(control, list.empty() ? entry : list + ";" + entry);
 }
 
 }  // namespace tarnwick

@@ -58,6 +58,12 @@ class ToolTipDlg : public DialogHandler {
   virtual void storeToTags();
   virtual int getCheck(int control) const;
   virtual std::string getText(int control) const;
+  /// Asks for a folder or an archive, and adds it to the field's list of paths. `description` names the list.
+  virtual void askPathEntry(int control, const std::string& description);
+  /// Asks for a folder, and adds it to the field's list of paths.
+  virtual void addFolderToField(int control);
+  /// Adds an element to the field's list of paths; nothing if it is empty.
+  virtual void appendPathEntry(int control, const std::string& entry);
 
   bool initialised() const { return initialised_; }
   int pageId() const { return pageId_; }

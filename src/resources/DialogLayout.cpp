@@ -46,6 +46,10 @@ DialogItem label(const std::string& text, int control) {
   return item(ItemKind::Label, control, text);
 }
 
+DialogItem link(int control, const std::string& address) {
+  return item(ItemKind::Link, control, address);
+}
+
 DialogItem edit(int control, int characters) {
   return item(ItemKind::Edit, control).atLeast(characters);
 }
@@ -80,10 +84,18 @@ DialogItem slot(int control) {
   return item(ItemKind::Slot, control);
 }
 
+DialogItem layers(std::vector<DialogItem> children) {
+  return container(ItemKind::Layers, std::move(children));
+}
+
 DialogItem space() {
   auto made = item(ItemKind::Space);
   made.stretch = true;
   return made;
+}
+
+DialogItem emptyButtonRow() {
+  return item(ItemKind::EmptyButtonRow);
 }
 
 }  // namespace tarnwick::layout

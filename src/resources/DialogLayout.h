@@ -2,6 +2,7 @@
 // system's own sizes, so that they follow its font and scaling.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -15,6 +16,7 @@ enum class ItemKind {
   Icon,     ///< the program's icon
   Heading,  ///< a label in large letters
   Label,    ///< static text; line feeds break it
+  Link,     ///< a web address that can be pressed; its text is what it opens
   Edit,     ///< one line of text
   Button,
   CheckBox,
@@ -24,6 +26,8 @@ enum class ItemKind {
   Tabs,   ///< a tab control; its pages are child windows
   Slot,   ///< the place of a child window
   Space,  ///< room that takes what is left
+  EmptyButtonRow,
+  Layers,  ///< its children share one place; the dialog's rules show one of them at a time
 };
 
 /// One node of the tree. Made by the functions below.
@@ -35,8 +39,15 @@ struct DialogItem {
   bool stretch = false;              ///< takes the room that is left in its row or column
   bool isDefault = false;            ///< a button that Return presses
   bool readOnly = false;             ///< an edit field that only shows
+  bool startsHidden = false;         ///< the dialog's rules show it
+  bool floats = false;               ///< has its own size and takes no room; the dialog's rules place it
+  bool compact = false;              ///< a button that is as narrow as its text
+  bool likeButtons = false;          ///< an edit field that is as high as the buttons beside it
+  bool collapses = false;            ///< takes no room where the dialog's rules hide it from the start
   bool equalWidths = false;          ///< a row or column whose buttons are equally wide
   std::vector<std::string> entries;  ///< of a combo box
+  int lines = 0;                     ///< height of a list; 0 for the usual one
+  std::string spoken;                ///< the name for readers of the screen, where no label before it tells
   std::vector<DialogItem> children;
 
   DialogItem stretched() && {
@@ -59,6 +70,42 @@ struct DialogItem {
     width = characters;
     return std::move(*this);
   }
+  DialogItem collapsing() && {
+    collapses = true;
+    return std::move(*this);
+  }
+  DialogItem hiddenAtFirst() && {
+    startsHidden = true;
+    return std::move(*this);
+  }
+  DialogItem floating() && {
+    floats = true;
+    return std::move(*this);
+  }
+  DialogItem asNarrowAsItsText() && {
+    compact = true;
+    return std::move(*this);
+  }
+  DialogItem asHighAsButtons() && {
+    likeButtons = true;
+    return std::move(*this);
+  }
+  DialogItem linesHigh(int count) && {
+    lines = count;
+    return std::move(*this);
+  }
+  DialogItem named(const std::string& name) && {
+    spoken = name;
+    return std::move(*this);
+  }
+};
+
+/// The empty border around a window's content, in pixels.
+struct Margins {
+  int left = 0;
+  int top = 0;
+  int right = 0;
+  int bottom = 0;
 };
 
 /// A whole dialog or child window.
@@ -68,6 +115,7 @@ struct DialogLayout {
   bool minimiseBox = false;
   DialogItem content;
   int firstFocus = 0;  ///< the control that has the focus first; 0 for the first that takes it
+  std::optional<Margins> margins = std::nullopt;  ///< nothing for the usual ones
 };
 
 namespace layout {
@@ -78,6 +126,7 @@ DialogItem group(int control, const std::string& title, std::vector<DialogItem> 
 DialogItem icon();
 DialogItem heading(const std::string& text);
 DialogItem label(const std::string& text, int control = 0);
+DialogItem link(int control, const std::string& address);
 DialogItem edit(int control, int characters);
 DialogItem button(int control, const std::string& text);
 DialogItem checkBox(int control, const std::string& text);
@@ -87,6 +136,9 @@ DialogItem listBox(int control, int characters);
 DialogItem tabs(int control);
 DialogItem slot(int control);
 DialogItem space();
+/// Empty room as high as a row of buttons, with no gap below it.
+DialogItem emptyButtonRow();
+DialogItem layers(std::vector<DialogItem> children);
 
 }  // namespace layout
 

@@ -1,64 +1,143 @@
 #include "resources/PanelLayouts.h"
 
+#include "platform/Path.h"
+
 namespace tarnwick {
 
 using namespace layout;
 
+namespace {
+
+// The arrangements "HORIZONTAL" and "FLAT" leave these distances at the right and the bottom of the window.
+constexpr Margins panelMargins = {12, 2, 12, 10};
+
+DialogItem narrowButton(int control, const std::string& text) {
+  return button(control, text).asNarrowAsItsText();
+}
+
+/// The three bars share their place; one of them shows.
+DialogItem bars() {
+  return layers({slot(VERTICAL_BAR_SLOT), slot(HORIZONTAL_BAR_SLOT).floating().hiddenAtFirst(),
+                 slot(FLAT_BAR_SLOT).floating().hiddenAtFirst()});
+}
+
+}  // namespace
+
 const DialogLayout& mainLayout() {
-  static const DialogLayout dialog = {158, "Tarnwick", true, column({slot(PANEL_SLOT)}), 0};
+  static const DialogLayout dialog = {
+      158, "Tarnwick", true, layers({slot(FILE_VIEW_SLOT), slot(PROJECT_VIEW_SLOT).hiddenAtFirst()}), 0, Margins{}};
   return dialog;
 }
 
 const DialogLayout& fileViewLayout() {
   static const DialogLayout panel = {
-      130, "", false,
+      130,
+      "",
+      false,
       column({
-          group(1239, " Source (.java) ",
-                {
-                    row({button(1240, "New"), button(1006, "Browse"), button(1007, "Edit"), button(1008, "javac")})
-                        .withEqualWidths(),
-                    edit(1009, 40),
-                }),
+          // Both views have both groups; here one of them only holds the place.
+          layers({
+                     group(1238, "", {}).hiddenAtFirst(),
+                     group(1239, " Source (.java) ",
+                           {
+                               space(),
+                               row({narrowButton(1240, "New").stretched(), narrowButton(1006, "Browse").stretched(),
+                                    narrowButton(1007, "Edit").stretched(), narrowButton(1008, "javac").stretched()}),
+                               space(),
+                               edit(1009, 20).asHighAsButtons().named("Source file (.java)"),
+                               space(),
+                           }),
+                 })
+              .stretched(),
           tabs(1231),
-          slot(BAR_SLOT),
+          bars(),
       }),
-      1009};
+      1009,
+      panelMargins};
+  return panel;
+}
+
+const DialogLayout& projectViewLayout() {
+  static const DialogLayout panel = {
+      157,
+      "",
+      false,
+      column({
+          group(1238, " Project ",
+                {row({narrowButton(1134, "New").stretched(), narrowButton(1136, "Open").stretched(),
+                      narrowButton(1135, "Files").stretched()})})
+              .stretched(),
+          group(1239, " Source (.java) ",
+                {row({narrowButton(1139, "Edit").stretched(), narrowButton(1133, "javac  all").stretched(),
+                      narrowButton(1140, "javac").stretched()})})
+              .stretched(),
+          tabs(1231),
+          bars(),
+      }),
+      1134,
+      panelMargins};
   return panel;
 }
 
 const DialogLayout& panelPageLayout() {
+  // The longest labels that each button gets.
   static const DialogLayout page = {
-      195, "", false,
+      195,
+      "",
+      false,
       column({
-          row({button(1228, "appletviewer"), button(1229, "appletviewer"), button(1230, "appletviewer")})
-              .withEqualWidths(),
-          edit(1223, 40),
+          row({narrowButton(1228, "Browse").stretched(), narrowButton(1229, "appletdebug").stretched(),
+               narrowButton(1230, "appletviewer").stretched()}),
+          edit(1223, 20).asHighAsButtons().named("File and its arguments"),
       }),
-      1223};
+      1223,
+      Margins{8, 8, 8, 6}};
   return page;
 }
 
 const DialogLayout& verticalBarLayout() {
-  static const DialogLayout bar = {197, "", false,
-                                   row({button(1000, "Settings"), button(1, "Switch view"), button(2, "Exit"), space(),
-                                        button(1244, "=="), button(1242, "------")}),
-                                   0};
+  static const DialogLayout bar = {
+      197,
+      "",
+      false,
+      row({narrowButton(1000, "Settings"), narrowButton(1, "Switch view"), narrowButton(2, "Exit"), space(),
+           narrowButton(1244, "==").named("Wide layout"), narrowButton(1242, "------").named("Flat layout")}),
+      0,
+      Margins{}};
   return bar;
 }
 
-const DialogLayout& welcomeLayout() {
-  static const DialogLayout dialog = {
-      200, "Welcome to Tarnwick", false,
+const DialogLayout& horizontalBarLayout() {
+  static const DialogLayout bar = {
+      198,
+      "",
+      false,
       column({
-          row({icon(), heading("Welcome to Tarnwick")}),
-          label("", 1273),
-          label("", 1272),
-          label("For more information please consult the Tarnwick user's guide which is included in the kit. It is "
-                "also available online."),
-          row({space(), button(IDOK_CONTROL, "OK").asDefault()}),
+          row({narrowButton(1000, "Settings").stretched(), narrowButton(1, "Switch view").stretched()}),
+          row({narrowButton(2, "Exit").stretched(),
+               narrowButton(1244, platform::brokenBar).named("Tall layout").stretched(),
+               narrowButton(1242, "------").named("Flat layout").stretched()}),
       }),
-      IDOK_CONTROL};
-  return dialog;
+      0,
+      Margins{8, 0, 0, 0}};
+  return bar;
+}
+
+const DialogLayout& flatBarLayout() {
+  // The bar begins a row of buttons above the panel's own buttons, to whose right it stands.
+  static const DialogLayout bar = {
+      199,
+      "",
+      false,
+      column({
+          emptyButtonRow(),
+          row({narrowButton(1000, "Settings"), narrowButton(1, "Switch view"), narrowButton(2, "Exit"),
+               narrowButton(1244, platform::brokenBar).named("Tall layout"),
+               narrowButton(1242, "==").named("Wide layout")}),
+      }),
+      0,
+      Margins{}};
+  return bar;
 }
 
 }  // namespace tarnwick

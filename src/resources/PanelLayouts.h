@@ -1,22 +1,28 @@
-// The layouts of the main window, its panels, and what greets the user.
+// The layouts of the main window and its panels.
 #pragma once
 
 #include "resources/DialogLayout.h"
 
 namespace tarnwick {
 
-/// 158: the main window; its one slot holds the panel.
+/// 158: the main window; of its two slots one shows at a time.
 const DialogLayout& mainLayout();
 /// 130: the file view.
 const DialogLayout& fileViewLayout();
+/// 157: the project view.
+const DialogLayout& projectViewLayout();
 /// 195: a tab page of a panel: three buttons and a field.
 const DialogLayout& panelPageLayout();
 /// 197: the button bar of the layout "VERTICAL".
 const DialogLayout& verticalBarLayout();
-/// 200: "Welcome to Tarnwick".
-const DialogLayout& welcomeLayout();
+/// 198: the button bar of the layout "HORIZONTAL".
+const DialogLayout& horizontalBarLayout();
+/// 199: the button bar of the layout "FLAT".
+const DialogLayout& flatBarLayout();
 
-/// Slots of the main window and of a panel.
-enum PanelSlot { PANEL_SLOT = 1, BAR_SLOT = 197 };
+/// Slots of the main window.
+enum MainSlot { FILE_VIEW_SLOT = 1, PROJECT_VIEW_SLOT = 2 };
+/// Slots of a panel.
+enum PanelSlot { VERTICAL_BAR_SLOT = 197, HORIZONTAL_BAR_SLOT = 198, FLAT_BAR_SLOT = 199 };
 
 }  // namespace tarnwick

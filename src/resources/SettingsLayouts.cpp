@@ -29,8 +29,10 @@ const DialogLayout& toolsPageLayout() {
       column({
           group(0, localText(" Tools .exe directory "),
                 {
-                    row({edit(1041, 48).stretched(), button(1006, "Browse")}),
                     label(localText("Folder of javac.exe, java.exe and the other tools of the JDK")),
+                    row({edit(1041, 48).named(localText("Tools .exe directory")).stretched(), button(1006, "Browse")}),
+                    label("Several JDKs were found. Choose one, or browse for another:", 2001).collapsing(),
+                    listBox(2002, 48).linesHigh(4).collapsing(),
                 }),
           group(0, " Display diagnostics with ",
                 {row({radioButton(1017, "Notepad"), radioButton(1018, "Sourcecode editor"), space()})}),

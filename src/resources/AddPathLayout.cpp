@@ -1,0 +1,19 @@
+#include "resources/AddPathLayout.h"
+
+namespace tarnwick {
+
+using namespace layout;
+
+const DialogLayout& addPathLayout() {
+  static const DialogLayout dialog = {185, "Add components to a path", false,
+                                      column({
+                                          label("", 1170),
+                                          edit(1169, 60).showingOnly(),
+                                          row({button(1171, "Add a folder ..."), button(1172, "Add an archive ..."),
+                                               space(), button(IDCANCEL_CONTROL, "Cancel")}),
+                                      }),
+                                      1171};
+  return dialog;
+}
+
+}  // namespace tarnwick

@@ -1,0 +1,10 @@
+#pragma once
+
+#include "resources/DialogLayout.h"
+
+namespace tarnwick {
+
+/// 185: adds a folder or an archive to a list of paths.
+const DialogLayout& addPathLayout();
+
+}  // namespace tarnwick

@@ -3,6 +3,7 @@
 #include "base/Filename.h"
 #include "base/Text.h"
 #include "platform/Associations.h"
+#include "platform/FileSystem.h"
 #include "platform/Path.h"
 #include "platform/Process.h"
 #include "process/WinApp.h"
@@ -13,38 +14,61 @@
 namespace tarnwick {
 namespace {
 
-/// The system's sentence if the program could not be started.
-std::optional<std::string> startFailure(const std::string& program, const std::vector<std::string>& arguments) {
+using Words = std::vector<std::string>;
+
+/// What the system says if the program could not be started.
+std::optional<platform::SystemError> startFailure(const std::string& program, const Words& arguments) {
   try {
     platform::startDetached(program, arguments);
     return std::nullopt;
   } catch (const platform::SystemError& error) {
-    return error.reason;
+    return error;
   }
 }
 
-/// Starts an editor, given as the words of a command, on the log. Gives both reasons, a line each, if it can't be
-/// started as it stands nor in double quotes.
-std::optional<std::string> startFailures(const std::vector<std::string>& editor, const std::string& log) {
-  const Filename program(editor.front());
-  const std::string title = program.nameWithExtension();
-  std::vector<std::string> arguments = {title.empty() ? "Logfile" : platform::detachedArgument(title)};
+/// The vector of an editor that is given as the words of a command. `title` stands for an editor without a name.
+Words vectorOf(const Words& editor, const std::string& title, const std::string& file) {
+  const std::string name = Filename(editor.front()).nameWithExtension();
+  Words arguments = {name.empty() ? title : platform::detachedArgument(name)};
   arguments.insert(arguments.end(), editor.begin() + 1, editor.end());
-  arguments.push_back(platform::detachedArgument(log));
+  arguments.push_back(platform::detachedArgument(file));
+  return arguments;
+}
 
+/// Starts an editor on the log. Gives both reasons, a line each, if it can't be started as it stands nor in double
+/// quotes.
+std::optional<std::string> startFailures(const Words& editor, const std::string& log) {
+  const Words arguments = vectorOf(editor, "Logfile", log);
   const auto first = startFailure(editor.front(), arguments);
   if (!first) return std::nullopt;
   const auto second = startFailure('"' + editor.front() + '"', arguments);
   if (!second) return std::nullopt;
-  return *first + '\n' + *second;
+  return first->reason + '\n' + second->reason;
 }
 
 /// The commands to try, best first. Where the system knows no editor for plain text, the name itself is tried.
-std::vector<std::vector<std::string>> editorsFor(const std::string& editor, bool useNotepad) {
+std::vector<Words> editorsFor(const std::string& editor, bool useNotepad) {
   if (!useNotepad) return {{editor}};
   auto editors = platform::plainTextEditors();
   if (editors.empty()) editors.push_back({editor});
   return editors;
+}
+
+/// Starts the first of the editors that can be started. A failure is that of the best one.
+void startOn(Desktop& desktop, const std::string& editor, bool useNotepad, const std::string& name) {
+  const std::string folder = Filename(name).directory();
+  if (!folder.empty() && !platform::changeDirectory(folder)) {
+    desktop.message("Subprocess::run(): _chdir error");
+    return;
+  }
+  std::optional<platform::SystemError> failure;
+  for (const auto& command : editorsFor(editor, useNotepad)) {
+    const auto reason = startFailure(command.front(), vectorOf(command, "", name));
+    if (!reason) return;
+    if (!failure) failure = reason;
+  }
+  desktop.message("Unable to start " + editor + ".\n\n" + failure->reason + "  (" + std::to_string(failure->code) +
+                  ')');
 }
 
 }  // namespace
@@ -61,13 +85,35 @@ bool isJarEditor(const std::string& target) {
   return position(".jar") > position(".exe") || position(".jar") > position(".com");
 }
 
+bool openEditor(Desktop& desktop, const EditorSource& source, const std::string& name) {
+  EditorChoice choice = source.choice();
+  if (!choice.editWithNotepad && choice.target.empty()) {
+    if (!source.askForEditor()) return false;
+    choice = source.choice();
+  }
+  const std::string editor = choice.editWithNotepad ? "Notepad" : Filename(choice.target).fullName();
+  if (editor.empty()) {
+    desktop.message("No editor definition available from settings.");
+    return false;
+  }
+  if (!choice.editWithNotepad && isJarEditor(choice.target)) {
+    if (WinApp(desktop, ".jar").runApp(editor.c_str(), platform::commandWord(name).c_str(), 0) <= 0) {
+      desktop.message("Unable to activate " + editor + ' ' + name);
+    }
+    return true;
+  }
+  startOn(desktop, editor, choice.editWithNotepad, name);
+  return true;
+}
+
 void showLog(Desktop& desktop, const ToolLog& log, const EditorChoice& choice) {
   const Filename logFile(log.path());
   const bool useNotepad = choice.displayWithNotepad || choice.target.empty() || choice.editWithNotepad;
   const std::string editor = useNotepad ? "Notepad" : choice.target;
 
   if (!useNotepad && isJarEditor(choice.target)) {
-    if (WinApp(desktop, ".jar").runApp(editor.c_str(), logFile.quoted().c_str(), 0) > 0) return;
+    if (WinApp(desktop, ".jar").runApp(editor.c_str(), platform::commandWord(logFile.fullName()).c_str(), 0) > 0)
+      return;
     desktop.message("Unable to activate jar: " + editor + ' ' + logFile.quoted());
   }
 

@@ -34,6 +34,7 @@ class LoggedRun {
     child_.stopReading();
     output.join();
     error.join();
+    noteDeath();
     log_.close();
   }
 
@@ -52,13 +53,27 @@ class LoggedRun {
     outputEnded_.notify_all();
   }
 
+  /// A tool that was killed may not have said a word, and nobody may take that for success.
+  void noteDeath() {
+    const std::string cause = child_.causeOfDeath();
+    if (cause.empty()) return;
+    const std::string note = std::string(outputBytes_ > 0 ? "\n" : "") + "Ended by a signal: " + cause + '\n';
+    try {
+      append(note.data(), note.size());
+    } catch (const Tarnwickfile::FileNotOpenE&) {
+    }
+  }
+
   void append(const char* block, std::size_t size) {
     const std::lock_guard lock(log_.lock());
     if (outputBytes_ == 0) {
-      const std::string header = "\n\n" + command_ + "\n\n";
+      const std::string twoLineEnds = std::string(platform::lineEnd) + platform::lineEnd;
+      const std::string header = twoLineEnds + command_ + twoLineEnds;
       log_.append(header.data(), header.size());
     }
-    outputBytes_ += log_.append(block, size);
+    log_.append(block, size);
+    // What could not be written counts too: the tool has said it.
+    outputBytes_ += size;
   }
 
   /// Something that the tool left behind may still be writing; the run ends when nothing more comes. Where both outputs
@@ -67,7 +82,11 @@ class LoggedRun {
     std::size_t before = 0;
     do {
       before = outputBytes_;
-      std::fflush(nullptr);
+      {
+        // Not between the log's own writing and flushing, which has to see its failure.
+        const std::lock_guard lock(log_.lock());
+        std::fflush(nullptr);
+      }
       std::unique_lock lock(endLock_);
       if (outputEnded_.wait_for(lock, settlingTime, [this] { return endedOutputs_ == 2; })) return;
     } while (outputBytes_ != before);
@@ -155,6 +174,8 @@ bool Subprocess::run(FileForSubprocess* file, FileMode logOpenMode) {
   LoggedRun run(*child, log_, command, outputBytes_);
   desktop_.whileBusy([&run] { run.waitForEnd(); });
   if (logFault) throw Tarnwickfile::FileNotOpenE(*logFault);
+  const std::string unwritten = log_.fault();
+  if (!unwritten.empty()) desktop_.message(unwritten + "\nCan't write log file " + log_.path());
   return outputBytes_ > 0;
 }
 

@@ -31,7 +31,8 @@ class Subprocess {
 
   /// Runs the tool and waits. `file`, if not null, gives the folder to run in and further arguments.
   /// Shows failures itself. True if the tool wrote anything. Where no log can be opened the tool runs to its end, and
-  /// then Tarnwickfile::FileNotOpenE is thrown: what the tool said is lost, so nobody may take it for silent.
+  /// then Tarnwickfile::FileNotOpenE is thrown: what the tool said is lost, so nobody may take it for silent. A tool
+  /// that was ended by a signal counts as having said that.
   virtual bool run(FileForSubprocess* file, FileMode logOpenMode);
 
   const std::string& executable() const { return executable_; }

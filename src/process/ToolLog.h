@@ -21,9 +21,12 @@ class ToolLog {
 
   /// Makes the file if this process has none yet, and opens it. Throws Tarnwickfile::FileNotOpenE.
   void open(FileMode mode);
-  /// Appends bytes to the open log. Gives the count written. Throws Tarnwickfile::FileNotOpenE if it is closed.
+  /// Appends bytes, as they are, to the open log's file. Gives the count written. Throws Tarnwickfile::FileNotOpenE if
+  /// it is closed.
   std::size_t append(const char* bytes, std::size_t size);
   void close();
+  /// The system's sentence for the first thing since `open` that could not be written; empty if all went well.
+  std::string fault() const;
   /// The log's path; empty before the first run.
   std::string path() const;
 
@@ -33,6 +36,9 @@ class ToolLog {
  private:
   std::function<std::string()> folder_;
   std::unique_ptr<TempFile> file_;
+  void noteFault();
+
+  std::string fault_;
   mutable std::recursive_mutex lock_;
 };
 

@@ -56,7 +56,8 @@ std::optional<WinApp::Command> WinApp::takenApart(const char* file, const char* 
       if (!addWord(arguments, takeWord(rest), 1)) return std::nullopt;
     } while (!rest.empty() && rest.front() != '%');
   }
-  if (!addWord(arguments, file == nullptr ? "" : Filename(file).quoted(), 2)) return std::nullopt;
+  if (!addWord(arguments, file == nullptr ? "" : platform::commandWord(Filename(file).fullName()), 2))
+    return std::nullopt;
   // Only the first "%" word is the file's place; those behind it are words like any other.
   takeWord(rest);
   while (!rest.empty()) {

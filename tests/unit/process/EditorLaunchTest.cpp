@@ -39,10 +39,10 @@ TEST(JarEditorTest, ANameIsAJarWhereJarStandsBehindExeOrCom) {
   for (const auto& row : table) EXPECT_EQ(isJarEditor(row.target), row.jar) << row.target;
 }
 
-/// Logs are shown by a copy of a stand-in, by way of a small program that asks the system afresh.
-class ShowLogTest : public testing::Test {
+/// Files and logs are opened by a copy of a stand-in, by way of a small program that asks the system afresh.
+class EditorLaunchTest : public testing::Test {
  protected:
-  ShowLogTest() { std::filesystem::create_directory(script_.folder().file("programs")); }
+  EditorLaunchTest() { std::filesystem::create_directory(script_.folder().file("programs")); }
 
   std::string programs() const { return script_.folder().file("programs") + platform::folderSeparator; }
 
@@ -65,6 +65,17 @@ class ShowLogTest : public testing::Test {
     output.erase(std::remove(output.begin(), output.end(), '\r'), output.end());
     return output;
   }
+
+  /// A probe's argument in double quotes.
+  static std::string word(const std::string& text) { return '"' + quotesKept(text) + '"'; }
+
+  /// The result, the working folder, then messages.
+  std::string edit(const std::string& notepad, const std::string& file, const std::string& target) const {
+    return probe("edit " + notepad + ' ' + word(file) + ' ' + word(target));
+  }
+
+  /// What `edit` gives when all went well.
+  static std::string doneIn(const std::string& folder) { return "1 " + folder.substr(0, folder.size() - 1) + '\n'; }
 
   /// The log's path, then messages. `switches` are the two for Notepad, for editing and display.
   std::string show(const std::string& switches, const std::string& target) const {
@@ -96,6 +107,87 @@ class ShowLogTest : public testing::Test {
 
   StandInScript script_{""};
 };
+
+using ShowLogTest = EditorLaunchTest;
+using OpenEditorTest = EditorLaunchTest;
+
+EditorSource fixedChoice(const EditorChoice& choice, bool asked = false) {
+  return {[choice] { return choice; }, [asked] { return asked; }};
+}
+
+TEST(OpenEditorChoiceTest, WithoutAnEditorTheUserIsAskedAndMayDecline) {
+  test::ScriptedDesktop desktop;
+  EXPECT_FALSE(openEditor(desktop, fixedChoice({}), "x.java"));
+}
+
+TEST(OpenEditorChoiceTest, AskedWithoutAnAnswerIsTold) {
+  test::ScriptedDesktop desktop;
+  desktop.expectMessage("No editor definition available from settings.");
+  EXPECT_FALSE(openEditor(desktop, fixedChoice({}, true), "x.java"));
+  desktop.expectMessage("No editor definition available from settings.");
+  EXPECT_FALSE(openEditor(desktop, fixedChoice({false, true, "\"\""}), "x.java")) << "nothing but quotes";
+}
+
+TEST_F(OpenEditorTest, WhatTheUserAnswersIsStarted) {
+  const std::string editor = makeProgram(programName("my editor"));
+  test::ScriptedDesktop desktop;
+  EditorChoice choice;
+  const std::string file = script_.folder().file("A.java");
+  const auto ask = [&] {
+    choice.target = editor;
+    return true;
+  };
+  EXPECT_TRUE(openEditor(desktop, {[&] { return choice; }, ask}, file));
+  EXPECT_TRUE(recordIs(file + '\n'));
+}
+
+TEST_F(OpenEditorTest, TheEditorGetsTheFileAsOneArgumentInTheFilesFolder) {
+  const std::string editor = makeProgram(programName("my editor"));
+  const std::string file = script_.folder().file("my A.java");
+  EXPECT_EQ(edit("0", file, editor), doneIn(script_.folder().path()));
+  EXPECT_TRUE(recordIs(file + '\n'));
+  platform::deleteFile(script_.folder().file("record"));
+  EXPECT_EQ(edit("0", file, '"' + editor + '"'), doneIn(script_.folder().path())) << "quotes around it go";
+  EXPECT_TRUE(recordIs(file + '\n'));
+}
+
+TEST_F(OpenEditorTest, NotepadIsUsedOnlyWhereItsOwnSettingSaysSo) {
+  makeProgram(programName(platform::folderSeparator == '/' ? "gedit" : "Notepad"));
+  const std::string file = script_.folder().file("A.java");
+  EXPECT_EQ(edit("1", file, programs() + "nothing.exe"), doneIn(script_.folder().path()));
+  EXPECT_TRUE(recordIs(file + '\n'));
+}
+
+TEST_F(OpenEditorTest, WithoutAFileTheEditorOpensWithNothing) {
+  makeProgram(programName("myeditor"));
+  const std::string before = platform::currentDirectory();
+  EXPECT_EQ(edit("0", "", programName("myeditor")), "1 " + before + '\n');
+  EXPECT_TRUE(test::waitUntil([&] { return script_.hasRecord(); }));
+  EXPECT_EQ(script_.record(), "");
+}
+
+TEST_F(OpenEditorTest, AnEditorThatCannotBeStartedIsTold) {
+  const std::string missing = programs() + "nothing.exe";
+  EXPECT_EQ(edit("0", script_.folder().file("A.java"), missing), doneIn(script_.folder().path()) +
+                                                                     "message: Unable to start " + missing +
+                                                                     ".\n\nNo such file or directory  (2)\n");
+}
+
+TEST_F(OpenEditorTest, AFolderThatCannotBeEnteredIsTold) {
+  const std::string editor = makeProgram(programName("my editor"));
+  const std::string file = script_.folder().file("nothing") + platform::folderSeparator + "A.java";
+  const std::string before = platform::currentDirectory();
+  EXPECT_EQ(edit("0", file, editor), "1 " + before + "\nmessage: Subprocess::run(): _chdir error\n");
+  EXPECT_FALSE(script_.hasRecord());
+}
+
+TEST_F(OpenEditorTest, AJarThatCannotBeActivatedIsTold) {
+  if (probe("open .jar") != "\n") GTEST_SKIP() << "this system has a program for .jar files";
+  const std::string jar = programs() + "my editor.jar";
+  const std::string file = script_.folder().file("A.java");
+  const std::string before = platform::currentDirectory();
+  EXPECT_EQ(edit("0", file, jar), "1 " + before + "\nmessage: Unable to activate " + jar + ' ' + file + '\n');
+}
 
 TEST_F(ShowLogTest, TheUsersEditorGetsTheLogsPathAsOneArgument) {
   const std::string editor = makeProgram(programName("my editor"));

@@ -83,6 +83,14 @@ TEST_F(SubprocessTest, ASingleByteIsOutput) {
   EXPECT_EQ(logText(), "\n\njavac -d out\n\nA");
 }
 
+TEST_F(SubprocessTest, BytesOfEveryKindReachTheLogAsTheyAre) {
+  // Line ends of either kind, a letter of an 8-bit set, one in UTF-8, a zero, what a text might end at; no line end.
+  EXPECT_TRUE(run("outraw 0D0A0AE4C3A400801AFF"));
+  const std::string end = platform::lineEnd;
+  EXPECT_EQ(test::contentOf(log_.path()),
+            end + end + "javac -d out" + end + end + std::string("\r\n\n\xE4\xC3\xA4\0\x80\x1A\xFF", 10));
+}
+
 TEST_F(SubprocessTest, LongOutputIsLoggedWhole) {
   EXPECT_TRUE(run("flood 2000000"));
   EXPECT_EQ(logText().size(), 2000000 + std::string("\n\njavac -d out\n\n").size());
@@ -113,6 +121,17 @@ TEST_F(SubprocessTest, ARunWhoseOutputsStayOpenTakesAtLeastOneSettlingTime) {
   const auto begin = steady_clock::now();
   run("grandchild 15000\nout x");
   EXPECT_GE(steady_clock::now() - begin, milliseconds(400));
+}
+
+TEST_F(SubprocessTest, WhatComesWithinASettlingTimeAfterTheToolsEndKeepsTheRunGoing) {
+  const auto begin = steady_clock::now();
+  EXPECT_TRUE(run("murmurer 20 50\nout x"));
+  EXPECT_GE(steady_clock::now() - begin, milliseconds(20 * 50 + 400));
+  EXPECT_LT(steady_clock::now() - begin, milliseconds(15000)) << "though it keeps the pipes";
+  const std::string log = logText();
+  std::size_t murmurs = 0;
+  for (auto at = log.find("murmur\n"); at != std::string::npos; at = log.find("murmur\n", at + 1)) ++murmurs;
+  EXPECT_EQ(murmurs, 20U) << log;
 }
 
 TEST_F(SubprocessTest, AGrandchildThatKeepsThePipesDoesNotHoldUpTheRun) {
@@ -149,6 +168,24 @@ TEST_F(SubprocessTest, QuotedArgumentsReachTheToolAsOne) {
   tool.addArg("-classpath ", "\"my classes;b\"");
   EXPECT_FALSE(tool.run(nullptr, FileMode::Write));
   EXPECT_EQ(script_.record(), "-classpath\nmy classes;b\n");
+}
+
+TEST_F(SubprocessTest, NamesThatAShellWouldTouchReachTheToolAsTheyAre) {
+  for (const std::string name : {"two words", "100%", "%PATH%", "a & b", "$HOME", "`id`", "it's", "a;b", "^x", "(y)",
+                                 "!x", "#1", "~", "a,b=c", "{z}", "[w]", "@args", "-d"}) {
+    const std::string folder = script_.folder().file(name) + platform::folderSeparator;
+    platform::makeFolders(folder);
+    script_.setScript("folder");
+    platform::deleteFile(script_.folder().file("record"));
+    Subprocess tool(desktop_, log_, javac());
+    tool.addArg("javac");
+    FileForSubprocess file(folder, "x.java");
+    file.args() = {platform::commandWord(folder + "x.java"), platform::commandWord(name)};
+    EXPECT_TRUE(tool.run(&file, FileMode::Write));
+    EXPECT_EQ(script_.record(), folder + "x.java\n" + name + '\n');
+    EXPECT_TRUE(logText().ends_with("\n\n" + folder.substr(0, folder.size() - 1) + '\n')) << logText();
+    platform::changeDirectory(before_);
+  }
 }
 
 TEST_F(SubprocessTest, TwoHundredFiftyFiveArgumentsRun) {

@@ -1,0 +1,154 @@
+#include "platform/FileSystem.h"
+#include "process/Subprocess.h"
+#include "support/Children.h"
+#include "support/ScriptedDesktop.h"
+
+#include <csignal>
+#include <filesystem>
+#include <gtest/gtest.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+
+namespace tarnwick {
+namespace {
+
+using test::StandInScript;
+
+class PosixSubprocessTest : public testing::Test {
+ protected:
+  bool run(const std::string& tool = StandInScript::tool("javac")) {
+    Subprocess run(desktop_, log_, tool);
+    run.addArg("javac");
+    return run.run(nullptr, FileMode::Write);
+  }
+
+  StandInScript script_{""};
+  test::ScriptedDesktop desktop_;
+  ToolLog log_{script_.folder().path()};
+};
+
+/// No file may grow beyond a size for a while: a disk that is full.
+class FullDisk {
+ public:
+  explicit FullDisk(rlim_t bytes) : handler_(std::signal(SIGXFSZ, SIG_IGN)) {
+    ::getrlimit(RLIMIT_FSIZE, &before_);
+    rlimit small = before_;
+    small.rlim_cur = bytes;
+    ::setrlimit(RLIMIT_FSIZE, &small);
+  }
+  ~FullDisk() {
+    ::setrlimit(RLIMIT_FSIZE, &before_);
+    std::signal(SIGXFSZ, handler_);
+  }
+  FullDisk(const FullDisk&) = delete;
+  FullDisk& operator=(const FullDisk&) = delete;
+
+ private:
+  rlimit before_{};
+  void (*handler_)(int);
+};
+
+TEST_F(PosixSubprocessTest, AFullDiskIsToldAndTheToolStillCountsAsHavingSpoken) {
+  log_.open(FileMode::Write);  // so that its name is known
+  log_.close();
+  for (const char* script : {"out A.java:1: error", "flood 2000000"}) {
+    script_.setScript(script);
+    desktop_.expectMessage("File too large\nCan't write log file " + log_.path());
+    bool spoke = false;
+    {
+      const FullDisk disk(10);
+      spoke = run();
+    }
+    EXPECT_TRUE(spoke) << script;
+    EXPECT_EQ(test::contentOf(log_.path()).size(), 10U) << "what there was room for is kept";
+  }
+  script_.setScript("out again");
+  EXPECT_TRUE(run()) << "with room on the disk nothing is told";
+  EXPECT_EQ(test::contentOf(log_.path()), "\n\njavac\n\nagain\n");
+}
+
+TEST_F(PosixSubprocessTest, AToolThatASignalEndsHasSaidSo) {
+  script_.setScript("signal 9");
+  EXPECT_TRUE(run()) << "though it did not write a byte";
+  EXPECT_EQ(test::contentOf(log_.path()), "\n\njavac\n\nEnded by a signal: Killed\n");
+  script_.setScript("outraw 41\nsignal 11");
+  EXPECT_TRUE(run());
+  EXPECT_EQ(test::contentOf(log_.path()), "\n\njavac\n\nA\nEnded by a signal: Segmentation fault\n");
+  script_.setScript("exit 137");
+  EXPECT_FALSE(run()) << "an exit code is never read";
+}
+
+TEST_F(PosixSubprocessTest, AToolThatCannotBeRunIsTold) {
+  const std::string file = script_.folder().file("javac");
+  test::writeFile(file, "text");
+  const std::string folder = script_.folder().file("folder");
+  std::filesystem::create_directory(folder);
+  const std::string missing = script_.folder().file("missing");
+  const struct {
+    std::string tool;
+    std::string reason;
+  } table[] = {
+      {missing, "CreateProcess error 2\nNo such file or directory"},
+      {file, "CreateProcess error 13\nPermission denied"},
+      {folder, "CreateProcess error 13\nPermission denied"},
+  };
+  for (const auto& row : table) {
+    desktop_.expectMessage("Can't start " + row.tool + '\n' + row.reason);
+    EXPECT_FALSE(run(row.tool));
+  }
+  chmod(file.c_str(), 0755);
+  desktop_.expectMessage("Can't start " + file + "\nCreateProcess error 8\nExec format error");
+  EXPECT_FALSE(run(file)) << "and no shell plays it";
+  EXPECT_EQ(log_.path(), "");
+}
+
+TEST_F(PosixSubprocessTest, WithoutPipesNothingIsStartedAndItIsTold) {
+  // A tool that nobody can listen to would count as one that had nothing to say.
+  desktop_.expectMessage("Can't start " + StandInScript::tool("javac") +
+                         "\nCreatePipe() error 24\nToo many open files");
+  rlimit before{};
+  ::getrlimit(RLIMIT_NOFILE, &before);
+  rlimit none = before;
+  none.rlim_cur = 3;
+  ::setrlimit(RLIMIT_NOFILE, &none);
+  const bool spoke = run();
+  ::setrlimit(RLIMIT_NOFILE, &before);
+  EXPECT_FALSE(spoke);
+  EXPECT_FALSE(script_.hasRecord());
+  EXPECT_EQ(log_.path(), "");
+}
+
+TEST_F(PosixSubprocessTest, NamesOfEveryKindReachTheToolAsTheyAre) {
+  for (const std::string name : {"two words",  "100%",      "a & b", "$HOME",      "`id`",
+                                 "say \"hi\"", "\"",        "end\\", "a\\\"b c\\", "it's",
+                                 "*?[x]",      "a;b|c>d<e", "#1",    "~",          "\xC3\xA4\xE6\x97\xA5",
+                                 "tab\there",  " leading",  "!x",    "(y)",        "-d",
+                                 "%s%n"}) {
+    const std::string folder = script_.folder().file(name) + '/';
+    std::filesystem::create_directory(folder);
+    script_.setScript("folder\nerr " + name);
+    platform::deleteFile(script_.folder().file("record"));
+    Subprocess tool(desktop_, log_, StandInScript::tool("javac"));
+    tool.addArg("javac");
+    FileForSubprocess file(folder, "x.java");
+    file.args() = {platform::commandWord(folder + "x.java"), platform::commandWord(name)};
+    EXPECT_TRUE(tool.run(&file, FileMode::Write));
+    EXPECT_EQ(script_.record(), folder + "x.java\n" + name + '\n');
+    const std::string log = test::contentOf(log_.path());
+    EXPECT_NE(log.find('\n' + folder.substr(0, folder.size() - 1) + '\n'), std::string::npos) << log;
+    EXPECT_NE(log.find('\n' + name + '\n'), std::string::npos) << log;
+
+    platform::deleteFile(script_.folder().file("record"));
+    script_.setScript("");
+    DetachedSubprocess detached(desktop_, log_, StandInScript::tool("javac"));
+    detached.addArg("javac");
+    detached.addArg(platform::detachedArgument(folder + "x.java"));
+    EXPECT_FALSE(detached.run(&file, FileMode::Write));
+    EXPECT_TRUE(test::waitUntil([&] {
+      return script_.hasRecord() && script_.record().starts_with(folder + "x.java\n");
+    })) << name;
+  }
+}
+
+}  // namespace
+}  // namespace tarnwick

@@ -36,4 +36,12 @@ std::string FunctionKeys::key(int group, int index) const {
   }
 }
 
+void FunctionKeys::setGroup(int group, const std::vector<std::string>& keys) {
+  TokenString changed(';', ']');
+  for (const auto& key : keys) changed.add(key);
+  TokenString groups('!', ']');
+  for (int i = 0; i < groups_.count(); ++i) groups.add(i == group ? changed.toString() : groups_.element(i));
+  groups_ = groups;
+}
+
 }  // namespace tarnwick

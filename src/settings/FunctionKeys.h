@@ -3,6 +3,7 @@
 #include "base/TokenString.h"
 
 #include <string>
+#include <vector>
 
 namespace tarnwick {
 
@@ -20,6 +21,8 @@ class FunctionKeys : public StringableM {
 
   /// The text of a key; empty for one that is not there.
   std::string key(int group, int index) const;
+  /// Takes the texts of F5 to F12 for a group.
+  void setGroup(int group, const std::vector<std::string>& keys);
 
  private:
   TokenString groups_;

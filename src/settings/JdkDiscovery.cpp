@@ -5,7 +5,8 @@
 #include "platform/FileSystem.h"
 #include "platform/Path.h"
 
-#include <cstdlib>
+#include <algorithm>
+#include <cctype>
 #include <fstream>
 
 namespace tarnwick {
@@ -18,42 +19,91 @@ std::string toolsIn(const std::string& folder) {
   return platform::isFile(javac) ? Filename(platform::resolvedPath(javac)).directory() : "";
 }
 
-std::string onSearchPath() {
+std::string toolsOfHome(const std::string& home) {
+  return home.empty() ? "" : toolsIn(Filename(home, "bin").fullName());
+}
+
+std::string toolsOfJavaHome() {
+  return toolsOfHome(platform::environment("JAVA_HOME").value_or(""));
+}
+
+/// The folders of the PATH in which a `javac` lies.
+std::vector<std::string> toolsOnSearchPath() {
   const std::string path = platform::storedList(platform::environment("PATH").value_or(""));
+  std::vector<std::string> found;
   for (std::size_t begin = 0; begin <= path.size();) {
     const auto end = std::min(path.find(';', begin), path.size());
     const std::string folder = path.substr(begin, end - begin);
-    const std::string found = folder.empty() ? "" : toolsIn(folder);
-    if (!found.empty()) return found;
+    if (!folder.empty()) found.push_back(toolsIn(folder));
     begin = end + 1;
+  }
+  std::erase(found, "");
+  return found;
+}
+
+/// <jdk>/release beside <jdk>/bin holds a line JAVA_VERSION="17.0.15".
+std::string versionOf(const std::string& toolsFolder) {
+  const std::string home = Filename(Filename(toolsFolder, "x").directoryNoSlash()).directory();
+  std::ifstream release(home + "release");
+  const std::string key = "JAVA_VERSION=";
+  for (std::string line; std::getline(release, line);) {
+    if (line.compare(0, key.size(), key) == 0) return cleanedPath(line.substr(key.size()));
   }
   return "";
 }
 
+/// The numbers of a version, the main one first: up to 8 a version begins with "1.".
+std::vector<int> numbersOf(const std::string& version) {
+  std::vector<int> numbers;
+  bool inNumber = false;
+  for (const char c : version) {
+    const bool digit = std::isdigit(static_cast<unsigned char>(c)) != 0;
+    if (digit && !inNumber) numbers.push_back(0);
+    if (digit && numbers.back() < 1000000) numbers.back() = numbers.back() * 10 + (c - '0');
+    inNumber = digit;
+  }
+  if (numbers.size() > 1 && numbers.front() == 1) numbers.erase(numbers.begin());
+  return numbers;
+}
+
+void addOnce(std::vector<Jdk>& jdks, const std::string& tools) {
+  const auto isThis = [&tools](const Jdk& jdk) { return platform::sameFileName(jdk.toolsFolder, tools); };
+  if (tools.empty() || std::any_of(jdks.begin(), jdks.end(), isThis)) return;
+  jdks.push_back({tools, versionOf(tools)});
+}
+
 }  // namespace
 
-std::string discoverJdkTools() {
-  const std::string home = platform::environment("JAVA_HOME").value_or("");
-  if (!home.empty()) {
-    const std::string found = toolsIn(Filename(home, "bin").fullName());
-    if (!found.empty()) return found;
+std::vector<Jdk> findJdks(const platform::JdkPlaces& places) {
+  std::vector<Jdk> jdks;
+  addOnce(jdks, toolsOfJavaHome());
+  for (const auto& tools : toolsOnSearchPath()) addOnce(jdks, tools);
+  for (const auto& home : places.homes) addOnce(jdks, toolsOfHome(home));
+  for (const auto& parent : places.parents) {
+    for (const auto& home : platform::subfolders(parent)) addOnce(jdks, toolsOfHome(home));
   }
-  return onSearchPath();
+  std::stable_sort(jdks.begin(), jdks.end(), [](const Jdk& left, const Jdk& right) {
+    return numbersOf(left.version) > numbersOf(right.version);
+  });
+  return jdks;
+}
+
+std::vector<Jdk> installedJdks() {
+  return findJdks(platform::jdkPlaces());
+}
+
+std::string preferredJdkTools(const std::vector<Jdk>& installed) {
+  const std::string named = toolsOfJavaHome();
+  if (!named.empty()) return named;
+  const auto onPath = toolsOnSearchPath();
+  if (!onPath.empty()) return onPath.front();
+  return installed.empty() ? "" : installed.front().toolsFolder;
 }
 
 int jdkVersion(const std::string& toolsFolder) {
-  // <jdk>/release beside <jdk>/bin holds a line JAVA_VERSION="17.0.15"; up to 8 it begins with "1.".
   const std::string real = toolsIn(toolsFolder);
-  const std::string home = Filename(Filename(real.empty() ? toolsFolder : real, "x").directoryNoSlash()).directory();
-  std::ifstream release(home + "release");
-  const std::string key = "JAVA_VERSION=";
-  for (std::string line; std::getline(release, line);) {
-    if (line.compare(0, key.size(), key) != 0) continue;
-    std::string version = cleanedPath(line.substr(key.size()));
-    if (version.compare(0, 2, "1.") == 0) version.erase(0, 2);
-    return std::atoi(version.c_str());
-  }
-  return 0;
+  const auto numbers = numbersOf(versionOf(real.empty() ? toolsFolder : real));
+  return numbers.empty() ? 0 : numbers.front();
 }
 
 }  // namespace tarnwick

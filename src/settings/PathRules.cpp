@@ -30,6 +30,7 @@ std::string assertionOptions(const std::string& list, const std::string& prefix)
     const auto end = text.find_first_of(separators);
     std::string word = text.substr(0, end);
     text = end == std::string::npos ? "" : text.substr(end + 1);
+    // An empty word, from a separator in the first place, becomes an option like any other: that is meant.
     word = word.substr(0, lowerCase(word).find(".class"));
     result += prefix + word + " ";
   }

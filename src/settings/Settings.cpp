@@ -9,7 +9,12 @@ namespace tarnwick {
 
 namespace {
 
-constexpr int TAB_CONTROL = 1092;
+enum Control { TAB_CONTROL = 1092, SAVE_FILE = 1036, LOAD_FILE = 1037, ABOUT = 1038, HELP = 1168 };
+
+/// Where the user's guide tells of each page, in the order of the tabs.
+constexpr const char* helpAnchors[] = {"#configTab1", "#javacparameters",        "#javaparameters",
+                                       "#jdbparams",  "#appletviewerparameters", "#editorparameters",
+                                       "#paths"};
 
 std::string defaultConfigurationPath(const ProgramInfo& program) {
   return Filename(program.configDirectory(), defaultConfigurationName).fullName();
@@ -28,13 +33,25 @@ Settings::Settings(SettingsContext& context)
                [&context](const std::string& text) { context.desktop.message(text); }),
       context_(context),
       configPath_(defaultConfigurationPath(context.program)),
-      toolsPage_(context.desktop, tagRows.data()) {
+      toolsPage_(context, tagRows.data()),
+      javacPage_(context.desktop, tagRows.data()),
+      javaPage_(context, tagRows.data(), toolsPage_, [this] { return editorChoice(); }),
+      jdbPage_(context, tagRows.data()),
+      appletviewerPage_(context.desktop, tagRows.data()),
+      editorPage_(context.desktop, tagRows.data()),
+      pathsPage_(context.desktop, tagRows.data()) {
   toolTips_ = {{IDOK_CONTROL, "Apply new settings and close this window"},
                {IDCANCEL_CONTROL, "Continue with the previously active settings"},
-               {1036, "Save settings in a separate file"},
-               {1037, "Load settings from a separate file"},
-               {1168, "Start HTML browser to display the Tarnwick user's guide"}};
+               {SAVE_FILE, "Save settings in a separate file"},
+               {LOAD_FILE, "Load settings from a separate file"},
+               {HELP, "Start HTML browser to display the Tarnwick user's guide"}};
   addTab("JDK tools", toolsPage_);
+  addTab("javac", javacPage_);
+  addTab("java", javaPage_);
+  addTab("jdb", jdbPage_);
+  addTab("appletviewer", appletviewerPage_);
+  addTab("Sourcecode editor", editorPage_);
+  addTab("Paths", pathsPage_);
   resetAll();
 }
 
@@ -144,16 +161,97 @@ int Settings::runModal(int page) {
 void Settings::initialise(DialogWindow& window) {
   TabbedDialog::initialise(window);
   if (currentProject) window.setTitle(window.title() + " for project " + currentProject->name());
-  // Separate configurations, the guide and the About dialog are not there yet.
-  for (const int control : {1036, 1037, 1038, 1168}) enableControl(control, false);
+}
+
+void Settings::onCommand(int control) {
+  switch (control) {
+    case SAVE_FILE:
+      return saveSeparately();
+    case LOAD_FILE:
+      return loadSeparate();
+    case HELP:
+      return context_.showHelp(helpAnchors[currentPage()]);
+    case ABOUT:
+      return context_.showAbout();
+    default:
+      return TabbedDialog::onCommand(control);
+  }
 }
 
 void Settings::collectPages() {
   toolsPage_.storeToTags();
+  javacPage_.storeToTags();
   prefixIfMissing(javacJOption, "-J");
+  javaPage_.storeToTags();
   prefixIfMissing(javaProperty, "-D");
+  jdbPage_.storeToTags();
+  appletviewerPage_.storeToTags();
   prefixIfMissing(appletviewerJOption, "-J");
+  editorPage_.storeToTags();
+  pathsPage_.storeToTags();
   normaliseClasspath();
+}
+
+FileRequest Settings::separateFileRequest() const {
+  FileRequest request;
+  request.filter = "cfg file|*.cfg||";
+  request.startFolder = Filename(configPath_).directory();
+  request.name = "*.cfg";
+  return request;
+}
+
+void Settings::saveSeparately() {
+  // No warning about -g with -O here: a separate file does not touch the running settings. That is meant.
+  tarnwickVersion = context_.program.version;
+  FileRequest request = separateFileRequest();
+  request.extension = ".cfg";
+  request.confirmOverwrite = true;
+  const auto chosen = desktop_.saveFile(request);
+  if (!chosen) return;
+  try {
+    saveTo(*chosen);
+  } catch (const Tarnwickfile::FileNotOpenE& failure) {
+    desktop_.message(failure.message + "\nCan't save configuration data.");
+  }
+}
+
+void Settings::saveTo(const std::string& path) {
+  ReplacingFile target(path);
+  Tarnwickfile defaults(configPath_, FileMode::Read);
+  collectPages();
+  try {
+    write(target);
+    target.commit();
+  } catch (const Tarnwickfile::FileNotOpenE&) {
+    read(defaults);
+    throw;
+  }
+  read(defaults);
+}
+
+void Settings::loadSeparate() {
+  FileRequest request = separateFileRequest();
+  request.mustExist = true;
+  const auto chosen = desktop_.openFile(request);
+  if (!chosen) return;
+  try {
+    loadFrom(*chosen);
+  } catch (const Tarnwickfile::FileNotOpenE& failure) {
+    desktop_.message(failure.message + "\nCan't load configuration data.");
+  }
+}
+
+void Settings::loadFrom(const std::string& path) {
+  Tarnwickfile chosen(path, FileMode::Read);
+  Tarnwickfile defaults(configPath_, FileMode::Read);
+  resetAll();
+  read(chosen);
+  for (TabPage* page : std::initializer_list<TabPage*>{&toolsPage_, &javacPage_, &javaPage_, &jdbPage_,
+                                                       &appletviewerPage_, &editorPage_, &pathsPage_}) {
+    page->loadFromTags();
+  }
+  // A row that is missing there keeps the chosen file's value.
+  read(defaults);
 }
 
 void Settings::onOk() {

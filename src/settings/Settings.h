@@ -3,7 +3,13 @@
 #include "base/TagTable.h"
 #include "dialogbase/TabbedDialog.h"
 #include "process/EditorLaunch.h"
+#include "settings/AppletviewerPage.h"
+#include "settings/EditorPage.h"
+#include "settings/JavaPage.h"
+#include "settings/JavacPage.h"
+#include "settings/JdbPage.h"
 #include "settings/OpenProject.h"
+#include "settings/PathsPage.h"
 #include "settings/SettingsContext.h"
 #include "settings/SettingsValues.h"
 #include "settings/ToolsPage.h"
@@ -45,18 +51,26 @@ class Settings : public SettingsValues, public TabbedDialog, public TagTable {
 
   EditorChoice editorChoice() const;
   const std::string& configPath() const { return configPath_; }
-  SettingsContext& context() { return context_; }
+  SettingsContext& context() const { return context_; }
 
   /// The open project, or null.
   std::unique_ptr<OpenProject> currentProject;
 
   void initialise(DialogWindow& window) override;
+  void onCommand(int control) override;
 
  protected:
   void onOk() override;
 
  private:
   void writeTo(Tarnwickfile* file);
+  /// "Save ...": the values of the pages go to a file of their own, and the live ones stay as they are.
+  void saveSeparately();
+  void saveTo(const std::string& path);
+  /// "Load ...": the values of such a file go on the pages, and become the live ones with OK.
+  void loadSeparate();
+  void loadFrom(const std::string& path);
+  FileRequest separateFileRequest() const;
   void recoverFromFailedSave(const Tarnwickfile::FileNotOpenE& failure);
   /// The warning about -g with -O; the text of both its boxes.
   static const char* debugWithFastcodeWarning();
@@ -64,6 +78,12 @@ class Settings : public SettingsValues, public TabbedDialog, public TagTable {
   SettingsContext& context_;
   std::string configPath_;
   ToolsPage toolsPage_;
+  JavacPage javacPage_;
+  JavaPage javaPage_;
+  JdbPage jdbPage_;
+  AppletviewerPage appletviewerPage_;
+  EditorPage editorPage_;
+  PathsPage pathsPage_;
 };
 
 }  // namespace tarnwick

@@ -17,12 +17,14 @@ enum Control {
   WITH_EDITOR = 1018,
   ON_DESKTOP = 1204,
   IN_STARTMENU = 1205,
+  FOUND_LABEL = 2001,
+  FOUND_JDKS = 2002,
 };
 
 }  // namespace
 
-ToolsPage::ToolsPage(Desktop& desktop, const TagRow* rows)
-    : TabPage(desktop, TOOLS_PAGE, SETTINGS_DIALOG, toolsPageLayout()) {
+ToolsPage::ToolsPage(SettingsContext& context, const TagRow* rows)
+    : TabPage(context.desktop, TOOLS_PAGE, SETTINGS_DIALOG, toolsPageLayout()), context_(context) {
   tags_ = rows;
   bindings_ = {{WITH_NOTEPAD, &withNotepad_, BIND_CHECK}, {FOLDER, &folder_, BIND_TEXT}};
   toolTips_ = {
@@ -32,14 +34,36 @@ ToolsPage::ToolsPage(Desktop& desktop, const TagRow* rows)
       {WITH_EDITOR, "Display compiler (and other) diagnostics with the editor you defined for editing source files"},
       {ON_DESKTOP, "Create an icon on the Windows desktop. A double click on it will start Tarnwick."},
       {IN_STARTMENU, "Create an entry in the Windows startmenu tree that will start Tarnwick."},
+      {FOUND_JDKS, "JDKs found on this computer, the newest first. Choose one to use its tools."},
   };
 }
 
 void ToolsPage::initialise(DialogWindow& window) {
   TabPage::initialise(window);
+  offerJdks();
   // Shortcuts are not there yet.
   enableControl(ON_DESKTOP, false);
   enableControl(IN_STARTMENU, false);
+}
+
+void ToolsPage::offerJdks() {
+  jdks_ = context_.installedJdks();
+  const bool several = jdks_.size() > 1;
+  showControl(FOUND_LABEL, several);
+  showControl(FOUND_JDKS, several);
+  std::vector<std::string> entries;
+  for (const auto& jdk : jdks_) {
+    entries.push_back((jdk.version.empty() ? "" : "JDK " + jdk.version + "   ") + jdk.toolsFolder);
+  }
+  window()->setEntries(FOUND_JDKS, entries);
+  for (std::size_t i = 0; i < jdks_.size(); ++i) {
+    if (jdks_[i].toolsFolder == folder_) window()->select(FOUND_JDKS, static_cast<int>(i));
+  }
+}
+
+void ToolsPage::onSelectionChanged(int control) {
+  const int chosen = control == FOUND_JDKS ? window()->selection(FOUND_JDKS) : -1;
+  if (chosen >= 0) setText(FOLDER, jdks_.at(static_cast<std::size_t>(chosen)).toolsFolder);
 }
 
 void ToolsPage::updateControls() {
@@ -58,6 +82,10 @@ std::string ToolsPage::getText(int control) const {
   if (control != FOLDER) return text;
   const std::string folder = trimRight(text);
   return platform::endsInSeparator(folder) ? folder : folder + platform::folderSeparator;
+}
+
+std::string ToolsPage::toolsFolder() const {
+  return getText(FOLDER);
 }
 
 void ToolsPage::browse() {

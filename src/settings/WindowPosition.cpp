@@ -1,13 +1,27 @@
 #include "settings/WindowPosition.h"
 
+#include "base/Text.h"
 #include "base/TokenString.h"
 
-#include <cstdlib>
+#include <cstdint>
 #include <optional>
 
 namespace tarnwick {
 
 namespace {
+
+/// The number that a text begins with, as `atoi` reads it: white space and a sign may come first, what is no number
+/// counts as 0. Too large a number wraps around in 32 bits, where `atoi` leaves open what happens.
+int leadingNumber(const std::string& text) {
+  const std::string digits = trimLeft(text);
+  const bool negative = digits.starts_with('-');
+  std::uint32_t number = 0;
+  for (std::size_t i = negative || digits.starts_with('+') ? 1 : 0; i < digits.size(); ++i) {
+    if (digits[i] < '0' || digits[i] > '9') break;
+    number = number * 10 + static_cast<std::uint32_t>(digits[i] - '0');
+  }
+  return static_cast<int>(negative ? 0 - number : number);
+}
 
 std::optional<Point> placementOf(const DialogWindow* window) {
   return window ? window->position() : std::optional<Point>();
@@ -71,8 +85,8 @@ std::string WindowPosition::toString() {
 void WindowPosition::fromString(const std::string& text) {
   try {
     const TokenString pair(text, ';', ']');
-    left_ = std::atoi(pair.element(0).c_str());
-    top_ = std::atoi(pair.element(1).c_str());
+    left_ = leadingNumber(pair.element(0));
+    top_ = leadingNumber(pair.element(1));
   } catch (const TokenString::OutOfBoundsE&) {
     // A coordinate that was not reached keeps what it had.
   } catch (const InvalidDataE&) {

@@ -40,6 +40,64 @@ TEST(OptionList, WindowTextNamesTheChoice) {
   EXPECT_EQ(OptionList(javacTargetOptions, "1.3").windowText(), "1.3");
 }
 
+/// A table as text: each row, then the index of the user's own choice and that of none.
+std::string asText(const OptionTable& table) {
+  std::string text;
+  for (const auto& row : table.rows)
+    text += std::string(row.label) + ' ' + std::to_string(row.index) + " (" + row.option + "); ";
+  return text + std::to_string(table.userDefinedIndex) + ' ' + std::to_string(table.defaultIndex);
+}
+
+TEST(OptionList, TheFourListsHoldTheseRowsInThisOrder) {
+  EXPECT_EQ(asText(javacTargetOptions),
+            "1.1 1 (-target 1.1); 1.2 2 (-target 1.2); 1.3 3 (-target 1.3); 1.4 4 (-target 1.4); "
+            "1.5 5 (-target 1.5); User-defined 6 (-target ); 6 0");
+  EXPECT_EQ(asText(javacSourceOptions),
+            "1.3 1 (-source 1.3); 1.4 2 (-source 1.4); 1.5 3 (-source 1.5); User-defined 4 (-source ); 4 0");
+  EXPECT_EQ(asText(javacVersionOptions), "Pre-1.4 0 (); 1.4 1 (); 1.5 2 (); -1 0");
+  EXPECT_EQ(asText(garbageCollectorOptions),
+            "Disabled 1 (-Xnoclassgc); Incremental 2 (-Xincgc); Concurrent 3 (-Xconcgc); -1 0");
+}
+
+TEST(OptionList, ALabelIsMatchedExactlyAfterTrimming) {
+  OptionList list(garbageCollectorOptions, " \tDisabled\n");
+  EXPECT_EQ(list.currentIndex(), 1);
+  EXPECT_EQ(list.toString(), "Disabled");
+  list.fromString("disabled");
+  EXPECT_EQ(list.currentIndex(), -1) << "a list without a user's own choice has no place for it";
+  EXPECT_EQ(list.option(), "");
+  EXPECT_EQ(list.toString(), "disabled");
+  list.fromString("  ");
+  EXPECT_EQ(list.currentIndex(), 0);
+}
+
+TEST(OptionList, TheJdkVersionsAddNothingToACommandLine) {
+  for (const char* version : {"", "Pre-1.4", "1.4", "1.5"})
+    EXPECT_EQ(OptionList(javacVersionOptions, version).option(), "") << version;
+}
+
+TEST(OptionList, SelectingAnIndexTakesTheRowsLabelAndKeepsTheUsersText) {
+  OptionList list(javacTargetOptions, "1.9");
+  list.selectIndex(6);
+  EXPECT_EQ(list.toString(), "1.9");
+  EXPECT_EQ(list.option(), "-target 1.9");
+  list.selectIndex(3);
+  EXPECT_EQ(list.toString(), "1.3");
+  EXPECT_EQ(list.option(), "-target 1.3");
+  list.selectIndex(0);
+  EXPECT_EQ(list.toString(), "");
+  EXPECT_EQ(list.option(), "");
+  list.selectIndex(17);
+  EXPECT_EQ(list.toString(), "");
+  EXPECT_EQ(list.option(), "");
+}
+
+TEST(OptionList, WindowTextIsTheCurrentTextBetweenTheTwoSpecialChoices) {
+  EXPECT_EQ(OptionList(garbageCollectorOptions, "Concurrent").windowText(), "Concurrent");
+  EXPECT_EQ(OptionList(javacVersionOptions, "1.5").windowText(), "1.5");
+  EXPECT_EQ(OptionList(javacVersionOptions, "Pre-1.4").windowText(), "Default") << "its index is the default one, too";
+}
+
 struct NoRules : DialogHandler {
   void initialise(DialogWindow&) override {}
   void onCommand(int) override {}

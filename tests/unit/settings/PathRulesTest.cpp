@@ -20,6 +20,45 @@ TEST(PathRules, OnlyTheFirstOccurrenceCounts) {
   EXPECT_EQ(normalisedClasspath("x"), ".;x");
 }
 
+TEST(PathRules, ASeparatorAndDotThatAreNotFoundMatchNothingHoweverShortTheText) {
+  EXPECT_EQ(normalisedClasspath("x"), ".;x");
+  EXPECT_EQ(normalisedClasspath(";"), ".;;");
+  EXPECT_EQ(normalisedClasspath("ab"), ".;ab");
+  EXPECT_EQ(normalisedClasspath(".."), ".;..");
+}
+
+TEST(PathRules, ADotBetweenSeparatorsCountsOnlyBehindTheFirstPlace) {
+  EXPECT_EQ(normalisedClasspath(";.;x"), ".;;.;x");
+  EXPECT_EQ(normalisedClasspath("a;.;x"), "a;.;x");
+  EXPECT_EQ(normalisedClasspath(";."), ";.") << "it ends so";
+  EXPECT_EQ(normalisedClasspath(".;"), ".;") << "it begins so";
+  EXPECT_EQ(normalisedClasspath(";.;a;.;x"), ".;;.;a;.;x") << "only the first occurrence counts";
+}
+
+TEST(PathRules, ThePrefixIsAddedOnce) {
+  EXPECT_EQ(normalisedClasspath(normalisedClasspath("a;.b;.")), ".;a;.b;.");
+}
+
+TEST(PathRules, SeparatorsOfANameListCollapse) {
+  EXPECT_EQ(assertionOptions(" \ta ,;, b\n", "-ea:"), "-ea:a -ea:b ");
+  EXPECT_EQ(assertionOptions("a,b c;d", "-ea:"), "-ea:a -ea:b -ea:c -ea:d ");
+  EXPECT_EQ(assertionOptions("a;", "-ea:"), "-ea:a ");
+  EXPECT_EQ(assertionOptions("a; , ;", "-ea:"), "-ea:a ");
+  EXPECT_EQ(assertionOptions("", "-ea:"), "");
+}
+
+TEST(PathRules, ASeparatorInTheFirstPlaceMakesAnEmptyName) {
+  // A comma is not trimmed as a blank is.
+  EXPECT_EQ(assertionOptions(",a", "-ea:"), "-ea: -ea:a ");
+  EXPECT_EQ(assertionOptions(";", "-ea:"), "-ea: ");
+}
+
+TEST(PathRules, ANameIsCutAtItsClassEndingWhereverThatStands) {
+  EXPECT_EQ(assertionOptions("a.Class.b", "-da:"), "-da:a ");
+  EXPECT_EQ(assertionOptions(".class", "-da:"), "-da: ");
+  EXPECT_EQ(assertionOptions("p.MyClass", "-da:"), "-da:p.MyClass ");
+}
+
 TEST(PathRules, NameListsBecomeOptions) {
   EXPECT_EQ(assertionOptions("a.B, c.D.class;e...", "-ea:"), "-ea:a.B -ea:c.D -ea:e... ");
   EXPECT_EQ(assertionOptions("Foo.class, bar", "-ea:"), "-ea:Foo -ea:bar ");

@@ -1,8 +1,7 @@
-#include "settings/JdkDiscovery.h"
 #include "support/SettingsFixture.h"
 
-#include <filesystem>
 #include <gtest/gtest.h>
+#include <map>
 
 namespace tarnwick::test {
 namespace {
@@ -20,7 +19,8 @@ class SettingsDialogTest : public SettingsFixture {
 TEST_F(SettingsDialogTest, OpensOnTheToolsPageWithItsValues) {
   settings().javaPath = "jdk" + separator_;
   desktop_.expectDialog("Tarnwick settings", [&](ScriptedWindow& window) {
-    EXPECT_EQ(window.tabLabels(TABS), (std::vector<std::string>{"JDK tools"}));
+    EXPECT_EQ(window.tabLabels(TABS), (std::vector<std::string>{"JDK tools", "javac", "java", "jdb", "appletviewer",
+                                                                "Sourcecode editor", "Paths"}));
     auto& page = window.page(TABS, 0);
     EXPECT_EQ(page.text(FOLDER), "jdk" + separator_);
     EXPECT_TRUE(page.checked(WITH_NOTEPAD));
@@ -35,9 +35,110 @@ TEST_F(SettingsDialogTest, OpensOnTheToolsPageWithItsValues) {
     EXPECT_EQ(page.toolTip(1205), "Create an entry in the Windows startmenu tree that will start Tarnwick.");
     EXPECT_EQ(window.toolTip(IDOK_CONTROL), "Apply new settings and close this window");
     EXPECT_EQ(window.toolTip(IDCANCEL_CONTROL), "Continue with the previously active settings");
+    EXPECT_EQ(window.toolTip(1036), "Save settings in a separate file");
+    EXPECT_EQ(window.toolTip(1037), "Load settings from a separate file");
+    EXPECT_EQ(window.toolTip(1168), "Start HTML browser to display the Tarnwick user's guide");
     window.press(IDCANCEL_CONTROL);
   });
   EXPECT_EQ(settings().runModal(0), DIALOG_CANCEL);
+}
+
+TEST_F(SettingsDialogTest, OpensOnThePageThatIsAskedFor) {
+  desktop_.expectDialog("Tarnwick settings", [](ScriptedWindow& window) {
+    EXPECT_EQ(window.selection(TABS), 6);
+    window.press(IDCANCEL_CONTROL);
+  });
+  settings().runModal(6);
+}
+
+TEST_F(SettingsDialogTest, HelpOpensTheGuideAtThePagesAnchor) {
+  std::vector<std::string> anchors;
+  context_.showHelp = [&](const std::string& anchor) { anchors.push_back(anchor); };
+  desktop_.expectDialog("Tarnwick settings", [](ScriptedWindow& window) {
+    for (int tab = 0; tab < 7; ++tab) {
+      window.choose(TABS, tab);
+      window.press(1168);
+    }
+    window.press(IDCANCEL_CONTROL);
+  });
+  settings().runModal(3);
+  EXPECT_EQ(anchors, (std::vector<std::string>{"#configTab1", "#javacparameters", "#javaparameters", "#jdbparams",
+                                               "#appletviewerparameters", "#editorparameters", "#paths"}));
+}
+
+TEST_F(SettingsDialogTest, HelpRightAfterOpeningIsThatOfTheFirstPageShown) {
+  std::string opened;
+  context_.showHelp = [&](const std::string& anchor) { opened = anchor; };
+  desktop_.expectDialog("Tarnwick settings", [](ScriptedWindow& window) {
+    window.press(1168);
+    window.press(IDCANCEL_CONTROL);
+  });
+  settings().runModal(2);
+  EXPECT_EQ(opened, "#javaparameters");
+}
+
+TEST_F(SettingsDialogTest, AboutRunsItsDialog) {
+  int shown = 0;
+  context_.showAbout = [&] { ++shown; };
+  desktop_.expectDialog("Tarnwick settings", [](ScriptedWindow& window) {
+    window.press(1038);
+    window.press(IDCANCEL_CONTROL);
+  });
+  settings().runModal(0);
+  EXPECT_EQ(shown, 1);
+}
+
+TEST_F(SettingsDialogTest, EveryRowOfThePagesHasItsControl) {
+  desktop_.expectDialog("Tarnwick settings", [&](ScriptedWindow& window) {
+    const std::map<int, int> tabOf = {{TOOLS_PAGE, 0},        {JAVAC_PAGE, 1},  {JAVA_PAGE, 2}, {JDB_PAGE, 3},
+                                      {APPLETVIEWER_PAGE, 4}, {EDITOR_PAGE, 5}, {PATHS_PAGE, 6}};
+    for (const auto& row : settings().tagRows) {
+      if (row.owner == SETTINGS_DIALOG) {
+        EXPECT_TRUE(window.page(TABS, tabOf.at(row.page)).has(row.control)) << row.tag;
+      }
+    }
+    window.press(IDCANCEL_CONTROL);
+  });
+  settings().runModal(0);
+}
+
+TEST_F(SettingsDialogTest, OkWithoutAChangeKeepsEveryValue) {
+  Settings& live = settings();
+  live.javaPath = "jdk" + separator_;
+  live.displayWithNotepad = 0;
+  live.editWithNotepad = 1;
+  live.editorOpenAll = 0;
+  live.editorTarget = "ed";
+  live.classpath = ".;x";
+  live.sourcepath = "src";
+  live.bootpath = "boot";
+  live.extdirs = "ext";
+  live.javacMyJdkVersion = "1.5";
+  live.javacSourceOption = "1.4";
+  live.javacTargetSpec = "9";
+  live.javacDestination = "out";
+  live.javacJOption = "-Ja";
+  live.javacWarnPath = 0;
+  live.javaXfuture = 0;
+  live.javaXms = "1m";
+  live.javaXmx = "2m";
+  live.javaXss = "3m";
+  live.javaXrunhprof = "help";
+  live.javaGarbageCollector = "Incremental";
+  live.javaProperty = "-Da=b";
+  live.javaAssertEnable = "a";
+  live.javaAssertDisable = "b";
+  live.javaSystemAssertEnable = 1;
+  live.jdbLaunch = 0;
+  live.appletviewerJOption = "-Jb";
+  live.appletviewerEncoding = "UTF-8";
+  live.saveDefaultConfiguration(nullptr);
+  const std::string before = contentOf(configFile());
+  for (int tab = 0; tab < 7; ++tab) {
+    desktop_.expectDialog("Tarnwick settings", [](ScriptedWindow& window) { window.press(IDOK_CONTROL); });
+    EXPECT_EQ(live.runModal(tab), DIALOG_OK);
+    EXPECT_EQ(contentOf(configFile()), before);
+  }
 }
 
 TEST_F(SettingsDialogTest, OkStoresAndSaves) {
@@ -130,60 +231,6 @@ TEST_F(SettingsDialogTest, TheTitleNamesTheProject) {
   desktop_.expectDialog("Tarnwick settings for project garden",
                         [](ScriptedWindow& window) { window.press(IDCANCEL_CONTROL); });
   settings().runModal(0);
-}
-
-class JdkDiscoveryTest : public SettingsFixture {
- protected:
-  /// Makes a JDK of empty files. Gives its tools' folder.
-  std::string makeJdk(const std::string& name, const std::string& version) {
-    const std::string home = scratch_.file(name) + platform::folderSeparator;
-    const std::string tools = home + "bin" + platform::folderSeparator;
-    platform::makeFolders(tools);
-    writeFile(tools + platform::toolFileName("javac"), "");
-    writeFile(home + "release", "IMPLEMENTOR=\"x\"\nJAVA_VERSION=\"" + version + "\"\n");
-    return platform::splitPath(platform::resolvedPath(tools + platform::toolFileName("javac"))).drive +
-           platform::splitPath(platform::resolvedPath(tools + platform::toolFileName("javac"))).folder;
-  }
-};
-
-TEST_F(JdkDiscoveryTest, JavaHomeComesFirst) {
-  const std::string home = makeJdk("ho me", "17.0.1");
-  const std::string onPath = makeJdk("path", "17.0.1");
-  const ScopedEnvironment javaHome("JAVA_HOME", scratch_.file("ho me"));
-  const ScopedEnvironment path("PATH", onPath);
-  EXPECT_EQ(discoverJdkTools(), home);
-}
-
-TEST_F(JdkDiscoveryTest, ThenTheSearchPath) {
-  const std::string tools = makeJdk("path jdk", "25");
-  const ScopedEnvironment javaHome("JAVA_HOME", scratch_.file("nowhere"));
-  const ScopedEnvironment path("PATH", platform::commandLineList(scratch_.file("empty") + ";" + tools));
-  EXPECT_EQ(discoverJdkTools(), tools);
-}
-
-TEST_F(JdkDiscoveryTest, NothingFoundIsEmpty) {
-  const ScopedEnvironment javaHome("JAVA_HOME", "");
-  const ScopedEnvironment path("PATH", scratch_.path());
-  EXPECT_EQ(discoverJdkTools(), "");
-}
-
-TEST_F(JdkDiscoveryTest, TheReleaseFileTellsTheVersion) {
-  EXPECT_EQ(jdkVersion(makeJdk("a", "1.4.2_19")), 4);
-  EXPECT_EQ(jdkVersion(makeJdk("b", "1.8.0_302")), 8);
-  EXPECT_EQ(jdkVersion(makeJdk("c", "17.0.15")), 17);
-  EXPECT_EQ(jdkVersion(makeJdk("d", "25")), 25);
-  EXPECT_EQ(jdkVersion(scratch_.file("none")), 0);
-}
-
-TEST_F(JdkDiscoveryTest, TheVersionIsThatOfTheJdkThatALinkLeadsTo) {
-  const std::string tools = makeJdk("real", "25.0.1");
-  const std::string links = scratch_.file("links") + platform::folderSeparator;
-  platform::makeFolders(links);
-  std::error_code failure;
-  const std::string javac = platform::toolFileName("javac");
-  std::filesystem::create_symlink(tools + javac, links + javac, failure);
-  if (failure) GTEST_SKIP() << "no links here: " << failure.message();
-  EXPECT_EQ(jdkVersion(links), 25);
 }
 
 }  // namespace

@@ -3,6 +3,7 @@
 #include "platform/Path.h"
 #include "platform/Process.h"
 #include "settings/OptionList.h"
+#include "source/PortabilityWarningDlg.h"
 
 namespace tarnwick {
 
@@ -41,7 +42,13 @@ std::string warningOptions(const Settings& settings) {
 
 }  // namespace
 
-std::vector<std::string> javacArguments(const Settings& settings, const char* alternativeClasspath) {
+std::optional<std::string> compilerClasspath(const Settings& settings, const char* alternativeClasspath) {
+  if (alternativeClasspath) return alternativeClasspath;
+  const std::string classpath = settings.effectiveClasspath();
+  return classpath.empty() ? std::nullopt : std::optional(classpath);
+}
+
+std::vector<std::string> javacArguments(const Settings& settings, const std::optional<std::string>& classpath) {
   using platform::commandLineList;
   std::vector<std::string> arguments = {
       "javac",
@@ -61,11 +68,7 @@ std::vector<std::string> javacArguments(const Settings& settings, const char* al
   add(settings.javacDeprecation, "-deprecation");
   add(!settings.sourcepath.empty(), "-sourcepath");
   add(!settings.sourcepath.empty(), commandLineList(settings.sourcepath));
-  const std::string classpath = settings.effectiveClasspath();
-  if (alternativeClasspath)
-    arguments.push_back("-classpath " + commandLineList(alternativeClasspath));
-  else
-    add(!classpath.empty(), "-classpath " + commandLineList(classpath));
+  if (classpath) arguments.push_back("-classpath " + commandLineList(*classpath));
   add(!settings.bootpath.empty(), "-bootclasspath " + commandLineList(settings.bootpath));
   add(!settings.extdirs.empty(), "-extdirs " + commandLineList(settings.extdirs));
   return arguments;
@@ -73,11 +76,13 @@ std::vector<std::string> javacArguments(const Settings& settings, const char* al
 
 Compiler::Compiler(Settings& settings, const char* alternativeClasspath)
     : settings_(settings), tool_(settings.context().desktop, settings.context().log, compilerPath(settings)) {
+  // Meant so: a class path that is changed in the dialog counts from the next command on.
+  const auto classpath = compilerClasspath(settings, alternativeClasspath);
   if (settings.javaPath.empty()) settings.runModal(0);
   if (settings.javaPath.empty()) throw CannotCompileE(noToolsFolder());
   tool_.reset(compilerPath(settings));
   checkTool();
-  for (const auto& argument : javacArguments(settings, alternativeClasspath)) tool_.addArg(argument);
+  for (const auto& argument : javacArguments(settings, classpath)) tool_.addArg(argument);
 }
 
 void Compiler::checkTool() const {
@@ -90,10 +95,24 @@ void Compiler::checkTool() const {
   }
 }
 
+bool Compiler::maySplit() {
+  bool& warn = settings_.context().warnAboutSplitting;
+  if (!warn) return true;
+  PortabilityWarningDlg warning(settings_.context().desktop);
+  const bool goOn = warning.runModal() == DIALOG_OK;
+  warn = !goOn || !warning.staysAway();
+  return goOn;
+}
+
 bool Compiler::compile(FileForSubprocess& source, FileMode logMode) {
   if (settings_.javaPath.empty()) throw CannotCompileE(noToolsFolder());
   settings_.saveCurrent();
-  source.args().assign(1, platform::commandWord(source.name().fullName()));
+  source.args().clear();
+  SourceSplitter splitter(source, [this] { return maySplit(); });
+  splitter.run();
+  for (const auto& name : splitter.fileNames()) source.args().push_back(platform::commandWord(name));
+  if (source.args().empty()) source.args().push_back(platform::commandWord(source.name().fullName()));
+  // The pieces live until the tool has ended.
   return tool_.run(&source, logMode);
 }
 

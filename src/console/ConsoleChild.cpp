@@ -153,13 +153,9 @@ void ConsoleChild::read(platform::ChildProcess::Stream stream, OutputReader& rea
 
 void ConsoleChild::endReader(OutputReader& reader) {
   const std::lock_guard guard(readerLock_);
+  // Meant: the end of a stream begins no line. Whether somebody still holds the pipe makes no difference to the text;
+  // only the child's own end is told.
   reader.end();
-  // The line that each reader ends with waits for the other one, which may be in the middle of a line.
-  if (--openReaders_ > 0) return;
-  const TextGuard textGuard(screen_.lock());
-  screen_.newLine();
-  screen_.newLine();
-  screen_.changes.ask(screen_.document.lineCount(), 0, 1);
 }
 
 bool ConsoleChild::settle() {

@@ -71,7 +71,6 @@ class ConsoleChild {
   std::mutex readerLock_;  ///< held for a whole block, so that the two outputs never mix within one
   OutputReader stdoutReader_;
   OutputReader stderrReader_;
-  int openReaders_ = 2;  ///< guarded by the reader lock
   std::atomic<int> childState_{-1};
   std::atomic<std::uint64_t> totalOutputBytes_{0};
   std::atomic<bool> readerActive_{false};  ///< a hint only

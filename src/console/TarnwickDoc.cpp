@@ -80,12 +80,6 @@ ColumnRange TarnwickDoc::replaceInput(std::string_view text) {
   return {startColumn, line.length()};
 }
 
-int TarnwickDoc::lastLineLength() const {
-  int sum = 0;
-  for (const auto& segment : lines_.back().segments()) sum += segment.columns;
-  return sum;
-}
-
 void TarnwickDoc::noteWidth() {
   widestLine_ = std::max(widestLine_, lines_.back().length());
 }

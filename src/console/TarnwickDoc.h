@@ -44,8 +44,8 @@ class TarnwickDoc {
 
   /// The last line's last segment, null if there is none.
   const std::string* lastSegment(int& kindOut) const { return lines_.back().lastSegment(kindOut); }
-  /// Columns of the last line.
-  int lastLineLength() const;
+  /// Columns of the last line. Kept with the line: it may have a million segments.
+  int lastLineLength() const { return lines_.back().length(); }
 
   const std::deque<ConsoleLine>& lines() const { return lines_; }
   const ConsoleLine& lastLine() const { return lines_.back(); }

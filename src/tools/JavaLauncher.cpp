@@ -4,21 +4,15 @@
 #include "process/Subprocess.h"
 #include "settings/OptionList.h"
 #include "settings/PathRules.h"
+#include "tools/Relaunch.h"
 
 namespace tarnwick {
 
 namespace {
 
-std::string toolPath(const Settings& settings, const std::string& tool) {
-  return settings.javaPath + platform::toolFileName(tool);
-}
-
-std::string switchText(const std::string& name, const std::string& value) {
-  return "\\/" + name + "=" + value + "\\/";
-}
-
 class ArgumentList {
  public:
+  explicit ArgumentList(std::vector<std::string> first) : arguments_(std::move(first)) {}
   void add(const std::string& text) { arguments_.push_back(text); }
   void addIf(bool when, const std::string& text) {
     if (when) add(text);
@@ -54,14 +48,7 @@ std::vector<std::string> relaunchArguments(const Settings& settings, const FileF
                                            const JavaRun& run) {
   const std::string className = file.name().baseName();
   const std::string& profile = settings.javaXrunhprof;
-  ArgumentList list;
-  list.add("Tarnwick");
-  list.add(switchText("DEFAULTDIR", file.name().directory()));
-  list.add(switchText("EXEFILE", toolPath(settings, run.tool)));
-  list.add(switchText("TITLE", className));
-  list.add(switchText("CFG", settings.currentProject ? settings.currentProject->quotedPath() : settings.configPath()));
-  list.addIf(run.debugging, "\\/JDEBUG\\/");
-  list.add("\\/RUN=");
+  ArgumentList list(relaunchSwitches(settings, file, run.tool, run.debugging));
   list.addIf(settings.javaXfuture, "-Xfuture");
   list.addIf(settings.javaXprof, "-Xprof");
   list.addIf(settings.javaJniValidate, "-Xcheck:jni");
@@ -79,20 +66,9 @@ std::vector<std::string> relaunchArguments(const Settings& settings, const FileF
 }
 
 void buildAndLaunch(Settings& settings, FileForSubprocess& file, const JavaRun& run) {
-  Desktop& desktop = settings.context().desktop;
-  if (settings.javaPath.empty()) settings.runModal(0);
-  if (settings.javaPath.empty()) {
-    desktop.message(platform::localText("No path to javac.exe and other tools available from settings"));
-    return;
-  }
-  try {
-    Tarnwickfile probe(toolPath(settings, run.tool), FileMode::Read);
-  } catch (const Tarnwickfile::FileNotOpenE& failure) {
-    desktop.message("Can't access the JDK tool " + failure.file + "\n" + failure.message +
-                    "\nIs the JDK installed? Is the tools directory (Settings!) set correctly?");
-    return;
-  }
-  DetachedSubprocess copy(desktop, settings.context().log, settings.context().program.programPath);
+  if (!relaunchReady(settings, run.tool)) return;
+  const auto& context = settings.context();
+  DetachedSubprocess copy(context.desktop, context.log, context.program.programPath);
   for (const auto& argument : relaunchArguments(settings, file, run)) copy.addArg(argument);
   copy.run(&file, FileMode::Write);
 }
@@ -101,6 +77,16 @@ void runJava(Settings& settings, FileForSubprocess& file, const char* classpath)
   JavaRun run;
   run.extraOption = settings.javaVerbose ? "-verbose" : nullptr;
   run.classpath = classpath;
+  buildAndLaunch(settings, file, run);
+}
+
+void runJdb(Settings& settings, FileForSubprocess& file, const char* classpath, const char* sourcepath) {
+  JavaRun run;
+  run.tool = "jdb";
+  run.debugging = true;
+  run.extraOption = settings.jdbLaunch ? "-launch" : nullptr;
+  run.classpath = classpath;
+  run.sourcepath = sourcepath;
   buildAndLaunch(settings, file, run);
 }
 

@@ -24,6 +24,9 @@ std::vector<std::string> relaunchArguments(const Settings& settings, const FileF
 /// Starts `java` on a class file in a console of its own. Shows failures itself. `classpath` may be null.
 void runJava(Settings& settings, FileForSubprocess& file, const char* classpath);
 
+/// Starts `jdb` on a class file in a console of its own, with the debugger's commands. Either path may be null.
+void runJdb(Settings& settings, FileForSubprocess& file, const char* classpath, const char* sourcepath);
+
 /// The same for either tool.
 void buildAndLaunch(Settings& settings, FileForSubprocess& file, const JavaRun& run);
 

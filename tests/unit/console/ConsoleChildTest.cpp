@@ -95,8 +95,8 @@ TEST_F(ConsoleChildTest, TheEndIsTold) {
   child->end();
   ASSERT_TRUE(until([&] { return ended(); }));
   const auto all = lines();
-  // The readers' ends, two lines, the banner, and a line for the caret.
-  EXPECT_EQ(all, (Lines{"", "", "done", "", "", "", "", banner, ""}));
+  // Two lines, the banner, and a line for the caret. The ends of the two streams add nothing.
+  EXPECT_EQ(all, (Lines{"", "", "done", "", "", banner, ""}));
   {
     const TextGuard guard(document.textLock());
     EXPECT_EQ(document.lines()[all.size() - 2].segments()[0].kind, KIND_BANNER);
@@ -154,6 +154,8 @@ TEST_F(ConsoleChildTest, AGrandchildThatHoldsThePipesDoesNotKeepTheBannerAway) {
   ASSERT_TRUE(until([&] { return shows("parent"); }));
   child->end(false);
   ASSERT_TRUE(until([&] { return ended(); }));
+  // Whoever holds the pipes, the banner stands in the same place.
+  EXPECT_EQ(lines(), (Lines{"", "", "parent", "", "", banner, ""}));
   // What it says later still shows.
   child->out("late\n");
   EXPECT_TRUE(until([&] { return shows("late"); }));
@@ -448,7 +450,7 @@ TEST_F(ConsoleChildTest, AStreamThatEndsFirstDoesNotCutALineOfTheOther) {
   EXPECT_EQ(view->childState(), 1);
   child->end();
   ASSERT_TRUE(until([&] { return ended(); }));
-  EXPECT_EQ(lines(), (Lines{"", "", "one line", "", "", "", "", banner, ""}));
+  EXPECT_EQ(lines(), (Lines{"", "", "one line", "", "", banner, ""}));
 }
 
 TEST_F(ConsoleChildTest, ARecordingUnderFloodHoldsEveryLine) {

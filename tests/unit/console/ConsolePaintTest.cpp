@@ -1,6 +1,7 @@
 #include "console/ConsolePaint.h"
 #include "support/ConsoleFixture.h"
 
+#include <cmath>
 #include <gtest/gtest.h>
 
 namespace tarnwick {
@@ -87,6 +88,27 @@ TEST_F(ConsolePaintTest, AWideCharacterAtTheClipsBorderIsDrawnWhole) {
 TEST_F(ConsolePaintTest, AClipBelowTheTextDrawsNothing) {
   document.addText("x", KIND_OUTPUT);
   EXPECT_TRUE(paint({0, 160, 644, 400}).empty());
+}
+
+/// How light a colour is, 0 to 1, as an eye sees it.
+double lightness(const Colour& colour) {
+  const auto part = [](int value) {
+    const double share = value / 255.0;
+    return share <= 0.03928 ? share / 12.92 : std::pow((share + 0.055) / 1.055, 2.4);
+  };
+  return 0.2126 * part(colour.red) + 0.7152 * part(colour.green) + 0.0722 * part(colour.blue);
+}
+
+double contrast(const Colour& colour) {
+  return (lightness(consoleBackground) + 0.05) / (lightness(colour) + 0.05);
+}
+
+TEST(ConsoleColours, TextStandsOutFromTheConsolesOwnBackground) {
+  EXPECT_GT(contrast(colourOf(KIND_INPUT)), 20.9);
+  EXPECT_GT(contrast(colourOf(KIND_OUTPUT)), 8.5);
+  EXPECT_GT(contrast(colourOf(KIND_ERROR)), 3.9);
+  // The banner's green is the lightest of the four, and settled.
+  EXPECT_EQ(colourOf(KIND_BANNER), (Colour{0, 255, 0}));
 }
 
 }  // namespace

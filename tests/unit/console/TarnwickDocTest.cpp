@@ -5,6 +5,7 @@
 #include "support/TestProgram.h"
 
 #include <cerrno>
+#include <chrono>
 #include <cstring>
 #include <gtest/gtest.h>
 
@@ -198,6 +199,17 @@ TEST_F(TarnwickDocTest, TheDocumentsEndLeavesTheUnfinishedLineUnrecorded) {
   EXPECT_EQ(test::contentOf(file), asText("done\n"));
 }
 
+TEST_F(TarnwickDocTest, ARecordThatCantBeWrittenGoesUnnoticed) {
+  if (platform::folderSeparator != '/') GTEST_SKIP() << "there is no device here that is always full";
+  desktop.saveAnswers = {"/dev/full"};
+  EXPECT_TRUE(document.startRecording());
+  addLine(std::string(100000, 'x'));
+  EXPECT_TRUE(document.recording());
+  document.stopRecording();
+  EXPECT_FALSE(document.recording());
+  EXPECT_TRUE(desktop.messages.empty());
+}
+
 TEST_F(TarnwickDocTest, TheDialogAsksForAFileToSaveWithoutFilterOrName) {
   const std::string file = scratch.file("chosen.txt");
   desktop.saveAnswers = {file, file};
@@ -266,6 +278,16 @@ TEST_F(TarnwickDocTest, ALineOfAMillionCharactersInSmallPieces) {
   EXPECT_EQ(document.lastLineLength(), 1024000);
   EXPECT_EQ(document.widestLine(), 1024000);
   EXPECT_EQ(document.lastLine().segments().size(), 1U);
+}
+
+// Each piece is a segment of its own: to walk over them all for every piece would take hours.
+TEST_F(TarnwickDocTest, ALineOfAMillionPiecesOfBothOutputsInTurn) {
+  const auto begin = std::chrono::steady_clock::now();
+  for (int piece = 0; piece < 1000000; ++piece) document.addText("x", piece % 2 == 0 ? KIND_OUTPUT : KIND_ERROR);
+  EXPECT_EQ(document.addText("y", KIND_OUTPUT), (ColumnRange{1000000, 1000001}));
+  EXPECT_EQ(document.lastLineLength(), 1000001);
+  EXPECT_EQ(document.lastLine().segments().size(), 1000001U);
+  EXPECT_LT(std::chrono::steady_clock::now() - begin, std::chrono::seconds(20));
 }
 
 }  // namespace

@@ -1,7 +1,9 @@
+#include "support/Children.h"
 #include "support/SettingsFixture.h"
 #include "tools/JavaLauncher.h"
 
 #include <algorithm>
+#include <functional>
 #include <gtest/gtest.h>
 
 namespace tarnwick::test {
@@ -9,6 +11,12 @@ namespace {
 
 class JavaLauncherTest : public SettingsFixture {
  protected:
+  struct Project : OpenProject {
+    void save() override {}
+    std::string name() const override { return "p"; }
+    std::string quotedPath() const override { return "\"a b/p.twp\""; }
+  };
+
   JavaLauncherTest() : file_(userFolder() + "My Class.class") {
     settings().javaPath = "jdk" + std::string(1, platform::folderSeparator);
     settings().javaXfuture = 0;
@@ -36,11 +44,6 @@ TEST_F(JavaLauncherTest, TheSwitchesOfThePlainestRun) {
 }
 
 TEST_F(JavaLauncherTest, AnOpenProjectIsTheConfiguration) {
-  struct Project : OpenProject {
-    void save() override {}
-    std::string name() const override { return "p"; }
-    std::string quotedPath() const override { return "\"a b/p.twp\""; }
-  };
   settings().currentProject = std::make_unique<Project>();
   EXPECT_EQ(arguments()[4], "\\/CFG=\"a b/p.twp\"\\/");
 }
@@ -77,6 +80,100 @@ TEST_F(JavaLauncherTest, EveryOptionInItsPlace) {
       << "a debugging run gives no assertion options";
 }
 
+TEST_F(JavaLauncherTest, EachSettingAloneGivesItsElementInItsPlace) {
+  struct Row {
+    std::function<void(Settings&)> set;
+    std::string element;
+    bool whenDebugging;
+  };
+  const Row rows[] = {
+      {[](Settings& s) { s.javaXfuture = 1; }, "-Xfuture", true},
+      {[](Settings& s) { s.javaXprof = 1; }, "-Xprof", true},
+      {[](Settings& s) { s.javaJniValidate = 1; }, "-Xcheck:jni", true},
+      {[](Settings& s) { s.javaXrunhprof = "cpu=samples"; }, "-Xrunhprof:cpu=samples", true},
+      {[](Settings& s) { s.classpath = "a;b"; }, "-classpath " + list("a;b"), true},
+      {[](Settings& s) { s.bootpath = "c;d"; }, "-Xbootclasspath:" + list("c;d"), true},
+      {[](Settings& s) { s.javaXms = "1m"; }, "-Xms1m", true},
+      {[](Settings& s) { s.javaXmx = "2m"; }, "-Xmx2m", true},
+      {[](Settings& s) { s.javaXss = "3m"; }, "-Xss3m", true},
+      {[](Settings& s) { s.javaProperty = "-Dx=y  -Dz"; }, "-Dx=y  -Dz", true},
+      {[](Settings& s) { s.javaGarbageCollector = "Disabled"; }, "-Xnoclassgc", true},
+      {[](Settings& s) { s.javaGarbageCollector = "Incremental"; }, "-Xincgc", true},
+      {[](Settings& s) { s.javaGarbageCollector = "Concurrent"; }, "-Xconcgc", true},
+      {[](Settings& s) { s.javaAssertEnable = "Foo.class, bar"; }, "-ea:Foo -ea:bar ", false},
+      {[](Settings& s) { s.javaAssertDisable = "baz"; }, "-da:baz ", false},
+      {[](Settings& s) { s.javaSystemAssertEnable = 1; }, "-enablesystemassertions", false},
+      {[](Settings& s) { s.javaSystemAssertDisable = 1; }, "-disablesystemassertions", false},
+  };
+  for (const bool project : {false, true}) {
+    for (const bool debugging : {false, true}) {
+      for (const auto& row : rows) {
+        const auto settings = freshSettings();
+        settings->javaXfuture = 0;
+        settings->classpathFromEnvironmentNever = 0;  // no class path of its own accord
+        settings->javaPath = "jdk" + std::string(1, platform::folderSeparator);
+        if (project) settings->currentProject = std::make_unique<Project>();
+        row.set(*settings);
+        JavaRun run;
+        run.debugging = debugging;
+        run.tool = debugging ? "jdb" : "java";
+        Words expected = {"Tarnwick", "\\/DEFAULTDIR=" + userFolder() + "\\/",
+                          "\\/EXEFILE=" + settings->javaPath + platform::toolFileName(run.tool) + "\\/",
+                          "\\/TITLE=My Class\\/", "\\/CFG=" + (project ? "\"a b/p.twp\"" : configFile()) + "\\/"};
+        if (debugging) expected.emplace_back("\\/JDEBUG\\/");
+        expected.emplace_back("\\/RUN=");
+        if (row.whenDebugging || !debugging) expected.push_back(row.element);
+        expected.emplace_back("My Class");
+        EXPECT_EQ(relaunchArguments(*settings, file_, run), expected);
+      }
+    }
+  }
+}
+
+TEST_F(JavaLauncherTest, TheUsersWordsFollowTheClassOfEitherTool) {
+  const ScopedEnvironment script("STANDIN_SCRIPT", scratch_.file("script"));
+  const ScopedEnvironment record("STANDIN_RECORD", scratch_.file("record"));
+  writeFile(scratch_.file("script"), "");
+  useStandIns();
+  file_.setName(userFolder() + "Main.class");
+  file_.args() = {"one \"two three\""};
+  program_.programPath = StandInScript::tool("appletviewer");
+  for (const bool debugging : {false, true}) {
+    settings().javaVerbose = settings().jdbLaunch = debugging ? 0 : 1;
+    for (int both = 0; both < 2; ++both) {
+      platform::deleteFile(scratch_.file("record"));
+      if (debugging) {
+        runJdb(settings(), file_, "cp", "sp");
+      } else {
+        runJava(settings(), file_, nullptr);
+      }
+      // Where the arguments are one command line, the blanks between the marks split them again.
+      Words words = {"\\/DEFAULTDIR=" + userFolder() + "\\/",
+                     "\\/EXEFILE=" + settings().javaPath + platform::toolFileName(debugging ? "jdb" : "java") + "\\/",
+                     "\\/TITLE=Main\\/", "\\/CFG=" + configFile() + "\\/"};
+      if (debugging) words.insert(words.end(), {"\\/JDEBUG\\/", "\\/RUN=", "-classpath cp", "-sourcepath sp"});
+      if (!debugging) words.insert(words.end(), {"\\/RUN=", "-classpath ."});
+      if (settings().javaVerbose) words.emplace_back(debugging ? "-launch" : "-verbose");
+      words.insert(words.end(), {"Main", "one \"two three\""});
+      std::string expected;
+      for (const auto& word : words) expected += word + '\n';
+      const auto oneLine = [](std::string text) {
+        text.erase(std::remove(text.begin(), text.end(), '"'), text.end());
+        std::replace(text.begin(), text.end(), ' ', '\n');
+        return text;
+      };
+      const bool vector = platform::folderSeparator == '/';
+      EXPECT_TRUE(waitUntil([&] {
+        if (!platform::isFile(scratch_.file("record"))) return false;
+        const std::string got = contentOf(scratch_.file("record"));
+        return vector ? got == expected : oneLine(got) == oneLine(expected);
+      })) << expected
+          << contentOf(scratch_.file("record"));
+      settings().javaVerbose = settings().jdbLaunch = 1 - settings().javaVerbose;
+    }
+  }
+}
+
 TEST_F(JavaLauncherTest, AProfileThatBeginsWithAColonGetsNoSecondOne) {
   settings().javaXrunhprof = ":cpu=samples";
   EXPECT_EQ(behindRun()[0], "-Xrunhprof:cpu=samples");
@@ -92,6 +189,31 @@ TEST_F(JavaLauncherTest, AGivenClasspathWins) {
   run.classpath = "x;y";
   settings().classpath = "other";
   EXPECT_EQ(behindRun(run), (Words{"-classpath " + list("x;y"), "My Class"}));
+}
+
+TEST_F(JavaLauncherTest, AGivenPathIsPassedOnEvenIfItIsEmpty) {
+  JavaRun run;
+  run.classpath = "";
+  run.sourcepath = "";
+  EXPECT_EQ(behindRun(run), (Words{"-classpath ", "-sourcepath ", "My Class"}));
+  run.classpath = nullptr;
+  run.sourcepath = "s";
+  settings().classpathFromEnvironmentNever = 0;
+  EXPECT_EQ(behindRun(run), (Words{"-sourcepath s", "My Class"}));
+}
+
+TEST_F(JavaLauncherTest, AToolsFolderThatTheUserGivesIsUsedAtOnce) {
+  settings().javaPath.clear();
+  const std::string folder = scratch_.file("no jdk") + platform::folderSeparator;
+  desktop_.expectDialog("Tarnwick settings", [&](ScriptedWindow& window) {
+    EXPECT_EQ(window.selection(1092), 0);
+    window.page(1092, 0).type(1041, folder);
+    window.press(IDOK_CONTROL);
+  });
+  desktop_.expectMessage("Can't access the JDK tool " + folder + platform::toolFileName("java") +
+                         "\nNo such file or directory"
+                         "\nIs the JDK installed? Is the tools directory (Settings!) set correctly?");
+  runJava(settings(), file_, nullptr);
 }
 
 TEST_F(JavaLauncherTest, AssertionListsOfBlanksGiveNothing) {
@@ -119,6 +241,14 @@ TEST_F(JavaLauncherTest, AProgramThatCantBeStartedIsTold) {
   program_.programPath = scratch_.file("gone");
   desktop_.expectMessage("Unable to start " + program_.programPath + ".\n\nNo such file or directory  (2)");
   runJava(settings(), file_, nullptr);
+}
+
+TEST_F(JavaLauncherTest, ADebuggerThatCantBeReadIsTold) {
+  settings().javaPath = scratch_.file("no jdk") + platform::folderSeparator;
+  desktop_.expectMessage("Can't access the JDK tool " + settings().javaPath + platform::toolFileName("jdb") +
+                         "\nNo such file or directory"
+                         "\nIs the JDK installed? Is the tools directory (Settings!) set correctly?");
+  runJdb(settings(), file_, nullptr, nullptr);
 }
 
 }  // namespace

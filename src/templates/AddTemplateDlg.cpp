@@ -1,0 +1,52 @@
+#include "templates/AddTemplateDlg.h"
+
+#include "base/Tarnwickfile.h"
+#include "base/Text.h"
+#include "resources/TemplateLayouts.h"
+
+namespace tarnwick {
+
+AddTemplateDlg::AddTemplateDlg(const SettingsContext& context)
+    : ToolTipDlg(context.desktop, addTemplateLayout().resource, 0), context_(context) {}
+
+int AddTemplateDlg::runModal() {
+  return desktop_.runDialog(addTemplateLayout(), *this);
+}
+
+void AddTemplateDlg::onCommand(int control) {
+  if (control == TEMPLATE_BROWSE)
+    browse();
+  else if (control == TEMPLATE_HELP)
+    context_.showHelp("#usertemplate");
+  else
+    ToolTipDlg::onCommand(control);
+}
+
+void AddTemplateDlg::browse() {
+  FileRequest request;
+  request.filter = "all files|*.*||";
+  request.mustExist = true;
+  if (const auto chosen = desktop_.openFile(request)) setFieldText(TEMPLATE_FILE, *chosen);
+}
+
+void AddTemplateDlg::onOk() {
+  description_ = trim(getText(TEMPLATE_DESCRIPTION));
+  if (description_.empty()) {
+    desktop_.message(
+        "Please enter a description.\nIt is needed to create an entry in the dropdown list for file templates.");
+    return;
+  }
+  file_ = trimLeft(getText(TEMPLATE_FILE));
+  if (file_.empty()) {
+    desktop_.message("Please enter a filename for your template file");
+    return;
+  }
+  try {
+    Tarnwickfile probe(file_, FileMode::Read);
+    close(DIALOG_OK);
+  } catch (const Tarnwickfile::FileNotOpenE& failure) {
+    desktop_.message("Can't open file " + file_ + "\n" + failure.message);
+  }
+}
+
+}  // namespace tarnwick

@@ -1,5 +1,6 @@
 #include "app/CMainFrame.h"
 
+#include "console/JdbCommands.h"
 #include "resources/Menu.h"
 
 namespace tarnwick {
@@ -15,8 +16,9 @@ ConsoleProgram programOf(const ConsoleStart& start) {
 
 }  // namespace
 
-CMainFrame::CMainFrame(Desktop& desktop, const Settings& settings, const ConsoleStart& start)
-    : debugging_(start.debugging),
+CMainFrame::CMainFrame(Desktop& desktop, Settings& settings, const ConsoleStart& start)
+    : settings_(settings),
+      debugging_(start.debugging),
       document_(desktop, start.title),
       view_(document_, desktop, programOf(start),
             [&settings](int group, int index) { return settings.functionKeys.key(group, index); }) {}
@@ -34,12 +36,13 @@ bool CMainFrame::commandEnabled(int command) const {
       return view_.canPaste();
     case COMMAND_SELECT_ALL:
     case COMMAND_EXIT:
+    case COMMAND_HELP:
+    case COMMAND_ABOUT:
       return true;
-    case COMMAND_JDB_HELP:
-      return debugging_;
-    // The guide and the About dialog are not there yet; nothing answers to Cut.
+    // Nothing answers to Cut. The toolbar's buttons stay enabled when the debugger has ended: one of them then closes
+    // the window as a key does.
     default:
-      return false;
+      return debugging_ && command != COMMAND_CUT;
   }
 }
 
@@ -63,13 +66,23 @@ void CMainFrame::onCommand(int command) {
     case COMMAND_SELECT_ALL:
       view_.selectAll();
       break;
-    case COMMAND_JDB_HELP:
-      view_.sendKeys("help\\n");
+    case COMMAND_HELP:
+      settings_.context().showHelp("");
+      break;
+    case COMMAND_ABOUT:
+      settings_.context().showAbout();
+      break;
+    case COMMAND_CUSTOM_BUTTONS:
+      settings_.context().showHelp("#jdbparams");
+      break;
+    case COMMAND_DEBUGGING_HELP:
+      settings_.context().showHelp("#jdb");
       break;
     case COMMAND_EXIT:
       view_.closeWindow();
       break;
     default:
+      if (const char* text = jdbText(command)) view_.sendKeys(text);
       break;
   }
 }

@@ -2,6 +2,7 @@
 
 #include "console/ConsoleSurface.h"
 #include "resources/Menu.h"
+#include "resources/Toolbar.h"
 
 #include <string>
 
@@ -13,6 +14,8 @@ class ConsoleFrame {
   virtual ~ConsoleFrame() = default;
   virtual const MenuBar& menuBar() const = 0;
   virtual const std::vector<Accelerator>& accelerators() const = 0;
+  /// Null for a frame without one.
+  virtual const Toolbar* toolbar() const { return nullptr; }
   virtual std::string title() const = 0;
   virtual bool commandEnabled(int command) const = 0;
   virtual void onCommand(int command) = 0;

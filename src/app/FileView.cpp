@@ -5,6 +5,8 @@
 #include "process/EditorLaunch.h"
 #include "resources/PanelLayouts.h"
 #include "source/Compiler.h"
+#include "templates/NewSourceFileDlg.h"
+#include "tools/AppletviewerLauncher.h"
 #include "tools/JavaLauncher.h"
 
 namespace tarnwick {
@@ -17,6 +19,20 @@ enum Tab { MAIN_PROGRAM = 0, APPLET = 1, UTILITIES = 2 };
 const char sourceFilter[] = "Java source files|*.JAVA||";
 const char classFilter[] = "Java class files|*.CLASS||";
 const char htmlFilter[] = "htm* files|*.htm*||";
+
+std::array<PageWords, 3> pageWords() {
+  return {{{{"Browse", "jdb debug", "java"},
+            {{PanelPage::LEFT, "Select executable class file"},
+             {PanelPage::MIDDLE, "Execute class file under debugger control"},
+             {PanelPage::RIGHT, "Execute class file"},
+             {PanelPage::FIELD, "File specification for executable class, optionally followed by runtime arguments"}}},
+           {{"Browse", "appletdebug", "appletviewer"},
+            {{PanelPage::LEFT, "Select HTML file"},
+             {PanelPage::MIDDLE, "Start appletviewer under debugger control"},
+             {PanelPage::RIGHT, "Start appletviewer"},
+             {PanelPage::FIELD, "HTML file specification"}}},
+           {{"jar", "javadoc", "WinShortcut"}, {}}}};
+}
 
 /// The folder with its whole path if it could be made the current one; otherwise empty.
 std::string entered(const std::string& folder) {
@@ -33,19 +49,16 @@ std::string patternOf(const std::string& filter) {
 }  // namespace
 
 FileView::FileView(Settings& settings, std::function<void()> endMainDialog)
-    : PanelDlg(settings, fileViewLayout().resource, "Projectview", std::move(endMainDialog)),
+    : PanelDlg(settings, fileViewLayout().resource, pageWords(), std::move(endMainDialog)),
       sourceFile_(settings.fileviewSource),
       classFile_(settings.fileviewClass),
       htmlFile_(settings.fileviewHtml) {}
 
 void FileView::initialise(DialogWindow& window) {
+  initialPage_ = settings_.fileviewTab;
   PanelDlg::initialise(window);
-  title_ = settings_.context().mainWindow->title();
   bindFields(window);
-  // New sources, the editor, the debugger, applets and the utilities are not there yet.
-  for (const int control : {NEW, EDIT}) window.enable(control, false);
-  pageWindow(MAIN_PROGRAM).enable(PanelPage::MIDDLE, false);
-  for (const int control : {PanelPage::MIDDLE, PanelPage::RIGHT}) pageWindow(APPLET).enable(control, false);
+  // The utilities are not there yet.
   for (const int control : {PanelPage::LEFT, PanelPage::MIDDLE, PanelPage::RIGHT}) {
     pageWindow(UTILITIES).enable(control, false);
   }
@@ -65,7 +78,11 @@ void FileView::detached() {
 }
 
 void FileView::updateTitle() {
-  settings_.context().mainWindow->setTitle(title_);
+  settings_.context().mainWindow->setTitle(title());
+}
+
+std::vector<int> FileView::ownControls() const {
+  return {SOURCE_FIELD, NEW, BROWSE, EDIT, JAVAC};
 }
 
 void FileView::onTabChanged() {
@@ -75,6 +92,10 @@ void FileView::onTabChanged() {
 void FileView::onCommand(int control) {
   if (control == BROWSE)
     browse(sourceFilter, sourceFile_);
+  else if (control == NEW)
+    newSource();
+  else if (control == EDIT)
+    editSource();
   else if (control == JAVAC)
     compileSource();
   else
@@ -83,8 +104,11 @@ void FileView::onCommand(int control) {
 
 void FileView::onPageButton(int page, int control) {
   if (page == MAIN_PROGRAM && control == PanelPage::LEFT) browse(classFilter, classFile_);
+  if (page == MAIN_PROGRAM && control == PanelPage::MIDDLE) debugClass();
   if (page == MAIN_PROGRAM && control == PanelPage::RIGHT) runClass();
   if (page == APPLET && control == PanelPage::LEFT) browse(htmlFilter, htmlFile_);
+  if (page == APPLET && control == PanelPage::MIDDLE) runApplet(true);
+  if (page == APPLET && control == PanelPage::RIGHT) runApplet(false);
 }
 
 bool FileView::prepareFile(const char* filter, FileForSubprocess& file) {
@@ -145,6 +169,27 @@ bool FileView::askForFile(const char* filter, const std::string& startFolder, Fi
   return true;
 }
 
+bool FileView::askForNewSource(NewSourceMode mode) {
+  sourceFile_.readFromControl();
+  NewSourceFileDlg dialog(settings_, mode, &sourceFile_);
+  if (dialog.runModal() != DIALOG_OK) return false;
+  sourceFile_.writeToControl(nullptr);
+  return true;
+}
+
+void FileView::newSource() {
+  if (askForNewSource(NewSourceMode::NewFile)) editSource();
+}
+
+void FileView::editSource() {
+  sourceFile_.readFromControl();
+  if (sourceFile_.isEmpty() && !askForNewSource(NewSourceMode::NothingToEdit)) return;
+  // After Cancel the editor opens with nothing in it.
+  const bool known = prepareFile(sourceFilter, sourceFile_);
+  openEditor(known ? sourceFile_.name().fullName() : "");
+  rememberSourceFolder();
+}
+
 void FileView::compileSource() {
   if (!prepareFile(sourceFilter, sourceFile_)) {
     desktop_.message("No .java file known.");
@@ -158,25 +203,51 @@ void FileView::compileSource() {
     } else if (settings_.javacSoundOnSuccess) {
       desktop_.alert(AlertSound::Asterisk);
     }
+  } catch (const Compiler::DontWantToSplitE&) {
+    // The user has said so; there is nothing to tell.
   } catch (const Tarnwickexception& failure) {
     desktop_.message(failure.message);
   }
+  rememberSourceFolder();
+}
+
+void FileView::rememberSourceFolder() {
   const std::string folder = sourceFile_.name().directory();
   sourceFile_.setLastFolder(folder);
   classFile_.setLastFolder(folder);
   settings_.saveCurrent();
 }
 
+bool FileView::prepareClass() {
+  if (prepareFile(classFilter, classFile_)) return true;
+  desktop_.message("No known .class file");
+  return false;
+}
+
 void FileView::runClass() {
-  if (!prepareFile(classFilter, classFile_)) {
-    desktop_.message("No known .class file");
-    return;
-  }
+  if (!prepareClass()) return;
   const std::string folder = classFile_.name().directory();
   classFile_.setLastFolder(folder);
   settings_.saveCurrent();
   runJava(settings_, classFile_, nullptr);
   htmlFile_.setLastFolder(folder);
+}
+
+void FileView::debugClass() {
+  if (!prepareClass()) return;
+  settings_.saveCurrent();
+  runJdb(settings_, classFile_, nullptr, nullptr);
+  htmlFile_.setLastFolder(classFile_.name().directory());
+}
+
+void FileView::runApplet(bool debugging) {
+  if (!prepareFile(htmlFilter, htmlFile_)) {
+    desktop_.message("no htm* file known");
+    return;
+  }
+  if (!debugging) htmlFile_.setLastFolder(htmlFile_.name().directory());
+  settings_.saveCurrent();
+  runAppletviewer(settings_, htmlFile_, debugging);
 }
 
 }  // namespace tarnwick

@@ -2,6 +2,7 @@
 
 #include "app/PanelDlg.h"
 #include "process/FileForSubprocess.h"
+#include "resources/TemplateLayouts.h"
 
 #include <string>
 
@@ -18,6 +19,8 @@ class FileView : public PanelDlg {
   void updateTitle() override;
 
  protected:
+  std::vector<int> ownControls() const override;
+  void arrangeFlat(PanelPlaces& places) const override { arrangeFlatFileView(places); }
   void onTabChanged() override;
   using PanelDlg::onPageButton;
   void onPageButton(int page, int control) override;
@@ -30,13 +33,22 @@ class FileView : public PanelDlg {
   /// Gives a name that the current folder completes its whole path, here and in the field.
   void complete(FileForSubprocess& file);
   bool askForFile(const char* filter, const std::string& startFolder, FileForSubprocess& file);
+  /// Asks for a file that is to be made, or taken. False after Cancel.
+  bool askForNewSource(NewSourceMode mode);
+  void newSource();
+  void editSource();
   void compileSource();
+  void debugClass();
   void runClass();
+  void runApplet(bool debugging);
+  /// The class file of the field, or one that the user gives; false after the message that there is none.
+  bool prepareClass();
+  /// Dialogs for source and class open where the source lies from now on.
+  void rememberSourceFolder();
 
   FileForSubprocess& sourceFile_;
   FileForSubprocess& classFile_;
   FileForSubprocess& htmlFile_;
-  std::string title_;
 };
 
 }  // namespace tarnwick

@@ -1,5 +1,6 @@
 #include "app/PanelDlg.h"
 
+#include "process/EditorLaunch.h"
 #include "resources/PanelLayouts.h"
 
 namespace tarnwick {
@@ -7,6 +8,10 @@ namespace tarnwick {
 namespace {
 
 constexpr int TAB_CONTROL = 1231;
+constexpr int FIRST_GROUP = 1238;
+constexpr int SECOND_GROUP = 1239;
+/// The settings dialog's page of the editor, counted from 0.
+constexpr int EDITOR_PAGE_INDEX = 5;
 
 }  // namespace
 
@@ -26,37 +31,25 @@ void PanelPage::onCommand(int control) {
   panel_.onPageButton(control);
 }
 
-ButtonBar::ButtonBar(Desktop& desktop, PanelDlg& panel, std::string switchLabel)
-    : ToolTipDlg(desktop, verticalBarLayout().resource, 0), panel_(panel), switchLabel_(std::move(switchLabel)) {}
-
-void ButtonBar::initialise(DialogWindow& window) {
-  ToolTipDlg::initialise(window);
-  window.setText(SWITCH_VIEW, switchLabel_);
-  // The other view and the other layouts are not there yet.
-  for (const int control : {SWITCH_VIEW, LAYOUT_LEFT, LAYOUT_RIGHT}) window.enable(control, false);
-}
+ButtonBar::ButtonBar(Desktop& desktop, PanelDlg& panel, const DialogLayout& layout)
+    : ToolTipDlg(desktop, layout.resource, 0), panel_(panel), layout_(layout) {}
 
 void ButtonBar::onCommand(int control) {
   panel_.onCommand(control);
 }
 
-PanelDlg::PanelDlg(Settings& settings, int resource, const std::string& switchLabel,
+PanelDlg::PanelDlg(Settings& settings, int resource, std::array<PageWords, 3> words,
                    std::function<void()> endMainDialog)
     : TabbedDialog(settings.context().desktop, resource, TAB_CONTROL),
       settings_(settings),
-      leftPage_(
-          desktop_, *this, {"Browse", "jdb debug", "java"},
-          {{PanelPage::LEFT, "Select executable class file"},
-           {PanelPage::MIDDLE, "Execute class file under debugger control"},
-           {PanelPage::RIGHT, "Execute class file"},
-           {PanelPage::FIELD, "File specification for executable class, optionally followed by runtime arguments"}}),
-      middlePage_(desktop_, *this, {"Browse", "appletdebug", "appletviewer"},
-                  {{PanelPage::LEFT, "Select HTML file"},
-                   {PanelPage::MIDDLE, "Start appletviewer under debugger control"},
-                   {PanelPage::RIGHT, "Start appletviewer"},
-                   {PanelPage::FIELD, "HTML file specification"}}),
-      rightPage_(desktop_, *this, {"jar", "javadoc", "WinShortcut"}, {}),
-      verticalBar_(desktop_, *this, switchLabel),
+      leftPage_(desktop_, *this, std::move(words[0].labels), std::move(words[0].tips)),
+      middlePage_(desktop_, *this, std::move(words[1].labels), std::move(words[1].tips)),
+      rightPage_(desktop_, *this, std::move(words[2].labels), std::move(words[2].tips)),
+      verticalBar_(desktop_, *this, verticalBarLayout()),
+      horizontalBar_(desktop_, *this, horizontalBarLayout()),
+      flatBar_(desktop_, *this, flatBarLayout()),
+      bars_{&verticalBar_, &horizontalBar_, &flatBar_},
+      pages_{&leftPage_, &middlePage_, &rightPage_},
       endMainDialog_(std::move(endMainDialog)) {
   addTab(" Main program ", leftPage_);
   addTab("  Applet  ", middlePage_);
@@ -64,28 +57,111 @@ PanelDlg::PanelDlg(Settings& settings, int resource, const std::string& switchLa
 }
 
 void PanelDlg::initialise(DialogWindow& window) {
-  initialPage_ = settings_.fileviewTab;
   TabbedDialog::initialise(window);
-  window.addChild(BAR_SLOT, verticalBarLayout(), verticalBar_);
+  title_ = settings_.context().mainWindow->title();
+  // A bar's slot bears the number of its resource.
+  for (auto* bar : bars_) window.addChild(bar->pageId(), bar->layout(), *bar);
+}
+
+void PanelDlg::setPartner(PanelDlg* partner, const std::string& switchLabel) {
+  partner_ = partner;
+  for (auto* bar : bars_) {
+    if (bar->window()) bar->window()->setText(ButtonBar::SWITCH_VIEW, switchLabel);
+  }
 }
 
 void PanelDlg::onCommand(int control) {
+  const int now = settings_.panelLayout.value;
   if (control == ButtonBar::SETTINGS) {
     settings_.runModal(0);
     settings_.saveIfWindowMoved();
   }
+  if (control == ButtonBar::SWITCH_VIEW) switchView();
   if (control == ButtonBar::EXIT) exitProgram();
+  if (control == ButtonBar::LAYOUT_LEFT) {
+    changeLayout(now == LayoutValue::VERTICAL ? LayoutValue::HORIZONTAL : LayoutValue::VERTICAL);
+  }
+  if (control == ButtonBar::LAYOUT_RIGHT) {
+    changeLayout(now == LayoutValue::FLAT ? LayoutValue::HORIZONTAL : LayoutValue::FLAT);
+  }
+  const bool ofLayout = control == ButtonBar::LAYOUT_LEFT || control == ButtonBar::LAYOUT_RIGHT;
+  // The pressed button is gone with its bar; its successor gets the focus.
+  if (ofLayout) bar().window()->focus(control);
+}
+
+void PanelDlg::changeLayout(int layout) {
+  settings_.panelLayout.value = layout;
+  settings_.saveCurrent();
+  applyLayout();
+}
+
+PanelPlaces PanelDlg::placesNow() {
+  DialogWindow& mainWindow = *settings_.context().mainWindow;
+  DialogWindow& panel = *window();
+  PanelPlaces places;
+  places.topWindow = LayoutItem::of(mainWindow);
+  places.frameWidth = places.topWindow.width() - mainWindow.clientRect().width();
+  places.frameHeight = places.topWindow.height() - mainWindow.clientRect().height();
+  places.panel = LayoutItem::of(panel);
+  places.tabControl = LayoutItem::of(panel, TAB_CONTROL);
+  places.firstGroup = LayoutItem::of(panel, FIRST_GROUP);
+  places.secondGroup = LayoutItem::of(panel, SECOND_GROUP);
+  for (std::size_t i = 0; i < bars_.size(); ++i) places.bars[i] = LayoutItem::of(*bars_[i]->window());
+  for (std::size_t i = 0; i < pages_.size(); ++i) {
+    DialogWindow& page = *pages_[i]->window();
+    places.pages[i] = {LayoutItem::of(page), LayoutItem::of(page, PanelPage::FIELD),
+                       LayoutItem::of(page, PanelPage::LEFT), LayoutItem::of(page, PanelPage::MIDDLE),
+                       LayoutItem::of(page, PanelPage::RIGHT)};
+  }
+  for (const int control : ownControls()) places.own.push_back(LayoutItem::of(panel, control));
+  clearFields(places);
+  return places;
+}
+
+void PanelDlg::buildLayouts() {
+  const PanelPlaces found = placesNow();
+  for (int index = 0; index < 3; ++index) {
+    PanelPlaces places = found;
+    if (index == LayoutValue::VERTICAL) arrangeVertical(places);
+    if (index == LayoutValue::HORIZONTAL) arrangeHorizontal(places);
+    if (index == LayoutValue::FLAT) arrangeFlat(places);
+    auto& layout = layouts_[static_cast<std::size_t>(index)];
+    layout = std::make_unique<PanelLayout>(index);
+    addPlaces(*layout, std::move(places));
+  }
 }
 
 void PanelDlg::applyLayout() {
+  PanelLayout* const layout = layouts_[static_cast<std::size_t>(settings_.panelLayout.value)].get();
+  if (!layout) return;
+  LayoutItem& top = layout->findWindow(*settings_.context().mainWindow);
   try {
     const int left = settings_.windowPosition.getLeft();
-    const int top = settings_.windowPosition.getTop();
-    settings_.context().mainWindow->moveTo({left, top});
+    top.moveTo(left, settings_.windowPosition.getTop());
   } catch (const WindowPosition::UndefinedE&) {
     // The window system does not tell positions; the window stays where it puts it.
+    const Rect now = settings_.context().mainWindow->windowRect();
+    top.moveTo(now.left, now.top);
   }
+  layout->apply();
+  window()->select(TAB_CONTROL, currentPage());
   updateTitle();
+}
+
+void PanelDlg::switchView() {
+  if (!partner_) return;  // it could not be made
+  settings_.saveIfWindowMoved();
+  window()->showWindow(false);
+  partner_->window()->showWindow(true);
+  partner_->updateTitle();
+  partner_->applyLayout();
+  partner_->bar().window()->focus(ButtonBar::SWITCH_VIEW);
+}
+
+bool PanelDlg::openEditor(const std::string& name) {
+  const EditorSource source{[this] { return settings_.editorChoice(); },
+                            [this] { return settings_.runModal(EDITOR_PAGE_INDEX) == DIALOG_OK; }};
+  return tarnwick::openEditor(desktop_, source, name);
 }
 
 void PanelDlg::exitProgram() {

@@ -1,10 +1,12 @@
 #pragma once
 
+#include "app/PanelArrangement.h"
 #include "dialogbase/TabbedDialog.h"
 #include "settings/Settings.h"
 
 #include <array>
 #include <functional>
+#include <memory>
 #include <string>
 
 namespace tarnwick {
@@ -29,35 +31,50 @@ class PanelPage : public TabPage {
   std::array<std::string, 3> labels_;
 };
 
+/// The words of a panel's tab pages.
+struct PageWords {
+  std::array<std::string, 3> labels;
+  std::vector<ToolTip> tips;
+};
+
 /// The bar with Settings, Exit and the layout buttons. It does nothing itself.
 class ButtonBar : public ToolTipDlg {
  public:
   enum Control { SETTINGS = 1000, SWITCH_VIEW = 1, EXIT = 2, LAYOUT_LEFT = 1244, LAYOUT_RIGHT = 1242 };
 
-  ButtonBar(Desktop& desktop, PanelDlg& panel, std::string switchLabel);
+  ButtonBar(Desktop& desktop, PanelDlg& panel, const DialogLayout& layout);
 
-  void initialise(DialogWindow& window) override;
   void onCommand(int control) override;
   void onCloseRequest() override {}
 
+  const DialogLayout& layout() const { return layout_; }
+  /// The bar's window; null while the panel has none.
+  using ToolTipDlg::window;
+
  private:
   PanelDlg& panel_;
-  std::string switchLabel_;
+  const DialogLayout& layout_;
 };
 
 /// The common base of the panels of the main window.
 class PanelDlg : public TabbedDialog {
  public:
-  /// `endMainDialog` ends the program's main dialog as with OK. `switchLabel` names the other view.
-  PanelDlg(Settings& settings, int resource, const std::string& switchLabel, std::function<void()> endMainDialog);
+  /// `endMainDialog` ends the program's main dialog as with OK.
+  PanelDlg(Settings& settings, int resource, std::array<PageWords, 3> words, std::function<void()> endMainDialog);
 
   void initialise(DialogWindow& window) override;
   void onCommand(int control) override;
   void onCloseRequest() override { settings_.saveIfWindowMoved(); }
 
-  /// Puts the main window to its stored place and names it.
+  /// Tells the panel the other one and the label of its button that switches to it.
+  void setPartner(PanelDlg* partner, const std::string& switchLabel);
+  /// Makes the three arrangements from the places where the controls stand now; once, when both panels stand.
+  virtual void buildLayouts();
+  /// Arranges the panel as the settings say, puts the main window to its stored place and names it.
   virtual void applyLayout();
   virtual void updateTitle() = 0;
+  /// Shows the other panel in the place of this one.
+  virtual void switchView();
   virtual void exitProgram();
   /// A button of the page with this index, by PanelPage::Control.
   virtual void onPageButton(int page, int control) = 0;
@@ -66,13 +83,34 @@ class PanelDlg : public TabbedDialog {
   void onPageButton(int control) { onPageButton(currentPage(), control); }
 
  protected:
+  /// Starts the user's editor on a file, or on none with the empty text. False when no editor could be chosen.
+  bool openEditor(const std::string& name);
+
+  /// The panel's own controls, in the order in which they stand side by side.
+  virtual std::vector<int> ownControls() const = 0;
+  virtual void arrangeFlat(PanelPlaces& places) const = 0;
+  /// The main window's title as the resource gives it.
+  const std::string& title() const { return title_; }
+
   Settings& settings_;
   PanelPage leftPage_;
   PanelPage middlePage_;
   PanelPage rightPage_;
   ButtonBar verticalBar_;
+  ButtonBar horizontalBar_;
+  ButtonBar flatBar_;
 
  private:
+  PanelPlaces placesNow();
+  void changeLayout(int layout);
+  /// The bar of the present arrangement.
+  ButtonBar& bar() { return *bars_[static_cast<std::size_t>(settings_.panelLayout.value)]; }
+
+  std::array<ButtonBar*, 3> bars_;
+  std::array<PanelPage*, 3> pages_;
+  std::array<std::unique_ptr<PanelLayout>, 3> layouts_;
+  PanelDlg* partner_ = nullptr;
+  std::string title_;
   std::function<void()> endMainDialog_;
 };
 

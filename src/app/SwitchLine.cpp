@@ -16,11 +16,13 @@ bool isLetter(char c) {
 
 bool nextSwitch(const std::string& line, std::size_t& cursor, Switch& found) {
   if (cursor > line.size()) return false;
-  found.start = line.find(mark, cursor);
-  if (found.start == std::string::npos) return false;
-  std::size_t end = found.start + 2;
+  const std::size_t opening = line.find(mark, cursor);
+  if (opening == std::string::npos) return false;
+  found.start = cursor;
+  const std::size_t nameStart = opening + 2;
+  std::size_t end = nameStart;
   while (end < line.size() && isLetter(line[end])) ++end;
-  found.name = line.substr(found.start + 2, end - found.start - 2);
+  found.name = line.substr(nameStart, end - nameStart);
   const std::size_t closing = line.find(mark, end);
   const std::size_t stop = closing == std::string::npos ? line.size() : closing;
   found.value = line.substr(end, stop - end);

@@ -9,7 +9,7 @@ namespace tarnwick {
 struct Switch {
   std::string name;
   std::string value;
-  std::size_t start = 0;  ///< where its opening mark stands
+  std::size_t start = 0;  ///< where the search began: whatever stands before the opening mark belongs to the switch
 };
 
 /// Finds the next switch from `cursor` on and moves the cursor behind its closing mark. A switch without a closing mark

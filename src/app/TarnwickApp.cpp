@@ -1,11 +1,16 @@
 #include "app/TarnwickApp.h"
 
+#include "app/AboutDlg.h"
 #include "app/CMainFrame.h"
 #include "app/SwitchLine.h"
 #include "app/TarnwickDlg.h"
+#include "app/UsersGuide.h"
 #include "base/Text.h"
 #include "platform/FileSystem.h"
 #include "platform/Path.h"
+#include "platform/ProjectType.h"
+
+#include <algorithm>
 
 namespace tarnwick {
 
@@ -29,6 +34,14 @@ ProgramInfo withWholeConfigFolder(ProgramInfo program) {
   return program;
 }
 
+/// What RUN holds: all the rest of the line, further marks included. Meant to be counted from the end of the switch
+/// before it: only blanks may stand between the two.
+std::string childCommandLine(const std::string& line, std::size_t switchStart) {
+  constexpr std::size_t introduction = 6;  // the mark, the name and what stands behind it
+  const std::size_t opening = line.find_first_not_of(' ', switchStart);
+  return line.substr(std::min(opening + introduction, line.size()));
+}
+
 /// True for a line that names a project file which can be opened. A switch line is simply a name that no file bears.
 bool namesProject(const std::string& commandLine) {
   const Filename name(commandLine);
@@ -43,7 +56,18 @@ TarnwickApp::TarnwickApp(Desktop& desktop, ConsoleFrameHost& frameHost, const st
       program_(withWholeConfigFolder(programAt(executablePath))),
       log_([this] { return Filename(program_.configDirectory(), "x").directory(); }),
       context_{desktop, program_, log_},
-      settings_(context_) {}
+      settings_(context_) {
+  context_.showHelp = [this](const std::string& anchor) { showHelp(anchor); };
+  context_.showAbout = [this] { showAbout(); };
+}
+
+void TarnwickApp::showHelp(const std::string& anchor) {
+  showUsersGuide(context_, anchor, [this](const std::string& address) { openInBrowser(desktop_, address); });
+}
+
+void TarnwickApp::showAbout() {
+  AboutDlg(desktop_, program_).runModal();
+}
 
 int TarnwickApp::run(const std::string& commandLine) {
   if (commandLine.empty() || namesProject(commandLine)) return runPanel();
@@ -53,6 +77,12 @@ int TarnwickApp::run(const std::string& commandLine) {
 int TarnwickApp::runPanel() {
   TarnwickDlg(settings_).runModal();
   return 0;
+}
+
+void TarnwickApp::registerProjectType() {
+  if (shellRegistered_) return;
+  shellRegistered_ = true;
+  platform::registerProjectType(program_.programPath);
 }
 
 bool TarnwickApp::enterDefaultFolder(const std::string& value) {
@@ -76,8 +106,7 @@ bool TarnwickApp::parseSwitches(const std::string& line) {
     } else if (equalsIgnoringCase(found.name, "TITLE")) {
       title_ = found.value;
     } else if (equalsIgnoringCase(found.name, "RUN")) {
-      // RUN takes all the rest, further marks included.
-      runArguments_ = found.start + 6 < line.size() ? line.substr(found.start + 6) : "";
+      runArguments_ = childCommandLine(line, found.start);
       return true;
     }
   }

@@ -20,11 +20,20 @@ class TarnwickApp {
   /// The whole life of the process. Gives the exit code: 0, or 1 after a start that failed.
   int run(const std::string& commandLine);
 
+  /// Makes this program the opener of project files. Done once in a run; no failure is told.
+  void registerProjectType();
+
+  const ProgramInfo& program() const { return program_; }
   const std::string& runArguments() const { return runArguments_; }
   const std::string& exeFile() const { return exeFile_; }
   const std::string& title() const { return title_; }
   bool debugging() const { return debugging_; }
   const Tarnwickfile& configFile() const { return configFile_; }
+
+  /// Opens the user's guide at an anchor such as "#paths", or at its top for the empty text.
+  void showHelp(const std::string& anchor);
+  /// Runs the About dialog.
+  void showAbout();
 
   /// Applies the switches of a line. False after a message about a folder that can't be entered. Throws
   /// Tarnwickfile::FileNotOpenE for a configuration that can't be read.
@@ -48,6 +57,7 @@ class TarnwickApp {
   std::string exeFile_;
   std::string title_;
   bool debugging_ = false;
+  bool shellRegistered_ = false;
 };
 
 }  // namespace tarnwick

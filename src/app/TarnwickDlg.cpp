@@ -10,7 +10,8 @@ namespace tarnwick {
 TarnwickDlg::TarnwickDlg(Settings& settings)
     : ToolTipDlg(settings.context().desktop, mainLayout().resource, 0),
       settings_(settings),
-      fileView_(settings, [this] { close(DIALOG_OK); }) {}
+      fileView_(settings, [this] { close(DIALOG_OK); }),
+      projectView_(settings, [this] { close(DIALOG_OK); }) {}
 
 TarnwickDlg::~TarnwickDlg() {
   settings_.context().mainWindow = nullptr;
@@ -23,10 +24,32 @@ void TarnwickDlg::runModal() {
 void TarnwickDlg::initialise(DialogWindow& window) {
   ToolTipDlg::initialise(window);
   settings_.context().mainWindow = &window;
+  window.addSystemCommand("About Tarnwick ..", settings_.context().showAbout);
   readSettings();
   settings_.windowPosition.applyToWindow();
-  window.addChild(PANEL_SLOT, fileViewLayout(), fileView_);
-  fileView_.applyLayout();
+  createPanel(FILE_VIEW_SLOT, fileViewLayout(), fileView_, "Error creating fileview");
+  createPanel(PROJECT_VIEW_SLOT, projectViewLayout(), projectView_, "Error creating projectview");
+  arrangePanels();
+}
+
+void TarnwickDlg::createPanel(int slot, const DialogLayout& layout, PanelDlg& panel, const char* failed) {
+  try {
+    window()->addChild(slot, layout, panel);
+  } catch (const std::exception&) {
+    desktop_.message(failed);
+  }
+}
+
+void TarnwickDlg::arrangePanels() {
+  const bool both = fileView_.initialised() && projectView_.initialised();
+  fileView_.setPartner(both ? &projectView_ : nullptr, "Projectview");
+  projectView_.setPartner(both ? &fileView_ : nullptr, "Fileview");
+  // The layouts rest on the places that the resources give. Both panels get the same room, so they are built together.
+  window()->arrangeControls();
+  for (PanelDlg* panel : std::initializer_list<PanelDlg*>{&fileView_, &projectView_}) {
+    if (panel->initialised()) panel->buildLayouts();
+  }
+  if (fileView_.initialised()) fileView_.applyLayout();
 }
 
 void TarnwickDlg::detached() {
@@ -54,7 +77,7 @@ void TarnwickDlg::welcomeFirstUse(int status) {
                           "Look for a file \"javac.exe\" in a \"bin\" subfolder of the JDK installation tree and\n"
                           "enter it in the field \"Tools .exe directory\".\n"))
       .runModal();
-  if (settings_.javaPath.empty()) settings_.javaPath = discoverJdkTools();
+  if (settings_.javaPath.empty()) settings_.javaPath = preferredJdkTools(settings_.context().installedJdks());
   const bool noConfiguration = status == READ_FILE_LOST;
   if (noConfiguration) suitJdk();
   const std::string offered = settings_.javaPath;

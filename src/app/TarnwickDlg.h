@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/FileView.h"
+#include "app/ProjectView.h"
 #include "dialogbase/ToolTipDlg.h"
 #include "settings/Settings.h"
 
@@ -25,6 +26,9 @@ class TarnwickDlg : public ToolTipDlg {
   void onOk() override {}
 
  private:
+  /// Makes the panel's window; on failure the message says so, and the start goes on.
+  void createPanel(int slot, const DialogLayout& layout, PanelDlg& panel, const char* failed);
+  void arrangePanels();
   void readSettings();
   void welcomeFirstUse(int status);
   void suitJdk();
@@ -32,6 +36,7 @@ class TarnwickDlg : public ToolTipDlg {
 
   Settings& settings_;
   FileView fileView_;
+  ProjectView projectView_;
 };
 
 }  // namespace tarnwick

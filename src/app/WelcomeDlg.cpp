@@ -1,11 +1,11 @@
 #include "app/WelcomeDlg.h"
 
-#include "resources/PanelLayouts.h"
+#include "resources/HelpLayouts.h"
 
 namespace tarnwick {
 
 WelcomeDlg::WelcomeDlg(Desktop& desktop, std::string firstText, std::string secondText)
-    : ToolTipDlg(desktop, welcomeLayout().resource, 0),
+    : LinkedDlg(desktop, welcomeLayout().resource, 0),
       firstText_(std::move(firstText)),
       secondText_(std::move(secondText)) {}
 
@@ -14,7 +14,7 @@ void WelcomeDlg::runModal() {
 }
 
 void WelcomeDlg::initialise(DialogWindow& window) {
-  ToolTipDlg::initialise(window);
+  LinkedDlg::initialise(window);
   window.setText(1273, firstText_);
   window.setText(1272, secondText_);
 }

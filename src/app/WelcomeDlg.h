@@ -1,13 +1,13 @@
 #pragma once
 
-#include "dialogbase/ToolTipDlg.h"
+#include "app/LinkedDlg.h"
 
 #include <string>
 
 namespace tarnwick {
 
 /// Greets at first use and after an upgrade.
-class WelcomeDlg : public ToolTipDlg {
+class WelcomeDlg : public LinkedDlg {
  public:
   WelcomeDlg(Desktop& desktop, std::string firstText, std::string secondText);
 

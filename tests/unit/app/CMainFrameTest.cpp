@@ -4,6 +4,9 @@
 #include "support/SettingsFixture.h"
 
 #include <gtest/gtest.h>
+#include <set>
+#include <string>
+#include <vector>
 
 namespace tarnwick::test {
 namespace {
@@ -15,11 +18,13 @@ class CMainFrameTest : public SettingsFixture {
     writeFile(scratch_.file("script"), "readline\nreadline\n");
   }
 
-  /// What "Save current display to file" writes.
+  /// What "Save current display to file" writes, with line ends as on Linux.
   std::string savedDisplay(CMainFrame& frame) {
     desktop_.expectSaveFile(scratch_.file("display"));
     frame.onCommand(COMMAND_SAVE_DISPLAY);
-    return contentOf(scratch_.file("display"));
+    std::string display = contentOf(scratch_.file("display"));
+    std::erase(display, '\r');
+    return display;
   }
 
   ScopedEnvironment record_;
@@ -43,12 +48,130 @@ TEST_F(CMainFrameTest, TheDebuggersHelpIsTypedAndSent) {
 
 TEST_F(CMainFrameTest, WhatNobodyAnswersToIsDisabled) {
   CMainFrame frame(desktop_, settings(), {"Main", "", "", false});
-  for (const int command : {COMMAND_JDB_HELP, COMMAND_HELP, COMMAND_ABOUT, COMMAND_CUT, COMMAND_STOP_RECORDING}) {
+  for (const int command : {COMMAND_JDB_HELP, COMMAND_CUT, COMMAND_STOP_RECORDING}) {
     EXPECT_FALSE(frame.commandEnabled(command)) << command;
   }
-  for (const int command : {COMMAND_EXIT, COMMAND_SELECT_ALL, COMMAND_SAVE_DISPLAY, COMMAND_START_RECORDING}) {
+  for (const int command :
+       {COMMAND_EXIT, COMMAND_SELECT_ALL, COMMAND_SAVE_DISPLAY, COMMAND_START_RECORDING, COMMAND_HELP, COMMAND_ABOUT}) {
     EXPECT_TRUE(frame.commandEnabled(command)) << command;
   }
+}
+
+TEST_F(CMainFrameTest, OnlyADebuggersFrameHasAToolbarAndItsButtonsAreAlwaysEnabled) {
+  CMainFrame plain(desktop_, settings(), {"Main", "", "", false});
+  EXPECT_EQ(plain.toolbar(), nullptr);
+  CMainFrame frame(desktop_, settings(), {"Main", "", "", true});
+  ASSERT_NE(frame.toolbar(), nullptr);
+  for (const auto& button : *frame.toolbar()) {
+    if (button.command == 0) continue;
+    EXPECT_TRUE(frame.commandEnabled(button.command)) << button.toolTip;
+  }
+  EXPECT_TRUE(frame.commandEnabled(COMMAND_JDB_HELP));
+  EXPECT_FALSE(frame.commandEnabled(COMMAND_CUT));
+}
+
+TEST_F(CMainFrameTest, SomeCommandsOpenTheGuideAtTheirAnchors) {
+  std::vector<std::string> anchors;
+  settings().context().showHelp = [&anchors](const std::string& anchor) { anchors.push_back(anchor); };
+  int abouts = 0;
+  settings().context().showAbout = [&abouts] { ++abouts; };
+  CMainFrame frame(desktop_, settings(), {"Main", "", "", true});
+  for (const int command :
+       {int{COMMAND_HELP}, int{COMMAND_CUSTOM_BUTTONS}, int{COMMAND_DEBUGGING_HELP}, int{COMMAND_ABOUT}}) {
+    frame.onCommand(command);
+  }
+  EXPECT_EQ(anchors, (std::vector<std::string>{"", "#jdbparams", "#jdb"}));
+  EXPECT_EQ(abouts, 1);
+}
+
+TEST_F(CMainFrameTest, AButtonsTextJoinsWhatWasTypedAndWaitsForItsEnd) {
+  CMainFrame frame(desktop_, settings(), {"Main", "", "", true});
+  FakeSurface surface;
+  frame.view().onStart(surface);
+  frame.view().onCharacter("x", 1);
+  frame.onCommand(COMMAND_STOP_AT);
+  const std::string display = savedDisplay(frame);
+  EXPECT_NE(display.find("xstop at \n"), std::string::npos) << display;
+  frame.view().onClose();
+}
+
+TEST_F(CMainFrameTest, WhileARecordingRunsItCanOnlyBeStopped) {
+  CMainFrame frame(desktop_, settings(), {"Main", "", "", false});
+  desktop_.expectSaveFile(scratch_.file("recorded"));
+  frame.onCommand(COMMAND_START_RECORDING);
+  EXPECT_FALSE(frame.commandEnabled(COMMAND_SAVE_DISPLAY));
+  EXPECT_FALSE(frame.commandEnabled(COMMAND_START_RECORDING));
+  EXPECT_TRUE(frame.commandEnabled(COMMAND_STOP_RECORDING));
+  frame.onCommand(COMMAND_STOP_RECORDING);
+  EXPECT_TRUE(frame.commandEnabled(COMMAND_SAVE_DISPLAY));
+  EXPECT_TRUE(frame.commandEnabled(COMMAND_START_RECORDING));
+  EXPECT_FALSE(frame.commandEnabled(COMMAND_STOP_RECORDING));
+  EXPECT_TRUE(platform::isFile(scratch_.file("recorded")));
+}
+
+TEST_F(CMainFrameTest, CopyWantsASelectionAndPasteATextOnTheClipboard) {
+  CMainFrame frame(desktop_, settings(), {"Main", "", "", false});
+  FakeSurface surface;
+  frame.view().onStart(surface);
+  EXPECT_FALSE(frame.commandEnabled(COMMAND_COPY));
+  EXPECT_FALSE(frame.commandEnabled(COMMAND_PASTE));
+  for (const char* letter : {"w", "o", "r", "d"}) frame.view().onCharacter(letter, 1);
+  frame.onCommand(COMMAND_SELECT_ALL);
+  EXPECT_TRUE(frame.commandEnabled(COMMAND_COPY));
+  frame.onCommand(COMMAND_COPY);
+  EXPECT_TRUE(frame.commandEnabled(COMMAND_PASTE));
+  frame.onCommand(COMMAND_PASTE);
+  EXPECT_FALSE(frame.commandEnabled(COMMAND_COPY));
+  EXPECT_NE(savedDisplay(frame).find("wordword"), std::string::npos) << savedDisplay(frame);
+  frame.onCommand(COMMAND_EXIT);
+  EXPECT_EQ(surface.closes, 1);
+  frame.view().onClose();
+}
+
+// The group is the sum of the held modifiers: Shift 1, Ctrl 2, Alt 4.
+TEST_F(CMainFrameTest, TheFunctionKeysOfAllEightGroupsTypeTheirTexts) {
+  const std::vector<std::vector<std::string>> expected = {
+      {"cont", "monitor list", "list", "locals", "trace methods", "next", "step", "step up"},
+      {"", "", "", "", "untrace methods", "", "", ""},
+      {"", "monitor", "where", "dump this", "monitor ", "stepi", "", ""},
+      {"", "", "", "", "unmonitor ", "", "", ""},
+      {"lock ", "monitor ", "list ", "dump ", "trace methods ", "watch ", "", ""},
+      {"", "unmonitor ", "", "", "untrace methods ", "unwatch ", "", ""},
+      {"", "", "", "", "", "", "", ""},
+      {"", "", "", "", "", "", "", ""},
+  };
+  const std::set<std::string> leftToTheUser = {
+      "monitor ", "unmonitor ", "lock ", "list ", "dump ", "watch ", "trace methods ", "untrace methods ", "unwatch "};
+  CMainFrame frame(desktop_, settings(), {"Main", "", "", true});
+  FakeSurface surface;
+  frame.view().onStart(surface);
+  std::string display;
+  for (int group = 0; group < 8; ++group) {
+    for (int index = 0; index < 8; ++index) {
+      const std::string& text = expected[static_cast<std::size_t>(group)][static_cast<std::size_t>(index)];
+      const auto key = static_cast<ConsoleKey>(static_cast<int>(ConsoleKey::F5) + index);
+      EXPECT_TRUE(frame.view().onKey(key, group)) << group << ' ' << index;
+      display += text;
+      // A text that ends with Return has left its line by itself.
+      if (leftToTheUser.count(text) > 0) frame.view().onCharacter("\r", 1);
+      if (!text.empty()) display += "\n";
+      EXPECT_EQ(savedDisplay(frame), display + "\n") << group << ' ' << index;
+    }
+  }
+  frame.view().onClose();
+}
+
+TEST_F(CMainFrameTest, AKeysOwnTextKeepsALoneBackslashAndSendsItsLinesWithPauses) {
+  settings().functionKeys.setGroup(6, {"C:\\dir", "", "", "", "", "", "", "first\\nsecond\\nrest"});
+  CMainFrame frame(desktop_, settings(), {"Main", "", "", true});
+  FakeSurface surface;
+  frame.view().onStart(surface);
+  EXPECT_TRUE(frame.view().onKey(ConsoleKey::F5, CTRL_BIT | ALT_BIT));
+  frame.view().onCharacter("\r", 1);
+  EXPECT_TRUE(frame.view().onKey(ConsoleKey::F12, CTRL_BIT | ALT_BIT));
+  // One line only: the next one waits for the timer.
+  EXPECT_EQ(savedDisplay(frame), "C:\\dir\nfirst\n\n");
+  frame.view().onClose();
 }
 
 }  // namespace

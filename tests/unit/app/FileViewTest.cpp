@@ -14,7 +14,6 @@ class FileViewTest : public PanelFixture {
     writeFile(userFolder() + name, "class A {}\n");
     return userFolder() + name;
   }
-  std::string quoted(const std::string& path) { return "\"" + path + "\""; }
   /// What the second copy of the program was started with, once `last` is among it.
   std::string recordedUpTo(const std::string& last) {
     std::string recorded;
@@ -23,13 +22,6 @@ class FileViewTest : public PanelFixture {
       if (platform::isFile(scratch_.file("record"))) recorded = contentOf(scratch_.file("record"));
     }
     return recorded;
-  }
-  std::string saved(const std::string& tag) {
-    const std::string content = contentOf(configFile());
-    const auto begin = content.find("\n" + tag + "  ");
-    if (begin == std::string::npos) return "";
-    const auto value = begin + tag.size() + 3;
-    return content.substr(value, content.find_first_of("\r\n", value) - value);
   }
 };
 
@@ -65,16 +57,15 @@ TEST_F(FileViewTest, ShowsItsLabelsAndToolTips) {
 TEST_F(FileViewTest, WhatIsNotThereYetStandsDisabled) {
   saveEarlierRun();
   runPanel([](ScriptedWindow&, ScriptedWindow& panel) {
-    EXPECT_FALSE(panel.enabled(NEW));
-    EXPECT_FALSE(panel.enabled(EDIT));
-    EXPECT_TRUE(panel.enabled(BROWSE));
-    EXPECT_TRUE(panel.enabled(JAVAC));
-    EXPECT_TRUE(panel.page(TABS, 0).enabled(RIGHT));
-    EXPECT_FALSE(panel.page(TABS, 0).enabled(MIDDLE));
-    EXPECT_FALSE(panel.page(TABS, 1).enabled(RIGHT));
-    EXPECT_FALSE(panel.page(TABS, 2).enabled(LEFT));
-    EXPECT_FALSE(bar(panel).enabled(SWITCH_VIEW));
-    EXPECT_TRUE(bar(panel).enabled(SETTINGS));
+    for (const int control : {NEW, EDIT, BROWSE, JAVAC}) EXPECT_TRUE(panel.enabled(control));
+    for (const int control : {LEFT, MIDDLE, RIGHT}) {
+      EXPECT_TRUE(panel.page(TABS, 0).enabled(control));
+      EXPECT_TRUE(panel.page(TABS, 1).enabled(control));
+      EXPECT_FALSE(panel.page(TABS, 2).enabled(control));
+    }
+    for (const int control : {SETTINGS, SWITCH_VIEW, EXIT, LAYOUT_LEFT, LAYOUT_RIGHT}) {
+      EXPECT_TRUE(bar(panel).enabled(control));
+    }
     exit(panel);
   });
 }
@@ -392,6 +383,117 @@ TEST_F(FileViewTest, SettingsOpenFromTheBar) {
   runPanel([&](ScriptedWindow&, ScriptedWindow& panel) {
     desktop_.expectDialog("Tarnwick settings", [](ScriptedWindow& window) { window.press(IDCANCEL_CONTROL); });
     bar(panel).press(SETTINGS);
+    exit(panel);
+  });
+}
+
+TEST_F(FileViewTest, EditOpensTheSourceInTheUsersEditor) {
+  saveEarlierRun([](Settings& earlier) { earlier.editorTarget = standInFolder() + platform::toolFileName("javadoc"); });
+  const std::string source = makeFile("A.java");
+  runPanel([&](ScriptedWindow&, ScriptedWindow& panel) {
+    panel.type(SOURCE, quoted(source) + " ignored");
+    panel.press(EDIT);
+    EXPECT_EQ(recordedUpTo(source + "\n"), source + "\n");
+    exit(panel);
+  });
+  EXPECT_EQ(saved("FILEVIEW_SOURCE"), source + ";" + userFolder());
+  EXPECT_EQ(saved("FILEVIEW_CLASS"), ";" + userFolder());
+}
+
+TEST_F(FileViewTest, EditAfterCancelOpensTheEditorWithNothing) {
+  saveEarlierRun([](Settings& earlier) { earlier.editorTarget = standInFolder() + platform::toolFileName("javadoc"); });
+  runPanel([&](ScriptedWindow&, ScriptedWindow& panel) {
+    panel.type(SOURCE, quoted(userFolder() + "gone.java"));
+    desktop_.expectOpenFile(std::nullopt);
+    panel.press(EDIT);
+    EXPECT_EQ(desktop_.lastRequest().filter, "Java source files|*.JAVA||");
+    for (int tries = 0; tries < 100 && !platform::isFile(scratch_.file("record")); ++tries)
+      std::this_thread::sleep_for(std::chrono::milliseconds(50));
+    EXPECT_EQ(contentOf(scratch_.file("record")), "");
+    exit(panel);
+  });
+}
+
+TEST_F(FileViewTest, EditWithoutAnEditorAsksForOneInTheSettings) {
+  saveEarlierRun();
+  const std::string source = makeFile("A.java");
+  runPanel([&](ScriptedWindow&, ScriptedWindow& panel) {
+    panel.type(SOURCE, quoted(source));
+    desktop_.expectDialog("Tarnwick settings", [](ScriptedWindow& window) { window.press(IDCANCEL_CONTROL); });
+    panel.press(EDIT);
+    EXPECT_FALSE(platform::isFile(scratch_.file("record")));
+    exit(panel);
+  });
+  EXPECT_EQ(saved("FILEVIEW_SOURCE"), source + ";" + userFolder()) << "the bookkeeping still runs";
+}
+
+TEST_F(FileViewTest, JdbStartsTheProgramAgainForDebugging) {
+  saveEarlierRun();
+  program_.programPath = standInFolder() + platform::toolFileName("jdb");
+  const std::string classFile = makeFile("Main.class");
+  runPanel([&](ScriptedWindow&, ScriptedWindow& panel) {
+    panel.page(TABS, 0).type(FIELD, quoted(classFile) + " first");
+    panel.page(TABS, 0).press(MIDDLE);
+    exit(panel);
+  });
+  const std::string recorded = recordedUpTo("first");
+  for (const std::string word : {"\\/TITLE=Main\\/", "\\/JDEBUG\\/\n\\/RUN=\n", "-launch\nMain\nfirst\n"}) {
+    EXPECT_NE(recorded.find(word), std::string::npos) << recorded;
+  }
+  EXPECT_NE(recorded.find(platform::toolFileName("jdb") + "\\/"), std::string::npos) << recorded;
+  EXPECT_EQ(settings().fileviewHtml.lastFolder(), userFolder());
+}
+
+TEST_F(FileViewTest, NoClassForJdbIsTold) {
+  saveEarlierRun();
+  runPanel([&](ScriptedWindow&, ScriptedWindow& panel) {
+    desktop_.expectOpenFile(std::nullopt);
+    desktop_.expectMessage("No known .class file");
+    panel.page(TABS, 0).press(MIDDLE);
+    exit(panel);
+  });
+}
+
+TEST_F(FileViewTest, AppletviewerRunsOnTheBareNameAndShowsWhatItSaid) {
+  saveEarlierRun([](Settings& earlier) {
+    earlier.fileviewTab = 1;
+    earlier.displayWithNotepad = 0;
+    earlier.editorTarget = standInFolder() + platform::toolFileName("javadoc");
+  });
+  const std::string page = makeFile("my page.html");
+  writeFile(scratch_.file("script"), "err applet not initialised\n");
+  runPanel([&](ScriptedWindow&, ScriptedWindow& panel) {
+    panel.page(TABS, 1).type(FIELD, quoted(page) + " -x");
+    panel.page(TABS, 1).press(RIGHT);
+    exit(panel);
+  });
+  EXPECT_EQ(recordedUpTo(log_.path() + "\n"), "my page.html\n-x\n" + log_.path() + "\n");
+  EXPECT_EQ(saved("FILEVIEW_HTML"), page + ";" + userFolder());
+  EXPECT_TRUE(desktop_.alerts().empty()) << "only the compiler sounds";
+}
+
+TEST_F(FileViewTest, AppletdebugStartsTheProgramAgain) {
+  saveEarlierRun([](Settings& earlier) { earlier.fileviewTab = 1; });
+  program_.programPath = standInFolder() + platform::toolFileName("jdb");
+  const std::string page = makeFile("page.html");
+  runPanel([&](ScriptedWindow&, ScriptedWindow& panel) {
+    panel.page(TABS, 1).type(FIELD, quoted(page));
+    panel.page(TABS, 1).press(MIDDLE);
+    exit(panel);
+  });
+  const std::string recorded = recordedUpTo("page.html\n");
+  EXPECT_NE(recorded.find("\\/JDEBUG\\/\n\\/RUN=\n-debug\npage.html\n"), std::string::npos) << recorded;
+}
+
+TEST_F(FileViewTest, NoHtmlFileIsTold) {
+  saveEarlierRun([](Settings& earlier) { earlier.fileviewTab = 1; });
+  runPanel([&](ScriptedWindow&, ScriptedWindow& panel) {
+    for (const int button : {MIDDLE, RIGHT}) {
+      desktop_.expectOpenFile(std::nullopt);
+      desktop_.expectMessage("no htm* file known");
+      panel.page(TABS, 1).press(button);
+    }
+    EXPECT_EQ(desktop_.lastRequest().filter, "htm* files|*.htm*||");
     exit(panel);
   });
 }

@@ -49,6 +49,16 @@ class PanelFixture : public SettingsFixture {
     TarnwickDlg(settings()).runModal();
   }
 
+  /// A setting's value in the saved configuration.
+  std::string saved(const std::string& tag) const {
+    const std::string content = contentOf(configFile());
+    const auto begin = content.find("\n" + tag + "  ");
+    if (begin == std::string::npos) return "(none)";
+    const auto value = begin + tag.size() + 3;
+    return content.substr(value, content.find_first_of("\r\n", value) - value);
+  }
+  static std::string quoted(const std::string& path) { return '"' + path + '"'; }
+
   static ScriptedWindow& bar(ScriptedWindow& panel) { return panel.child(197); }
   static void exit(ScriptedWindow& panel) { bar(panel).press(EXIT); }
 

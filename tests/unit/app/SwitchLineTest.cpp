@@ -47,6 +47,52 @@ TEST(SwitchLine, AnUnclosedLastSwitchRunsToTheEnd) {
   EXPECT_FALSE(nextSwitch(line, cursor, next));
 }
 
+TEST(SwitchLine, AnUnclosedSwitchThatEndsWithItsNameHasNoValue) {
+  for (const char* line : {"\\/JDEBUG", "\\/JDEBUG="}) {
+    const auto found = all(line);
+    ASSERT_EQ(found.size(), 1u) << line;
+    EXPECT_EQ(found[0].name, "JDEBUG") << line;
+    EXPECT_EQ(found[0].value, "") << line;
+  }
+}
+
+TEST(SwitchLine, ASwitchBeginsWhereTheSearchBegan) {
+  const auto found = all("  \\/A=1\\/  \\/B=2\\/\\/C\\/");
+  ASSERT_EQ(found.size(), 3u);
+  EXPECT_EQ(found[0].start, 0u);
+  EXPECT_EQ(found[1].start, 9u);
+  EXPECT_EQ(found[2].start, 18u) << "right behind the closing mark";
+}
+
+TEST(SwitchLine, TheCursorEndsBehindTheClosingMark) {
+  const std::string line = "\\/A=1\\/ x";
+  std::size_t cursor = 0;
+  Switch found;
+  EXPECT_TRUE(nextSwitch(line, cursor, found));
+  EXPECT_EQ(line.substr(cursor), " x");
+  EXPECT_FALSE(nextSwitch(line, cursor, found));
+}
+
+TEST(SwitchLine, TheNameIsTheRunOfLettersOnly) {
+  const auto found = all("\\/A1=x\\/ \\/A_B\\/ \\/ A=x\\/ \\/=x\\/ \\/aZ=x\\/ \\/\xC3\xA4=x\\/");
+  ASSERT_EQ(found.size(), 6u);
+  EXPECT_EQ(found[0].name, "A");
+  EXPECT_EQ(found[0].value, "1=x") << "an equals sign further behind stays";
+  EXPECT_EQ(found[1].name, "A");
+  EXPECT_EQ(found[1].value, "_B");
+  EXPECT_EQ(found[2].name, "");
+  EXPECT_EQ(found[2].value, "A=x");
+  EXPECT_EQ(found[3].name, "");
+  EXPECT_EQ(found[3].value, "x");
+  EXPECT_EQ(found[4].name, "aZ") << "as it was written";
+  EXPECT_EQ(found[5].name, "") << "letters of the alphabet";
+}
+
+TEST(SwitchLine, AValueHoldsBackslashesAndSlashesThatAreNoMark) {
+  EXPECT_EQ(all("\\/DEFAULTDIR=C:\\a b\\c\\\\/")[0].value, "C:\\a b\\c\\") << "the last two characters are the mark";
+  EXPECT_EQ(all("\\/DEFAULTDIR=/a b/c/\\/")[0].value, "/a b/c/");
+}
+
 TEST(SwitchLine, ALineWithoutMarksHasNone) {
   EXPECT_TRUE(all("").empty());
   EXPECT_TRUE(all("nothing here").empty());

@@ -1,72 +1,88 @@
-#include "app/TarnwickApp.h"
-#include "support/SettingsFixture.h"
+#include "AppFixture.h"
 
 namespace tarnwick::test {
 namespace {
 
-/// Notes the frame that it is asked to show.
-struct RecordingHost : ConsoleFrameHost {
-  void runConsoleFrame(ConsoleFrame& frame) override {
-    ++runs;
-    title = frame.title();
-    jdbHelp = frame.commandEnabled(COMMAND_JDB_HELP);
-    cut = frame.commandEnabled(COMMAND_CUT);
-    save = frame.commandEnabled(COMMAND_SAVE_DISPLAY);
-    stop = frame.commandEnabled(COMMAND_STOP_RECORDING);
+using TarnwickAppTest = AppFixture;
+
+TEST_F(TarnwickAppTest, ItKnowsItsFixedNamesAndWhereItLies) {
+  EXPECT_EQ(app().program().version, "Tarnwick V4.7a");
+  EXPECT_EQ(app().program().configDirVariable, "TARNWICK_CFGDIR");
+  EXPECT_EQ(app().program().programDirectory, programFolder()) << "with its last separator";
+  EXPECT_EQ(app().program().programPath, programFolder() + "tarnwick");
+}
+
+TEST_F(TarnwickAppTest, NothingIsReadBeforeTheCommandLineIsLookedAt) {
+  // Reading this would bring a warning, which nobody expects here.
+  writeFile(configFile(), "JAVAC_DEBUG  ON\nJAVAC_FASTCODE  ON\n");
+  app();
+  EXPECT_TRUE(platform::deleteFile(configFile())) << "nor is it open";
+}
+
+TEST_F(TarnwickAppTest, AProjectsExtensionIgnoresCaseAndQuotes) {
+  settings().tarnwickVersion = program_.version;
+  settings().saveDefaultConfiguration(nullptr);
+  writeFile(userFolder() + "a.twp", "REM\n");
+  writeFile(userFolder() + "my b.TwP", "REM\n");
+  for (const std::string& line : {userFolder() + "a.twp", "  " + userFolder() + "a.twp ", userFolder() + "my b.TwP",
+                                  "\"" + userFolder() + "my b.TwP\"", " \"" + userFolder() + "my b.TwP\" "}) {
+    desktop_.expectMainDialog([](ScriptedWindow& main) { main.closeBox(); });
+    EXPECT_EQ(app().run(line), 0) << line;
   }
-  int runs = 0;
-  std::string title;
-  bool jdbHelp = true;
-  bool cut = true;
-  bool save = false;
-  bool stop = true;
-};
+  EXPECT_EQ(host_.runs, 0);
+}
 
-class TarnwickAppTest : public SettingsFixture {
- protected:
-  TarnwickAppTest() { writeFile(configFile(), "JAVA_XMS  1m\n"); }
-
-  TarnwickApp& app() {
-    if (!app_) app_ = std::make_unique<TarnwickApp>(desktop_, host_, programFolder() + "tarnwick");
-    return *app_;
+TEST_F(TarnwickAppTest, WhatIsNoProjectFileIsNeitherAPanelNorAConsole) {
+  writeFile(userFolder() + "a.txt", "REM\n");
+  writeFile(userFolder() + "a.twp.bak", "REM\n");
+  platform::makeFolders(userFolder() + "folder.twp");
+  for (const std::string& line :
+       {userFolder() + "a.txt", userFolder() + "a.twp.bak", userFolder() + "folder.twp", userFolder() + "gone.twp",
+        userFolder() + "a.twp \\/JDEBUG\\/", std::string(" "), std::string("\""), std::string("--help")}) {
+    desktop_.expectMessage("Tarnwickfile::open(): Don't know how to open \"\"\nFile ");
+    EXPECT_EQ(app().run(line), 1) << line;
   }
-  std::string cfg(const std::string& path) { return "\\/CFG=" + path + "\\/ "; }
-
-  RecordingHost host_;
-  std::unique_ptr<TarnwickApp> app_;
-};
-
-TEST_F(TarnwickAppTest, SwitchesSetTheirFields) {
-  EXPECT_TRUE(app().parseSwitches("\\/DEFAULTDIR=" + userFolder() + "\\/ \\/EXEFILE=java\\/ \\/TITLE=Main\\/ " +
-                                  cfg(configFile()) + "\\/jdebug\\/ \\/UNKNOWN=x\\/ \\/RUN= -classpath . Main"));
-  EXPECT_EQ(platform::resolvedPath(platform::currentDirectory()),
-            platform::resolvedPath(Filename(userFolder(), "x").directoryNoSlash()));
-  EXPECT_EQ(app().exeFile(), platform::keptExecutable("java"));
-  EXPECT_EQ(app().title(), "Main");
-  EXPECT_TRUE(app().debugging()) << "names ignore case";
-  EXPECT_EQ(app().runArguments(), " -classpath . Main");
-  EXPECT_EQ(app().configFile().name().fullName(), configFile());
+  EXPECT_EQ(host_.runs, 0);
 }
 
-TEST_F(TarnwickAppTest, RunTakesTheRestWithFurtherMarks) {
-  EXPECT_TRUE(app().parseSwitches("\\/RUN=a \\/b"));
-  EXPECT_EQ(app().runArguments(), "a \\/b");
+TEST_F(TarnwickAppTest, ConsoleModeDoesNotReadTheDefaultConfiguration) {
+  writeFile(configFile(), "FILEVIEW_TAB  12x\nTARNWICK_VERSION  Tarnwick V1\nJAVAC_DEBUG  ON\nJAVAC_FASTCODE  ON\n");
+  writeFile(userFolder() + "own.cfg", "TARNWICK_VERSION  Tarnwick V2\n");
+  EXPECT_EQ(app().run("\\/TITLE=Main\\/ " + cfg(userFolder() + "own.cfg") + "\\/RUN=Main"), 0);
+  EXPECT_EQ(host_.runs, 1) << "no welcome, no warning, whatever the version";
 }
 
-TEST_F(TarnwickAppTest, AnUnknownSwitchBetweenKnownOnesIsSkipped) {
-  EXPECT_TRUE(app().parseSwitches("\\/TITLE=a\\/ \\/WHAT\\/ \\/EXEFILE=b\\/"));
-  EXPECT_EQ(app().title(), "a");
-  EXPECT_EQ(app().exeFile(), platform::keptExecutable("b"));
+TEST_F(TarnwickAppTest, AConfigurationThatIsNoFileIsTold) {
+  const bool windows = platform::folderSeparator == '\\';
+  platform::makeFolders(userFolder() + "folder.CFG");
+  desktop_.expectMessage((windows ? "Permission denied\nFile " : "Is a directory\nFile ") + userFolder() +
+                         "folder.CFG");
+  EXPECT_EQ(app().run(cfg(userFolder() + "folder.CFG")), 1);
+  desktop_.expectMessage("No such file or directory\nFile ");
+  EXPECT_EQ(app().run("\\/CFG=\\/"), 1);
+  EXPECT_EQ(host_.runs, 0);
 }
 
-TEST_F(TarnwickAppTest, TheExecutableLosesItsQuotes) {
-  EXPECT_TRUE(app().parseSwitches("\\/EXEFILE=\"a b\"  \\/"));
-  EXPECT_EQ(app().exeFile().find('"'), std::string::npos);
+TEST_F(TarnwickAppTest, AConfigurationThatIsGoneWhenItIsReadIsTold) {
+  platform::changeDirectory(configFolder());
+  desktop_.expectMessage(std::string("No such file or directory\nFile ") + defaultConfigurationName);
+  EXPECT_EQ(app().run(cfg(defaultConfigurationName) + "\\/DEFAULTDIR=" + userFolder() + "\\/"), 1)
+      << "the name counts from the current folder, and that has changed";
+  EXPECT_EQ(host_.runs, 0);
 }
 
-TEST_F(TarnwickAppTest, AnEmptyDefaultFolderFails) {
-  desktop_.expectMessage("Can't access folder ");
-  EXPECT_FALSE(app().parseSwitches("\\/DEFAULTDIR=\\/"));
+TEST_F(TarnwickAppTest, NothingIsSavedAtExitUnlessTheWindowMoved) {
+  settings().tarnwickVersion = program_.version;
+  settings().saveDefaultConfiguration(nullptr);
+  const auto exit = [this] {
+    desktop_.expectMainDialog([](ScriptedWindow& main) { main.child(1).child(197).press(2); });
+    EXPECT_EQ(app().run(""), 0);
+  };
+  exit();
+  const std::string before = contentOf(configFile()) + "REM  by hand\n";
+  writeFile(configFile(), before);
+  exit();
+  EXPECT_EQ(contentOf(configFile()), before);
 }
 
 TEST_F(TarnwickAppTest, AMissingDefaultFolderFails) {

@@ -1,0 +1,19 @@
+#include "app/AboutDlg.h"
+
+#include "resources/HelpLayouts.h"
+
+namespace tarnwick {
+
+AboutDlg::AboutDlg(Desktop& desktop, const ProgramInfo& program)
+    : LinkedDlg(desktop, aboutLayout().resource, 0), program_(program) {}
+
+void AboutDlg::runModal() {
+  desktop_.runDialog(aboutLayout(), *this);
+}
+
+void AboutDlg::initialise(DialogWindow& window) {
+  LinkedDlg::initialise(window);
+  window.setText(1112, program_.version);
+}
+
+}  // namespace tarnwick

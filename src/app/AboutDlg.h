@@ -1,0 +1,20 @@
+#pragma once
+
+#include "app/LinkedDlg.h"
+#include "base/ProgramInfo.h"
+
+namespace tarnwick {
+
+/// Tells what this program is, whose, and under which terms.
+class AboutDlg : public LinkedDlg {
+ public:
+  AboutDlg(Desktop& desktop, const ProgramInfo& program);
+
+  void runModal();
+  void initialise(DialogWindow& window) override;
+
+ private:
+  const ProgramInfo& program_;
+};
+
+}  // namespace tarnwick

@@ -1,0 +1,19 @@
+#pragma once
+
+#include "settings/SettingsContext.h"
+
+#include <functional>
+#include <string>
+
+namespace tarnwick {
+
+/// Shows an address in the user's browser; does nothing where there is none.
+void openInBrowser(Desktop& desktop, const std::string& address);
+
+/// Opens the user's guide in `browser`, at an anchor such as "#paths" or, for the empty text, at its top. Where the
+/// guide is lost, the user is asked for it, and the default configuration remembers the answer; the live settings are
+/// left alone and learn it at the next save.
+void showUsersGuide(SettingsContext& context, const std::string& anchor,
+                    const std::function<void(const std::string& address)>& browser);
+
+}  // namespace tarnwick

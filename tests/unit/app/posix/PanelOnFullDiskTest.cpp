@@ -1,0 +1,77 @@
+// A disk that takes no more bytes, played by the limit on the size of files.
+#include "unit/app/PanelFixture.h"
+
+#include <csignal>
+#include <cstring>
+#include <sys/resource.h>
+
+namespace tarnwick::test {
+namespace {
+
+/// While it lives no file of this process grows beyond a few bytes.
+class FullDisk {
+ public:
+  FullDisk() : handler_(std::signal(SIGXFSZ, SIG_IGN)) {
+    ::getrlimit(RLIMIT_FSIZE, &before_);
+    rlimit small = before_;
+    small.rlim_cur = 512;
+    ::setrlimit(RLIMIT_FSIZE, &small);
+  }
+  ~FullDisk() {
+    ::setrlimit(RLIMIT_FSIZE, &before_);
+    std::signal(SIGXFSZ, handler_);
+  }
+  FullDisk(const FullDisk&) = delete;
+  FullDisk& operator=(const FullDisk&) = delete;
+
+ private:
+  rlimit before_{};
+  void (*handler_)(int);
+};
+
+class PanelOnFullDiskTest : public PanelFixture {};
+
+TEST_F(PanelOnFullDiskTest, ASaveThatFailsHalfwayIsToldLosesNothingAndThePanelGoesOn) {
+  saveEarlierRun();
+  const std::string before = contentOf(configFile());
+  const std::string reason = std::strerror(EFBIG);
+  runPanel([&](ScriptedWindow&, ScriptedWindow& panel) {
+    desktop_.expectDialog("Tarnwick settings", [&](ScriptedWindow& window) {
+      window.page(1092, 2).type(1129, "9m");
+      desktop_.expectDialog(reason, [](ScriptedWindow& dialog) { dialog.press(IDCANCEL_CONTROL); });
+      desktop_.expectMessage(reason + "\nCan't save configuration data in " + configFile());
+      const FullDisk full;
+      window.press(IDOK_CONTROL);
+    });
+    bar(panel).press(SETTINGS);
+    EXPECT_EQ(contentOf(configFile()), before) << "the file that was there is whole";
+    EXPECT_EQ(settings().javaXms, "9m") << "the change holds for this run";
+    exit(panel);
+  });
+}
+
+TEST_F(PanelOnFullDiskTest, ASeparateFileThatFailsHalfwayIsToldAndTheOneThatWasThereStays) {
+  saveEarlierRun();
+  const std::string chosen = userFolder() + "own.cfg";
+  writeFile(chosen, "JAVA_XMS  1m\n");
+  runPanel([&](ScriptedWindow&, ScriptedWindow& panel) {
+    desktop_.expectDialog("Tarnwick settings", [&](ScriptedWindow& window) {
+      window.page(1092, 2).type(1129, "9m");
+      desktop_.expectSaveFile(chosen);
+      desktop_.expectMessage(std::string(std::strerror(EFBIG)) + "\nCan't save configuration data.");
+      {
+        const FullDisk full;
+        window.press(1036);
+      }
+      EXPECT_EQ(window.page(1092, 2).text(1129), "9m");
+      window.press(IDCANCEL_CONTROL);
+    });
+    bar(panel).press(SETTINGS);
+    exit(panel);
+  });
+  EXPECT_EQ(contentOf(chosen), "JAVA_XMS  1m\n");
+  EXPECT_EQ(settings().javaXms, "") << "the running settings are as they were";
+}
+
+}  // namespace
+}  // namespace tarnwick::test

@@ -1,0 +1,133 @@
+#include "app/TarnwickApp.h"
+#include "base/Text.h"
+#include "platform/Process.h"
+#include "support/Children.h"
+#include "support/SettingsFixture.h"
+#include "tools/AppletviewerLauncher.h"
+#include "tools/JavaLauncher.h"
+
+#include <filesystem>
+#include <sstream>
+
+namespace tarnwick::test {
+namespace {
+
+struct NoHost : ConsoleFrameHost {
+  void runConsoleFrame(ConsoleFrame&) override {}
+};
+
+/// The way of odd names from the panel through the second copy's command line to the tool.
+class RelaunchTest : public SettingsFixture {
+ protected:
+  RelaunchTest()
+      : script_("STANDIN_SCRIPT", scratch_.file("script")), record_("STANDIN_RECORD", scratch_.file("record")) {
+    writeFile(scratch_.file("script"), "");
+    writeFile(configFile(), "");
+    useStandIns();
+    settings().javaXfuture = 0;
+    program_.programPath = StandInScript::tool("jdb");
+  }
+
+  /// The second copy's command line, from the stand-in that plays it. `last` is the last argument.
+  std::string commandLine(const std::string& last) {
+    std::string recorded;
+    EXPECT_TRUE(waitUntil([&] {
+      if (platform::isFile(scratch_.file("record"))) recorded = contentOf(scratch_.file("record"));
+      return recorded.ends_with(last + '\n');
+    })) << recorded;
+    platform::deleteFile(scratch_.file("record"));
+    std::string line = "tarnwick";
+    std::vector<std::string> words;
+    std::istringstream lines(recorded);
+    for (std::string word; std::getline(lines, word);) words.push_back(word);
+    std::vector<char*> vector = {line.data()};
+    for (auto& word : words) vector.push_back(word.data());
+    return platform::rawCommandLine(static_cast<int>(vector.size()), vector.data());
+  }
+
+  ScopedEnvironment script_;
+  ScopedEnvironment record_;
+  NoHost host_;
+};
+
+const char* const oddNames[] = {"two words", "100%",  "a & b",    "$HOME",    "`id`",   "say \"hi\"",
+                                "\"",        "end\\", "a\\b",     "it's",     "*?[x]",  "a;b|c>d<e",
+                                "#1",        "~",     " leading", "\xC3\xA4", "a=b\\c", "\\\\twice\\"};
+
+TEST_F(RelaunchTest, AFolderOfAnyNameIsWhereTheSecondCopyWorks) {
+  for (const std::string name : oddNames) {
+    const std::string folder = userFolder() + name + '/';
+    std::filesystem::create_directory(folder);
+    FileForSubprocess file(folder, "Main.class");
+    runJava(settings(), file, nullptr);
+    const std::string line = commandLine("Main");
+    TarnwickApp copy(desktop_, host_, programFolder() + "tarnwick");
+    EXPECT_TRUE(copy.parseSwitches(line)) << line;
+    EXPECT_EQ(platform::currentDirectory() + '/', folder) << line;
+    EXPECT_EQ(copy.title(), "Main");
+    EXPECT_EQ(copy.exeFile(), standInFolder() + "java");
+    EXPECT_EQ(copy.configFile().name().fullName(), configFile());
+    EXPECT_EQ(copy.runArguments(), " -classpath . Main");
+  }
+}
+
+TEST_F(RelaunchTest, AFileOfAnyNameReachesItsToolAsOneArgument) {
+  for (const std::string name : oddNames) {
+    FileForSubprocess file(userFolder() + name + ".html");
+    runAppletviewer(settings(), file, false);
+    EXPECT_EQ(contentOf(scratch_.file("record")), name + ".html\n");
+    platform::deleteFile(scratch_.file("record"));
+
+    runAppletviewer(settings(), file, true);
+    const std::string last = platform::commandWord(name + ".html");
+    TarnwickApp copy(desktop_, host_, programFolder() + "tarnwick");
+    EXPECT_TRUE(copy.parseSwitches(commandLine(last)));
+    EXPECT_EQ(copy.title(), trimLeft(name)) << "blanks on its left go";
+    EXPECT_EQ(platform::splitCommandText(copy.runArguments()), (std::vector<std::string>{"-debug", name + ".html"}));
+  }
+}
+
+/// A name that ends in a backslash and the slash behind it make the mark that ends a value.
+TEST_F(RelaunchTest, WhatCannotBePassedOnIsToldAndNothingIsStarted) {
+  const std::string odd = scratch_.file("odd\\") + '/';
+  platform::makeFolders(odd);
+  for (const char* tool : {"java", "jdb", "appletviewer"}) {
+    std::filesystem::copy_file(StandInScript::tool(tool), odd + tool);
+  }
+  const auto runAll = [&](Settings& panel, const std::vector<std::string>& paths) {
+    FileForSubprocess file(userFolder(), "Main.class");
+    for (const std::string& path : paths)
+      desktop_.expectMessage("Can't pass on the path " + path + "\nThe name of a folder in it ends in a backslash.");
+    runJava(panel, file, nullptr);
+    runJdb(panel, file, nullptr, nullptr);
+    runAppletviewer(panel, file, true);
+    EXPECT_FALSE(platform::isFile(scratch_.file("record")));
+    // This one runs here, and needs nothing passed on.
+    runAppletviewer(panel, file, false);
+    EXPECT_EQ(contentOf(scratch_.file("record")), "Main.class\n");
+    platform::deleteFile(scratch_.file("record"));
+  };
+  settings().javaPath = odd;
+  runAll(settings(), {odd + "java", odd + "jdb", odd + "appletviewer"});
+
+  const ScopedEnvironment here("TARNWICK_CFGDIR", odd);
+  const auto panel = freshSettings();
+  panel->javaPath = standInFolder();
+  const std::string configuration = odd + defaultConfigurationName;
+  runAll(*panel, {configuration, configuration, configuration});
+}
+
+TEST_F(RelaunchTest, TheProjectTypeIsRegisteredOnceInARun) {
+  const ScopedEnvironment data("XDG_DATA_HOME", scratch_.file("data"));
+  TarnwickApp app(desktop_, host_, StandInScript::tool("jdb"));
+  // The system's libraries look for the user's folders once in a process, so that another test may have been first.
+  const std::string launcher = scratch_.file("data") + "/applications/tarnwick-project.desktop";
+  app.registerProjectType();
+  if (!platform::isFile(launcher)) GTEST_SKIP() << "this process has asked for the user's folders before";
+  platform::deleteFile(launcher);
+  app.registerProjectType();
+  EXPECT_FALSE(platform::isFile(launcher));
+}
+
+}  // namespace
+}  // namespace tarnwick::test

@@ -9,7 +9,8 @@ namespace tarnwick::ui {
 namespace {
 
 bool isContainer(const Node& node) {
-  return node.kind == ItemKind::Column || node.kind == ItemKind::Row || node.kind == ItemKind::Group;
+  return node.kind == ItemKind::Column || node.kind == ItemKind::Row || node.kind == ItemKind::Group ||
+         node.kind == ItemKind::Layers;
 }
 
 /// Containers and what shows many entries take all the room across their row; single controls keep their height.
@@ -28,7 +29,7 @@ bool isInput(const Node& node) {
 
 bool isForm(const Node& node) {
   return node.kind == ItemKind::Row && node.children.size() >= 2 && node.children[0].kind == ItemKind::Label &&
-         isInput(node.children[1]);
+         (isInput(node.children[1]) || node.children[1].kind == ItemKind::CheckBox);
 }
 
 bool isButtonRow(const Node& node) {
@@ -36,10 +37,23 @@ bool isButtonRow(const Node& node) {
   return node.kind == ItemKind::Row && std::all_of(node.children.begin(), node.children.end(), fits);
 }
 
+bool isGone(const Node& node) {
+  if (node.floats) return true;
+  return node.collapses && node.window && !node.window->IsShown();
+}
+
+/// A group, or several in one place.
+bool isGroup(const Node& node) {
+  const bool groups = node.kind == ItemKind::Layers && !node.children.empty();
+  return node.kind == ItemKind::Group || (groups && isGroup(node.children.front()));
+}
+
 int gapBetween(const Node& first, const Node& second, int plain, const Gaps& gaps) {
+  if (isGone(second) || first.kind == ItemKind::EmptyButtonRow) return 0;
   // A space is a gap already.
   if (first.kind == ItemKind::Space || second.kind == ItemKind::Space) return plain;
-  const bool apart = first.kind == ItemKind::Group || second.kind == ItemKind::Group || isButtonRow(second) ||
+  const bool apart = isGroup(first) || isGroup(second) || isButtonRow(second) ||
+                     (first.kind == ItemKind::Column && second.kind == ItemKind::Column) ||
                      first.kind == ItemKind::Icon;
   return apart ? std::max(plain, gaps.apart) : plain;
 }
@@ -71,6 +85,12 @@ wxSize sizeOfRow(const Node& node, const Gaps& gaps) {
   return size;
 }
 
+wxSize sizeOfLayers(const Node& node) {
+  wxSize size(0, 0);
+  for (const auto& child : node.children) size.IncTo(child.least);
+  return size;
+}
+
 wxSize sizeOfColumn(const Node& node, const Gaps& gaps) {
   wxSize size(0, gapsOf(node, gaps.inColumn, gaps));
   for (const auto& child : node.children) {
@@ -80,7 +100,8 @@ wxSize sizeOfColumn(const Node& node, const Gaps& gaps) {
   return size;
 }
 
-/// Neighbouring rows that begin with a label before a field get labels of one width, so that the fields line up.
+/// Neighbouring rows that begin with a label before a field or check box get labels of one width, so that the fields
+/// line up.
 void alignForms(Node& column, const Gaps& gaps) {
   auto& rows = column.children;
   for (auto row = rows.begin(); row != rows.end();) {
@@ -174,15 +195,18 @@ wxSize measure(Node& node, const Gaps& gaps) {
     case ItemKind::Group:
       node.least = sizeOfGroup(node, gaps);
       break;
+    case ItemKind::Layers:
+      node.least = sizeOfLayers(node);
+      break;
     default:
-      node.least = node.natural ? node.natural() : wxSize(0, 0);
+      node.least = node.natural && !isGone(node) ? node.natural() : wxSize(0, 0);
       break;
   }
   return node.least;
 }
 
 void place(const Node& node, const wxRect& room, const Gaps& gaps) {
-  if (node.window) node.window->SetSize(room);
+  if (node.window) node.window->SetSize(node.floats ? wxRect(room.GetTopLeft(), node.natural()) : room);
   switch (node.kind) {
     case ItemKind::Row:
       placeRow(node, room, gaps);
@@ -192,6 +216,9 @@ void place(const Node& node, const wxRect& room, const Gaps& gaps) {
       break;
     case ItemKind::Group:
       placeColumn(node, insideGroup(node, room, gaps), gaps);
+      break;
+    case ItemKind::Layers:
+      for (const auto& child : node.children) place(child, room, gaps);
       break;
     default:
       break;

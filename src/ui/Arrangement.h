@@ -25,6 +25,8 @@ struct Node {
   ItemKind kind = ItemKind::Column;
   bool stretch = false;
   bool equalWidths = false;
+  bool collapses = false;  ///< takes no room while its window is hidden
+  bool floats = false;     ///< takes no room, and is given its natural size
   wxWindow* window = nullptr;
   /// The size that the item needs by itself; unset for columns and rows.
   std::function<wxSize()> natural;

@@ -8,6 +8,7 @@
 #include <wx/button.h>
 #include <wx/checkbox.h>
 #include <wx/combobox.h>
+#include <wx/hyperlink.h>
 #include <wx/listbox.h>
 #include <wx/notebook.h>
 #include <wx/panel.h>
@@ -17,6 +18,9 @@
 #include <wx/statbox.h>
 #include <wx/stattext.h>
 #include <wx/textctrl.h>
+
+// Needs its own family's header first, which on Linux does not bring it.
+#include <wx/generic/hyperlink.h>
 
 #include <algorithm>
 #include <cctype>
@@ -75,6 +79,7 @@ wxWindow* makeHeading(wxWindow& parent, const std::string& text) {
 wxWindow* makeCombo(wxWindow& parent, const DialogItem& item) {
   auto* combo = new wxComboBox(&parent, wxID_ANY, {}, wxDefaultPosition, wxDefaultSize, 0, nullptr, wxCB_READONLY);
   for (const auto& entry : item.entries) combo->Append(toWx(entry));
+  makeOneTabStop(*combo);
   return combo;
 }
 
@@ -92,6 +97,17 @@ wxWindow* makeEdit(wxWindow& parent, const DialogItem& item) {
   return edit;
 }
 
+/// Blue, and red under the pointer, on any theme; it never opens anything by itself.
+wxWindow* makeLink(wxWindow& parent, const std::string& address) {
+  auto* made = new wxGenericHyperlinkCtrl(&parent, wxID_ANY, toWx(address), toWx(address), wxDefaultPosition,
+                                          wxDefaultSize, wxHL_ALIGN_LEFT | wxNO_BORDER);
+  made->SetNormalColour(*wxBLUE);
+  made->SetVisitedColour(*wxBLUE);
+  made->SetHoverColour(*wxRED);
+  describeLink(*made, address);
+  return made;
+}
+
 wxWindow* makeWindow(wxWindow& parent, const DialogItem& item) {
   switch (item.kind) {
     case ItemKind::Group:
@@ -102,10 +118,13 @@ wxWindow* makeWindow(wxWindow& parent, const DialogItem& item) {
       return makeHeading(parent, item.text);
     case ItemKind::Label:
       return new Label(parent, item.text);
+    case ItemKind::Link:
+      return makeLink(parent, item.text);
     case ItemKind::Edit:
       return makeEdit(parent, item);
     case ItemKind::Button:
-      return new wxButton(&parent, wxID_ANY, toWx(item.text));
+      return new wxButton(&parent, wxID_ANY, toWx(item.text), wxDefaultPosition, wxDefaultSize,
+                          item.compact ? wxBU_EXACTFIT : 0);
     case ItemKind::CheckBox:
       return new wxCheckBox(&parent, wxID_ANY, toWx(item.text));
     case ItemKind::RadioButton:
@@ -139,6 +158,9 @@ void connect(wxWindow& window, const DialogItem& item, const ControlEvents& even
       break;
     case ItemKind::RadioButton:
       window.Bind(wxEVT_RADIOBUTTON, tell(events.command));
+      break;
+    case ItemKind::Link:
+      window.Bind(wxEVT_HYPERLINK, [number, events](wxHyperlinkEvent&) { events.command(number); });
       break;
     case ItemKind::Edit:
       window.Bind(wxEVT_TEXT, tell(events.textChanged));
@@ -186,11 +208,14 @@ wxSize naturalSize(const DialogItem& item, const Control& control) {
   if (item.kind == ItemKind::Edit) {
     // With the system set to larger letters, the toolkit asks for too little.
     size.y = std::max(size.y, window.GetCharHeight() + window.FromDIP(10));
-    if (item.width > 0) size.x = as<wxTextCtrl>(control).GetSizeFromTextSize(widthOfCharacters(window, item.width)).x;
+    if (item.likeButtons) size.y = std::max(size.y, wxButton::GetDefaultSize(&window).y);
+    // The toolkit's own reckoning grows when the field comes to be seen, too late for the window's size.
+    if (item.width > 0) size.x = widthOfCharacters(window, item.width) + window.FromDIP(20);
     return size;
   }
   if (item.kind == ItemKind::ListBox) {
-    return {widthOfCharacters(window, std::max(item.width, 10)), window.GetCharHeight() * listRows * 5 / 4};
+    return {widthOfCharacters(window, std::max(item.width, 10)),
+            window.GetCharHeight() * (item.lines > 0 ? item.lines : listRows) * 5 / 4};
   }
   if (item.kind == ItemKind::Group) {
     // The title with the frame's corners on both sides.
@@ -198,7 +223,12 @@ wxSize naturalSize(const DialogItem& item, const Control& control) {
   }
   // Before it shows, a label does not know that its font has changed.
   if (item.kind == ItemKind::Heading) size.IncTo(window.GetTextExtent(window.GetLabel()) + wxSize(2, 2));
-  if (item.kind == ItemKind::Button && bearsSigns(item.text)) {
+  if (item.kind == ItemKind::Button && item.compact) {
+    // With room for the layout's own text, which may be the longest of several that the rules give it.
+    const int text = std::max(window.GetTextExtent(window.GetLabel()).x, window.GetTextExtent(toWx(item.text)).x);
+    size.x = text + 2 * window.GetCharWidth();
+    size.y = std::max(size.y, wxButton::GetDefaultSize(&window).y);
+  } else if (item.kind == ItemKind::Button && bearsSigns(item.text)) {
     size.x = window.GetTextExtent(window.GetLabel()).x + 3 * window.GetCharWidth();
   }
   size.x = std::max(size.x, widthOfCharacters(window, item.width));

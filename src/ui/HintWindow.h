@@ -17,6 +17,7 @@ class HintWindow : private DialogHandler, public WxDialogWindow {
 
   std::string title() const override { return {}; }
   void setTitle(const std::string&) override {}
+  void addSystemCommand(const std::string&, std::function<void()>) override {}
   void showWindow(bool on) override;
   std::optional<Point> position() const override { return std::nullopt; }
   void moveTo(const Point&) override {}

@@ -1,6 +1,7 @@
 #include "ui/Icons.h"
 
 #include "ui/IconPixels.h"
+#include "ui/ToolbarPixels.h"
 
 #include <wx/icon.h>
 #include <wx/image.h>
@@ -19,18 +20,26 @@ const std::vector<std::uint8_t>& pixelsOf(int side) {
   return pixels;
 }
 
+wxBitmap bitmapOf(const std::vector<std::uint8_t>& pixels, int width, int height) {
+  wxImage image(width, height);
+  image.SetAlpha();
+  for (int i = 0; i < width * height; ++i) {
+    const auto* pixel = pixels.data() + static_cast<std::ptrdiff_t>(i) * 4;
+    image.SetRGB(i % width, i / width, pixel[0], pixel[1], pixel[2]);
+    image.SetAlpha(i % width, i / width, pixel[3]);
+  }
+  return wxBitmap(image);
+}
+
 }  // namespace
 
 wxBitmap iconBitmap(int side) {
-  wxImage image(side, side);
-  image.SetAlpha();
-  const auto& pixels = pixelsOf(side);
-  for (int i = 0; i < side * side; ++i) {
-    const auto* pixel = pixels.data() + static_cast<std::ptrdiff_t>(i) * 4;
-    image.SetRGB(i % side, i / side, pixel[0], pixel[1], pixel[2]);
-    image.SetAlpha(i % side, i / side, pixel[3]);
-  }
-  return wxBitmap(image);
+  return bitmapOf(pixelsOf(side), side, side);
+}
+
+wxBitmap toolbarBitmap(int command, double scale, bool dark) {
+  return bitmapOf(toolbarPixels(toolbarIcon(command), scale, dark), toolbarPixelCount(toolbarIconWidth, scale),
+                  toolbarPixelCount(toolbarIconHeight, scale));
 }
 
 wxIconBundle programIcons() {

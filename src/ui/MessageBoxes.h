@@ -9,6 +9,10 @@ namespace tarnwick::ui {
 
 enum class MessageKind { Ok, OkCancel, YesNo };
 
+/// A text of a message box, with the middle of a long one left out and endless words broken: the buttons must stay on
+/// the screen.
+std::string shownPart(const std::string& text);
+
 /// Shows a message box on top of what is open. True after OK or Yes.
 bool showMessage(WindowStack& stack, const std::string& text, MessageKind kind);
 

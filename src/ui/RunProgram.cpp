@@ -61,7 +61,9 @@ bool startToolkit(int argc, char** argv) {
   // The toolkit sees the program's name alone: among the arguments may be some that it would take for its own.
   int count = argc > 0 ? 1 : 0;
   const wxLogNull quiet;  // it would speak of a missing display in words of its own
-  return wxEntryStart(count, argv);
+  const bool started = wxEntryStart(count, argv);
+  toolkitStarted();
+  return started;
 }
 
 }  // namespace

@@ -5,6 +5,7 @@
 
 #include <wx/gdicmn.h>
 
+#include <functional>
 #include <optional>
 #include <string>
 
@@ -19,11 +20,26 @@ namespace tarnwick::ui {
 /// What has to be done before the toolkit starts.
 void prepareToolkit();
 
+/// What has to be undone once it has started.
+void toolkitStarted();
+
 /// What the program's windows would show on, for a message.
 std::string displayName();
 
 /// Makes `label` the name of `control` for readers of the screen.
 void nameByLabel(wxWindow& control, wxWindow& label);
+
+/// Names `control` for readers of the screen without a label to be seen.
+void nameBySpeech(wxWindow& control, const std::string& name);
+
+/// What readers of the screen call the control; empty if they have no name for it. For tests.
+std::string spokenName(wxWindow& control);
+
+/// Lets Tab stop once at a combo box, not at its arrow as well.
+void makeOneTabStop(wxWindow& comboBox);
+
+/// Tells readers of the screen that the toolkit's own drawing in this window is a link.
+void describeLink(wxWindow& link, const std::string& address);
 
 /// True while the list of a combo box hangs open, which Return and Escape then belong to.
 bool isListOpen(wxWindow& comboBox);
@@ -37,6 +53,9 @@ std::optional<Point> normalPosition(const wxTopLevelWindow& window);
 /// Moves left and top of a window, which may be still to be shown.
 void moveWindow(wxTopLevelWindow& window, const Point& leftTop);
 
+/// Adds a separator and a command to the window's system menu. On Linux that menu is the window manager's.
+void appendToSystemMenu(wxTopLevelWindow& window, const std::string& label, const std::function<void()>& action);
+
 /// Lets the window system treat a dialog as a program's main window.
 void makeMainWindow(wxTopLevelWindow& window);
 
@@ -45,6 +64,9 @@ void useAsDefaultIcon(const wxBitmap& picture);
 
 /// The size of a tab control whose pages are to have this size, wide enough for all of its tabs.
 wxSize sizeWithTabs(wxNotebook& tabs, const wxSize& page);
+
+/// Where a page stands in a tab control of the size that it has now.
+wxRect pageRect(const wxNotebook& tabs);
 
 /// Inverts the colours of what has been painted in the rectangle.
 void invertColours(wxDC& dc, const wxRect& rect);

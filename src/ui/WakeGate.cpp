@@ -4,7 +4,7 @@ namespace tarnwick::ui {
 
 namespace {
 
-constexpr std::chrono::milliseconds distance(40);
+constexpr std::chrono::milliseconds distance(20);
 
 }  // namespace
 

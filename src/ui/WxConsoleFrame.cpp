@@ -4,12 +4,14 @@
 #include "ui/Icons.h"
 #include "ui/MessageBoxes.h"
 #include "ui/Text.h"
+#include "ui/ToolbarPixels.h"
 #include "ui/WxConsoleSurface.h"
 
 #include <wx/app.h>
 #include <wx/evtloop.h>
 #include <wx/menu.h>
 #include <wx/settings.h>
+#include <wx/toolbar.h>
 
 namespace tarnwick::ui {
 
@@ -17,6 +19,8 @@ namespace {
 
 constexpr int columns = 80;
 constexpr int rows = 25;
+// Above the numbers of the menus.
+constexpr int firstToolId = wxID_HIGHEST + 100;
 
 }  // namespace
 
@@ -24,10 +28,13 @@ WxConsoleFrame::WxConsoleFrame(WindowStack& stack, Desktop& desktop, ConsoleFram
     : stack_(stack), rules_(rules), frame_(new wxFrame(nullptr, wxID_ANY, toWx(rules.title()))) {
   frame_->SetIcons(programIcons());
   buildMenus();
+  buildToolbar();
   surface_ = new WxConsoleSurface(frame_.get(), stack_, desktop, rules_.view(), [this] { requestClose(); });
   const int bar = std::max(0, wxSystemSettings::GetMetric(wxSYS_VSCROLL_X, frame_.get()));
   // One column more for the margin at the left.
-  const wxSize size((columns + 1) * surface_->cell().x + bar, rows * surface_->cell().y);
+  wxSize size((columns + 1) * surface_->cell().x + bar, rows * surface_->cell().y);
+  // A debugger's buttons all show, however wide the system makes them.
+  if (auto* const buttons = frame_->GetToolBar()) size.x = std::max(size.x, buttons->GetBestSize().x);
   frame_->SetClientSize(size);
   surface_->SetSize(size);
   frame_->Bind(wxEVT_CHAR_HOOK, &WxConsoleFrame::onKey, this);
@@ -37,7 +44,10 @@ WxConsoleFrame::WxConsoleFrame(WindowStack& stack, Desktop& desktop, ConsoleFram
   });
   frame_->Bind(wxEVT_MENU, [this](wxCommandEvent& event) {
     const auto found = commandOfId_.find(event.GetId());
-    if (found != commandOfId_.end()) command(found->second);
+    if (found == commandOfId_.end()) return;
+    command(found->second);
+    // What a button has typed is completed at the keyboard.
+    surface_->SetFocus();
   });
   frame_->Bind(wxEVT_CLOSE_WINDOW, [this](wxCloseEvent& event) {
     if (event.CanVeto()) {
@@ -72,9 +82,31 @@ void WxConsoleFrame::buildMenus() {
   frame_->SetMenuBar(bar);
 }
 
+void WxConsoleFrame::buildToolbar() {
+  if (!rules_.toolbar()) return;
+  auto* const bar = frame_->CreateToolBar(wxTB_HORIZONTAL | wxTB_FLAT);
+  const double scale = frame_->GetDPIScaleFactor();
+  const bool dark = wxSystemSettings::GetAppearance().IsDark();
+  bar->SetToolBitmapSize(
+      wxSize(toolbarPixelCount(toolbarIconWidth, scale), toolbarPixelCount(toolbarIconHeight, scale)));
+  int id = firstToolId;
+  for (const auto& button : *rules_.toolbar()) {
+    if (button.command == 0) {
+      bar->AddSeparator();
+      continue;
+    }
+    const wxString tip = toWx(button.toolTip);
+    bar->AddTool(++id, tip, toolbarBitmap(button.command, scale, dark), wxNullBitmap, wxITEM_NORMAL, tip, tip);
+    commandOfId_[id] = button.command;
+  }
+  bar->Realize();
+}
+
 void WxConsoleFrame::updateMenus() {
   guarded(stack_, [this] {
-    for (const auto& [id, number] : commandOfId_) frame_->GetMenuBar()->Enable(id, rules_.commandEnabled(number));
+    for (const auto& [id, number] : commandOfId_) {
+      if (auto* const item = frame_->GetMenuBar()->FindItem(id)) item->Enable(rules_.commandEnabled(number));
+    }
   });
 }
 

@@ -29,6 +29,7 @@ class WxConsoleFrame {
 
  private:
   void buildMenus();
+  void buildToolbar();
   void updateMenus();
   void command(int number);
   void onKey(wxKeyEvent& event);

@@ -5,10 +5,14 @@
 #include "ui/Toolkit.h"
 
 #include <algorithm>
+#include <string_view>
 
 namespace tarnwick::ui {
 
 namespace {
+
+// No letter of any language has more. With thousands, as broken programs may write, the toolkit is busy for minutes.
+constexpr int mostMarks = 16;
 
 bool isAscii(const std::string& text) {
   return std::all_of(text.begin(), text.end(), [](char c) { return static_cast<unsigned char>(c) < 128; });
@@ -17,7 +21,7 @@ bool isAscii(const std::string& text) {
 }  // namespace
 
 WxConsolePainter::WxConsolePainter(wxDC& dc, const wxRect& clip, const Point& cell, bool exactAdvance)
-    : dc_(dc), clip_(clip), cell_(cell), exactAdvance_(exactAdvance) {}
+    : dc_(dc), clip_(clip), cell_(cell), exactAdvance_(exactAdvance), baseline_(baselineOf("M")) {}
 
 Rect WxConsolePainter::clip() const {
   return {clip_.x, clip_.y, clip_.x + clip_.width, clip_.y + clip_.height};
@@ -33,24 +37,34 @@ void WxConsolePainter::drawText(int x, int y, const std::string& text, Colour co
   }
 }
 
-// Characters that the font has to borrow from another are not exactly one or two cells wide: each goes to its place.
+// Characters that the font has to borrow from another are not exactly one or two cells wide, nor as high as a cell:
+// each goes to its place, on the line on which the others stand.
 void WxConsolePainter::drawByCells(int x, int y, const std::string& text) {
   for (std::size_t at = 0; at < text.size() && x < clip_.x + clip_.width;) {
     std::size_t length = platform::characterLength(text, at);
     std::string character = text.substr(at, length);
     const auto columns = static_cast<int>(platform::columnsOf(character));
     // What takes no column of its own is drawn on the character before it.
-    while (at + length < text.size()) {
+    for (int marks = 0; at + length < text.size(); ++marks) {
       const std::size_t next = platform::characterLength(text, at + length);
-      const std::string mark = text.substr(at + length, next);
+      const std::string_view mark = std::string_view(text).substr(at + length, next);
       if (platform::columnsOf(mark) != 0) break;
-      character += mark;
+      if (marks < mostMarks) character += mark;
       length += next;
     }
-    if (x + columns * cell_.x > clip_.x) dc_.DrawText(toWx(platform::validText(character)), x, y);
+    if (x + columns * cell_.x > clip_.x) {
+      const wxString shown = toWx(platform::validText(character));
+      dc_.DrawText(shown, x, y + baseline_ - baselineOf(shown));
+    }
     x += columns * cell_.x;
     at += length;
   }
+}
+
+int WxConsolePainter::baselineOf(const wxString& text) const {
+  wxCoord width = 0, height = 0, descent = 0;
+  dc_.GetTextExtent(text, &width, &height, &descent);
+  return height - descent;
 }
 
 void WxConsolePainter::invert(const Rect& rect) {

@@ -20,11 +20,14 @@ class WxConsolePainter : public ConsolePainter {
 
  private:
   void drawByCells(int x, int y, const std::string& text);
+  /// How far below its top the text's letters stand.
+  int baselineOf(const wxString& text) const;
 
   wxDC& dc_;
   wxRect clip_;
   Point cell_;
   bool exactAdvance_;
+  int baseline_;  ///< of the console's own font
 };
 
 }  // namespace tarnwick::ui

@@ -17,6 +17,7 @@ namespace tarnwick::ui {
 namespace {
 
 constexpr int wheelLines = 3;
+constexpr int leastSide = 100;
 
 wxFont consoleFont() {
   constexpr int leastPoints = 10;
@@ -116,6 +117,12 @@ void WxConsoleSurface::stop() {
   alive_ = false;
   gate_->shut();
   hint_.reset();
+}
+
+// A window of a few pixels would leave its scroll bars less than nothing. So the frame shows a part of a larger one.
+void WxConsoleSurface::DoSetSize(int x, int y, int width, int height, int flags) {
+  const auto atLeast = [](int wanted) { return wanted == wxDefaultCoord ? wanted : std::max(wanted, leastSide); };
+  wxWindow::DoSetSize(x, y, atLeast(width), atLeast(height), flags);
 }
 
 Point WxConsoleSurface::clientSize() const {

@@ -40,6 +40,9 @@ class WxConsoleSurface : public wxWindow, public ConsoleSurface {
 
   bool AcceptsFocus() const override { return true; }
 
+ protected:
+  void DoSetSize(int x, int y, int width, int height, int flags) override;
+
  private:
   void measureCell();
   void bindEvents();

@@ -20,18 +20,31 @@ namespace {
 constexpr int pageMargin = 10;
 
 bool takesFocus(const Control& control) {
+  // The window may be still to be shown.
+  if (!control.window->IsThisEnabled() || !control.window->IsShown()) return false;
   switch (control.kind) {
+    case ItemKind::Link:
     case ItemKind::Edit:
     case ItemKind::Button:
     case ItemKind::CheckBox:
-    case ItemKind::RadioButton:
     case ItemKind::ComboBox:
     case ItemKind::ListBox:
     case ItemKind::Tabs:
-      return control.window->IsEnabled() && control.window->IsShownOnScreen();
+      return true;
+    case ItemKind::RadioButton:
+      return isChecked(control);  // the focus checks another
     default:
       return false;
   }
+}
+
+Margins inPixels(const wxWindow& surface, const Margins& margins) {
+  return {surface.FromDIP(margins.left), surface.FromDIP(margins.top), surface.FromDIP(margins.right),
+          surface.FromDIP(margins.bottom)};
+}
+
+Rect toRect(const wxRect& rect) {
+  return {rect.x, rect.y, rect.x + rect.width, rect.y + rect.height};
 }
 
 bool hasName(ItemKind kind) {
@@ -46,7 +59,7 @@ WxDialogWindow::WxDialogWindow(WindowStack& stack, wxWindow& surface, const Dial
       guarded_([&stack](const std::function<void()>& action) { guarded(stack, action); }),
       surface_(surface),
       handler_(handler),
-      margin_(surface.FromDIP(margin)),
+      margins_(inPixels(surface, layout.margins.value_or(Margins{margin, margin, margin, margin}))),
       firstFocus_(layout.firstFocus) {
   gaps_.inRow = surface.FromDIP(gaps_.inRow);
   gaps_.inColumn = surface.FromDIP(gaps_.inColumn);
@@ -66,9 +79,14 @@ Node WxDialogWindow::build(const DialogItem& item, const DialogItem* before) {
   switch (item.kind) {
     case ItemKind::Column:
     case ItemKind::Row:
-    case ItemKind::Space: {
+    case ItemKind::Layers:
+    case ItemKind::Space:
+    case ItemKind::EmptyButtonRow: {
       Node node;
       node.kind = item.kind;
+      if (item.kind == ItemKind::EmptyButtonRow) {
+        node.natural = [this] { return wxSize(0, wxButton::GetDefaultSize(&surface_).y); };
+      }
       node.stretch = item.stretch;
       node.equalWidths = item.equalWidths;
       node.children = buildChildren(item);
@@ -96,6 +114,8 @@ Node WxDialogWindow::buildControl(const DialogItem& item, const DialogItem* befo
   node.kind = item.kind;
   node.stretch = item.stretch;
   node.equalWidths = item.equalWidths;
+  node.collapses = item.collapses;
+  node.floats = item.floats;
   // A frame comes before its controls, as their sibling: as their parent it could not let them move freely.
   Control control = makeControl(surface_, item, radioRun_, events());
   node.window = control.window;
@@ -132,8 +152,10 @@ void WxDialogWindow::setNatural(Node& node, const DialogItem& item, const Contro
 
 void WxDialogWindow::finishControl(const DialogItem& item, Control& control, const DialogItem* before) {
   control.window->SetName("control " + std::to_string(item.control));
+  if (item.startsHidden) control.window->Hide();
   if (item.kind == ItemKind::Label) lastLabel_ = control.window;
   if (before && before->kind == ItemKind::Label && hasName(item.kind)) nameByLabel(*control.window, *lastLabel_);
+  if (!item.spoken.empty()) nameBySpeech(*control.window, item.spoken);
   if (item.kind == ItemKind::Tabs) bindTabs(item.control, *control.window);
   if (item.isDefault) static_cast<wxButton*>(control.window)->SetDefault();
 }
@@ -160,14 +182,45 @@ wxSize WxDialogWindow::contentSize() {
   // Once the rules place the controls themselves, the size is what they make of it.
   if (placedByRules_) return surface_.GetClientSize();
   wxSize size = measure(root_, gaps_);
-  size.IncBy(2 * margin_);
+  size.IncBy(marginsSize());
   return size;
 }
 
 void WxDialogWindow::arrange(const wxSize& size) {
   if (placedByRules_ || detached_) return;
   measure(root_, gaps_);
-  place(root_, wxRect(margin_, margin_, size.x - 2 * margin_, size.y - 2 * margin_), gaps_);
+  place(root_, wxRect(wxPoint(margins_.left, margins_.top), size - marginsSize()), gaps_);
+}
+
+void WxDialogWindow::arrangeControls() {
+  const wxSize size = contentSize();
+  surface_.SetClientSize(size);
+  arrange(size);
+  arrangeChildren();
+}
+
+void WxDialogWindow::arrangeChildren() {
+  for (const auto& [number, children] : childrenOf_) {
+    const auto* const tabs = dynamic_cast<const wxNotebook*>(at(number).window);
+    for (auto* child : children) {
+      // The toolkit gives a page its size only when it shows.
+      child->arrange(tabs ? pageRect(*tabs).GetSize() : child->surface_.GetClientSize());
+      child->arrangeChildren();
+    }
+  }
+}
+
+Rect WxDialogWindow::windowRect() const {
+  return toRect(surface_.GetRect());
+}
+
+void WxDialogWindow::setWindowRect(const Rect& rect) {
+  surface_.SetSize(rect.left, rect.top, rect.width(), rect.height(), wxSIZE_ALLOW_MINUS_ONE);
+}
+
+Rect WxDialogWindow::clientRect() const {
+  const wxSize size = surface_.GetClientSize();
+  return {0, 0, size.x, size.y};
 }
 
 void WxDialogWindow::detach() {
@@ -176,18 +229,29 @@ void WxDialogWindow::detach() {
   guard([this] { handler_.detached(); });
 }
 
-void WxDialogWindow::focusFirst() {
+bool WxDialogWindow::focusFirst() {
   const auto named = controls_.find(firstFocus_);
-  if (named != controls_.end()) {
+  if (named != controls_.end() && takesFocus(named->second)) {
     named->second.window->SetFocus();
-    return;
+    return true;
   }
-  const auto first = std::find_if(inOrder_.begin(), inOrder_.end(), takesFocus);
-  if (first != inOrder_.end()) {
-    first->window->SetFocus();
-  } else if (!children_.empty()) {
-    children_.front()->focusFirst();
+  for (const auto& control : inOrder_) {
+    WxDialogWindow* const child = childInSight(control);
+    if (child && child->focusFirst()) return true;
+    if (!takesFocus(control)) continue;
+    control.window->SetFocus();
+    return true;
   }
+  return false;
+}
+
+WxDialogWindow* WxDialogWindow::childInSight(const Control& control) const {
+  for (const auto& [number, children] : childrenOf_) {
+    if (at(number).window != control.window || children.empty()) continue;
+    const int selected = std::max(0, selectionOf(control));
+    return children.at(static_cast<std::size_t>(selected));
+  }
+  return nullptr;
 }
 
 bool WxDialogWindow::hasUsable(int control) const {
@@ -255,8 +319,7 @@ void WxDialogWindow::show(int control, bool on) {
 }
 
 Rect WxDialogWindow::rect(int control) const {
-  const wxRect rect = at(control).window->GetRect();
-  return {rect.x, rect.y, rect.x + rect.width, rect.y + rect.height};
+  return toRect(at(control).window->GetRect());
 }
 
 void WxDialogWindow::setRect(int control, const Rect& rect) {
@@ -335,6 +398,22 @@ WxPage::WxPage(WindowStack& stack, WxDialogWindow& owner, wxPanel& panel, const 
     event.Skip();
     arrange(panel.GetClientSize());
   });
+}
+
+void WxPage::showWindow(bool on) {
+  // A slot without its child window would lie over others that share its place.
+  if (!dynamic_cast<wxNotebook*>(surface().GetParent())) surface().GetParent()->Show(on);
+  surface().Show(on);
+}
+
+Rect WxPage::windowRect() const {
+  const auto* const tabs = dynamic_cast<const wxNotebook*>(surface().GetParent());
+  return toRect(tabs ? pageRect(*tabs) : surface().GetParent()->GetRect());
+}
+
+void WxPage::setWindowRect(const Rect& rect) {
+  if (dynamic_cast<wxNotebook*>(surface().GetParent())) return;
+  surface().GetParent()->SetSize(rect.left, rect.top, rect.width(), rect.height(), wxSIZE_ALLOW_MINUS_ONE);
 }
 
 }  // namespace tarnwick::ui

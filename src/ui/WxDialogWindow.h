@@ -41,6 +41,10 @@ class WxDialogWindow : public DialogWindow {
   DialogWindow& addTabPage(int tabs, const std::string& label, const DialogLayout& layout,
                            DialogHandler& handler) override;
   DialogWindow& addChild(int slot, const DialogLayout& layout, DialogHandler& handler) override;
+  Rect windowRect() const override;
+  void setWindowRect(const Rect& rect) override;
+  Rect clientRect() const override;
+  void arrangeControls() override;
 
   /// The toolkit's window of a control; null if no control bears the number. For tests.
   wxWindow* windowOf(int control) const;
@@ -60,10 +64,15 @@ class WxDialogWindow : public DialogWindow {
   wxSize contentSize();
   /// Puts the controls into a surface of this size, unless the dialog's rules have begun to place them.
   void arrange(const wxSize& size);
+  /// Puts the controls of all child windows into the rooms that these have now.
+  void arrangeChildren();
+  /// From now on the dialog's rules place and size what is in the window.
+  void placeByRules() { placedByRules_ = true; }
   /// Tells the handlers, the inner ones first, that their windows go.
   void detach();
-  /// Gives the focus to the control that the layout names, or to the first that takes it.
-  void focusFirst();
+  /// Gives the focus to the control that the layout names, or to the first that takes it, on the open tab if there
+  /// are tabs. False if nothing does.
+  bool focusFirst();
   void guard(const std::function<void()>& action) { guarded_(action); }
   DialogHandler& handler() { return handler_; }
   WindowStack& stack() { return stack_; }
@@ -74,11 +83,14 @@ class WxDialogWindow : public DialogWindow {
   const Control& at(int control) const;
   ControlEvents events();
   Node build(const DialogItem& item, const DialogItem* before);
+  wxSize marginsSize() const { return {margins_.left + margins_.right, margins_.top + margins_.bottom}; }
   std::vector<Node> buildChildren(const DialogItem& item);
   Node buildControl(const DialogItem& item, const DialogItem* before);
   void finishControl(const DialogItem& item, Control& control, const DialogItem* before);
   void setNatural(Node& node, const DialogItem& item, const Control& control);
   void bindTabs(int control, wxWindow& tabs);
+  /// The child window that shows in a tab control or slot; null for any other control.
+  WxDialogWindow* childInSight(const Control& control) const;
   DialogWindow& adopt(std::unique_ptr<WxDialogWindow> child);
 
   WindowStack& stack_;
@@ -86,7 +98,7 @@ class WxDialogWindow : public DialogWindow {
   wxWindow& surface_;
   DialogHandler& handler_;
   Gaps gaps_;
-  int margin_;
+  Margins margins_;
   int firstFocus_;
   std::map<int, Control> controls_;
   std::vector<Control> inOrder_;  ///< as Tab reaches them
@@ -103,12 +115,18 @@ class WxDialogWindow : public DialogWindow {
 /// A child window: a tab page, or what fills a slot.
 class WxPage : public WxDialogWindow {
  public:
+  /// `panel` stands in a slot or a tab control of the owner.
   WxPage(WindowStack& stack, WxDialogWindow& owner, wxPanel& panel, const DialogLayout& layout, DialogHandler& handler,
          int margin);
 
   std::string title() const override { return title_; }
   void setTitle(const std::string& title) override { title_ = title; }
-  void showWindow(bool on) override { surface().Show(on); }
+  void showWindow(bool on) override;
+  Rect windowRect() const override;
+  void setWindowRect(const Rect& rect) override;
+  void addSystemCommand(const std::string& label, std::function<void()> action) override {
+    owner_.addSystemCommand(label, std::move(action));
+  }
   std::optional<Point> position() const override { return owner_.position(); }
   void moveTo(const Point& leftTop) override { owner_.moveTo(leftTop); }
   void close(int result) override { owner_.close(result); }

@@ -127,6 +127,30 @@ void WxTopWindow::showWindow(bool on) {
   dialog_->Show(on);
 }
 
+void WxTopWindow::addSystemCommand(const std::string& label, std::function<void()> action) {
+  appendToSystemMenu(*dialog_, label, [this, action] { guard(action); });
+}
+
+wxSize WxTopWindow::frame() const {
+  // Kept as it was at first: a window manager may put its frame around the window later, and rectangles that were
+  // taken before would then make a smaller window.
+  if (!frame_) frame_ = dialog_->GetSize() - dialog_->GetClientSize();
+  return *frame_;
+}
+
+Rect WxTopWindow::windowRect() const {
+  const wxPoint at = dialog_->GetPosition();
+  const wxSize size = dialog_->GetClientSize() + frame();
+  return {at.x, at.y, at.x + size.x, at.y + size.y};
+}
+
+void WxTopWindow::setWindowRect(const Rect& rect) {
+  placeByRules();
+  dialog_->SetClientSize(wxSize(rect.width(), rect.height()) - frame());
+  const Rect now = windowRect();
+  if (now.left != rect.left || now.top != rect.top) moveTo({rect.left, rect.top});
+}
+
 std::optional<Point> WxTopWindow::position() const {
   return normalPosition(*dialog_);
 }

@@ -24,6 +24,9 @@ class WxTopWindow : public WxDialogWindow {
   std::string title() const override;
   void setTitle(const std::string& title) override;
   void showWindow(bool on) override;
+  void addSystemCommand(const std::string& label, std::function<void()> action) override;
+  Rect windowRect() const override;
+  void setWindowRect(const Rect& rect) override;
   std::optional<Point> position() const override;
   void moveTo(const Point& leftTop) override;
   void close(int result) override;
@@ -36,6 +39,8 @@ class WxTopWindow : public WxDialogWindow {
   WxTopWindow(WindowStack& stack, Role role, const DialogLayout& layout, DialogHandler& handler, Dialog dialog);
 
   void fit();
+  /// What the frame adds to the client area.
+  wxSize frame() const;
   void onKey(wxKeyEvent& event);
   void onEscape();
   void end();
@@ -45,6 +50,7 @@ class WxTopWindow : public WxDialogWindow {
   WindowStack::Place* place_ = nullptr;
   std::optional<int> result_;
   bool moved_ = false;
+  mutable std::optional<wxSize> frame_;
   bool running_ = false;
 };
 

@@ -132,6 +132,36 @@ TEST_F(DesktopTest, MessagesShowTheirTextsAndGiveTheAnswers) {
   EXPECT_EQ(answers.shown, (Heard{"Can't open file\n\"x\"", "Go on?", "Really?", "Overwrite?", "Sure?"}));
 }
 
+TEST_F(DesktopTest, ALongMessageLosesItsMiddle) {
+  std::string fits;
+  while (fits.size() < 1600) fits += "a word ";
+  std::string lines;
+  for (int i = 0; i < 100; ++i) lines += "line " + std::to_string(i) + "\n";
+  std::string much = "begin";
+  while (much.size() < (10U << 20U)) much += "\xC3\xA4 ";
+  Answers answers;
+  desktop().message(fits.substr(0, 1600));
+  desktop().message(much + "end");
+  desktop().message(lines);
+  ASSERT_EQ(answers.shown.size(), 3U);
+  EXPECT_EQ(answers.shown[0], fits.substr(0, 1600));
+  const std::string& cut = answers.shown[1];
+  EXPECT_TRUE(cut.starts_with("begin\xC3\xA4 ")) << cut;
+  EXPECT_TRUE(cut.ends_with("\xC3\xA4 end")) << cut;
+  EXPECT_NE(cut.find(" \n...\n"), std::string::npos) << cut << "\nno character is cut in two";
+  EXPECT_LT(cut.size(), 1620U);
+  EXPECT_TRUE(answers.shown[2].starts_with("line 0\n")) << answers.shown[2];
+  EXPECT_NE(answers.shown[2].find("line 11\n...\nline 89\n"), std::string::npos) << answers.shown[2];
+  EXPECT_TRUE(answers.shown[2].ends_with("line 99\n")) << answers.shown[2];
+}
+
+TEST_F(DesktopTest, AnEndlessWordOfAMessageIsBroken) {
+  Answers answers;
+  desktop().message("short " + std::string(310, 'x') + "\nend");
+  EXPECT_EQ(answers.shown, (Heard{"short " + std::string(150, 'x') + "\n" + std::string(150, 'x') + "\n" +
+                                  std::string(10, 'x') + "\nend"}));
+}
+
 TEST_F(DesktopTest, AMessageBoxShowsBeforeAnyMainLoopAndClosesByReturn) {
   steps.settle(20);
   steps.then("look", [] { shoot("message"); });

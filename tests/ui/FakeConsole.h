@@ -18,6 +18,7 @@ class FakeConsole : public ConsoleFrame, public ConsoleSurfaceClient {
  public:
   const MenuBar& menuBar() const override { return consoleMenuBar(); }
   const std::vector<Accelerator>& accelerators() const override { return consoleAccelerators(); }
+  const Toolbar* toolbar() const override { return buttons; }
   std::string title() const override { return "Console under test"; }
   bool commandEnabled(int command) const override { return disabled.count(command) == 0; }
   void onCommand(int command) override { heard.push_back("command " + std::to_string(command)); }
@@ -60,6 +61,7 @@ class FakeConsole : public ConsoleFrame, public ConsoleSurfaceClient {
     surface = nullptr;
   }
 
+  const Toolbar* buttons = nullptr;
   ConsoleSurface* surface = nullptr;
   Point sizeAtStart;
   int paints = 0;

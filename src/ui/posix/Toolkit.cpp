@@ -23,9 +23,21 @@ bool onX11() {
   return display && std::string_view(G_OBJECT_TYPE_NAME(display)) == "GdkX11Display";
 }
 
+// Nothing here is drawn by OpenGL. Left to itself the toolkit would load the drivers all the same, which can take more
+// memory than everything else. Only for its start: children are to find the environment as it was.
+constexpr const char* glVariable = "GDK_GL";
+bool glSwitchedOff = false;
+
 }  // namespace
 
-void prepareToolkit() {}
+void prepareToolkit() {
+  if (std::getenv(glVariable)) return;
+  glSwitchedOff = setenv(glVariable, "disable", 1) == 0;
+}
+
+void toolkitStarted() {
+  if (glSwitchedOff) unsetenv(glVariable);
+}
 
 std::string displayName() {
   for (const char* variable : {"WAYLAND_DISPLAY", "DISPLAY"}) {
@@ -37,6 +49,46 @@ std::string displayName() {
 
 void nameByLabel(wxWindow& control, wxWindow& label) {
   gtk_label_set_mnemonic_widget(GTK_LABEL(widget(label)), widget(control));
+}
+
+void nameBySpeech(wxWindow& control, const std::string& name) {
+  atk_object_set_name(gtk_widget_get_accessible(widget(control)), name.c_str());
+}
+
+void makeOneTabStop(wxWindow& comboBox) {
+  const auto refuseFocus = [](GtkWidget* part, gpointer) {
+    if (GTK_IS_BUTTON(part)) gtk_widget_set_can_focus(part, FALSE);
+  };
+  // The arrow stands in a box that is the combo box's own, so each level is asked.
+  const auto visit = [](GtkWidget* part, gpointer next) {
+    reinterpret_cast<void (*)(GtkWidget*, gpointer)>(next)(part, nullptr);
+    if (GTK_IS_BOX(part)) {
+      gtk_container_forall(GTK_CONTAINER(part), reinterpret_cast<GtkCallback>(next), nullptr);
+    }
+  };
+  gtk_container_forall(GTK_CONTAINER(widget(comboBox)), +visit, reinterpret_cast<gpointer>(+refuseFocus));
+}
+
+std::string spokenName(wxWindow& control) {
+  AtkObject* const accessible = gtk_widget_get_accessible(widget(control));
+  const char* const name = atk_object_get_name(accessible);
+  if (name && *name) return name;
+  AtkRelationSet* const relations = atk_object_ref_relation_set(accessible);
+  AtkRelation* const label = atk_relation_set_get_relation_by_type(relations, ATK_RELATION_LABELLED_BY);
+  std::string found;
+  if (label) {
+    GPtrArray* const targets = atk_relation_get_target(label);
+    const char* const text = targets->len > 0 ? atk_object_get_name(ATK_OBJECT(targets->pdata[0])) : nullptr;
+    if (text) found = text;
+  }
+  g_object_unref(relations);
+  return found;
+}
+
+void describeLink(wxWindow& link, const std::string& address) {
+  AtkObject* const accessible = gtk_widget_get_accessible(widget(link));
+  atk_object_set_name(accessible, address.c_str());
+  atk_object_set_role(accessible, ATK_ROLE_LINK);
 }
 
 // The open list has a grab of its own and gets its keys first.
@@ -64,6 +116,8 @@ void moveWindow(wxTopLevelWindow& window, const Point& leftTop) {
   if (leftTop == Point{0, 0}) gtk_window_move(GTK_WINDOW(widget(window)), 0, 0);
 }
 
+void appendToSystemMenu(wxTopLevelWindow&, const std::string&, const std::function<void()>&) {}
+
 void makeMainWindow(wxTopLevelWindow& window) {
   gtk_window_set_type_hint(GTK_WINDOW(widget(window)), GDK_WINDOW_TYPE_HINT_NORMAL);
 }
@@ -80,6 +134,30 @@ wxSize sizeWithTabs(wxNotebook& tabs, const wxSize& page) {
   gtk_widget_get_preferred_size(widget(tabs), &least, nullptr);
   size.x = std::max(size.x, least.width);
   return size;
+}
+
+wxRect pageRect(const wxNotebook& tabs) {
+  // The toolkit places pages only when they show: so what the control needs besides its pages is asked.
+  GtkWidget* const book = widget(tabs);
+  int width = 0;
+  int height = 0;
+  gtk_widget_get_size_request(book, &width, &height);
+  gtk_widget_set_size_request(book, -1, -1);
+  int whole = 0;
+  gtk_widget_get_preferred_height(book, &whole, nullptr);
+  gtk_widget_set_size_request(book, width, height);
+  int highest = 0;
+  for (std::size_t i = 0; i < tabs.GetPageCount(); ++i) {
+    int page = 0;
+    gtk_widget_get_preferred_height(widget(*tabs.GetPage(i)), &page, nullptr);
+    highest = std::max(highest, page);
+  }
+  GtkBorder border{};
+  GtkStyleContext* const style = gtk_widget_get_style_context(book);
+  gtk_style_context_get_border(style, gtk_style_context_get_state(style), &border);
+  const int top = whole - highest - border.bottom;
+  const wxSize size = tabs.GetSize();
+  return {border.left, top, size.x - border.left - border.right, size.y - top - border.bottom};
 }
 
 void invertColours(wxDC& dc, const wxRect& rect) {

@@ -1,9 +1,15 @@
 #include "ui/Toolkit.h"
 
+#include "ui/Text.h"
+
 #include <windows.h>
+#include <wx/access.h>
+#include <wx/control.h>
 #include <wx/dc.h>
+#include <wx/menu.h>
 #include <wx/msw/private.h>
 #include <wx/notebook.h>
+#include <wx/stattext.h>
 #include <wx/toplevel.h>
 
 #include <algorithm>
@@ -11,7 +17,28 @@
 
 namespace tarnwick::ui {
 
+namespace {
+
+/// What readers of the screen are told in the place of the control's own text. The rest the system tells.
+class SpokenName : public wxAccessible {
+ public:
+  SpokenName(wxWindow& control, wxString name) : wxAccessible(&control), name_(std::move(name)) {}
+
+  wxAccStatus GetName(int part, wxString* name) override {
+    if (part != wxACC_SELF) return wxACC_NOT_IMPLEMENTED;
+    *name = name_;
+    return wxACC_OK;
+  }
+
+ private:
+  wxString name_;
+};
+
+}  // namespace
+
 void prepareToolkit() {}
+
+void toolkitStarted() {}
 
 std::string displayName() {
   return "of Windows";
@@ -19,6 +46,26 @@ std::string displayName() {
 
 // Readers of the screen take the text before a field as its name.
 void nameByLabel(wxWindow&, wxWindow&) {}
+
+void nameBySpeech(wxWindow& control, const std::string& name) {
+  control.SetAccessible(new SpokenName(control, toWx(name)));
+}
+
+void makeOneTabStop(wxWindow&) {}
+
+std::string spokenName(wxWindow& control) {
+  wxString given;
+  auto* const accessible = control.GetAccessible();
+  if (accessible && accessible->GetName(wxACC_SELF, &given) == wxACC_OK) return fromWx(given);
+  const wxString own = wxControl::RemoveMnemonics(control.GetLabel());
+  if (!own.empty()) return fromWx(own);
+  const auto before = GetWindow(static_cast<HWND>(control.GetHandle()), GW_HWNDPREV);
+  const auto* const label = dynamic_cast<wxStaticText*>(wxFindWinFromHandle(before));
+  return label ? fromWx(wxControl::RemoveMnemonics(label->GetLabel())) : std::string();
+}
+
+// The address is the window's text already.
+void describeLink(wxWindow&, const std::string&) {}
 
 bool isListOpen(wxWindow& comboBox) {
   return SendMessageW(static_cast<HWND>(comboBox.GetHandle()), CB_GETDROPPEDSTATE, 0, 0) != 0;
@@ -39,6 +86,15 @@ void moveWindow(wxTopLevelWindow& window, const Point& leftTop) {
   window.Move(leftTop.x, leftTop.y, wxSIZE_ALLOW_MINUS_ONE);
 }
 
+void appendToSystemMenu(wxTopLevelWindow& window, const std::string& label, const std::function<void()>& action) {
+  wxMenu* const menu = window.MSWGetSystemMenu();
+  if (!menu) return;
+  menu->AppendSeparator();
+  const wxMenuItem* const item = menu->Append(wxID_ANY, toWx(label));
+  menu->Bind(
+      wxEVT_MENU, [action](wxCommandEvent&) { action(); }, item->GetId());
+}
+
 // A dialog without an owner is one already.
 void makeMainWindow(wxTopLevelWindow&) {}
 
@@ -56,6 +112,13 @@ wxSize sizeWithTabs(wxNotebook& tabs, const wxSize& page) {
   }
   size.x = std::max(size.x, width);
   return size;
+}
+
+wxRect pageRect(const wxNotebook& tabs) {
+  RECT room{0, 0, tabs.GetSize().x, tabs.GetSize().y};
+  TabCtrl_AdjustRect(static_cast<HWND>(tabs.GetHandle()), FALSE, &room);
+  return {static_cast<int>(room.left), static_cast<int>(room.top), static_cast<int>(room.right - room.left),
+          static_cast<int>(room.bottom - room.top)};
 }
 
 void invertColours(wxDC& dc, const wxRect& rect) {

@@ -1,0 +1,7 @@
+#include "platform/FileSystem.h"
+#include "ui/posix/RunNotepad.h"
+
+int main(int argc, char** argv) {
+  tarnwick::platform::prepareProcess();
+  return tarnwick::ui::runNotepad(argc, argv, argc > 1 ? argv[1] : "");
+}

@@ -1,0 +1,224 @@
+// The panels as real windows, with their own rules: every arrangement in both views.
+#include "app/TarnwickDlg.h"
+#include "platform/FileSystem.h"
+#include "resources/PanelLayouts.h"
+#include "support/TestProgram.h"
+#include "ui/Toolkit.h"
+#include "ui/WindowTest.h"
+
+#include <wx/button.h>
+#include <wx/dcscreen.h>
+#include <wx/dialog.h>
+#include <wx/panel.h>
+
+#include <set>
+
+namespace tarnwick::test {
+
+namespace {
+
+constexpr int TABS = 1231;
+
+struct View {
+  LayoutValue::Layout layout;
+  bool project;
+};
+
+std::string nameOf(const View& view) {
+  LayoutValue value;
+  value.value = view.layout;
+  return (view.project ? "project" : "file") + value.toString();
+}
+
+std::ostream& operator<<(std::ostream& out, const View& view) {
+  return out << nameOf(view);
+}
+
+class PanelsWindowTest : public WindowTest, public testing::WithParamInterface<View> {
+ protected:
+  PanelsWindowTest() : environment_("TARNWICK_CFGDIR", scratch_.path()) {
+    program_.programDirectory = scratch_.path();
+    Settings earlier(context_);
+    earlier.panelLayout.value = GetParam().layout;
+    earlier.windowPosition.fromString("20;30");
+    earlier.saveDefaultConfiguration(nullptr);
+  }
+
+  ui::WxDialogWindow& panel(bool project) const { return *top().children().at(project ? 1 : 0); }
+  ui::WxDialogWindow& panel() const { return panel(GetParam().project); }
+  ui::WxDialogWindow& page(std::size_t tab) const { return *panel().children().at(tab); }
+  /// The bar of an arrangement.
+  ui::WxDialogWindow& bar(bool project, int layout) const {
+    return *panel(project).children().at(3 + static_cast<std::size_t>(layout));
+  }
+  ui::WxDialogWindow& bar() const { return bar(GetParam().project, GetParam().layout); }
+
+  void waitForView() {
+    steps.until("the panel shows", [this] { return openDialogs() == 1 && top().dialog().IsActive(); });
+    steps.settle(5);
+    if (!GetParam().project) return;
+    steps.then("switch", [this] { press(bar(false, GetParam().layout), ButtonBar::SWITCH_VIEW); });
+    steps.until("the other view", [this] { return panel().surface().IsShownOnScreen(); });
+    steps.settle(5);
+  }
+
+  void run() {
+    steps.then("exit", [this] { top().close(DIALOG_OK); });
+    TarnwickDlg(settings_).runModal();
+  }
+
+  /// The windows that the keyboard and the mouse can use now.
+  std::set<wxWindow*> usable(const ui::WxDialogWindow& window) const {
+    std::set<wxWindow*> found;
+    for (const int control : window.controls()) {
+      wxWindow* const one = window.windowOf(control);
+      const bool place = dynamic_cast<wxPanel*>(one) != nullptr;  // of a child window
+      if (!place && one->IsShownOnScreen() && one->IsEnabled() && one->AcceptsFocusFromKeyboard()) found.insert(one);
+    }
+    for (const auto& child : window.children()) found.merge(usable(*child));
+    return found;
+  }
+
+  ScratchFolder scratch_;
+  ScopedEnvironment environment_;
+  ProgramInfo program_;
+  ToolLog log_{scratch_.path()};
+  SettingsContext context_{desktop(), program_, log_};
+  Settings settings_{context_};
+};
+
+}  // namespace
+
+TEST_P(PanelsWindowTest, EveryControlShowsWholeInsideTheWindow) {
+  waitForView();
+  steps.then("look", [this] {
+    shoot("panel-" + nameOf(GetParam()));
+    expectGoodLooks(panel());
+    // The flat arrangement may be wider than the screen, which then cuts the window. The panel has the window's size
+    // with its frame.
+    const wxSize whole = panel().surface().GetSize();
+    const bool fits = top().dialog().GetPosition().x + whole.x <= wxScreenDC().GetSize().x;
+    const wxRect room(fits ? top().dialog().GetClientSize() : whole);
+    for (const int control : panel().controls()) {
+      const wxWindow& one = *panel().windowOf(control);
+      const wxRect rect = one.GetRect();
+      if (!one.IsShown()) continue;
+      EXPECT_TRUE(room.Contains(rect)) << control << " ends at " << rect.GetRight() << "," << rect.GetBottom() << " of "
+                                       << room.width << "x" << room.height;
+    }
+    EXPECT_FALSE(panel(!GetParam().project).surface().IsShownOnScreen());
+    EXPECT_LE(room.width, 1700);
+  });
+  for (const int tab : {1, 2}) {
+    steps.then("another tab", [this, tab] { choose(panel(), TABS, tab); });
+    steps.settle(3);
+    steps.then("look", [this, tab] {
+      shoot("panel-" + nameOf(GetParam()) + "-tab" + std::to_string(tab));
+      expectGoodLooks(panel());
+    });
+  }
+  run();
+}
+
+TEST_P(PanelsWindowTest, ThePagesStandWhereTheArrangementTookThemToStand) {
+  waitForView();
+  steps.then("look", [this] {
+    const wxPoint tabs = panel().windowOf(TABS)->GetScreenPosition();
+    const wxRect real(page(0).surface().GetScreenPosition() - tabs, page(0).surface().GetSize());
+    const Rect taken = page(0).windowRect();
+    EXPECT_NEAR(real.x, taken.left, 1);
+    EXPECT_NEAR(real.y, taken.top, 1);
+    EXPECT_NEAR(real.width, taken.width(), 2);
+    EXPECT_NEAR(real.height, taken.height(), 2);
+  });
+  run();
+}
+
+class FlatFileViewTest : public PanelsWindowTest {};
+
+TEST_P(FlatFileViewTest, TheRowsStandLevel) {
+  waitForView();
+  steps.then("look", [this] {
+    const int field = panel().windowOf(1009)->GetScreenPosition().y;
+    EXPECT_NEAR(field, page(0).windowOf(PanelPage::LEFT)->GetScreenPosition().y, 2);
+    EXPECT_NEAR(field, page(0).windowOf(PanelPage::FIELD)->GetScreenPosition().y, 2);
+    EXPECT_NEAR(field, bar().windowOf(ButtonBar::EXIT)->GetScreenPosition().y, 4);
+  });
+  run();
+}
+
+TEST_P(PanelsWindowTest, TheLayoutButtonsSizeTheWindowAndLeaveItsPlace) {
+  const bool project = GetParam().project;
+  const int home = GetParam().layout;
+  wxRect before;
+  bool stays = true;
+  waitForView();
+  steps.then("note", [&] { before = top().dialog().GetRect(); });
+  for (int round = 0; round < 3; ++round) {
+    // The button on the right leads from each layout to another, and the one on the left back to "VERTICAL".
+    steps.then("press", [this, project] {
+      press(bar(project, settings_.panelLayout.value),
+            settings_.panelLayout.value == LayoutValue::HORIZONTAL ? ButtonBar::LAYOUT_LEFT : ButtonBar::LAYOUT_RIGHT);
+    });
+    steps.settle(8);
+    steps.then("look", [&, home] {
+      expectGoodLooks(panel());
+      const wxRect now = top().dialog().GetRect();
+      // A window manager moves a window that is wider than the screen.
+      stays = stays && before.x + now.width <= wxScreenDC().GetSize().x;
+      if (stays) {
+        EXPECT_EQ(now.GetTopLeft(), before.GetTopLeft());
+      }
+      if (settings_.panelLayout.value == home)
+        EXPECT_EQ(now.GetSize(), before.GetSize());
+      else
+        EXPECT_NE(now.GetSize(), before.GetSize());
+      EXPECT_EQ(wxWindow::FindFocus()->GetParent(), &bar(GetParam().project, settings_.panelLayout.value).surface());
+    });
+  }
+  run();
+}
+
+TEST_P(PanelsWindowTest, TabReachesWhateverCanBeUsed) {
+  std::set<wxWindow*> reached;
+  std::set<wxWindow*> expected;
+  waitForView();
+  steps.then("note", [&] { expected = usable(panel()); });
+  for (int press = 0; press < 24; ++press) {
+    steps.then("Tab", [] { key(WXK_TAB); });
+    steps.settle(2);
+    steps.then("note", [&] { reached.insert(wxWindow::FindFocus()); });
+  }
+  steps.then("look", [&] {
+    for (wxWindow* one : expected) EXPECT_TRUE(reached.count(one)) << one->GetName() << " " << one->GetLabel();
+    EXPECT_GE(expected.size(), 5u);
+  });
+  run();
+}
+
+TEST_P(PanelsWindowTest, EveryControlHasANameForReadersOfTheScreen) {
+  waitForView();
+  steps.then("look", [this] {
+    std::vector<const ui::WxDialogWindow*> windows = {&panel(), &page(0), &bar()};
+    for (const auto* window : windows) {
+      for (const int control : window->controls()) {
+        wxWindow& one = *window->windowOf(control);
+        const bool field = control == PanelPage::FIELD || control == 1009;
+        if (!one.IsShownOnScreen() || (!field && !dynamic_cast<wxButton*>(&one))) continue;
+        const std::string name = ui::spokenName(one);
+        EXPECT_FALSE(name.empty()) << control;
+        EXPECT_EQ(name.find("control "), std::string::npos) << "the toolkit's own name of " << control;
+      }
+    }
+  });
+  run();
+}
+
+INSTANTIATE_TEST_SUITE_P(Views, PanelsWindowTest,
+                         testing::Values(View{LayoutValue::VERTICAL, false}, View{LayoutValue::HORIZONTAL, false},
+                                         View{LayoutValue::FLAT, false}, View{LayoutValue::VERTICAL, true},
+                                         View{LayoutValue::HORIZONTAL, true}, View{LayoutValue::FLAT, true}),
+                         [](const auto& info) { return nameOf(info.param); });
+INSTANTIATE_TEST_SUITE_P(Views, FlatFileViewTest, testing::Values(View{LayoutValue::FLAT, false}));
+
+}  // namespace tarnwick::test

@@ -3,7 +3,8 @@
 #   ./test.sh            Linux: unit tests, tests with real windows, end-to-end tests on the real JDK
 #   ./test.sh windows    cross-builds for 64-bit and 32-bit Windows; the 64-bit tests run under Wine
 #   ./test.sh sanitize   unit tests under the address, undefined-behaviour and thread sanitizers
-#   ./test.sh ci         Linux and Windows
+#   ./test.sh fuzz       the fuzz targets: the saved inputs, then 30 seconds of new ones for each (./fuzz.sh does more)
+#   ./test.sh ci         Linux and Windows, and the fuzz targets
 # The last line sums up: "N passed, N failed, N skipped". Logs are in build/test-logs/.
 set -uo pipefail
 . "$(dirname "${BASH_SOURCE[0]}")/scripts/common.sh"
@@ -87,7 +88,7 @@ testLinux() {
   buildFor linux Tarnwick tarnwick_unit_tests tarnwick_window_tests -- TARNWICK_TESTS=ON || return
   inShards linux-unit 300 "$root/build/linux/tests/tarnwick_unit_tests"
   runTests linux-windows 600 "$root/scripts/with-display.sh" "$root/build/linux/tests/tarnwick_window_tests"
-  runTests linux-end-to-end 1200 "$root/scripts/with-display.sh" /usr/bin/python3 "$root/tests/e2e/run.py" "$root"
+  runTests linux-end-to-end 1800 "$root/scripts/with-display.sh" /usr/bin/python3 "$root/tests/e2e/run.py" "$root"
 }
 
 testWindows() {
@@ -144,14 +145,23 @@ testSanitized() {
   fi
 }
 
+testFuzz() {
+  installPackages fuzz || return
+  buildFor linux-fuzz fuzzers || return
+  start fuzz 1800 "$root/fuzz.sh"
+  cat "$logs/fuzz.log" >&2
+  judge fuzz
+}
+
 mkdir -p "$logs"
 SECONDS=0
 case ${1:-} in
   '') testLinux ;;
   windows) testWindows ;;
   sanitize) testSanitized ;;
-  ci) testLinux; testWindows ;;
-  *) say "usage: test.sh [windows|sanitize|ci]"; exit 2 ;;
+  fuzz) testFuzz ;;
+  ci) testLinux; testWindows; testFuzz ;;
+  *) say "usage: test.sh [windows|sanitize|fuzz|ci]"; exit 2 ;;
 esac
 say "$((SECONDS / 60)) min $((SECONDS % 60)) s"
 echo "$passed passed, $failed failed, $skipped skipped"

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Installs the Debian packages that a job needs, and only those that are missing.
-# usage: scripts/packages.sh [--list] GROUP...     groups: run, test, windows
+# usage: scripts/packages.sh [--list] GROUP...     groups: run, test, windows, fuzz, bench
 # --list prints what is missing, one package a line, and installs nothing.
 set -euo pipefail
 
@@ -22,6 +22,17 @@ testPackages() {
 windowsPackages() {
   testPackages
   echo g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix wine64 dpkg-dev xz-utils binutils
+}
+
+# What the benchmarks read, and what they are compared with.
+benchPackages() {
+  echo g++ cmake ninja-build ccache pkgconf libcanberra-dev libglib2.0-dev libbenchmark-dev python3 make universal-ctags
+  echo openjdk-17-source stterm xterm xdotool xvfb openbox
+}
+
+# llvm names the lines in a sanitizer's report.
+fuzzPackages() {
+  echo g++ cmake ninja-build ccache pkgconf libcanberra-dev libglib2.0-dev clang libclang-rt-dev llvm
 }
 
 hasJdk() { [ -x "${JAVA_HOME:-/nowhere}/bin/javac" ] || command -v javac >/dev/null; }
@@ -65,12 +76,12 @@ install() {
 
 onlyList=
 [ "${1:-}" = --list ] && { onlyList=yes; shift; }
-[ $# -gt 0 ] || { echo "usage: packages.sh [--list] run|test|windows..." >&2; exit 2; }
+[ $# -gt 0 ] || { echo "usage: packages.sh [--list] run|test|windows|fuzz|bench..." >&2; exit 2; }
 
 wanted=()
 for group in "$@"; do
   case $group in
-    run | test | windows) mapfile -t -O "${#wanted[@]}" wanted < <("${group}Packages" | tr ' ' '\n') ;;
+    run | test | windows | fuzz | bench) mapfile -t -O "${#wanted[@]}" wanted < <("${group}Packages" | tr ' ' '\n') ;;
     *) echo "packages.sh: unknown group $group" >&2; exit 2 ;;
   esac
 done

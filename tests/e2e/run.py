@@ -21,11 +21,9 @@ if "WINE" in os.environ:
     import wine_world
     MODULES, World = ["test_windows"], wine_world.World
 else:
-    MODULES, World = ["test_start", "test_compile", "test_console", "test_bad_input"], world.World
-
-
-class Skipped(Exception):
-    """Carries the reason."""
+    MODULES = ["test_start", "test_start_up", "test_panels", "test_compile", "test_splitting", "test_console",
+               "test_console_text", "test_console_pictures", "test_jdb", "test_help", "test_tools", "test_bad_input"]
+    World = world.World
 
 
 def tests(parts):
@@ -47,12 +45,12 @@ def run_one(name, function, project, pictures):
         with World(project) as scratch:
             try:
                 function(scratch)
-            except Skipped:
+            except world.Skipped:
                 raise
             except BaseException:
                 leave_traces(os.path.join(pictures, name), scratch)
                 raise
-    except Skipped as reason:
+    except world.Skipped as reason:
         print(f"Skipped: {reason}")
         outcome = "  SKIPPED"
     except Exception:

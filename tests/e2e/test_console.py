@@ -135,6 +135,39 @@ def test_killed_console_leaves_nothing(scratch):
     assert panel.control("java").enabled
 
 
+def stubborn(scratch):
+    """A console whose program has a shutdown hook, and a process that hides from it."""
+    _, console = started(scratch, scratch.source("Stubborn.java"))
+    shows(scratch, console, "started")
+    assert len(scratch.processes("java")) == 1 and len(scratch.processes("sleep")) == 1
+    return console
+
+
+def ends_with_its_hook(scratch):
+    wait_until("the end of all", lambda: not scratch.processes("java") and not scratch.processes("sleep"), 3.5)
+    assert os.path.exists(os.path.join(scratch.work, "hook-was-here"))
+
+
+def test_closing_the_console_lets_hooks_run_and_leaves_nothing_in_other_sessions(scratch):
+    stubborn(scratch).close()
+    ends_with_its_hook(scratch)
+
+
+def test_killing_the_console_lets_hooks_run_and_leaves_nothing_in_other_sessions(scratch):
+    os.kill(stubborn(scratch).process, signal.SIGKILL)
+    ends_with_its_hook(scratch)
+
+
+def test_a_console_of_a_few_pixels_does_no_harm(scratch):
+    _, console = started(scratch, scratch.sample("Clock.java"))
+    shows(scratch, console, "The clock runs")
+    for size in [(300, 40), (60, 30), (1, 1), (3, 200), (200, 3), (600, 400)]:
+        person.xdotool("windowsize", console.x_number(), *size)
+        time.sleep(0.4)
+    shows(scratch, console, "The clock runs")
+    assert "CRITICAL" not in scratch.messages(), scratch.messages()
+
+
 def test_console_outlives_the_panel(scratch):
     program, panel = scratch.first_start()
     console = scratch.run_class(panel, scratch.compiled(scratch.sample("Greeter.java")))

@@ -55,10 +55,11 @@ def test_second_start_goes_straight_to_the_panel(scratch):
 
 def test_what_this_program_cannot_do_yet_is_disabled(scratch):
     _, panel = scratch.first_start()
-    for label in ("New", "Edit", "jdb debug", "Projectview"):
-        assert not panel.control(label).enabled, label
-    for label in ("Browse", "javac", "java", "Settings", "Exit"):
+    for label in ("New", "Browse", "Edit", "javac", "jdb debug", "java", "Settings", "Projectview", "Exit"):
         assert panel.control(label).enabled, label
+    panel.control("Utilities").click()
+    for label in ("jar", "javadoc", "WinShortcut"):
+        assert not panel.control(label).enabled, label
 
 
 def test_another_version_is_told_of_the_upgrade(scratch):

@@ -51,7 +51,7 @@ def test_second_start_goes_straight_to_the_panel(scratch):
 
 def test_compiler_gets_its_arguments_and_its_errors_are_shown(scratch):
     _, panel = scratch.first_start()
-    source = scratch.made("Größe.java")
+    source = scratch.made("Größe.java", b"class Size {}\n")
     scratch.play("err Größe.java:7: error: ';' expected", "exit 1")
     panel.write(world.quoted(source))
     panel.press("javac")
@@ -68,7 +68,7 @@ def test_compiler_gets_its_arguments_and_its_errors_are_shown(scratch):
 def test_silent_compiler_shows_nothing(scratch):
     _, panel = scratch.first_start()
     scratch.play("exit 0")
-    panel.write(world.quoted(scratch.made("Quiet.java")))
+    panel.write(world.quoted(scratch.made("Quiet.java", b"class Quiet {}\n")))
     panel.press("javac")
     assert scratch.recorded()
     nothing_left(scratch, "javac.exe")

@@ -95,11 +95,12 @@ class World(world.World):
         settings.press("OK")
         return program, Window("Tarnwick")
 
-    def made(self, name):
-        """An empty file in the work folder; gives the program's path of it."""
+    def made(self, name, content=b""):
+        """A file in the work folder; gives the program's path of it."""
         path = os.path.join(self.work, name)
-        with open(path, "wb"):
-            return windows_path(path)
+        with open(path, "wb") as out:
+            out.write(content)
+        return windows_path(path)
 
     def run_class(self, panel, name, *script):
         """Types a class file into the panel and presses "java"; gives the console's window."""

@@ -57,6 +57,10 @@ def real_javac():
     return os.path.realpath(shutil.which("javac"))
 
 
+class Skipped(Exception):
+    """Ends a test that cannot run here; carries the reason."""
+
+
 class World:
     def __init__(self, project, letters="日本"):
         self.project = project
@@ -83,17 +87,17 @@ class World:
         return path
 
     def _install_editor(self):
-        """Makes the note-taker the user's application for plain text."""
+        """Makes the note-taker the user's application for plain text and for web pages."""
         script = os.path.join(self.root, "Editor für Notizen")
         with open(script, "w", encoding="utf-8") as out:
             out.write(NOTES.format(folder=shlex.quote(self.notes)))
         os.chmod(script, 0o755)
         applications = self._folder("Zoës Heim", ".local", "share", "applications")
         with open(os.path.join(applications, "notes.desktop"), "w", encoding="utf-8") as out:
-            out.write(f'[Desktop Entry]\nType=Application\nName=Notes\nExec="{script}" %f\nMimeType=text/plain;\n')
+            out.write(f'[Desktop Entry]\nType=Application\nName=Notes\nExec="{script}" %f\nMimeType=text/plain;text/html;\n')
         self._folder("Zoës Heim", ".config")
         with open(os.path.join(self.home, ".config", "mimeapps.list"), "w", encoding="utf-8") as out:
-            out.write("[Default Applications]\ntext/plain=notes.desktop\n")
+            out.write("[Default Applications]\ntext/plain=notes.desktop\ntext/html=notes.desktop\n")
 
     def __enter__(self):
         return self
@@ -120,9 +124,9 @@ class World:
         """A copy of one of the end-to-end tests' own Java sources in the work folder."""
         return shutil.copy(os.path.join(self.project, "tests", "e2e", "java", name), self.work)
 
-    def compiled(self, path):
+    def compiled(self, path, *options):
         """Compiles a source without the program; gives the class file."""
-        subprocess.run([real_javac(), "-encoding", "UTF-8", path], check=True, timeout=120, env=self.environment)
+        subprocess.run([real_javac(), "-encoding", "UTF-8", *options, path], check=True, timeout=120, env=self.environment)
         return path.removesuffix(".java") + ".class"
 
     def messages(self):
@@ -244,9 +248,18 @@ class World:
     def saved_display(self, console, name="display.txt"):
         """What the console shows, by way of its menu."""
         path = os.path.join(self.work, name)
+        self.choose_in_file_menu(console, "Save current display to file", path)
+        wait_until("the saved display", lambda: os.path.exists(path) and os.path.getsize(path) > 0)
+        with open(path, encoding="utf-8") as text:
+            content = text.read()
+        os.remove(path)
+        return content
+
+    def choose_in_file_menu(self, console, entry, path):
+        """Chooses an entry that asks for a file to write, and answers with this path."""
         console.activate()
         console.press("File")
-        console.press("Save current display to file")
+        console.press(entry)
         chooser = wait_until("the file dialog", lambda: next(
             (one for one in person.look() if one.role in ("file chooser", "dialog") and one.name != console.title), None))
         dialog = Window(chooser.name)
@@ -256,12 +269,12 @@ class World:
         person.key("ctrl+v")
         time.sleep(0.3)
         person.key("Return")
-        wait_until("the saved display", lambda: os.path.exists(path) and os.path.getsize(path) > 0)
         dialog.is_gone()
-        with open(path, encoding="utf-8") as text:
-            content = text.read()
-        os.remove(path)
-        return content
+
+    def peak_memory(self, process):
+        """The most memory that the process has had so far, in MB."""
+        with open(f"/proc/{process}/status", encoding="utf-8") as lines:
+            return next(int(line.split()[1]) for line in lines if line.startswith("VmHWM")) / 1024
 
 
 def quoted(path):

@@ -1,12 +1,17 @@
 #include "support/ScriptedDesktop.h"
 
+#include <algorithm>
 #include <gtest/gtest.h>
+#include <stdexcept>
 
 namespace tarnwick::test {
 
-ScriptedWindow::ScriptedWindow(const DialogLayout& layout, DialogHandler& handler)
-    : handler_(handler), title_(layout.title) {
+ScriptedWindow::ScriptedWindow(const DialogLayout& layout, DialogHandler& handler, const ScriptedPlaces& places)
+    : handler_(handler), places_(places), title_(layout.title) {
   collect(layout.content, nextRadioGroup_++);
+  const auto known = places_.rects.find(layout.resource);
+  if (known == places_.rects.end()) return;
+  for (const auto& [control, rect] : known->second) (control == 0 ? rect_ : at(control).rect) = rect;
 }
 
 ScriptedWindow::~ScriptedWindow() {
@@ -22,6 +27,7 @@ void ScriptedWindow::collect(const DialogItem& item, int radioGroup) {
     control.kind = item.kind;
     control.text = item.text;
     control.readOnly = item.readOnly;
+    control.visible = !item.startsHidden;
     control.entries = item.entries;
     control.radioGroup = item.kind == ItemKind::RadioButton ? radioGroup : 0;
     controls_.emplace(item.control, control);
@@ -56,6 +62,14 @@ void ScriptedWindow::press(int control) {
   if (pressed->kind == ItemKind::CheckBox) pressed->checked = !pressed->checked;
   if (pressed->kind == ItemKind::RadioButton) setChecked(control, true);
   handler_.onCommand(control);
+}
+
+void ScriptedWindow::chooseSystemCommand(const std::string& label) {
+  const auto found = systemCommands_.find(label);
+  if (found == systemCommands_.end())
+    ADD_FAILURE() << "no system command \"" << label << '"';
+  else
+    found->second();
 }
 
 void ScriptedWindow::type(int control, const std::string& text) {
@@ -131,7 +145,25 @@ void ScriptedWindow::setRect(int control, const Rect& rect) {
 }
 void ScriptedWindow::focus(int control) {
   at(control);
+  focused_ = control;
 }
+
+Rect ScriptedWindow::windowRect() const {
+  Rect rect = rect_;
+  if (position_) rect = {position_->x, position_->y, position_->x + rect_.width(), position_->y + rect_.height()};
+  return rect;
+}
+
+void ScriptedWindow::setWindowRect(const Rect& rect) {
+  if (fillsTabControl_) return;
+  rect_ = rect;
+  if (position_) position_ = {rect.left, rect.top};
+}
+
+Rect ScriptedWindow::clientRect() const {
+  return {0, 0, rect_.width() - places_.frameWidth, rect_.height() - places_.frameHeight};
+}
+
 void ScriptedWindow::scrollToEnd(int control) {
   at(control).shownToEnd = true;
 }
@@ -156,15 +188,20 @@ DialogWindow& ScriptedWindow::addTabPage(int tabs, const std::string& label, con
   Control& control = at(tabs);
   control.entries.push_back(label);
   if (control.selection < 0) control.selection = 0;
-  auto& page = pages_[tabs].emplace_back(std::make_unique<ScriptedWindow>(layout, handler));
+  auto& page = pages_[tabs].emplace_back(std::make_unique<ScriptedWindow>(layout, handler, places_));
+  page->position_ = std::nullopt;
+  page->fillsTabControl_ = true;
   handler.initialise(*page);
   return *page;
 }
 
 DialogWindow& ScriptedWindow::addChild(int slot, const DialogLayout& layout, DialogHandler& handler) {
   at(slot);
+  if (std::count(places_.refusedSlots.begin(), places_.refusedSlots.end(), slot)) throw std::runtime_error("refused");
   auto& child = children_[slot];
-  child = std::make_unique<ScriptedWindow>(layout, handler);
+  child = std::make_unique<ScriptedWindow>(layout, handler, places_);
+  child->position_ = std::nullopt;
+  child->shown_ = at(slot).visible;
   handler.initialise(*child);
   return *child;
 }
@@ -244,7 +281,7 @@ bool ScriptedDesktop::setClipboardText(const std::string& text) {
 }
 
 int ScriptedDesktop::play(const std::string& kind, const DialogLayout& layout, DialogHandler& handler) {
-  ScriptedWindow window(layout, handler);
+  ScriptedWindow window(layout, handler, places_);
   if (kind == "main") window.setKnownPosition(windowPosition_);
   handler.initialise(window);
   // Dialogs that initialisation itself opened have been played by now, so the step is taken after it.

@@ -13,11 +13,21 @@
 
 namespace tarnwick::test {
 
+/// The rectangles of controls by the number of the layout that they are in; 0 stands for the window itself.
+struct ScriptedPlaces {
+  std::map<int, std::map<int, Rect>> rects;
+  /// What the top window's frame takes of its height and its width.
+  int frameHeight = 0;
+  int frameWidth = 0;
+  /// Slots that can't be filled.
+  std::vector<int> refusedSlots;
+};
+
 /// A dialog's window for tests: a table of controls made from the same layout as the real one. What a person can't do
 /// fails the test: pressing a control that is not there, hidden or disabled.
 class ScriptedWindow : public DialogWindow {
  public:
-  ScriptedWindow(const DialogLayout& layout, DialogHandler& handler);
+  ScriptedWindow(const DialogLayout& layout, DialogHandler& handler, const ScriptedPlaces& places = {});
   ~ScriptedWindow() override;
 
   // What a person does.
@@ -25,6 +35,8 @@ class ScriptedWindow : public DialogWindow {
   void type(int control, const std::string& text);
   void choose(int control, int index);
   void closeBox() { handler_.onCloseRequest(); }
+  /// Chooses an entry of the window's system menu.
+  void chooseSystemCommand(const std::string& label);
   void moveByHand(const Point& to) { position_ = to; }
 
   // What a person sees.
@@ -33,6 +45,9 @@ class ScriptedWindow : public DialogWindow {
   std::vector<std::string> tabLabels(int tabs) const;
   ScriptedWindow& page(int tabs, int index);
   ScriptedWindow& child(int slot);
+  bool shown() const { return shown_; }
+  /// The control that was given the focus last; 0 for none.
+  int focused() const { return focused_; }
   bool closed() const { return closed_; }
   int result() const { return result_; }
 
@@ -59,9 +74,16 @@ class ScriptedWindow : public DialogWindow {
   DialogWindow& addTabPage(int tabs, const std::string& label, const DialogLayout& layout,
                            DialogHandler& handler) override;
   DialogWindow& addChild(int slot, const DialogLayout& layout, DialogHandler& handler) override;
+  Rect windowRect() const override;
+  void setWindowRect(const Rect& rect) override;
+  Rect clientRect() const override;
+  void arrangeControls() override {}
   std::string title() const override { return title_; }
   void setTitle(const std::string& title) override { title_ = title; }
   void showWindow(bool on) override { shown_ = on; }
+  void addSystemCommand(const std::string& label, std::function<void()> action) override {
+    systemCommands_[label] = std::move(action);
+  }
   std::optional<Point> position() const override { return position_; }
   void moveTo(const Point& leftTop) override { position_ = leftTop; }
   void close(int result) override;
@@ -92,8 +114,13 @@ class ScriptedWindow : public DialogWindow {
   DialogHandler& handler_;
   std::map<int, std::vector<std::unique_ptr<ScriptedWindow>>> pages_;
   std::map<int, std::unique_ptr<ScriptedWindow>> children_;
+  std::map<std::string, std::function<void()>> systemCommands_;
+  ScriptedPlaces places_;
+  Rect rect_;
+  bool fillsTabControl_ = false;
+  int focused_ = 0;
   std::string title_;
-  bool shown_ = false;
+  bool shown_ = true;
   bool closed_ = false;
   int result_ = 0;
   int nextRadioGroup_ = 1;
@@ -122,6 +149,8 @@ class ScriptedDesktop : public Desktop {
   const std::vector<AlertSound>& alerts() const { return alerts_; }
   /// The position that the main window gets from the window system.
   void setWindowPosition(std::optional<Point> position) { windowPosition_ = position; }
+  /// Where the controls of the next windows stand.
+  void setPlaces(ScriptedPlaces places) { places_ = std::move(places); }
   /// Runs what was posted, on this thread.
   void runPosted();
   /// Lets every running timer tick once.
@@ -162,6 +191,7 @@ class ScriptedDesktop : public Desktop {
   FileRequest lastRequest_;
   std::vector<AlertSound> alerts_;
   std::optional<Point> windowPosition_ = Point{40, 50};
+  ScriptedPlaces places_;
   std::optional<std::string> clipboard_;
   std::map<int, std::function<void()>> timers_;
   int lastTimer_ = 0;

@@ -24,6 +24,8 @@ class SettingsFixture : public testing::Test {
     platform::makeFolders(userFolder());
     program_.programDirectory = programFolder();
     program_.programPath = programFolder() + "tarnwick";
+    // Only what a test's own environment names, not what this machine happens to have.
+    context_.installedJdks = [] { return findJdks({}); };
   }
 
   std::string configFolder() const { return scratch_.file("con fig") + platform::folderSeparator; }

@@ -4,10 +4,13 @@
 //   editors                                                 the plain-text editors, one a line, words with "|" between
 //   runapp EXTENSION FILE EXTRA                             starts the association's program; the result
 //   showlog FOLDER EDITNOTEPAD DISPLAYNOTEPAD TARGET        shows a log that lies in FOLDER; the log's path
+//   edit EDITNOTEPAD FILE TARGET                            opens FILE for editing; the result and the working folder
+//   register PROGRAM                                        makes it the opener of project files
 //
 // Messages to the user follow, each behind "message: ".
 #include "platform/Associations.h"
 #include "platform/FileSystem.h"
+#include "platform/ProjectType.h"
 #include "process/EditorLaunch.h"
 #include "process/ToolLog.h"
 #include "process/WinApp.h"
@@ -40,6 +43,14 @@ void showLogOf(tarnwick::Desktop& desktop, const std::vector<std::string>& words
   tarnwick::showLog(desktop, log, choice);
 }
 
+void edit(tarnwick::Desktop& desktop, const std::vector<std::string>& words) {
+  tarnwick::EditorChoice choice;
+  choice.editWithNotepad = words.at(1) == "1";
+  choice.target = words.at(3);
+  const bool done = tarnwick::openEditor(desktop, {[&choice] { return choice; }, [] { return false; }}, words.at(2));
+  std::cout << done << ' ' << tarnwick::platform::currentDirectory() << std::endl;
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -52,6 +63,8 @@ int main(int argc, char** argv) {
     const tarnwick::WinApp app(desktop, words.at(1));
     std::cout << app.runApp(words.at(2).c_str(), words.at(3).c_str(), 0) << '\n';
   }
+  if (words.at(0) == "register") tarnwick::platform::registerProjectType(words.at(1));
+  if (words.at(0) == "edit") edit(desktop, words);
   if (words.at(0) == "showlog") showLogOf(desktop, words);
   for (const auto& message : desktop.messages) std::cout << "message: " << message << '\n';
   return 0;

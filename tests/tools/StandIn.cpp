@@ -4,12 +4,18 @@
 //   out TEXT, err TEXT   writes the text and a line end
 //   outraw HEX           writes these bytes, given as pairs of hexadecimal digits
 //   flood BYTES          writes so many bytes to standard output, in lines of 80
+//   floodboth BYTES      writes so many bytes to either output, by turns: counters of eight letters, in capitals to
+//                        standard output and in small letters to standard error
 //   name, folder         writes the name that it was started under, its working folder
 //   environment NAME     writes the variable's value
+//   keep FILE            adds the file's name and its bytes to the file STANDIN_RECORD + ".kept"
 //   sleep MS             waits
 //   readline             reads a line and writes "got: " and the line, or "end of input"
 //   grandchild MS        starts a copy of itself that keeps the standard streams and waits so long; its process number
 //                        is added, on a line of its own, to the file STANDIN_RECORD + ".pids"
+//   murmurer N MS        the same, but it first writes N lines "murmur" to standard output, one each MS, and then waits
+//                        for 15 seconds
+//   orphan MS            the same in a session of its own, where there are such, and with nobody between left alive
 //   ignoreterm           ignores the signal TERM, as what it starts does
 //   exit CODE, signal N  ends
 #include "StandInSystem.h"
@@ -27,6 +33,7 @@
 namespace {
 
 const std::string sleepArgument = "--stand-in-sleep=";
+const std::string murmurArgument = "--stand-in-murmur=";
 
 std::string variable(const char* name) {
   const char* value = std::getenv(name);
@@ -59,15 +66,58 @@ void flood(long bytes) {
   std::fflush(stdout);
 }
 
+/// Eight letters that count: "aaaaaaaa", "aaaaaaab", ...
+std::string counter(long number, char first) {
+  std::string letters(8, first);
+  for (auto letter = letters.rbegin(); number > 0; ++letter, number /= 16)
+    *letter = static_cast<char>(first + number % 16);
+  return letters;
+}
+
+void floodBoth(long bytes) {
+  constexpr long blockSize = 4096;
+  for (long written = 0; written < bytes; written += blockSize) {
+    std::string out;
+    std::string err;
+    for (long at = written; at < std::min(written + blockSize, bytes); at += 8) {
+      out += counter(at / 8, 'A');
+      err += counter(at / 8, 'a');
+    }
+    write(stdout, out);
+    write(stderr, err);
+  }
+}
+
 void echoLine() {
   std::string line;
   write(stdout, std::getline(std::cin, line) ? "got: " + line + '\n' : "end of input\n");
 }
 
-void startGrandchild(const std::string& milliseconds) {
-  const int process = tarnwick::test::startCopy(sleepArgument + milliseconds);
+/// `what` is a count and, behind a comma, a time.
+void murmur(const std::string& what) {
+  for (long left = std::atol(what.c_str()); left > 0; --left) {
+    sleepFor(what.substr(what.find(',') + 1));
+    write(stdout, "murmur\n");
+  }
+  sleepFor("15000");
+}
+
+void startGrandchild(const std::string& argument) {
+  const int process = tarnwick::test::startCopy(argument);
   if (process == 0) std::exit(99);
   std::ofstream(variable("STANDIN_RECORD") + ".pids", std::ios::app) << process << std::endl;
+}
+
+void startOrphan(const std::string& milliseconds) {
+  const int process = tarnwick::test::startOrphan(sleepArgument + milliseconds);
+  if (process == 0) std::exit(99);
+  std::ofstream(variable("STANDIN_RECORD") + ".pids", std::ios::app) << process << std::endl;
+}
+
+void keep(const std::string& file) {
+  std::ofstream kept(variable("STANDIN_RECORD") + ".kept", std::ios::app | std::ios::binary);
+  std::ifstream content(file, std::ios::binary);
+  kept << file << ":" << content.rdbuf() << '\n';
 }
 
 void play(const std::string& command, const std::string& rest, const char* name) {
@@ -75,12 +125,17 @@ void play(const std::string& command, const std::string& rest, const char* name)
   if (command == "err") write(stderr, rest + '\n');
   if (command == "outraw") writeHex(rest);
   if (command == "flood") flood(std::atol(rest.c_str()));
+  if (command == "floodboth") floodBoth(std::atol(rest.c_str()));
   if (command == "name") write(stdout, std::string(name) + '\n');
   if (command == "folder") write(stdout, tarnwick::test::workingFolder() + '\n');
   if (command == "environment") write(stdout, variable(rest.c_str()) + '\n');
+  if (command == "keep") keep(rest);
   if (command == "sleep") sleepFor(rest);
   if (command == "readline") echoLine();
-  if (command == "grandchild") startGrandchild(rest);
+  if (command == "grandchild") startGrandchild(sleepArgument + rest);
+  if (command == "murmurer")
+    startGrandchild(murmurArgument + rest.substr(0, rest.find(' ')) + ',' + rest.substr(rest.find(' ') + 1));
+  if (command == "orphan") startOrphan(rest);
   if (command == "ignoreterm") std::signal(SIGTERM, SIG_IGN);
   if (command == "exit") std::exit(std::atoi(rest.c_str()));
   if (command == "signal") std::raise(std::atoi(rest.c_str()));
@@ -93,6 +148,10 @@ int main(int argc, char** argv) {
   const std::string first = argc > 1 ? argv[1] : "";
   if (first.rfind(sleepArgument, 0) == 0) {
     sleepFor(first.substr(sleepArgument.size()));
+    return 0;
+  }
+  if (first.rfind(murmurArgument, 0) == 0) {
+    murmur(first.substr(murmurArgument.size()));
     return 0;
   }
   if (const auto path = variable("STANDIN_RECORD"); !path.empty()) {

@@ -14,4 +14,7 @@ std::string workingFolder();
 /// failure.
 int startCopy(const std::string& argument);
 
+/// The same, but as a stranger to this process: in a session of its own and without a parent, where there are such.
+int startOrphan(const std::string& argument);
+
 }  // namespace tarnwick::test

@@ -9,6 +9,7 @@ public class Colours {
         for (int i = 0; i < 3; i++) {
             System.err.println("EEEEEEEEEEEEEEEEEEEEEEEEEEEEEEEE");
         }
+        Thread.sleep(500);
         System.out.print("part of a line");
         System.out.flush();
         System.in.read();

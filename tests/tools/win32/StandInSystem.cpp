@@ -31,4 +31,8 @@ int startCopy(const std::string& argument) {
   return number;
 }
 
+int startOrphan(const std::string& argument) {
+  return startCopy(argument);
+}
+
 }  // namespace tarnwick::test

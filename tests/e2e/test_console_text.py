@@ -1,0 +1,180 @@
+"""Letters of every kind, lines without end, floods; and programs that end in their own way."""
+
+import os
+import signal
+import subprocess
+import time
+
+import person
+from person import wait_until
+from picture import BLACK, WHITE, Picture
+from test_console import BANNER, nothing_left, shows, started
+from world import type_line
+
+
+def view_area(console):
+    return [one for one in console.controls() if one.role == "panel"][-1].area
+
+
+def letters(now, left, top, colour):
+    """How many pixels of this tone stand in the forty columns from here on; soft edges are lighter."""
+    fits = {"blue": lambda shade: shade[2] == 255 and shade[0] < 200,
+            "black": lambda shade: max(shade) == min(shade) < 200}[colour]
+    return sum(count for shade, count in now.pixels(left, top, left + 40, top + 13).items() if fits(shade))
+
+
+def test_letters_of_every_width_stand_in_their_columns(scratch):
+    _, console = started(scratch, scratch.source("Letters.java"))
+    display = shows(scratch, console, "ready\n")
+    # A character in two pieces is whole; each byte that is none shows as one replacement.
+    assert "abcd|\n日本|\ne\u0301e\u0301cd|\näöüß|\n<日>\n(\ufffd\ufffd)\nready\n" in display, display
+    console.activate()
+    time.sleep(0.5)
+    person.screenshot(os.path.join(scratch.project, "build", "e2e", "console-letters.png"))
+    area = view_area(console)
+    now = Picture(area)
+    # All four lines end with the same bar in the same column: look for a column with ink in all of them.
+    columns = [x for x in range(now.width) if sum(now.pixel(x, y) != WHITE for y in range(now.height)) > 40]
+    assert columns, "the bars stand below one another"
+    bar = max(columns)
+    assert all(now.pixel(x, y) == WHITE for x in range(bar + 4, now.width) for y in range(now.height // 6))
+
+
+def test_a_line_of_a_million_characters_neither_freezes_nor_breaks_the_console(scratch):
+    _, console = started(scratch, scratch.source("LongLine.java"))
+    line = "0123456789" * 100000 + "MMMM"
+    display = shows(scratch, console, "MMMM", 60)
+    assert "\n" + line + "\n" in display
+    console.activate()
+    area = view_area(console)
+
+    def caret():
+        """The left side of the caret: a column of black that is taller than any letter."""
+        now = Picture(area)
+        for x in range(now.width - 1):
+            black = [y for y in range(now.height) if now.pixel(x, y) == BLACK and now.pixel(x + 1, y) == BLACK]
+            if len(black) >= 13 and black[-1] - black[0] == len(black) - 1:
+                return x, black[0], now
+        return None
+    # The window follows the end of the line: behind the caret there is just its own cell.
+    x, top, now = wait_until("the caret at the right edge", caret)
+    person.screenshot(os.path.join(scratch.project, "build", "e2e", "console-long-line.png"))
+    assert now.width - 20 < x < now.width, x
+    assert letters(now, x - 60, top, "blue") > 100 and letters(now, x - 60, top, "black") == 0
+    begin = time.monotonic()
+    person.type_text("typed")
+    # It stands where the end of the line stood, which has moved to the left.
+    wait_until("what was typed", lambda: letters(Picture(area), x - 40, top, "black") > 40, 5)
+    assert letters(Picture(area), x - 100, top, "blue") > 100
+    person.key("Left", "Left", "BackSpace", "End")
+    assert time.monotonic() - begin < 8, "the console hardly answers"
+    person.key("ctrl+a", "ctrl+c")
+    copied = subprocess.run(["xclip", "-selection", "clipboard", "-out"], stdin=subprocess.DEVNULL,
+                            stdout=subprocess.PIPE, check=True, timeout=30).stdout.decode()
+    assert copied.replace("\r\n", "\n").strip("\n") == line + "tyed", len(copied)
+    person.key("KP_Enter")
+    display = shows(scratch, console, "got: tyed\n")
+    assert "\n" + line + "tyed\n" in display
+    assert scratch.peak_memory(console.process) < 120, scratch.peak_memory(console.process)
+    person.key("ctrl+d")
+    console.close()
+    console.is_gone()
+    nothing_left(scratch, "java")
+
+
+def test_a_recording_holds_every_line_of_a_flood(scratch):
+    _, console = started(scratch, scratch.source("Flood.java"))
+    shows(scratch, console, "ready\n")
+    path = os.path.join(scratch.work, "Aufzeichnung.txt")
+    wanted = [f"line {number} of a flood of three hundred thousand" for number in range(300000)]
+    scratch.choose_in_file_menu(console, "Start recording lines", path)
+    wait_until("the record", lambda: os.path.exists(path))
+    console.activate()
+    console.press("File")
+    assert not console.control("Save current display to file").enabled
+    assert not console.control("Start recording lines").enabled
+    assert console.control("Stop recording lines").enabled
+    # Once: with the menu closed, the key belongs to the program.
+    person.key("Escape")
+    console.activate()
+    person.key("Return")
+    # What is recorded reaches the disk in blocks: the last line is there when the recording has been stopped.
+    wait_until("the flood in the record", lambda: os.path.getsize(path) > len("\n".join(wanted)) - 8192, 60)
+    time.sleep(1)
+    console.press("File")
+    console.press("Stop recording lines")
+    with open(path, encoding="utf-8") as text:
+        lines = text.read().split("\n")
+    assert lines == ["", *wanted, "last", ""], (len(lines), lines[:3], lines[-3:])
+    display = scratch.saved_display(console)
+    assert display.endswith("line 299999 of a flood of three hundred thousand\nlast\n\n"), display[-200:]
+    assert display.count("\n") == 1500
+    assert scratch.peak_memory(console.process) < 80, scratch.peak_memory(console.process)
+
+
+def test_a_program_that_ends_while_its_child_lives_gets_its_banner(scratch):
+    _, console = started(scratch, scratch.source("Grandparent.java"))
+    display = shows(scratch, console, BANNER)
+    assert f"left behind\n\n\n{BANNER}\n\n" in display, display
+    assert not scratch.processes("java") and len(scratch.processes("sleep")) == 1
+    # The next key closes the console all the same.
+    console.activate()
+    person.key("space")
+    console.is_gone()
+    nothing_left(scratch, "java")
+
+
+def deaf(scratch):
+    _, panel = scratch.first_start()
+    # The compiler need not say that this is no way to write programs.
+    console = scratch.run_class(panel, scratch.compiled(scratch.source("Deaf.java"), "-XDignore.symbol.file"))
+    shows(scratch, console, "deaf")
+    assert len(scratch.processes("java")) == 1 and len(scratch.processes("sleep")) == 1
+    return console
+
+
+def gone_after_three_seconds(scratch):
+    wait_until("the end of all", lambda: not scratch.processes("java") and not scratch.processes("sleep"), 3.5)
+
+
+def test_a_program_that_ignores_the_request_to_end_goes_with_its_console(scratch):
+    console = deaf(scratch)
+    console.close()
+    console.is_gone()
+    gone_after_three_seconds(scratch)
+
+
+def test_a_program_that_ignores_the_request_to_end_goes_with_a_killed_console(scratch):
+    os.kill(deaf(scratch).process, signal.SIGKILL)
+    gone_after_three_seconds(scratch)
+
+
+def test_letters_beyond_ascii_come_from_the_keyboard_too(scratch):
+    _, console = started(scratch, scratch.sample("Greeter.java"))
+    shows(scratch, console, "What is your name? ")
+    type_slowly(console, "Zoë ßé")
+    person.key("BackSpace", "Left", "Delete", "Return")
+    display = shows(scratch, console, "Hello, Zoë!")
+    assert "What is your name? Zoë \n" in display, display
+
+
+def type_slowly(console, text):
+    """Letters that the keyboard does not have get a key of their own for a moment, which takes its time."""
+    console.activate()
+    person.xdotool("type", "--delay", 300, text)
+    time.sleep(0.5)
+
+
+def test_what_is_typed_ahead_is_answered_line_by_line(scratch):
+    """Pasted lines go one by one, so that the answer to each stands below it."""
+    _, console = started(scratch, scratch.sample("Greeter.java"))
+    shows(scratch, console, "What is your name? ")
+    console.activate()
+    person.put_on_clipboard("Ada\nfirst\nsecond\nbye\n")
+    person.key("ctrl+v")
+    display = shows(scratch, console, BANNER)
+    places = [display.index(text) for text in ("Hello, Ada!", "first\n", 'You said "first"', "second\n",
+                                               'You said "second"', "bye\n", "Good bye, Ada.")]
+    assert places == sorted(places), display
+    type_line(console, "")
+    console.is_gone()

@@ -1,0 +1,69 @@
+"""The user's guide, About and the links."""
+
+import os
+import shutil
+
+import person
+from person import Window, wait_until
+
+
+def opened(scratch):
+    """What the browser was given first."""
+    (arguments, _content), *_ = wait_until("something in the browser", scratch.editor_notes)
+    return arguments
+
+
+def test_a_consoles_menu_opens_the_guide_and_about(scratch):
+    compiled = scratch.compiled(scratch.sample("Greeter.java"))
+    _, panel = scratch.first_start()
+    console = scratch.run_class(panel, compiled)
+    console.activate()
+    console.press("Help")
+    console.press("Tarnwick Help")
+    guide = os.path.join(os.path.dirname(scratch.program), "usersguide.htm")
+    assert os.path.isfile(guide), "the guide lies beside the program"
+    assert opened(scratch) == ["file://" + guide], opened(scratch)
+    console.activate()
+    console.press("Help")
+    console.press("About Tarnwick...")
+    about = Window("About Tarnwick")
+    assert "Tarnwick V4.7a" in about.labels(), about.labels()
+    about.press("OK")
+    about.is_gone()
+
+
+def test_a_link_of_welcome_opens_in_the_browser(scratch):
+    scratch.start()
+    welcome = Window("Welcome to Tarnwick")
+    link = next(one for one in welcome.controls() if one.name.startswith("https://"))
+    link.click()
+    assert opened(scratch) == [link.name], opened(scratch)
+    assert welcome.shows()
+
+
+def test_a_lost_guide_is_asked_for_and_remembered(scratch):
+    compiled = scratch.compiled(scratch.sample("Greeter.java"))
+    scratch.configured()
+    lost = os.path.join(scratch.home, "gone", "usersguide.htm")
+    scratch.change_settings(HELPFILE=lost)
+    found = shutil.copy(os.path.join(scratch.project, "guide", "usersguide.htm"), os.path.join(scratch.work, "Führer #1.htm"))
+    scratch.start()
+    console = scratch.run_class(Window("Tarnwick"), compiled)
+    console.activate()
+    console.press("Help")
+    console.press("Tarnwick Help")
+    question = Window("Unable to open usersguide.htm")
+    assert lost in question.labels(), question.labels()
+    question.press("Find usersguide.htm ...")
+    chooser = wait_until("the file dialog", lambda: next(
+        (one for one in person.look() if one.role == "file chooser"), None))
+    dialog = Window(chooser.name)
+    dialog.activate()
+    person.key("ctrl+l")
+    person.put_on_clipboard(found)
+    person.key("ctrl+a", "ctrl+v")
+    person.key("Return")
+    question.is_gone()
+    address, = opened(scratch)
+    assert address.endswith("F%C3%BChrer%20%231.htm"), address
+    assert scratch.settings()["HELPFILE"] == found

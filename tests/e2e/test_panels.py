@@ -1,0 +1,79 @@
+"""The panel's three layouts and its two views."""
+
+from person import Window, key, wait_until
+
+# The names of the bar's small buttons for readers of the screen.
+WIDE, FLAT, TALL = "Wide layout", "Flat layout", "Tall layout"
+
+
+def size(panel):
+    return wait_until("the panel", panel._now).area[2:]
+
+
+def is_laid_out(scratch, panel, layout, fits):
+    wait_until(f"the layout {layout}", lambda: fits(*size(panel)))
+    assert scratch.settings()["PANEL_LAYOUT"] == layout
+    return size(panel)
+
+
+def is_tall(width, height):
+    return width < 1.5 * height
+
+
+def is_wide(width, height):
+    return 4 * height < width < 7.5 * height
+
+
+def is_flat(width, height):
+    return width > 10 * height
+
+
+def restarted(program, scratch, panel):
+    panel.press("Exit")
+    assert program.wait(20) == 0
+    return scratch.start(), Window("Tarnwick")
+
+
+def test_layout_buttons_change_the_layout_and_the_next_start_finds_it_again(scratch):
+    program, panel = scratch.first_start()
+    assert is_tall(*size(panel))
+    panel.press(WIDE)
+    wide = is_laid_out(scratch, panel, "HORIZONTAL", is_wide)
+    program, panel = restarted(program, scratch, panel)
+    assert size(panel) == wide
+    panel.press(FLAT)
+    flat = is_laid_out(scratch, panel, "FLAT", is_flat)
+    panel.close()
+    assert program.wait(20) == 0
+    program, panel = scratch.start(), Window("Tarnwick")
+    assert size(panel) == flat
+    # The strip is wider than this screen; the keyboard leads back from wherever it ends.
+    key(*["shift+Tab"] * 5, "space")
+    assert is_laid_out(scratch, panel, "HORIZONTAL", is_wide) == wide
+    key("space")
+    assert is_laid_out(scratch, panel, "FLAT", is_flat) == flat
+    panel.close()
+    assert program.wait(20) == 0
+
+
+def test_views_switch_and_share_the_layout(scratch):
+    program, panel = scratch.first_start()
+    tall = size(panel)
+    assert "Browse" in panel.labels()
+    panel.press("Projectview")
+    assert panel.control("Fileview")
+    assert "Project" in panel.labels() and "Browse" not in panel.labels()
+    assert size(panel) == tall
+    for label in ("New", "Open", "Files", "Edit", "javac  all", "javac", "Select", "jdb debug", "java", "Settings"):
+        assert not panel.control(label).enabled, label
+    panel.press(WIDE)
+    is_laid_out(scratch, panel, "HORIZONTAL", is_wide)
+    panel.press("Fileview")
+    assert panel.control("Projectview")
+    assert is_wide(*size(panel)) and "Browse" in panel.labels()
+    program, panel = restarted(program, scratch, panel)
+    assert panel.control("Projectview") and is_wide(*size(panel))
+    panel.press(TALL)
+    is_laid_out(scratch, panel, "VERTICAL", is_tall)
+    panel.press("Exit")
+    assert program.wait(20) == 0

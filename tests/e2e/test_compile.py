@@ -33,6 +33,23 @@ def test_error_opens_the_log_with_the_compilers_message(scratch):
     assert not os.path.exists(class_of(source))
 
 
+def test_a_verbose_compiler_counts_as_one_that_has_something_to_say(scratch):
+    source = scratch.sample("Greeter.java")
+    scratch.configured()
+    scratch.change_settings(JAVAC_VERBOSE="ON", JAVA_PATH=os.path.join(os.path.dirname(world.real_javac()), ""))
+    scratch.start()
+    panel = Window("Tarnwick")
+    panel.activate()
+    panel.write(world.quoted(source))
+    panel.press("javac")
+    (_, log), = wait_until("the log in the editor", scratch.editor_notes, 60)
+    assert log.startswith("\n\njavac ") and " -verbose " in log.split("\n")[2], log[:300]
+    # Some of what it says, from its beginning to its end, with the folder's letters as they are.
+    assert "[parsing started " in log and "[total " in log, log[:300]
+    assert any(line.startswith("[wrote ") and class_of(source) in line for line in log.split("\n")), log[-600:]
+    assert os.path.exists(class_of(source))
+
+
 def test_an_old_class_survives_a_failed_compilation(scratch):
     source = scratch.sample("Broken.java")
     with open(class_of(source), "wb") as out:

@@ -14,15 +14,10 @@
 #include <poll.h>
 #include <sys/syscall.h>
 #include <sys/wait.h>
-#include <system_error>
 #include <unistd.h>
 
 namespace tarnwick::platform {
 namespace {
-
-SystemError systemError(const std::string& label, int code) {
-  return {label, code, std::generic_category().message(code)};
-}
 
 class Child final : public ChildProcess {
  public:
@@ -61,8 +56,9 @@ class Child final : public ChildProcess {
     if (waitpid(process_, &status, 0) == process_ && WIFSIGNALED(status)) signal_ = WTERMSIG(status);
   }
   std::string causeOfDeath() const override {
-    const char* const word = signal_ == 0 ? nullptr : sigdescr_np(signal_);
-    return word != nullptr ? word : signal_ == 0 ? "" : std::to_string(signal_);
+    if (signal_ == 0) return "";
+    const char* const word = sigdescr_np(signal_);
+    return word != nullptr ? word : std::to_string(signal_);
   }
   void stopWaiting() override { stopWaiting_.set(); }
 

@@ -39,7 +39,9 @@ std::string execWord(const std::string& program) {
 }
 
 std::string launcherFor(const std::string& program) {
-  return "[Desktop Entry]\nType=Application\nName=Tarnwick\nComment=Java Development Project\nExec=" +
+  // The system would look for the first word without making one of its two percent signs.
+  const std::string starter = program.find('%') == std::string::npos ? "" : "env ";
+  return "[Desktop Entry]\nType=Application\nName=Tarnwick\nComment=Java Development Project\nExec=" + starter +
          execWord(program) + " %f\nMimeType=" + contentType +
          ";\nCategories=Development;\nNoDisplay=true\nStartupNotify=false\n";
 }

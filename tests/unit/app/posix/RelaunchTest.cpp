@@ -117,17 +117,5 @@ TEST_F(RelaunchTest, WhatCannotBePassedOnIsToldAndNothingIsStarted) {
   runAll(*panel, {configuration, configuration, configuration});
 }
 
-TEST_F(RelaunchTest, TheProjectTypeIsRegisteredOnceInARun) {
-  const ScopedEnvironment data("XDG_DATA_HOME", scratch_.file("data"));
-  TarnwickApp app(desktop_, host_, StandInScript::tool("jdb"));
-  // The system's libraries look for the user's folders once in a process, so that another test may have been first.
-  const std::string launcher = scratch_.file("data") + "/applications/tarnwick-project.desktop";
-  app.registerProjectType();
-  if (!platform::isFile(launcher)) GTEST_SKIP() << "this process has asked for the user's folders before";
-  platform::deleteFile(launcher);
-  app.registerProjectType();
-  EXPECT_FALSE(platform::isFile(launcher));
-}
-
 }  // namespace
 }  // namespace tarnwick::test

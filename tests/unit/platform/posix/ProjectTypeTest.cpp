@@ -64,6 +64,19 @@ TEST_F(PosixProjectTypeTest, AProgramsOddNameIsEscapedTwice) {
   // The system understands it: an opener that it could not find would not have become the default.
   EXPECT_NE(test::contentOf(script_.folder().file("config/mimeapps.list")).find("tarnwick-project.desktop"),
             std::string::npos);
+  if (!isFile("/usr/bin/update-mime-database")) GTEST_SKIP() << "this system has no update-mime-database";
+  EXPECT_EQ(probe("runapp .twp p.twp \"\""), "1\n") << "and so do we";
+  EXPECT_TRUE(test::waitUntil([&] { return script_.hasRecord() && script_.record() == "p.twp\n"; }));
+}
+
+TEST_F(PosixProjectTypeTest, AProgramWithAPercentSignIsRegisteredToo) {
+  const std::string program = makeProgram("100% of it");
+  probe("register " + commandWord(program));
+  const std::string launcher = test::contentOf(data() + "applications/tarnwick-project.desktop");
+  EXPECT_NE(launcher.find("100%% of it\" %f\n"), std::string::npos) << launcher;
+  EXPECT_NE(test::contentOf(script_.folder().file("config/mimeapps.list")).find("tarnwick-project.desktop"),
+            std::string::npos)
+      << "the system has understood it";
 }
 
 TEST_F(PosixProjectTypeTest, WhatCannotBeWrittenIsNotTold) {

@@ -1,5 +1,6 @@
 #include "platform/posix/ChildGuard.h"
 
+#include "platform/posix/ChildPipes.h"
 #include "platform/posix/Descendants.h"
 
 #include <array>

@@ -38,9 +38,7 @@ class Child final : public ChildProcess {
   void wait() override {
     while (!hasEnded()) {
       // Where a process can't be polled, it is looked at now and then.
-      if (!waitFor(endHandle(), POLLIN, stopWaiting_, endHandle() < 0 ? 50 : -1)) {
-        if (!hasEnded()) return;
-      }
+      if (!waitFor(endHandle(), POLLIN, stopWaiting_, endHandle() < 0 ? 50 : -1) && !hasEnded()) return;
     }
     const std::lock_guard lock(stateLock_);
     if (ended_) return;

@@ -79,6 +79,15 @@ TEST_F(PosixProjectTypeTest, AProgramWithAPercentSignIsRegisteredToo) {
       << "the system has understood it";
 }
 
+TEST_F(PosixProjectTypeTest, ATalkativeIndexerIsRunToItsEnd) {
+  script_.setScript("flood 1000000\nout done\nerr done\nkeep x");
+  for (const char* name : {"update-mime-database", "update-desktop-database"}) makeProgram(name);
+  const test::ScopedEnvironment path("PATH", script_.folder().path());
+  EXPECT_EQ(probe("register /bin/true"), "");
+  EXPECT_EQ(script_.record(), data() + "/mime\n" + data() + "/applications\n");
+  EXPECT_EQ(test::contentOf(script_.folder().file("record.kept")), "x:x:") << "each has come to its end";
+}
+
 TEST_F(PosixProjectTypeTest, WhatCannotBeWrittenIsNotTold) {
   const test::ScopedEnvironment nowhere("XDG_DATA_HOME", "/proc/nothing");
   EXPECT_EQ(probe("register /bin/true"), "");

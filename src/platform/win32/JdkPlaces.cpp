@@ -97,6 +97,8 @@ JdkPlaces jdkPlaces() {
                              "\\.jbang\\cache\\jdks", "\\AppData\\Local\\mise\\installs\\java"}) {
     places.parents.push_back(home + folder);
   }
+  // Each archive that Gradle fetched is unpacked in a folder of its own, and that may hold the JDK's folder.
+  for (const auto& unpacked : subfolders(home + "\\.gradle\\jdks")) places.parents.push_back(unpacked);
   return places;
 }
 

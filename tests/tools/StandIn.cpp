@@ -40,6 +40,12 @@ std::string variable(const char* name) {
   return value == nullptr ? "" : value;
 }
 
+/// Also where a sanitizer would rather report the signal.
+void endBy(int signal) {
+  std::signal(signal, SIG_DFL);
+  std::raise(signal);
+}
+
 void sleepFor(const std::string& milliseconds) {
   std::this_thread::sleep_for(std::chrono::milliseconds(std::atol(milliseconds.c_str())));
 }
@@ -138,7 +144,7 @@ void play(const std::string& command, const std::string& rest, const char* name)
   if (command == "orphan") startOrphan(rest);
   if (command == "ignoreterm") std::signal(SIGTERM, SIG_IGN);
   if (command == "exit") std::exit(std::atoi(rest.c_str()));
-  if (command == "signal") std::raise(std::atoi(rest.c_str()));
+  if (command == "signal") endBy(std::atoi(rest.c_str()));
 }
 
 }  // namespace

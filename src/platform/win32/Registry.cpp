@@ -27,6 +27,36 @@ std::string expanded(const std::string& text) {
 
 }  // namespace
 
+RegistryKey::RegistryKey(HKEY above, const std::string& name, REGSAM view) {
+  if (RegOpenKeyExA(above, name.c_str(), 0, KEY_READ | view, &key_) != ERROR_SUCCESS) key_ = nullptr;
+}
+
+RegistryKey::~RegistryKey() {
+  if (key_ != nullptr) RegCloseKey(key_);
+}
+
+std::string RegistryKey::text(const char* name) const {
+  char buffer[1024];
+  DWORD size = sizeof buffer;
+  DWORD type = 0;
+  if (RegQueryValueExA(key_, name, nullptr, &type, reinterpret_cast<BYTE*>(buffer), &size) != ERROR_SUCCESS ||
+      type != REG_SZ) {
+    return {};
+  }
+  return std::string(buffer, std::find(buffer, buffer + size, '\0'));
+}
+
+std::vector<std::string> RegistryKey::subkeys() const {
+  std::vector<std::string> names;
+  char buffer[256];
+  for (DWORD index = 0;; ++index) {
+    DWORD size = sizeof buffer;
+    if (RegEnumKeyExA(key_, index, buffer, &size, nullptr, nullptr, nullptr, nullptr) != ERROR_SUCCESS) break;
+    names.emplace_back(buffer, size);
+  }
+  return names;
+}
+
 HKEY openKeyPath(HKEY root, const RegistryPath& path) {
   std::string message = "Couldn't find registry subkey ";
   HKEY key = root;

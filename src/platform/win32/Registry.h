@@ -12,6 +12,26 @@ struct NoSuchRegistryEntryE {
   std::string message;
 };
 
+/// A key that is open for reading; closed at the end of its life.
+class RegistryKey {
+ public:
+  /// `view` is KEY_WOW64_64KEY, KEY_WOW64_32KEY, or 0 for the process's own.
+  RegistryKey(HKEY above, const std::string& name, REGSAM view);
+  ~RegistryKey();
+  RegistryKey(const RegistryKey&) = delete;
+  RegistryKey& operator=(const RegistryKey&) = delete;
+
+  /// Null if there is no such key.
+  HKEY handle() const { return key_; }
+  /// A value that is a text; empty if it is none, is not there, or is longer than any path.
+  std::string text(const char* name) const;
+  /// The names of the keys right below.
+  std::vector<std::string> subkeys() const;
+
+ private:
+  HKEY key_ = nullptr;
+};
+
 /// Names of keys from a root on.
 using RegistryPath = std::vector<std::string>;
 

@@ -415,6 +415,20 @@ TEST(ToolLogTest, LiesWhereTheConfigurationIsWhenItIsMade) {
   EXPECT_EQ(log.path(), after.file("Tarnwick_LOG1.tmp"));
 }
 
+TEST(ToolLogTest, AfterAFailureItLiesWhereTheConfigurationIsThen) {
+  const test::ScratchFolder scratch;
+  std::string folder = scratch.file("gone") + platform::folderSeparator;
+  ToolLog log([&folder] { return folder; });
+  EXPECT_THROW(log.open(FileMode::Write), Tarnwickfile::FileNotOpenE);
+  EXPECT_EQ(log.path(), "");
+  folder = scratch.path();
+  log.open(FileMode::Write);
+  EXPECT_EQ(log.path(), scratch.file("Tarnwick_LOG1.tmp"));
+  log.append("abc", 3);
+  log.close();
+  EXPECT_EQ(test::contentOf(log.path()), "abc");
+}
+
 TEST(ToolLogTest, ASecondProcesssLogTakesTheNextNumber) {
   const test::ScratchFolder folder;
   ToolLog first(folder.path());

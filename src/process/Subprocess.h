@@ -2,11 +2,13 @@
 
 #include "base/Tarnwickfile.h"
 #include "dialogbase/Desktop.h"
+#include "platform/Process.h"
 #include "process/FileForSubprocess.h"
 #include "process/ToolLog.h"
 
 #include <atomic>
 #include <cstddef>
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
@@ -48,6 +50,9 @@ class Subprocess {
   Desktop& desktop_;
 
  private:
+  /// Null after the message that it did not start.
+  std::unique_ptr<platform::ChildProcess> startChild(const std::string& arguments, const std::string& title);
+
   ToolLog& log_;
   std::string executable_;
   std::vector<std::string> arguments_;

@@ -8,7 +8,7 @@ import time
 
 import person
 import world
-from person import wait_until
+from person import NotSeen, wait_until
 from world import type_line
 
 BANNER = "****  Tarnwick:  E n d   o f   j a v a   e x e c u t i o n   ****"
@@ -16,10 +16,16 @@ BANNER = "****  Tarnwick:  E n d   o f   j a v a   e x e c u t i o n   ****"
 
 def shows(scratch, console, text, seconds=30):
     """Waits until the console's saved display holds the text; gives all of it."""
+    display = ""
+
     def saved():
+        nonlocal display
         display = scratch.saved_display(console)
         return display if text in display else None
-    return wait_until(f"{text!r} in the console", saved, seconds)
+    try:
+        return wait_until(f"{text!r} in the console", saved, seconds)
+    except NotSeen as e:
+        raise NotSeen(f"{e}; the console shows:\n{display}") from None
 
 
 def started(scratch, path):

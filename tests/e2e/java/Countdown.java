@@ -7,7 +7,7 @@ public class Countdown {
         for (int left = 3; left > 0; left--) {
             countdown.tell(left);
         }
-        System.err.println("Lift off, " + args.length + " arguments");
+        System.out.println("Lift off, " + args.length + " arguments");
     }
 
     void tell(int left) {

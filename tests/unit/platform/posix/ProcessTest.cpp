@@ -140,6 +140,17 @@ TEST(PosixProcessTest, AChildHasAGroupOfItsOwn) {
   child->wait();
 }
 
+TEST(PosixProcessTest, ADetachedProgramLivesInASessionOfItsOwn) {
+  const test::ScratchFolder folder;
+  const std::string note = folder.file("note");
+  startDetached("/bin/sh", {"sh", "-c", "echo $$ > \"" + note + "\"; exec sleep 60"});
+  const auto noted = [&note] { return std::filesystem::exists(note) && test::contentOf(note).ends_with('\n'); };
+  ASSERT_TRUE(waitUntil(noted));
+  const pid_t program = std::stoi(test::contentOf(note));
+  EXPECT_EQ(getsid(program), program) << "it stays when our terminal goes";
+  kill(program, SIGKILL);
+}
+
 TEST(PosixProcessTest, WhatIgnoresTermIsKilledAfterTwoSeconds) {
   const StandInScript script("ignoreterm\ngrandchild 60000\nsleep 60000");
   const auto child = ChildProcess::start({java(), "", true});

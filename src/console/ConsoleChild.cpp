@@ -13,6 +13,7 @@ namespace tarnwick {
 namespace {
 
 const char endBanner[] = "****  Tarnwick:  E n d   o f   j a v a   e x e c u t i o n   ****";
+const char noThread[] = "Tarnwick Internal error: Thread creation (subprocess) failed.\n";
 
 }  // namespace
 
@@ -36,9 +37,9 @@ ConsoleChild::~ConsoleChild() {
 
 void ConsoleChild::start() {
   try {
-    runThread_ = std::thread([this] { run(); });
+    runThread_ = program_.thread([this] { run(); });
   } catch (const std::system_error&) {
-    desktop_.message("Tarnwick Internal error: Thread creation (subprocess) failed.\n");
+    desktop_.message(noThread);
   }
 }
 
@@ -69,9 +70,14 @@ void ConsoleChild::run() {
   try {
     if (program_.runArguments.find(" -verbose ") != std::string::npos) echoCommand();
     if (!startProcess()) return;
-    startReaders();
   } catch (const std::exception&) {
     endWithMessage("Can't open " + program_.exeFile + ".\nCheck java path in settings.");
+    return;
+  }
+  try {
+    startReaders();
+  } catch (const std::system_error&) {
+    endWithMessage(noThread);
     return;
   }
   wake_();
@@ -126,8 +132,8 @@ void ConsoleChild::startReaders() {
   // Both lines begin before either thread runs: one that came late would cut what the other has brought.
   stdoutReader_.begin();
   stderrReader_.begin();
-  stdoutThread_ = std::thread([this] { read(Stream::Output, stdoutReader_); });
-  stderrThread_ = std::thread([this] { read(Stream::Error, stderrReader_); });
+  stdoutThread_ = program_.thread([this] { read(Stream::Output, stdoutReader_); });
+  stderrThread_ = program_.thread([this] { read(Stream::Error, stderrReader_); });
   writer_.start(*process_);
 }
 
@@ -205,6 +211,7 @@ void ConsoleChild::requestClose() {
 }
 
 bool ConsoleChild::pause(std::chrono::milliseconds time) {
+  if (program_.timing.onWait) program_.timing.onWait(time);
   std::unique_lock guard(stateLock_);
   return !stateChanged_.wait_for(guard, time, [this] { return stopping_; });
 }

@@ -33,6 +33,8 @@ class ConsoleSurface {
  public:
   virtual ~ConsoleSurface() = default;
 
+  /// False if the system had no fixed-pitch font; the text then shows in the window's own.
+  virtual bool hasFont() const = 0;
   /// The fixed-pitch character cell in pixels: width and height.
   virtual Point cell() const = 0;
   /// Width and height of the visible part in pixels.

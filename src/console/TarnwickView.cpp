@@ -37,6 +37,7 @@ TarnwickView::~TarnwickView() {
 
 void TarnwickView::onStart(ConsoleSurface& surface) {
   surface_ = &surface;
+  if (!surface_->hasFont()) desktop_.message("Error creating font");
   if (!measure()) desktop_.message("Error getting font metrics");
   if (child_.childState() == -1) child_.start();
   surface_->setScrollSizes({1, 1});

@@ -2,7 +2,6 @@
 
 #include "base/Text.h"
 #include "platform/FileSystem.h"
-#include "platform/Process.h"
 
 #include <chrono>
 #include <condition_variable>
@@ -101,7 +100,28 @@ class LoggedRun {
   int endedOutputs_ = 0;
 };
 
+/// The command text: empty arguments add nothing to it, not even a blank.
+std::string joined(const std::vector<std::string>& arguments) {
+  std::string text;
+  for (const auto& argument : arguments) {
+    if (!argument.empty()) text += ' ';
+    text += argument;
+  }
+  return trimLeft(text);
+}
+
 }  // namespace
+
+bool enterFolderOf(Desktop& desktop, const Filename& file) {
+  const std::string folder = file.directory();
+  if (folder.empty() || platform::changeDirectory(folder)) return true;
+  desktop.message("Subprocess::run(): _chdir error");
+  return false;
+}
+
+std::string detachedStartFailure(const std::string& program, const platform::SystemError& failure) {
+  return "Unable to start " + program + ".\n\n" + failure.reason + "  (" + std::to_string(failure.code) + ')';
+}
 
 Subprocess::Subprocess(Desktop& desktop, ToolLog& log, std::string executable)
     : desktop_(desktop), log_(log), executable_(std::move(executable)) {}
@@ -132,19 +152,7 @@ std::optional<std::vector<std::string>> Subprocess::collectVector(const FileForS
 }
 
 bool Subprocess::enterFolder(const FileForSubprocess* file) {
-  const std::string folder = file != nullptr ? file->name().directory() : "";
-  if (folder.empty() || platform::changeDirectory(folder)) return true;
-  desktop_.message("Subprocess::run(): _chdir error");
-  return false;
-}
-
-std::string Subprocess::joined(const std::vector<std::string>& arguments) {
-  std::string text;
-  for (const auto& argument : arguments) {
-    if (!argument.empty()) text += ' ';
-    text += argument;
-  }
-  return trimLeft(text);
+  return file == nullptr || enterFolderOf(desktop_, file->name());
 }
 
 bool Subprocess::run(FileForSubprocess* file, FileMode logOpenMode) {
@@ -186,8 +194,7 @@ bool DetachedSubprocess::run(FileForSubprocess* file, FileMode /*logOpenMode*/) 
   try {
     platform::startDetached(executable(), *collected);
   } catch (const platform::SystemError& error) {
-    desktop_.message("Unable to start " + executable() + ".\n\n" + error.reason + "  (" + std::to_string(error.code) +
-                     ')');
+    desktop_.message(detachedStartFailure(executable(), error));
   }
   return false;
 }

@@ -47,6 +47,7 @@ WxConsoleSurface::WxConsoleSurface(wxWindow* parent, WindowStack& stack, Desktop
                                          desktop.stopTimer(*number);
                                          task();
                                        });
+                                       return *number > 0;
                                      },
                                      [this] { tell([this] { client_.onWake(); }); });
 }
@@ -56,7 +57,9 @@ WxConsoleSurface::~WxConsoleSurface() {
 }
 
 void WxConsoleSurface::measureCell() {
-  SetFont(consoleFont());
+  const wxFont font = consoleFont();
+  hasFont_ = font.IsOk();
+  if (hasFont_) SetFont(font);
   constexpr int many = 100;
   const wxSize extent = GetTextExtent(wxString('M', many));
   cell_ = {std::max(1, (extent.x + many / 2) / many), std::max(1, extent.y)};

@@ -8,7 +8,7 @@ import time
 import person
 from person import wait_until
 from picture import BLACK, WHITE, Picture
-from test_console import BANNER, nothing_left, shows, started
+from test_console import BANNER, nothing_left, nothing_left_three_seconds_later, shows, started
 from world import type_line
 
 
@@ -130,23 +130,20 @@ def deaf(scratch):
     console = scratch.run_class(panel, scratch.compiled(scratch.source("Deaf.java"), "-XDignore.symbol.file"))
     shows(scratch, console, "deaf")
     assert len(scratch.processes("java")) == 1 and len(scratch.processes("sleep")) == 1
-    return console
-
-
-def gone_after_three_seconds(scratch):
-    wait_until("the end of all", lambda: not scratch.processes("java") and not scratch.processes("sleep"), 3.5)
+    return panel, console
 
 
 def test_a_program_that_ignores_the_request_to_end_goes_with_its_console(scratch):
-    console = deaf(scratch)
+    panel, console = deaf(scratch)
     console.close()
     console.is_gone()
-    gone_after_three_seconds(scratch)
+    nothing_left_three_seconds_later(scratch, panel.process)
 
 
 def test_a_program_that_ignores_the_request_to_end_goes_with_a_killed_console(scratch):
-    os.kill(deaf(scratch).process, signal.SIGKILL)
-    gone_after_three_seconds(scratch)
+    panel, console = deaf(scratch)
+    os.kill(console.process, signal.SIGKILL)
+    nothing_left_three_seconds_later(scratch, panel.process)
 
 
 def test_letters_beyond_ascii_come_from_the_keyboard_too(scratch):

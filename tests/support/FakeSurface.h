@@ -22,6 +22,7 @@ class FakeSurface : public ConsoleSurface {
   int closes = 0;
   int hintChanges = 0;
   bool hint = false;
+  bool fontMade = true;
   std::atomic<int> wakes{0};
   /// Told of its end within `close`, as a window may do it.
   ConsoleSurfaceClient* endsAtOnce = nullptr;
@@ -33,6 +34,7 @@ class FakeSurface : public ConsoleSurface {
   /// True once for all wakes since the last call.
   bool takeWake() { return wakes.exchange(0) > 0; }
 
+  bool hasFont() const override { return fontMade; }
   Point cell() const override { return cellSize; }
   Point clientSize() const override { return client; }
   Point scrollPosition() const override { return position; }

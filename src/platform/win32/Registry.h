@@ -35,9 +35,13 @@ class RegistryKey {
 /// Names of keys from a root on.
 using RegistryPath = std::vector<std::string>;
 
-/// Walks a path from a root and opens its last key for reading; the root itself for an empty path. The keys are left to
-/// the end of the process. Throws NoSuchRegistryEntryE.
+/// Walks a path from a root and opens its last key for reading; the root itself for an empty path. Who does not close
+/// the key leaves it to the end of the process. Throws NoSuchRegistryEntryE.
 HKEY openKeyPath(HKEY root, const RegistryPath& path);
+
+/// Takes the unnamed text of a key, with the variables of the environment in it replaced where it is kept with such.
+/// False, and nothing taken, if there is none or it is longer than a command may be.
+bool readDefaultValue(HKEY root, const RegistryPath& path, std::string& text);
 
 /// Removes a key with what is below it, as far as that goes: every second subkey is passed over, and a key that then
 /// still has one stays.

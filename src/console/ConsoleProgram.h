@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/ConsoleWindows.h"
 #include "platform/Process.h"
 
 #include <chrono>
@@ -14,13 +15,16 @@ namespace tarnwick {
 /// How the console's child is started.
 using ChildFactory = std::function<std::unique_ptr<platform::ChildProcess>(const platform::ChildCommand&)>;
 
-/// How long the console waits for a child's last words.
+/// How long the console waits for a child's last words, and at its close.
 struct ConsoleTiming {
   std::chrono::milliseconds settle{200};      ///< the output has settled when nothing comes for so long
   std::chrono::milliseconds readerWait{400};  ///< for a reader that was active lately
   int readerTries = 8;
   /// Hears, on the thread that waits, of each of these waits as it begins.
   std::function<void(std::chrono::milliseconds)> onWait = {};
+  std::chrono::milliseconds restoreWait{500};  ///< for the child's console window to be no icon any longer
+  int restoreTries = 6;
+  std::chrono::milliseconds closeGrace{2000};  ///< for what runs in a console window that was told to close
 };
 
 /// How the console's threads are started. Throws std::system_error when there is none to be had.
@@ -33,6 +37,7 @@ struct ConsoleProgram {
   ChildFactory start = &platform::ChildProcess::start;
   ConsoleTiming timing;
   ThreadFactory thread = [](std::function<void()> work) { return std::thread(std::move(work)); };
+  platform::ConsoleWindows* windows = &platform::ConsoleWindows::ofSystem();
 };
 
 }  // namespace tarnwick

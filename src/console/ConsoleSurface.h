@@ -1,6 +1,7 @@
 #pragma once
 
 #include "dialogbase/DialogWindow.h"
+#include "platform/ConsoleWindows.h"
 
 #include <cstdint>
 #include <optional>
@@ -55,6 +56,9 @@ class ConsoleSurface {
   /// Shows or hides the hint about quick copying (`hintLayout`), 20 pixels right of and below the view's left top
   /// corner. It never takes the focus.
   virtual void showHint(bool on) = 0;
+
+  /// Brings the view to the top and the frame that it is in to the foreground. Gives the frame.
+  virtual platform::WindowNumber bringToFront() = 0;
 
   /// Closes the console's window. The client's `onClose` may come before this returns.
   virtual void close() = 0;

@@ -155,6 +155,19 @@ bool Subprocess::enterFolder(const FileForSubprocess* file) {
   return file == nullptr || enterFolderOf(desktop_, file->name());
 }
 
+std::unique_ptr<platform::ChildProcess> Subprocess::startChild(const std::string& arguments, const std::string& title) {
+  std::vector<std::string> texts;
+  std::unique_ptr<platform::ChildProcess> child;
+  const auto report = [&texts](const platform::SystemError& fault) { texts.push_back(fault.text()); };
+  try {
+    child = platform::ChildProcess::start({executable_, arguments, false, title, report});
+  } catch (const platform::SystemError& error) {
+    texts.push_back("Can't start " + executable_ + '\n' + error.text());
+  }
+  for (const auto& text : texts) desktop_.message(text);
+  return child;
+}
+
 bool Subprocess::run(FileForSubprocess* file, FileMode logOpenMode) {
   const auto collected = collectVector(file);
   if (!collected) return false;
@@ -164,13 +177,8 @@ bool Subprocess::run(FileForSubprocess* file, FileMode logOpenMode) {
   // The first word is the tool's own name, in whose place the system gets the executable.
   const auto blank = command.find(' ');
   const std::string tail = blank == std::string::npos ? "" : command.substr(blank);
-  std::unique_ptr<platform::ChildProcess> child;
-  try {
-    child = platform::ChildProcess::start({executable_, tail, false});
-  } catch (const platform::SystemError& error) {
-    desktop_.message("Can't start " + executable_ + '\n' + error.text());
-    return false;
-  }
+  const auto child = startChild(tail, command);
+  if (!child) return false;
 
   std::optional<Tarnwickfile::FileNotOpenE> logFault;
   try {

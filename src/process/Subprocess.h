@@ -8,6 +8,7 @@
 
 #include <atomic>
 #include <cstddef>
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
@@ -54,6 +55,9 @@ class Subprocess {
   Desktop& desktop_;
 
  private:
+  /// Null after the message that it did not start.
+  std::unique_ptr<platform::ChildProcess> startChild(const std::string& arguments, const std::string& title);
+
   ToolLog& log_;
   std::string executable_;
   std::vector<std::string> arguments_;

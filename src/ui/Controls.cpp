@@ -97,13 +97,25 @@ wxWindow* makeEdit(wxWindow& parent, const DialogItem& item) {
   return edit;
 }
 
-/// Blue, and red under the pointer, on any theme; it never opens anything by itself.
+struct LinkColours {
+  wxColour usual = *wxBLUE;
+  wxColour underPointer = *wxRED;
+};
+
+/// Blue and red, pure wherever they can be read: on a dark theme they need some light.
+LinkColours linkColours() {
+  if (!wxSystemSettings::GetAppearance().IsUsingDarkBackground()) return {};
+  return {wxColour(110, 160, 255), wxColour(255, 120, 120)};
+}
+
+/// It never opens anything by itself.
 wxWindow* makeLink(wxWindow& parent, const std::string& address) {
   auto* made = new wxGenericHyperlinkCtrl(&parent, wxID_ANY, toWx(address), toWx(address), wxDefaultPosition,
                                           wxDefaultSize, wxHL_ALIGN_LEFT | wxNO_BORDER);
-  made->SetNormalColour(*wxBLUE);
-  made->SetVisitedColour(*wxBLUE);
-  made->SetHoverColour(*wxRED);
+  const LinkColours colours = linkColours();
+  made->SetNormalColour(colours.usual);
+  made->SetVisitedColour(colours.usual);
+  made->SetHoverColour(colours.underPointer);
   describeLink(*made, address);
   return made;
 }

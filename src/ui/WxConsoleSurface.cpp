@@ -9,6 +9,7 @@
 #include <wx/dcbuffer.h>
 #include <wx/fontenum.h>
 #include <wx/settings.h>
+#include <wx/toplevel.h>
 
 #include <algorithm>
 
@@ -179,6 +180,13 @@ void WxConsoleSurface::invalidateAll() {
 void WxConsoleSurface::showHint(bool on) {
   if (on && !hint_) hint_ = std::make_unique<HintWindow>(stack_, *this);
   if (hint_) hint_->showWindow(on);
+}
+
+platform::WindowNumber WxConsoleSurface::bringToFront() {
+  wxWindow* const frame = wxGetTopLevelParent(this);
+  Raise();
+  frame->Raise();
+  return reinterpret_cast<platform::WindowNumber>(frame->GetHandle());
 }
 
 void WxConsoleSurface::onPaint(wxPaintEvent&) {

@@ -37,6 +37,7 @@ class WxConsoleSurface : public wxWindow, public ConsoleSurface {
   void invalidateAll() override;
   void wake() override { gate_->wake(); }
   void showHint(bool on) override;
+  platform::WindowNumber bringToFront() override;
   void close() override { requestClose_(); }
 
   bool AcceptsFocus() const override { return true; }

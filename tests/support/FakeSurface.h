@@ -21,6 +21,8 @@ class FakeSurface : public ConsoleSurface {
   int allInvalidated = 0;
   int closes = 0;
   int hintChanges = 0;
+  int raised = 0;
+  platform::WindowNumber frame = 7;
   bool hint = false;
   bool fontMade = true;
   std::atomic<int> wakes{0};
@@ -52,6 +54,10 @@ class FakeSurface : public ConsoleSurface {
   void showHint(bool on) override {
     hint = on;
     ++hintChanges;
+  }
+  platform::WindowNumber bringToFront() override {
+    ++raised;
+    return frame;
   }
   void close() override {
     ++closes;

@@ -60,6 +60,31 @@ TEST_F(ConsoleChildTest, StartsTheExecutableWithTheRunArgumentsUnchanged) {
   EXPECT_EQ(started.executable, "C:\\Jdk\\Bin\\Java.exe");
   EXPECT_EQ(started.arguments, " -cp \"a b\"  Main \\/b");
   EXPECT_TRUE(started.interactive);
+  EXPECT_EQ(started.consoleTitle, "C:\\Jdk\\Bin\\Java.exe");
+}
+
+TEST_F(ConsoleChildTest, StepsThatFailedAtTheStartAreToldAndTheRunGoesOn) {
+  program.start = [this](const platform::ChildCommand& command) -> std::unique_ptr<platform::ChildProcess> {
+    command.report({"AllocConsole()", 5, "Access is denied."});
+    command.report({"CreatePipe()", 8, "No memory."});
+    return std::make_unique<test::FakeChild>(child);
+  };
+  openWith(program);
+  ASSERT_TRUE(until([&] { return desktop.messages.size() == 2; }));
+  EXPECT_EQ(desktop.messages, (Lines{"AllocConsole() error 5\nAccess is denied.", "CreatePipe() error 8\nNo memory."}));
+  EXPECT_TRUE(until([&] { return view->childState() == 1; }));
+  EXPECT_EQ(surface.closes, 0);
+}
+
+TEST_F(ConsoleChildTest, StepsThatFailedAreToldBeforeTheFailureOfAll) {
+  program.start = [](const platform::ChildCommand& command) -> std::unique_ptr<platform::ChildProcess> {
+    command.report({"AllocConsole()", 5, "Access is denied."});
+    throw platform::SystemError{"CreateProcess", 2, "No such file"};
+  };
+  openWith(program);
+  ASSERT_TRUE(until([&] { return desktop.messages.size() == 2; }));
+  EXPECT_EQ(desktop.messages[0], "AllocConsole() error 5\nAccess is denied.");
+  EXPECT_NE(desktop.messages[1].find("CreateProcess error 2\nNo such file"), std::string::npos);
 }
 
 TEST_F(ConsoleChildTest, EachReaderBeginsALine) {

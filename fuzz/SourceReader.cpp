@@ -3,34 +3,59 @@
 #include "source/SourceReader.h"
 
 #include "MemoryFile.h"
-#include "PlainReader.h"
 #include "Property.h"
-#include "TextMode.h"
 #include "base/Text.h"
 #include "source/Tokens.h"
+#include "support/source/PlainSourceReader.h"
 
+#include <string>
 #include <string_view>
 
 namespace tarnwick::fuzz {
 namespace {
 
-using Outcome = PlainReader::Outcome;
+/// What one step of a reader came to.
+struct Step {
+  std::string first;   ///< the character, or the statement without its strings
+  std::string second;  ///< whether the character is in a string, or the whole statement
+  std::string fault;   ///< what kept it from either
+  int line = 0;
+};
 
-/// What `read` ends with.
-template <typename Read>
-Outcome outcomeOf(const SourceReader& reader, const Tarnwickfile& file, Read read) {
+/// `read` fills the step that it is given.
+template <typename Reader, typename Read>
+Step stepOf(const Reader& reader, const Tarnwickfile& file, Read read) {
+  Step step;
   try {
-    read();
-    return Outcome::Delivered;
+    read(step);
   } catch (const SourceReader::EndBraceE&) {
-    return Outcome::EndBrace;
+    step = {"", "", "end of a level"};
   } catch (const SourceReader::BadDataE& failure) {
-    const std::string line = "Line " + std::to_string(reader.line());
+    step = {"", "", failure.message};
     requireSame(failure.file, file.name().quoted(), "a failure names the file");
-    if (failure.message == line + ": Too many }") return Outcome::TooManyBraces;
-    requireSame(failure.message, line + ": Invalid character constant.", "a failure names the line and what is wrong");
-    return Outcome::BadConstant;
   }
+  step.line = reader.line();
+  return step;
+}
+
+template <typename Reader>
+Step characterOf(Reader& reader, const Tarnwickfile& file) {
+  return stepOf(reader, file, [&reader](Step& step) {
+    char c = 'x';
+    step.second = reader.next(c) ? "in a string" : "";
+    step.first = std::string(1, c);
+  });
+}
+
+template <typename Reader>
+Step statementOf(Reader& reader, const Tarnwickfile& file) {
+  return stepOf(reader, file, [&reader](Step& step) {
+    std::string_view code;
+    std::string_view raw;
+    reader.readStatement(code, &raw);
+    step.first = code;
+    step.second = raw;
+  });
 }
 
 /// A scanner and its reference, driven alike.
@@ -39,41 +64,29 @@ class Pair {
   explicit Pair(const std::string& bytes)
       : content_(bytes),
         file_(Tarnwickfile::unopened(content_.path(), FileMode::Undefined)),
+        sameFile_(Tarnwickfile::unopened(content_.path(), FileMode::Undefined)),
         reader_(file_),
-        reference_(asText(bytes)) {
+        reference_(sameFile_) {
     require(file_.isOpen() && file_.mode() == FileMode::Read, "the file is opened for reading");
   }
 
   bool atEnd() {
     const bool end = reader_.atEof();
-    require(end == reference_.atEnd(), "both are at the end at once");
+    require(end == reference_.atEof(), "both are at the end at once");
     return end;
   }
 
   void character() {
-    const auto expected = reference_.next();
-    char c = 'x';
-    bool inside = false;
-    const auto outcome = outcomeOf(reader_, file_, [&] { inside = reader_.next(c); });
-    require(outcome == expected.outcome, "both meet the same");
-    requireSameLine();
-    if (outcome != Outcome::Delivered) return;
-    requireSame(std::string(1, c), std::string(1, expected.c), "the same character is delivered");
-    require(inside == expected.inside, "and it is in a string, or not");
-    lastWasBrace_ = c == '{';
+    const Step step = characterOf(reader_, file_);
+    requireLikeReference(step, characterOf(reference_, sameFile_));
+    if (step.fault.empty()) lastWasBrace_ = step.first == "{";
   }
 
   void statement() {
-    const auto expected = reference_.readStatement();
-    std::string_view code;
-    std::string_view raw;
-    const auto outcome = outcomeOf(reader_, file_, [&] { reader_.readStatement(code, &raw); });
-    require(outcome == expected.outcome, "both meet the same");
-    requireSameLine();
-    if (outcome != Outcome::Delivered) return;
-    requireSame(std::string(raw), expected.raw, "the statement is the same");
-    requireSame(std::string(code), expected.code, "and so it is without strings");
-    walkTokens(code);
+    const Step step = statementOf(reader_, file_);
+    requireLikeReference(step, statementOf(reference_, sameFile_));
+    if (!step.fault.empty()) return;
+    walkTokens(step.first);
     lastWasBrace_ = false;
   }
 
@@ -84,7 +97,12 @@ class Pair {
   bool lastWasBrace() const { return lastWasBrace_; }
 
  private:
-  void requireSameLine() const { require(reader_.line() == reference_.line(), "both are in the same line"); }
+  static void requireLikeReference(const Step& step, const Step& expected) {
+    requireSame(step.fault, expected.fault, "both meet the same failure, or none");
+    requireSame(step.first, expected.first, "both read the same");
+    requireSame(step.second, expected.second, "both tell strings from code");
+    require(step.line == expected.line, "both are in the same line");
+  }
 
   /// Each token takes something, until nothing is left; a word and what is passed over with it make the text.
   static void walkTokens(std::string_view code) {
@@ -112,8 +130,9 @@ class Pair {
 
   MemoryFile content_;
   Tarnwickfile file_;
+  Tarnwickfile sameFile_;
   SourceReader reader_;
-  PlainReader reference_;
+  test::PlainSourceReader reference_;
   bool lastWasBrace_ = false;
 };
 

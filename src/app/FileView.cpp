@@ -87,6 +87,7 @@ std::vector<int> FileView::ownControls() const {
 
 void FileView::onTabChanged() {
   settings_.fileviewTab = currentPage();
+  settings_.saveCurrent();
 }
 
 void FileView::onCommand(int control) {

@@ -8,7 +8,6 @@
 #include "base/Text.h"
 #include "platform/FileSystem.h"
 #include "platform/Path.h"
-#include "platform/ProjectType.h"
 
 #include <algorithm>
 
@@ -79,10 +78,10 @@ int TarnwickApp::runPanel() {
   return 0;
 }
 
-void TarnwickApp::registerProjectType() {
+void TarnwickApp::registerProjectType(const std::function<void(const std::string&)>& enter) {
   if (shellRegistered_) return;
   shellRegistered_ = true;
-  platform::registerProjectType(program_.programPath);
+  enter(program_.programPath);
 }
 
 bool TarnwickApp::enterDefaultFolder(const std::string& value) {

@@ -4,9 +4,11 @@
 #include "base/ProgramInfo.h"
 #include "base/Tarnwickfile.h"
 #include "dialogbase/Desktop.h"
+#include "platform/ProjectType.h"
 #include "process/ToolLog.h"
 #include "settings/Settings.h"
 
+#include <functional>
 #include <string>
 
 namespace tarnwick {
@@ -20,8 +22,9 @@ class TarnwickApp {
   /// The whole life of the process. Gives the exit code: 0, or 1 after a start that failed.
   int run(const std::string& commandLine);
 
-  /// Makes this program the opener of project files. Done once in a run; no failure is told.
-  void registerProjectType();
+  /// Makes this program the opener of project files by way of `enter`, which is given its path. Done once in a run; no
+  /// failure is told.
+  void registerProjectType(const std::function<void(const std::string&)>& enter = platform::registerProjectType);
 
   const ProgramInfo& program() const { return program_; }
   const std::string& runArguments() const { return runArguments_; }

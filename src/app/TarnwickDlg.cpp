@@ -77,12 +77,15 @@ void TarnwickDlg::welcomeFirstUse(int status) {
                           "Look for a file \"javac.exe\" in a \"bin\" subfolder of the JDK installation tree and\n"
                           "enter it in the field \"Tools .exe directory\".\n"))
       .runModal();
-  if (settings_.javaPath.empty()) settings_.javaPath = preferredJdkTools(settings_.context().installedJdks());
   const bool noConfiguration = status == READ_FILE_LOST;
+  const std::string known = settings_.javaPath;
+  if (known.empty()) settings_.javaPath = preferredJdkTools(settings_.context().installedJdks());
   if (noConfiguration) suitJdk();
   const std::string offered = settings_.javaPath;
-  settings_.runModal(0);
+  const bool accepted = settings_.runModal(0) == DIALOG_OK;
   if (noConfiguration && settings_.javaPath != offered) suitJdk();
+  // Into a configuration that is there nothing comes that its user has not accepted.
+  if (!noConfiguration && !accepted) settings_.javaPath = known;
   settings_.saveDefaultConfiguration(nullptr);
 }
 

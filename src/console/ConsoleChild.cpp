@@ -13,6 +13,7 @@ namespace tarnwick {
 namespace {
 
 const char endBanner[] = "****  Tarnwick:  E n d   o f   j a v a   e x e c u t i o n   ****";
+const char noThread[] = "Tarnwick Internal error: Thread creation (subprocess) failed.\n";
 
 }  // namespace
 
@@ -36,9 +37,9 @@ ConsoleChild::~ConsoleChild() {
 
 void ConsoleChild::start() {
   try {
-    runThread_ = std::thread([this] { run(); });
+    runThread_ = program_.thread([this] { run(); });
   } catch (const std::system_error&) {
-    desktop_.message("Tarnwick Internal error: Thread creation (subprocess) failed.\n");
+    desktop_.message(noThread);
   }
 }
 
@@ -47,31 +48,49 @@ void ConsoleChild::write(std::string bytes) {
   if (childState_ != 0) writer_.send(std::move(bytes));
 }
 
-void ConsoleChild::close() {
+void ConsoleChild::close(const std::function<bool()>& askToEnd) {
+  bool running = false;
+  writer_.breakOff();
   {
     const std::lock_guard guard(stateLock_);
     const bool closedBefore = std::exchange(stopping_, true);
     stateChanged_.notify_all();
-    if (process_ && !closedBefore) {
-      if (childState_ == 1) process_->endTree();
-      process_->stopReading();
-      process_->stopWaiting();
-    }
+    running = process_ && !closedBefore;
+    // Before the child is asked to end: whoever waits for its end would let go what it leaves behind.
+    if (running) process_->stopWaiting();
   }
   // The run thread starts the others, so it goes first.
   if (runThread_.joinable()) runThread_.join();
+  if (running) endProcess(askToEnd);
   if (stdoutThread_.joinable()) stdoutThread_.join();
   if (stderrThread_.joinable()) stderrThread_.join();
   writer_.stop();
+}
+
+void ConsoleChild::endProcess(const std::function<bool()>& askToEnd) {
+  if (childState_ == 1) {
+    if (askToEnd()) {
+      process_->endTreeWithin(program_.timing.closeGrace);
+    } else {
+      process_->endTree();
+    }
+  }
+  processEnded_ = true;
+  process_->stopReading();
 }
 
 void ConsoleChild::run() {
   try {
     if (program_.runArguments.find(" -verbose ") != std::string::npos) echoCommand();
     if (!startProcess()) return;
-    startReaders();
   } catch (const std::exception&) {
     endWithMessage("Can't open " + program_.exeFile + ".\nCheck java path in settings.");
+    return;
+  }
+  try {
+    startReaders();
+  } catch (const std::system_error&) {
+    endWithMessage(noThread);
     return;
   }
   wake_();
@@ -106,7 +125,9 @@ void ConsoleChild::echoCommand() {
 bool ConsoleChild::startProcess() {
   std::unique_ptr<platform::ChildProcess> process;
   try {
-    process = program_.start({program_.exeFile, program_.runArguments, true});
+    // By its title, in the letters that the executable's path has here, the child's console window is found later.
+    process = program_.start({program_.exeFile, program_.runArguments, true, program_.exeFile,
+                              [this](const platform::SystemError& fault) { report(fault); }});
   } catch (const platform::SystemError& error) {
     const std::string text = "Can't start " + shownExecutable(program_.exeFile) + "\n" + error.text();
     desktop_.post([&desktop = desktop_, text] { desktop.message(text); });
@@ -121,13 +142,17 @@ bool ConsoleChild::startProcess() {
   return false;
 }
 
+void ConsoleChild::report(const platform::SystemError& fault) {
+  desktop_.post([&desktop = desktop_, text = fault.text()] { desktop.message(text); });
+}
+
 void ConsoleChild::startReaders() {
   using Stream = platform::ChildProcess::Stream;
   // Both lines begin before either thread runs: one that came late would cut what the other has brought.
   stdoutReader_.begin();
   stderrReader_.begin();
-  stdoutThread_ = std::thread([this] { read(Stream::Output, stdoutReader_); });
-  stderrThread_ = std::thread([this] { read(Stream::Error, stderrReader_); });
+  stdoutThread_ = program_.thread([this] { read(Stream::Output, stdoutReader_); });
+  stderrThread_ = program_.thread([this] { read(Stream::Error, stderrReader_); });
   writer_.start(*process_);
 }
 
@@ -135,8 +160,12 @@ void ConsoleChild::read(platform::ChildProcess::Stream stream, OutputReader& rea
   char block[OutputReader::blockSize];
   for (;;) {
     const std::size_t count = process_->read(stream, block, sizeof block);
-    // A console that closes leaves its unfinished line alone: it is not to reach a record file.
-    if (stopping()) return;
+    // A console that closes leaves its unfinished line alone: it is not to reach a record file. But a child that has
+    // been asked to end must not get stuck on its last words.
+    if (stopping()) {
+      if (count == 0 || processEnded_) return;
+      continue;
+    }
     if (count == 0) break;
     // Counted before it is handled: however busy the machine, a child that spoke never counts as silent.
     readerActive_ = true;
@@ -205,6 +234,7 @@ void ConsoleChild::requestClose() {
 }
 
 bool ConsoleChild::pause(std::chrono::milliseconds time) {
+  if (program_.timing.onWait) program_.timing.onWait(time);
   std::unique_lock guard(stateLock_);
   return !stateChanged_.wait_for(guard, time, [this] { return stopping_; });
 }

@@ -35,8 +35,9 @@ class ConsoleChild {
   /// Bytes for the child's standard input, as one write.
   void write(std::string bytes);
 
-  /// Ends the child with all that it started, if it runs, and waits for the threads, but not for the child.
-  void close();
+  /// Ends the child with all that it started, if it runs, and waits for the threads. `askToEnd` is called first, by
+  /// this thread; where it asks the child to end by itself and gives true, the child is given a little time for that.
+  void close(const std::function<bool()>& askToEnd = [] { return false; });
 
   /// -1 until the child runs and after a start that failed, 1 while it runs, 0 when it has ended.
   int childState() const { return childState_; }
@@ -46,6 +47,8 @@ class ConsoleChild {
   void run();
   void echoCommand();
   bool startProcess();
+  void report(const platform::SystemError& fault);
+  void endProcess(const std::function<bool()>& askToEnd);
   void startReaders();
   void read(platform::ChildProcess::Stream stream, OutputReader& reader);
   void endReader(OutputReader& reader);
@@ -74,6 +77,7 @@ class ConsoleChild {
   std::atomic<int> childState_{-1};
   std::atomic<std::uint64_t> totalOutputBytes_{0};
   std::atomic<bool> readerActive_{false};  ///< a hint only
+  std::atomic<bool> processEnded_{false};  ///< by `close`: nobody waits for what it still says
 
   InputWriter writer_;
   std::thread runThread_;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "dialogbase/DialogWindow.h"
+#include "platform/ConsoleWindows.h"
 
 #include <cstdint>
 #include <optional>
@@ -24,6 +25,8 @@ class ConsolePainter {
   virtual Rect clip() const = 0;
   /// Draws text in fixed-pitch cells from this left top corner on.
   virtual void drawText(int x, int y, const std::string& text, Colour colour) = 0;
+  /// Fills a rectangle with one colour.
+  virtual void fill(const Rect& rect, Colour colour) = 0;
   /// Inverts what has been painted in the rectangle.
   virtual void invert(const Rect& rect) = 0;
 };
@@ -33,6 +36,8 @@ class ConsoleSurface {
  public:
   virtual ~ConsoleSurface() = default;
 
+  /// False if the system had no fixed-pitch font; the text then shows in the window's own.
+  virtual bool hasFont() const = 0;
   /// The fixed-pitch character cell in pixels: width and height.
   virtual Point cell() const = 0;
   /// Width and height of the visible part in pixels.
@@ -53,6 +58,9 @@ class ConsoleSurface {
   /// Shows or hides the hint about quick copying (`hintLayout`), 20 pixels right of and below the view's left top
   /// corner. It never takes the focus.
   virtual void showHint(bool on) = 0;
+
+  /// Brings the view to the top and the frame that it is in to the foreground. Gives the frame.
+  virtual platform::WindowNumber bringToFront() = 0;
 
   /// Closes the console's window. The client's `onClose` may come before this returns.
   virtual void close() = 0;

@@ -19,12 +19,14 @@ void InputWriter::start(platform::ChildProcess& child) {
   thread_ = std::thread([this, &child] { run(child); });
 }
 
+void InputWriter::breakOff() {
+  const std::lock_guard guard(lock_);
+  stopping_ = true;
+  changed_.notify_one();
+}
+
 void InputWriter::stop() {
-  {
-    const std::lock_guard guard(lock_);
-    stopping_ = true;
-    changed_.notify_one();
-  }
+  breakOff();
   if (thread_.joinable()) thread_.join();
 }
 

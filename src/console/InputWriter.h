@@ -25,6 +25,8 @@ class InputWriter {
   void send(std::string bytes);
   /// Begins to write to this child, which outlives the writer.
   void start(platform::ChildProcess& child);
+  /// From here on nothing more is written, and a write that is broken off is no failure.
+  void breakOff();
   /// Lets the rest go and waits for the thread; whoever calls has made the child's `write` return.
   void stop();
 

@@ -28,6 +28,7 @@ TarnwickView::TarnwickView(TarnwickDoc& document, Desktop& desktop, ConsoleProgr
     : desktop_(desktop),
       functionKeys_(std::move(functionKeys)),
       screen_(document),
+      consoleSearch_(desktop, program, [this] { return child_.childState(); }),
       child_(screen_, desktop, std::move(program), [this] { wake(); }),
       editor_(screen_, [this](std::string bytes) { child_.write(std::move(bytes)); }) {}
 
@@ -37,6 +38,7 @@ TarnwickView::~TarnwickView() {
 
 void TarnwickView::onStart(ConsoleSurface& surface) {
   surface_ = &surface;
+  if (!surface_->hasFont()) desktop_.message("Error creating font");
   if (!measure()) desktop_.message("Error getting font metrics");
   if (child_.childState() == -1) child_.start();
   surface_->setScrollSizes({1, 1});
@@ -51,7 +53,8 @@ void TarnwickView::onClose() {
   stopTimer(blinkTimer_);
   stopTimer(continueTimer_);
   stopTimer(hintTimer_);
-  child_.close();
+  consoleSearch_.stop();
+  child_.close([this] { return consoleSearch_.close(); });
   surface_ = nullptr;
 }
 
@@ -81,7 +84,10 @@ void TarnwickView::wake() {
 void TarnwickView::onWake() {
   // First, so that what is noted from here on wakes again.
   wakePending_ = false;
-  if (surface_) apply(takeChanges());
+  if (!surface_) return;
+  // With the news that the child runs, and not while painting: it moves windows.
+  consoleSearch_.begin(*surface_);
+  apply(takeChanges());
 }
 
 void TarnwickView::onResized() {

@@ -5,6 +5,7 @@
 #include "console/ConsoleScreen.h"
 #include "console/ConsoleSelection.h"
 #include "console/ConsoleSurface.h"
+#include "console/ConsoleWindowSearch.h"
 #include "console/InputEditor.h"
 #include "console/TarnwickDoc.h"
 #include "dialogbase/Desktop.h"
@@ -40,6 +41,7 @@ class TarnwickView : public ConsoleSurfaceClient {
   bool canPaste() const { return desktop_.clipboardText().has_value(); }
 
   int childState() const { return child_.childState(); }
+  const ConsoleWindowSearch& consoleSearch() const { return consoleSearch_; }
 
   /// Closes the console's window.
   void closeWindow();
@@ -90,6 +92,7 @@ class TarnwickView : public ConsoleSurfaceClient {
   ConsoleSelection selection_{screen_.grid};
   ConsoleSurface* surface_ = nullptr;  ///< null before the start and after the close
   std::atomic<bool> wakePending_{false};
+  ConsoleWindowSearch consoleSearch_;
   ConsoleChild child_;
   InputEditor editor_;
 

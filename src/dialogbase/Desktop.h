@@ -55,7 +55,8 @@ class Desktop {
   /// the wait cursor shows. An exception of `work` is thrown on.
   virtual void whileBusy(const std::function<void()>& work) = 0;
 
-  /// Calls `tick` every so many milliseconds until the timer is stopped. Gives the timer's number, above 0.
+  /// Calls `tick` every so many milliseconds until the timer is stopped. Gives the timer's number, above 0; 0 if the
+  /// system has no timer left.
   virtual int startTimer(int milliseconds, std::function<void()> tick) = 0;
   virtual void stopTimer(int timer) = 0;
 

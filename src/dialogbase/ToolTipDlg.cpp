@@ -16,6 +16,17 @@ StringableM& stringableOf(const BindingRow& row) {
   return *static_cast<StringableM*>(row.variable);
 }
 
+/// Takes a text that a person may have written. A malformed one is dropped: the value keeps what it had, also one that
+/// empties itself then.
+void take(StringableM& value, const std::string& text) {
+  const std::string before = value.toString();
+  try {
+    value.fromString(text);
+  } catch (const StringableM::InvalidDataE&) {
+    value.fromString(before);
+  }
+}
+
 }  // namespace
 
 void ToolTipDlg::initialise(DialogWindow& window) {
@@ -110,14 +121,10 @@ void ToolTipDlg::setText(int control, const std::string& text) {
     return;
   }
   updateVariables();
-  try {
-    if (row->kind == BIND_TEXT)
-      textOf(*row) = text;
-    else if (row->kind == BIND_STRINGABLE)
-      stringableOf(*row).fromString(text);
-  } catch (const StringableM::InvalidDataE&) {
-    // The value keeps what it had.
-  }
+  if (row->kind == BIND_TEXT)
+    textOf(*row) = text;
+  else if (row->kind == BIND_STRINGABLE)
+    take(stringableOf(*row), text);
   updateControls();
 }
 
@@ -135,13 +142,9 @@ void ToolTipDlg::setCheck(int control, int value) {
 void ToolTipDlg::updateVariables() {
   if (!initialised_) return;
   for (const auto& row : bindings_) {
-    try {
-      if (row.kind == BIND_TEXT) textOf(row) = window_->text(row.control);
-      if (row.kind == BIND_CHECK) checkOf(row) = window_->checked(row.control) ? 1 : 0;
-      if (row.kind == BIND_STRINGABLE) stringableOf(row).fromString(window_->text(row.control));
-    } catch (const StringableM::InvalidDataE&) {
-      // The value keeps what it had.
-    }
+    if (row.kind == BIND_TEXT) textOf(row) = window_->text(row.control);
+    if (row.kind == BIND_CHECK) checkOf(row) = window_->checked(row.control) ? 1 : 0;
+    if (row.kind == BIND_STRINGABLE) take(stringableOf(row), window_->text(row.control));
   }
 }
 
@@ -149,23 +152,19 @@ void ToolTipDlg::storeToTags() {
   if (!initialised_ || !tags_) return;
   for (const TagRow* row = tags_; row->kind != TAG_END; ++row) {
     if (row->page != pageId_) continue;
-    try {
-      switch (row->kind) {
-        case TAG_STRING:
-          *static_cast<std::string*>(row->variable) = getText(row->control);
-          break;
-        case TAG_INT:
-        case TAG_BOOL:
-          *static_cast<int*>(row->variable) = getCheck(row->control);
-          break;
-        case TAG_STRINGABLE:
-          static_cast<StringableM*>(row->variable)->fromString(getText(row->control));
-          break;
-        default:
-          break;
-      }
-    } catch (const StringableM::InvalidDataE&) {
-      // The value keeps what it had.
+    switch (row->kind) {
+      case TAG_STRING:
+        *static_cast<std::string*>(row->variable) = getText(row->control);
+        break;
+      case TAG_INT:
+      case TAG_BOOL:
+        *static_cast<int*>(row->variable) = getCheck(row->control);
+        break;
+      case TAG_STRINGABLE:
+        take(*static_cast<StringableM*>(row->variable), getText(row->control));
+        break;
+      default:
+        break;
     }
   }
 }

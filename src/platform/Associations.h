@@ -10,8 +10,8 @@ namespace tarnwick::platform {
 /// "%f" and its like on Linux); empty if there is none.
 std::string openCommand(const std::string& extension);
 
-/// Where the program's name ends in an association's command text, and where its arguments begin.
-/// False if no program can be found in it.
+/// Takes an association's command text apart: the program, in double quotes if it stood in such, and behind it the
+/// arguments. False if no program can be found in it.
 bool splitOpenCommand(const std::string& commandText, std::string& program, std::string& arguments);
 
 /// The programs that serve as "Notepad", best first: each the words of a command to which the file is added.

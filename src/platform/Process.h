@@ -1,8 +1,11 @@
 // Starting programs. No shell is ever involved.
 #pragma once
 
+#include <chrono>
 #include <cstddef>
+#include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -28,6 +31,12 @@ struct ChildCommand {
   std::string arguments;
   /// True: standard input is a pipe, and the child and all that it starts end with this process or with `endTree`.
   bool interactive = false;
+  /// The title of the console window that the child gets where programs of the command line have such windows. Nothing:
+  /// it gets none.
+  std::optional<std::string> consoleTitle = std::nullopt;
+  /// Told of each step of the start that failed and did not keep the child from starting; by the thread that starts it,
+  /// and before `start` returns or throws. What could not be had is missing: a stream without a pipe is at its end.
+  std::function<void(const SystemError&)> report = nullptr;
 };
 
 /// A running child with its standard output and standard error on pipes, and its standard input if it is interactive.
@@ -63,6 +72,10 @@ class ChildProcess {
 
   /// Ends the child and everything that it started; does not wait for it.
   virtual void endTree() = 0;
+
+  /// The same for a child that has been asked to end: it and what it started get so long to do it by themselves, where
+  /// `endTree` gives no time of its own.
+  virtual void endTreeWithin(std::chrono::milliseconds /*grace*/) { endTree(); }
 };
 
 /// Starts a program that goes its own way: no pipes, no wait. The program may stand in double quotes; without a folder

@@ -3,9 +3,9 @@
 #include "base/Filename.h"
 #include "base/Text.h"
 #include "platform/Associations.h"
-#include "platform/FileSystem.h"
 #include "platform/Path.h"
 #include "platform/Process.h"
+#include "process/Subprocess.h"
 #include "process/WinApp.h"
 
 #include <optional>
@@ -56,19 +56,14 @@ std::vector<Words> editorsFor(const std::string& editor, bool useNotepad) {
 
 /// Starts the first of the editors that can be started. A failure is that of the best one.
 void startOn(Desktop& desktop, const std::string& editor, bool useNotepad, const std::string& name) {
-  const std::string folder = Filename(name).directory();
-  if (!folder.empty() && !platform::changeDirectory(folder)) {
-    desktop.message("Subprocess::run(): _chdir error");
-    return;
-  }
+  if (!enterFolderOf(desktop, Filename(name))) return;
   std::optional<platform::SystemError> failure;
   for (const auto& command : editorsFor(editor, useNotepad)) {
     const auto reason = startFailure(command.front(), vectorOf(command, "", name));
     if (!reason) return;
     if (!failure) failure = reason;
   }
-  desktop.message("Unable to start " + editor + ".\n\n" + failure->reason + "  (" + std::to_string(failure->code) +
-                  ')');
+  desktop.message(detachedStartFailure(editor, *failure));
 }
 
 }  // namespace

@@ -2,7 +2,6 @@
 
 #include "base/Text.h"
 #include "platform/FileSystem.h"
-#include "platform/Process.h"
 
 #include <chrono>
 #include <condition_variable>
@@ -101,7 +100,28 @@ class LoggedRun {
   int endedOutputs_ = 0;
 };
 
+/// The command text: empty arguments add nothing to it, not even a blank.
+std::string joined(const std::vector<std::string>& arguments) {
+  std::string text;
+  for (const auto& argument : arguments) {
+    if (!argument.empty()) text += ' ';
+    text += argument;
+  }
+  return trimLeft(text);
+}
+
 }  // namespace
+
+bool enterFolderOf(Desktop& desktop, const Filename& file) {
+  const std::string folder = file.directory();
+  if (folder.empty() || platform::changeDirectory(folder)) return true;
+  desktop.message("Subprocess::run(): _chdir error");
+  return false;
+}
+
+std::string detachedStartFailure(const std::string& program, const platform::SystemError& failure) {
+  return "Unable to start " + program + ".\n\n" + failure.reason + "  (" + std::to_string(failure.code) + ')';
+}
 
 Subprocess::Subprocess(Desktop& desktop, ToolLog& log, std::string executable)
     : desktop_(desktop), log_(log), executable_(std::move(executable)) {}
@@ -132,19 +152,20 @@ std::optional<std::vector<std::string>> Subprocess::collectVector(const FileForS
 }
 
 bool Subprocess::enterFolder(const FileForSubprocess* file) {
-  const std::string folder = file != nullptr ? file->name().directory() : "";
-  if (folder.empty() || platform::changeDirectory(folder)) return true;
-  desktop_.message("Subprocess::run(): _chdir error");
-  return false;
+  return file == nullptr || enterFolderOf(desktop_, file->name());
 }
 
-std::string Subprocess::joined(const std::vector<std::string>& arguments) {
-  std::string text;
-  for (const auto& argument : arguments) {
-    if (!argument.empty()) text += ' ';
-    text += argument;
+std::unique_ptr<platform::ChildProcess> Subprocess::startChild(const std::string& arguments, const std::string& title) {
+  std::vector<std::string> texts;
+  std::unique_ptr<platform::ChildProcess> child;
+  const auto report = [&texts](const platform::SystemError& fault) { texts.push_back(fault.text()); };
+  try {
+    child = platform::ChildProcess::start({executable_, arguments, false, title, report});
+  } catch (const platform::SystemError& error) {
+    texts.push_back("Can't start " + executable_ + '\n' + error.text());
   }
-  return trimLeft(text);
+  for (const auto& text : texts) desktop_.message(text);
+  return child;
 }
 
 bool Subprocess::run(FileForSubprocess* file, FileMode logOpenMode) {
@@ -156,13 +177,8 @@ bool Subprocess::run(FileForSubprocess* file, FileMode logOpenMode) {
   // The first word is the tool's own name, in whose place the system gets the executable.
   const auto blank = command.find(' ');
   const std::string tail = blank == std::string::npos ? "" : command.substr(blank);
-  std::unique_ptr<platform::ChildProcess> child;
-  try {
-    child = platform::ChildProcess::start({executable_, tail, false});
-  } catch (const platform::SystemError& error) {
-    desktop_.message("Can't start " + executable_ + '\n' + error.text());
-    return false;
-  }
+  const auto child = startChild(tail, command);
+  if (!child) return false;
 
   std::optional<Tarnwickfile::FileNotOpenE> logFault;
   try {
@@ -186,8 +202,7 @@ bool DetachedSubprocess::run(FileForSubprocess* file, FileMode /*logOpenMode*/) 
   try {
     platform::startDetached(executable(), *collected);
   } catch (const platform::SystemError& error) {
-    desktop_.message("Unable to start " + executable() + ".\n\n" + error.reason + "  (" + std::to_string(error.code) +
-                     ')');
+    desktop_.message(detachedStartFailure(executable(), error));
   }
   return false;
 }

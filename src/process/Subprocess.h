@@ -2,16 +2,24 @@
 
 #include "base/Tarnwickfile.h"
 #include "dialogbase/Desktop.h"
+#include "platform/Process.h"
 #include "process/FileForSubprocess.h"
 #include "process/ToolLog.h"
 
 #include <atomic>
 #include <cstddef>
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
 
 namespace tarnwick {
+
+/// Makes the folder of a file the current one, if its name has one. False after its message.
+bool enterFolderOf(Desktop& desktop, const Filename& file);
+
+/// What the user is told of a program that should have gone its own way and could not be started.
+std::string detachedStartFailure(const std::string& program, const platform::SystemError& failure);
 
 /// A tool that runs to its end with its output caught in the log. A tool's exit code is never read: a run counts as
 /// having something to say if any byte came from either stream.
@@ -41,13 +49,15 @@ class Subprocess {
  protected:
   /// Own arguments, then those of `file`; nothing after the message that there are too many.
   std::optional<std::vector<std::string>> collectVector(const FileForSubprocess* file);
-  /// Makes the folder of `file` the current one, if it names one. False after its message.
+  /// Enters the folder of `file`, if there is one. False after its message.
   bool enterFolder(const FileForSubprocess* file);
-  static std::string joined(const std::vector<std::string>& arguments);
 
   Desktop& desktop_;
 
  private:
+  /// Null after the message that it did not start.
+  std::unique_ptr<platform::ChildProcess> startChild(const std::string& arguments, const std::string& title);
+
   ToolLog& log_;
   std::string executable_;
   std::vector<std::string> arguments_;

@@ -11,7 +11,13 @@ namespace tarnwick {
 void ToolLog::open(FileMode mode) {
   const std::lock_guard lock(lock_);
   if (!file_) file_ = std::make_unique<TempFile>("Tarnwick_LOG", folder_());
-  file_->openTemp(mode);
+  try {
+    file_->openTemp(mode);
+  } catch (const Tarnwickfile::FileNotOpenE&) {
+    // The next run asks for the folder anew: the configuration may have moved to where a log can be written.
+    file_.reset();
+    throw;
+  }
   // The tools end their lines as the system does; a text mode would do so once more.
   platform::leaveBytesAlone(file_->stream());
   fault_.clear();

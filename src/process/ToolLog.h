@@ -34,10 +34,10 @@ class ToolLog {
   std::recursive_mutex& lock() { return lock_; }
 
  private:
-  std::function<std::string()> folder_;
-  std::unique_ptr<TempFile> file_;
   void noteFault();
 
+  std::function<std::string()> folder_;
+  std::unique_ptr<TempFile> file_;
   std::string fault_;
   mutable std::recursive_mutex lock_;
 };

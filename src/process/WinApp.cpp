@@ -79,7 +79,7 @@ bool WinApp::addWord(std::vector<std::string>& arguments, const std::string& wor
 
 int WinApp::start(const Command& command) const {
   const Filename program(command.program);
-  std::string line = program.quotedNameWithExtension();
+  std::string line = platform::commandWord(program.nameWithExtension());
   for (const auto& argument : command.arguments) line += ' ' + argument;
   try {
     platform::startCommandLine(program.fullName(), line);

@@ -16,10 +16,6 @@ constexpr const char* helpAnchors[] = {"#configTab1", "#javacparameters",       
                                        "#jdbparams",  "#appletviewerparameters", "#editorparameters",
                                        "#paths"};
 
-std::string defaultConfigurationPath(const ProgramInfo& program) {
-  return Filename(program.configDirectory(), defaultConfigurationName).fullName();
-}
-
 void prefixIfMissing(std::string& value, const std::string& prefix) {
   if (!value.empty() && value.compare(0, prefix.size(), prefix) != 0) value.insert(0, prefix);
 }
@@ -32,7 +28,6 @@ Settings::Settings(SettingsContext& context)
       TagTable(tagRows.data(), context.program.version,
                [&context](const std::string& text) { context.desktop.message(text); }),
       context_(context),
-      configPath_(defaultConfigurationPath(context.program)),
       toolsPage_(context, tagRows.data()),
       javacPage_(context.desktop, tagRows.data()),
       javaPage_(context, tagRows.data(), toolsPage_, [this] { return editorChoice(); }),
@@ -55,6 +50,10 @@ Settings::Settings(SettingsContext& context)
   resetAll();
 }
 
+std::string Settings::configPath() const {
+  return Filename(context_.program.configDirectory(), defaultConfigurationName).fullName();
+}
+
 void Settings::resetAll() {
   resetToDefaults(SETTINGS_DIALOG);
   jarOpenAsZip = 1;
@@ -72,7 +71,7 @@ void Settings::resetAll() {
 
 void Settings::readDefaultConfiguration(int& status) {
   const std::string besideProgram = Filename(context_.program.programDirectory, defaultConfigurationName).fullName();
-  for (const auto& path : {configPath_, besideProgram}) {
+  for (const auto& path : {configPath(), besideProgram}) {
     try {
       Tarnwickfile file(path, FileMode::Read);
       status = read(file);
@@ -112,7 +111,7 @@ void Settings::writeTo(Tarnwickfile* file) {
     write(*file);
     return;
   }
-  ReplacingFile fresh(configPath_);
+  ReplacingFile fresh(configPath());
   write(fresh);
   fresh.commit();
 }
@@ -121,7 +120,6 @@ void Settings::recoverFromFailedSave(const Tarnwickfile::FileNotOpenE& failure) 
   try {
     AlternateLocationDlg dialog(desktop_, context_.program, failure);
     if (dialog.runModal() != DIALOG_OK) throw Tarnwickfile::FileNotOpenE(failure);
-    configPath_ = defaultConfigurationPath(context_.program);
     writeTo(nullptr);
     desktop_.message("The following environment variable definition has been created:\n\n" + dialog.definition() +
                      "\n\nThis definition remains effective until you terminate Tarnwick." +
@@ -195,7 +193,7 @@ void Settings::collectPages() {
 FileRequest Settings::separateFileRequest() const {
   FileRequest request;
   request.filter = "cfg file|*.cfg||";
-  request.startFolder = Filename(configPath_).directory();
+  request.startFolder = Filename(configPath()).directory();
   request.name = "*.cfg";
   return request;
 }
@@ -217,7 +215,7 @@ void Settings::saveSeparately() {
 
 void Settings::saveTo(const std::string& path) {
   ReplacingFile target(path);
-  Tarnwickfile defaults(configPath_, FileMode::Read);
+  Tarnwickfile defaults(configPath(), FileMode::Read);
   collectPages();
   try {
     write(target);
@@ -243,7 +241,7 @@ void Settings::loadSeparate() {
 
 void Settings::loadFrom(const std::string& path) {
   Tarnwickfile chosen(path, FileMode::Read);
-  Tarnwickfile defaults(configPath_, FileMode::Read);
+  Tarnwickfile defaults(configPath(), FileMode::Read);
   resetAll();
   read(chosen);
   for (TabPage* page : std::initializer_list<TabPage*>{&toolsPage_, &javacPage_, &javaPage_, &jdbPage_,

@@ -50,7 +50,8 @@ class Settings : public SettingsValues, public TabbedDialog, public TagTable {
   void collectPages();
 
   EditorChoice editorChoice() const;
-  const std::string& configPath() const { return configPath_; }
+  /// The default configuration's file. When one object leads the user to another folder, that holds for all of them.
+  std::string configPath() const;
   SettingsContext& context() const { return context_; }
 
   /// The open project, or null.
@@ -76,7 +77,6 @@ class Settings : public SettingsValues, public TabbedDialog, public TagTable {
   static const char* debugWithFastcodeWarning();
 
   SettingsContext& context_;
-  std::string configPath_;
   ToolsPage toolsPage_;
   JavacPage javacPage_;
   JavaPage javaPage_;

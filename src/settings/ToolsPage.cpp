@@ -6,6 +6,8 @@
 #include "resources/SettingsLayouts.h"
 #include "settings/SettingsValues.h"
 
+#include <algorithm>
+
 namespace tarnwick {
 
 namespace {
@@ -39,6 +41,7 @@ ToolsPage::ToolsPage(SettingsContext& context, const TagRow* rows)
 }
 
 void ToolsPage::initialise(DialogWindow& window) {
+  jdks_.clear();
   TabPage::initialise(window);
   offerJdks();
   // Shortcuts are not there yet.
@@ -56,9 +59,18 @@ void ToolsPage::offerJdks() {
     entries.push_back((jdk.version.empty() ? "" : "JDK " + jdk.version + "   ") + jdk.toolsFolder);
   }
   window()->setEntries(FOUND_JDKS, entries);
-  for (std::size_t i = 0; i < jdks_.size(); ++i) {
-    if (jdks_[i].toolsFolder == folder_) window()->select(FOUND_JDKS, static_cast<int>(i));
-  }
+  markJdk();
+}
+
+void ToolsPage::markJdk() {
+  const std::string folder = toolsFolder();
+  const auto named = std::find_if(jdks_.begin(), jdks_.end(),
+                                  [&](const Jdk& jdk) { return platform::sameFileName(jdk.toolsFolder, folder); });
+  window()->select(FOUND_JDKS, named == jdks_.end() ? -1 : static_cast<int>(named - jdks_.begin()));
+}
+
+void ToolsPage::onTextChanged(int control) {
+  if (control == FOLDER) markJdk();
 }
 
 void ToolsPage::onSelectionChanged(int control) {
@@ -68,7 +80,9 @@ void ToolsPage::onSelectionChanged(int control) {
 
 void ToolsPage::updateControls() {
   TabPage::updateControls();
-  if (initialised()) window()->setChecked(withNotepad_ ? WITH_NOTEPAD : WITH_EDITOR, true);
+  if (!initialised()) return;
+  window()->setChecked(withNotepad_ ? WITH_NOTEPAD : WITH_EDITOR, true);
+  markJdk();
 }
 
 void ToolsPage::onCommand(int control) {

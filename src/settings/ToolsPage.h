@@ -17,6 +17,7 @@ class ToolsPage : public TabPage {
   void initialise(DialogWindow& window) override;
   void onCommand(int control) override;
   void onSelectionChanged(int control) override;
+  void onTextChanged(int control) override;
   void updateControls() override;
   /// The folder of the tools always ends in a separator, so that an empty field stands for the root folder.
   std::string getText(int control) const override;
@@ -27,6 +28,8 @@ class ToolsPage : public TabPage {
   void browse();
   /// Offers the JDKs of this machine if there are several.
   void offerJdks();
+  /// Marks the JDK in the list whose folder stands in the field, or none.
+  void markJdk();
 
   SettingsContext& context_;
   std::vector<Jdk> jdks_;

@@ -38,7 +38,9 @@ wxBitmap iconBitmap(int side) {
 }
 
 wxBitmap toolbarBitmap(int command, double scale, bool dark) {
-  return bitmapOf(toolbarPixels(toolbarIcon(command), scale, dark), toolbarPixelCount(toolbarIconWidth, scale),
+  const auto& shapes = toolbarIcon(command);
+  if (shapes.empty()) return wxNullBitmap;
+  return bitmapOf(toolbarPixels(shapes, scale, dark), toolbarPixelCount(toolbarIconWidth, scale),
                   toolbarPixelCount(toolbarIconHeight, scale));
 }
 

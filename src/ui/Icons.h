@@ -11,7 +11,7 @@ wxBitmap iconBitmap(int side);
 /// The program's icon in all sizes that window systems ask for.
 wxIconBundle programIcons();
 
-/// The picture of a toolbar's command; `dark` is the ground that it stands on.
+/// The picture of a toolbar's command, not `IsOk` if there is none; `dark` is the ground that it stands on.
 wxBitmap toolbarBitmap(int command, double scale, bool dark);
 
 }  // namespace tarnwick::ui

@@ -24,7 +24,7 @@ Timers::~Timers() = default;
 
 int Timers::start(int milliseconds, std::function<void()> tick) {
   auto timer = std::make_shared<Timer>(*this, std::move(tick));
-  timer->Start(milliseconds);
+  if (!timer->Start(milliseconds)) return 0;
   timers_[++last_] = std::move(timer);
   return last_;
 }

@@ -13,6 +13,7 @@ class Timers {
   explicit Timers(std::function<void(const std::function<void()>&)> run);
   ~Timers();
 
+  /// The new timer's number, above 0; 0 if the system has none left.
   int start(int milliseconds, std::function<void()> tick);
   void stop(int timer);
 

@@ -8,7 +8,7 @@ constexpr std::chrono::milliseconds distance(20);
 
 }  // namespace
 
-WakeGate::WakeGate(std::function<void(Task)> post, std::function<void(int, Task)> later, Task woken)
+WakeGate::WakeGate(std::function<void(Task)> post, Later later, Task woken)
     : post_(std::move(post)), later_(std::move(later)), woken_(std::move(woken)) {}
 
 void WakeGate::wake() {
@@ -20,13 +20,11 @@ void WakeGate::wake() {
 
 void WakeGate::arrive() {
   const auto since = std::chrono::duration_cast<std::chrono::milliseconds>(std::chrono::steady_clock::now() - last_);
-  if (since >= distance) {
-    pass();
-    return;
-  }
-  later_(static_cast<int>((distance - since).count()), [gate = weak_from_this()] {
+  const auto passLater = [gate = weak_from_this()] {
     if (const auto open = gate.lock()) open->pass();
-  });
+  };
+  // Without a timer it passes at once: a wake that never passed would keep back all that follow.
+  if (since >= distance || !later_(static_cast<int>((distance - since).count()), passLater)) pass();
 }
 
 void WakeGate::pass() {

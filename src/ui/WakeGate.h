@@ -11,9 +11,10 @@ namespace tarnwick::ui {
 class WakeGate : public std::enable_shared_from_this<WakeGate> {
  public:
   using Task = std::function<void()>;
+  using Later = std::function<bool(int milliseconds, Task)>;
 
-  /// `post` takes tasks to the user-interface thread, `later` runs one there after so many milliseconds.
-  WakeGate(std::function<void(Task)> post, std::function<void(int, Task)> later, Task woken);
+  /// `post` takes tasks to the user-interface thread, `later` runs one there after a time, or gives false if it cannot.
+  WakeGate(std::function<void(Task)> post, Later later, Task woken);
 
   /// By any thread.
   void wake();
@@ -25,7 +26,7 @@ class WakeGate : public std::enable_shared_from_this<WakeGate> {
   void pass();
 
   std::function<void(Task)> post_;
-  std::function<void(int, Task)> later_;
+  Later later_;
   Task woken_;
   std::atomic<bool> pending_ = false;
   bool open_ = true;

@@ -87,8 +87,8 @@ void WxConsoleFrame::buildToolbar() {
   auto* const bar = frame_->CreateToolBar(wxTB_HORIZONTAL | wxTB_FLAT);
   const double scale = frame_->GetDPIScaleFactor();
   const bool dark = wxSystemSettings::GetAppearance().IsDark();
-  bar->SetToolBitmapSize(
-      wxSize(toolbarPixelCount(toolbarIconWidth, scale), toolbarPixelCount(toolbarIconHeight, scale)));
+  const wxSize size(toolbarPixelCount(toolbarIconWidth, scale), toolbarPixelCount(toolbarIconHeight, scale));
+  bar->SetToolBitmapSize(size);
   int id = firstToolId;
   for (const auto& button : *rules_.toolbar()) {
     if (button.command == 0) {
@@ -96,7 +96,13 @@ void WxConsoleFrame::buildToolbar() {
       continue;
     }
     const wxString tip = toWx(button.toolTip);
-    bar->AddTool(++id, tip, toolbarBitmap(button.command, scale, dark), wxNullBitmap, wxITEM_NORMAL, tip, tip);
+    wxBitmap picture = toolbarBitmap(button.command, scale, dark);
+    if (!picture.IsOk()) {
+      // The button works all the same, by its tip.
+      picturesFailed_ = true;
+      picture = wxBitmap(size);
+    }
+    bar->AddTool(++id, tip, picture, wxNullBitmap, wxITEM_NORMAL, tip, tip);
     commandOfId_[id] = button.command;
   }
   bar->Realize();
@@ -145,6 +151,7 @@ void WxConsoleFrame::run() {
     if (auto* loop = wxTheApp->GetMainLoop()) loop->ScheduleExit();
   });
   place_ = &place;
+  if (picturesFailed_) guarded(stack_, [this] { rules_.onPictureFailure(); });
   surface_->start();
   updateMenus();
   if (!ended) {

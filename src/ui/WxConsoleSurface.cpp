@@ -9,6 +9,7 @@
 #include <wx/dcbuffer.h>
 #include <wx/fontenum.h>
 #include <wx/settings.h>
+#include <wx/toplevel.h>
 
 #include <algorithm>
 
@@ -47,6 +48,7 @@ WxConsoleSurface::WxConsoleSurface(wxWindow* parent, WindowStack& stack, Desktop
                                          desktop.stopTimer(*number);
                                          task();
                                        });
+                                       return *number > 0;
                                      },
                                      [this] { tell([this] { client_.onWake(); }); });
 }
@@ -56,7 +58,9 @@ WxConsoleSurface::~WxConsoleSurface() {
 }
 
 void WxConsoleSurface::measureCell() {
-  SetFont(consoleFont());
+  const wxFont font = consoleFont();
+  hasFont_ = font.IsOk();
+  if (hasFont_) SetFont(font);
   constexpr int many = 100;
   const wxSize extent = GetTextExtent(wxString('M', many));
   cell_ = {std::max(1, (extent.x + many / 2) / many), std::max(1, extent.y)};
@@ -176,6 +180,13 @@ void WxConsoleSurface::invalidateAll() {
 void WxConsoleSurface::showHint(bool on) {
   if (on && !hint_) hint_ = std::make_unique<HintWindow>(stack_, *this);
   if (hint_) hint_->showWindow(on);
+}
+
+platform::WindowNumber WxConsoleSurface::bringToFront() {
+  wxWindow* const frame = wxGetTopLevelParent(this);
+  Raise();
+  frame->Raise();
+  return reinterpret_cast<platform::WindowNumber>(frame->GetHandle());
 }
 
 void WxConsoleSurface::onPaint(wxPaintEvent&) {

@@ -27,6 +27,7 @@ class WxConsoleSurface : public wxWindow, public ConsoleSurface {
   /// The window is about to go: the view hears of nothing more.
   void stop();
 
+  bool hasFont() const override { return hasFont_; }
   Point cell() const override { return cell_; }
   Point clientSize() const override;
   Point scrollPosition() const override { return scroll_; }
@@ -36,6 +37,7 @@ class WxConsoleSurface : public wxWindow, public ConsoleSurface {
   void invalidateAll() override;
   void wake() override { gate_->wake(); }
   void showHint(bool on) override;
+  platform::WindowNumber bringToFront() override;
   void close() override { requestClose_(); }
 
   bool AcceptsFocus() const override { return true; }
@@ -64,6 +66,7 @@ class WxConsoleSurface : public wxWindow, public ConsoleSurface {
   std::shared_ptr<WakeGate> gate_;
   std::unique_ptr<HintWindow> hint_;
   Point cell_;
+  bool hasFont_ = false;
   bool exactAdvance_ = true;
   Point document_;
   Point scroll_;

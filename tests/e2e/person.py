@@ -82,6 +82,7 @@ class Control:
         self.process = seen.get("process")
         self.showing, self.enabled = seen["showing"], seen["enabled"]
         self.focused, self.checked, self.selected = seen["focused"], seen["checked"], seen["selected"]
+        self.iconic = seen.get("iconic", False)
         self.children = [Control(child) for child in seen["children"]]
 
     def all(self):
@@ -181,8 +182,9 @@ class Window:
         key("alt+F4")
 
 
-def x_windows(title):
-    """Numbers of the X windows of this exact title."""
-    found = subprocess.run(["xdotool", "search", "--onlyvisible", "--name", f"^{re.escape(title)}$"], stdin=subprocess.DEVNULL,
+def x_windows(title, visible=True):
+    """Numbers of the X windows of this exact title; with `visible` off also of those that are minimised."""
+    which = ["--onlyvisible"] if visible else []
+    found = subprocess.run(["xdotool", "search", *which, "--name", f"^{re.escape(title)}$"], stdin=subprocess.DEVNULL,
                            stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True, timeout=30)
     return found.stdout.split()

@@ -44,6 +44,27 @@ def inverted(colour):
     return tuple(255 - part for part in colour)
 
 
+def lightness(colour):
+    """How light a colour is, 0 to 1, as an eye sees it."""
+    parts = [part / 255 for part in colour]
+    red, green, blue = (part / 12.92 if part <= 0.03928 else ((part + 0.055) / 1.055) ** 2.4 for part in parts)
+    return 0.2126 * red + 0.7152 * green + 0.0722 * blue
+
+
+def contrast(one, other):
+    """1 for the same colour, 21 for black and white; from 4.5 on small letters are easy to read."""
+    dark, light = sorted((lightness(one), lightness(other)))
+    return (light + 0.05) / (dark + 0.05)
+
+
+def ground_and_ink(picture):
+    """The colour that most of a picture has, and the one that stands out most from it in more than a few pixels."""
+    seen = picture.pixels(0, 0, picture.width, picture.height)
+    ground = max(seen, key=seen.get)
+    inks = [colour for colour, count in seen.items() if count >= 5]
+    return ground, max(inks, key=lambda colour: contrast(ground, colour))
+
+
 def frame_of(places):
     """The rectangle around places: left, top, right, bottom, the latter two just outside."""
     xs, ys = [x for x, _ in places], [y for _, y in places]

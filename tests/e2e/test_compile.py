@@ -33,6 +33,23 @@ def test_error_opens_the_log_with_the_compilers_message(scratch):
     assert not os.path.exists(class_of(source))
 
 
+def test_a_verbose_compiler_counts_as_one_that_has_something_to_say(scratch):
+    source = scratch.sample("Greeter.java")
+    scratch.configured()
+    scratch.change_settings(JAVAC_VERBOSE="ON", JAVA_PATH=os.path.join(os.path.dirname(world.real_javac()), ""))
+    scratch.start()
+    panel = Window("Tarnwick")
+    panel.activate()
+    panel.write(world.quoted(source))
+    panel.press("javac")
+    (_, log), = wait_until("the log in the editor", scratch.editor_notes, 60)
+    assert log.startswith("\n\njavac ") and " -verbose " in log.split("\n")[2], log[:300]
+    # Some of what it says, from its beginning to its end, with the folder's letters as they are.
+    assert "\n[parsing started " in log and source in log, log[:300]
+    assert "\n[wrote ./Greeter.class]\n[total " in log and log.endswith("ms]\n"), log[-300:]
+    assert os.path.exists(class_of(source))
+
+
 def test_an_old_class_survives_a_failed_compilation(scratch):
     source = scratch.sample("Broken.java")
     with open(class_of(source), "wb") as out:
@@ -51,6 +68,14 @@ def test_the_panel_is_used_without_a_utf8_locale(scratch):
     source = scratch.sample("Greeter.java")
     scratch.environment["LC_ALL"] = "C"
     scratch.environment.pop("LANG", None)
+    _, panel = scratch.first_start()
+    console = scratch.run_class(panel, scratch.compile(panel, source))
+    wait_until("the question", lambda: "What is your name? " in scratch.saved_display(console), 30)
+
+
+def test_a_folder_that_a_shell_would_touch(scratch):
+    scratch.work = scratch._folder("Zoës Heim", "it's 100% & $HOME `id` #1 ;x| (日本)")
+    source = scratch.sample("Greeter.java")
     _, panel = scratch.first_start()
     console = scratch.run_class(panel, scratch.compile(panel, source))
     wait_until("the question", lambda: "What is your name? " in scratch.saved_display(console), 30)

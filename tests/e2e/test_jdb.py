@@ -3,12 +3,11 @@
 import os
 import re
 import signal
-import time
 
 import person
 import world
 from person import NotSeen, wait_until
-from test_console import BANNER, nothing_left, shows
+from test_console import BANNER, hook_was_here, nothing_left, nothing_left_three_seconds_later, shows
 from world import type_line
 
 TIPS = ["run", "Step in", "Step over", "Step out", "Continue", "Show local variables", "Show current object (dump this)",
@@ -17,7 +16,7 @@ TIPS = ["run", "Step in", "Step over", "Step out", "Continue", "Show local varia
         "unmonitor", "jdb help", "Custom buttons", "Debugging with Tarnwick", "exit"]
 
 
-def debugged(scratch, *arguments, launch=True):
+def debugged(scratch, *arguments, launch=True, source="Countdown"):
     """The console of the debugger on a class that the panel has compiled."""
     program, panel = scratch.first_start()
     if not launch:
@@ -26,10 +25,10 @@ def debugged(scratch, *arguments, launch=True):
         scratch.change_settings(JDB_LAUNCH="OFF")
         scratch.start()
         panel = person.Window("Tarnwick")
-    path = scratch.compile(panel, scratch.source("Countdown.java"))
+    path = scratch.compile(panel, scratch.source(source + ".java"))
     panel.write(" ".join([world.quoted(path), *arguments]), index=1)
     panel.press("jdb debug")
-    return panel, person.Window("Countdown", seconds=40)
+    return panel, person.Window(source, seconds=40)
 
 
 # The debugger hands on its program's output character by character, with its own words in between as they come.
@@ -222,27 +221,23 @@ def both_run(scratch, console):
     wait_until("the debugger and its program", lambda: scratch.processes("jdb") and scratch.processes("java"))
 
 
-def gone_within_three_seconds(scratch, begin):
-    wait_until("the end of the debugger and its program",
-               lambda: not scratch.processes("jdb") and not scratch.processes("java"), 3.2 - (time.monotonic() - begin))
-
-
 def test_closing_the_console_ends_the_debugger_and_its_program(scratch):
-    _, console = debugged(scratch)
+    panel, console = debugged(scratch)
     both_run(scratch, console)
     console.close()
     console.is_gone()
-    gone_within_three_seconds(scratch, time.monotonic())
+    nothing_left_three_seconds_later(scratch, panel.process)
 
 
 def test_a_killed_console_leaves_no_debugger(scratch):
-    _, console = debugged(scratch)
+    panel, console = debugged(scratch)
     both_run(scratch, console)
     os.kill(console.process, signal.SIGKILL)
-    gone_within_three_seconds(scratch, time.monotonic())
+    nothing_left_three_seconds_later(scratch, panel.process)
 
 
-def test_the_debugger_outlives_the_panel_and_ends_with_its_console(scratch):
+def without_panel(scratch):
+    """A debugger whose panel has been killed."""
     panel, console = debugged(scratch)
     both_run(scratch, console)
     os.kill(panel.process, signal.SIGKILL)
@@ -250,18 +245,52 @@ def test_the_debugger_outlives_the_panel_and_ends_with_its_console(scratch):
     panel.is_gone()
     type_line(console, "stop in Countdown.tell")
     shows(scratch, console, "Deferring breakpoint Countdown.tell")
+    return console
+
+
+def test_the_debugger_outlives_the_panel_and_ends_with_its_console(scratch):
+    console = without_panel(scratch)
     console.close()
     console.is_gone()
-    gone_within_three_seconds(scratch, time.monotonic())
-    nothing_left(scratch, "tarnwick")
+    nothing_left_three_seconds_later(scratch)
+
+
+def test_a_killed_console_whose_panel_is_gone_leaves_no_debugger(scratch):
+    os.kill(without_panel(scratch).process, signal.SIGKILL)
+    nothing_left_three_seconds_later(scratch)
+
+
+def running_with_a_hook(scratch):
+    """A debugger whose program runs, has a shutdown hook and a process that hides from it."""
+    panel, console = debugged(scratch, source="Stubborn")
+    both_run(scratch, console)
+    person.key("F5")
+    shows(scratch, console, "started")
+    assert len(scratch.processes("sleep")) == 1 and not hook_was_here(scratch)
+    return panel, console
+
+
+def test_closing_the_console_lets_the_hooks_of_a_debugged_program_run(scratch):
+    panel, console = running_with_a_hook(scratch)
+    console.close()
+    console.is_gone()
+    nothing_left_three_seconds_later(scratch, panel.process)
+    assert hook_was_here(scratch)
+
+
+def test_killing_the_console_lets_the_hooks_of_a_debugged_program_run(scratch):
+    panel, console = running_with_a_hook(scratch)
+    os.kill(console.process, signal.SIGKILL)
+    nothing_left_three_seconds_later(scratch, panel.process)
+    assert hook_was_here(scratch)
 
 
 def test_a_debugger_that_is_killed_leaves_no_program(scratch):
-    _, console = debugged(scratch)
+    panel, console = debugged(scratch)
     both_run(scratch, console)
     # Stopped at its start, the program does nothing by itself; it goes with the console at the latest.
     os.kill(scratch.processes("jdb")[0], signal.SIGKILL)
     shows(scratch, console, BANNER)
     console.close()
     console.is_gone()
-    gone_within_three_seconds(scratch, time.monotonic())
+    nothing_left_three_seconds_later(scratch, panel.process)

@@ -5,6 +5,7 @@ import signal
 import time
 
 import person
+import pointer
 import window_manager
 import world
 from person import Window, wait_until
@@ -68,6 +69,24 @@ def test_the_panel_repaints_while_a_tool_runs(scratch):
     person.xdotool("windowmap", "--sync", number)
     wait_until("the window's picture", lambda: same_picture(scratch, before, shot(scratch, panel, "during.png")), 5)
     assert scratch.processes("javac"), "the tool still runs"
+
+
+def test_the_pointer_shows_that_the_panel_is_busy(scratch):
+    source = scratch.sample("Greeter.java")
+    panel, record = panel_with_stand_ins(scratch, "sleep 5000\n")
+    panel.activate()
+    panel.write(world.quoted(source))
+    button = panel.control("javac")
+    left, top, width, height = button.area
+    person.xdotool("mousemove", left + width // 2, top + height // 2)
+    time.sleep(0.5)
+    idle = pointer.picture()
+    button.click()
+    wait_until("the tool", lambda: content(record))
+    wait_until("a pointer for those who wait", lambda: pointer.picture() != idle, 4)
+    assert scratch.processes("javac"), "the tool still runs"
+    wait_until("the usual pointer", lambda: pointer.picture() == idle, 30)
+    assert not scratch.processes("javac"), "not before the tool has ended"
 
 
 def test_the_panel_stays_responsive_to_the_window_system_while_a_tool_runs(scratch):

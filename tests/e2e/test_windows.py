@@ -73,14 +73,40 @@ def test_silent_compiler_shows_nothing(scratch):
     assert scratch.recorded()
     nothing_left(scratch, "javac.exe")
     wait_until("the panel", lambda: panel.control("javac").enabled)
-    assert [one.name for one in person.look()] == ["Tarnwick"]
+    wait_until("the panel alone", lambda: [one.name for one in person.look()] == ["Tarnwick"])
+
+
+def test_tool_has_a_console_window_for_as_long_as_it_runs(scratch):
+    _, panel = scratch.first_start()
+    source = scratch.made("Slow.java", b"class Slow {}\n")
+    scratch.play("sleep 6000")
+    panel.write(world.quoted(source))
+    panel.press("javac")
+
+    def command():
+        return next((one for one in person.look() if one.name.startswith("javac ")), None)
+    seen = wait_until("the tool's console", command)
+    assert source in seen.name and not seen.iconic, (seen.name, seen.iconic)
+    scratch.picture("tool-console")
+    wait_until("the end of the tool's console", lambda: command() is None)
+    wait_until("the panel", lambda: panel.control("javac").enabled)
+
+
+def minimised(scratch):
+    """The console window that the system gives to the program itself, once it is an icon."""
+    def icon():
+        own = scratch.own_console("java.exe")
+        return own if own and own.iconic else None
+    return wait_until("the program's own console, minimised", icon)
 
 
 def test_program_in_the_console_is_asked_and_answers(scratch):
     _, panel = scratch.first_start()
     console = scratch.run_class(panel, "Greeter", "out Wie heißt du?", "err Störung", "readline", "out bye")
     shows(scratch, console, "Störung")
-    assert [one.name for one in person.look()] == ["Tarnwick", "Greeter"], "the program has no window of its own"
+    own = minimised(scratch)
+    assert own.name != own.name.lower(), "in letters of mixed case, which tell it from all other windows"
+    assert sorted(one.name for one in person.look()) == sorted(["Tarnwick", "Greeter", own.name])
     assert has_colour(console, "#0000FF") and has_colour(console, "#FF0000") and not has_colour(console, "#00FF00")
     world.type_line(console, "Ada Lovelace")
     display = shows(scratch, console, BANNER)
@@ -99,10 +125,24 @@ def test_closing_the_console_stops_the_program_and_what_it_started(scratch):
     _, panel = scratch.first_start()
     console = scratch.run_class(panel, "Clock", "out tick", "grandchild 600000", "sleep 600000")
     wait_until("the grandchild", lambda: len(scratch.processes("java.exe")) == 2)
+    minimised(scratch)
     console.close()
     console.is_gone()
     nothing_left(scratch, "java.exe")
+    wait_until("the end of the program's own console", lambda: scratch.own_console("java.exe") is None)
     assert panel.shows()
+
+
+def test_closing_the_programs_own_console_stops_the_program(scratch):
+    _, panel = scratch.first_start()
+    console = scratch.run_class(panel, "Clock", "out tick", "sleep 600000")
+    own = minimised(scratch)
+    # As its entry in the task bar does, brought back first.
+    person.xdotool("windowmap", wait_until("its X window", lambda: person.x_windows(own.name, visible=False))[-1])
+    wait_until("the window itself", lambda: not scratch.own_console("java.exe").iconic)
+    Window(own.name).close()
+    nothing_left(scratch, "java.exe")
+    shows(scratch, console, BANNER)
 
 
 def test_exit_in_the_menu_stops_the_program(scratch):
@@ -124,4 +164,5 @@ def test_killed_console_leaves_nothing(scratch):
     os.kill(process[0], signal.SIGKILL)
     console.is_gone()
     nothing_left(scratch, "java.exe")
+    wait_until("the end of the program's own console", lambda: scratch.own_console("java.exe") is None)
     assert panel.shows()

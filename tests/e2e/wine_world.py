@@ -79,6 +79,12 @@ class World(world.World):
         with open(self.record, encoding="cp1252", newline="") as lines:
             return lines.read().split("\n")[:-1]
 
+    def own_console(self, tool):
+        """The console window that the system gives to a tool in a console of ours: its title is the tool's path, whatever
+        the case of its letters. None if there is none."""
+        path = windows_path(os.path.join(self.jdk, tool)).lower()
+        return next((one for one in person.look() if one.name.lower() == path), None)
+
     def picture(self, name):
         """Leaves a screenshot in build/e2e-windows/."""
         time.sleep(0.3)

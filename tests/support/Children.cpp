@@ -33,6 +33,15 @@ bool waitUntil(const std::function<bool()>& condition) {
   return true;
 }
 
+bool waitInNaps(std::chrono::milliseconds time, const std::function<bool()>& condition) {
+  constexpr std::chrono::milliseconds nap(20);
+  for (auto left = time; left.count() > 0; left -= nap) {
+    if (condition()) return true;
+    std::this_thread::sleep_for(nap);
+  }
+  return condition();
+}
+
 StandInScript::StandInScript(const std::string& script)
     : script_("STANDIN_SCRIPT", folder_.file("script")), record_("STANDIN_RECORD", folder_.file("record")) {
   setScript(script);

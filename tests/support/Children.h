@@ -4,6 +4,7 @@
 #include "platform/Process.h"
 #include "support/TestProgram.h"
 
+#include <chrono>
 #include <functional>
 #include <string>
 #include <vector>
@@ -18,6 +19,10 @@ std::string outputOf(const std::string& executable, const std::string& arguments
 
 /// True once `condition` holds; false if it does not within ten seconds.
 bool waitUntil(const std::function<bool()>& condition);
+
+/// True once `condition` holds; false if it does not within the time, which is counted in short naps: a machine that
+/// is too busy to let anybody on gets longer by the clock.
+bool waitInNaps(std::chrono::milliseconds time, const std::function<bool()>& condition);
 
 /// True while a process with this number runs; one that has ended but was not waited for does not count.
 bool processLives(int process);

@@ -3,6 +3,7 @@
 #include "platform/Process.h"
 
 #include <algorithm>
+#include <chrono>
 #include <condition_variable>
 #include <cstddef>
 #include <memory>
@@ -53,6 +54,15 @@ class ChildScript {
     const std::lock_guard guard(lock_);
     return endsSeen_;
   }
+  /// The times that trees were given to end by themselves.
+  std::vector<std::chrono::milliseconds> graces() const {
+    const std::lock_guard guard(lock_);
+    return graces_;
+  }
+  bool waitingStopped() const {
+    const std::lock_guard guard(lock_);
+    return waitingStopped_;
+  }
   bool writing() const {
     const std::lock_guard guard(lock_);
     return writing_;
@@ -87,6 +97,7 @@ class ChildScript {
   std::ptrdiff_t writeAnswer_ = -2;
   std::vector<std::string> writes_;
   int treesEnded_ = 0;
+  std::vector<std::chrono::milliseconds> graces_;
   int endsSeen_ = 0;
 };
 
@@ -127,6 +138,12 @@ class FakeChild : public platform::ChildProcess {
   }
   void endTree() override {
     script_->change([&] { ++script_->treesEnded_; });
+  }
+  void endTreeWithin(std::chrono::milliseconds grace) override {
+    script_->change([&] {
+      ++script_->treesEnded_;
+      script_->graces_.push_back(grace);
+    });
   }
 
  private:

@@ -4,6 +4,7 @@
 
 #include <atomic>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace tarnwick::test {
@@ -21,7 +22,10 @@ class FakeSurface : public ConsoleSurface {
   int allInvalidated = 0;
   int closes = 0;
   int hintChanges = 0;
+  int raised = 0;
+  platform::WindowNumber frame = 7;
   bool hint = false;
+  bool fontMade = true;
   std::atomic<int> wakes{0};
   /// Told of its end within `close`, as a window may do it.
   ConsoleSurfaceClient* endsAtOnce = nullptr;
@@ -33,6 +37,7 @@ class FakeSurface : public ConsoleSurface {
   /// True once for all wakes since the last call.
   bool takeWake() { return wakes.exchange(0) > 0; }
 
+  bool hasFont() const override { return fontMade; }
   Point cell() const override { return cellSize; }
   Point clientSize() const override { return client; }
   Point scrollPosition() const override { return position; }
@@ -50,6 +55,10 @@ class FakeSurface : public ConsoleSurface {
   void showHint(bool on) override {
     hint = on;
     ++hintChanges;
+  }
+  platform::WindowNumber bringToFront() override {
+    ++raised;
+    return frame;
   }
   void close() override {
     ++closes;
@@ -71,12 +80,14 @@ class FakePainter : public ConsolePainter {
   explicit FakePainter(const Rect& clip = {0, 0, 644, 400}) : clip_(clip) {}
 
   std::vector<Drawn> drawn;
+  std::vector<std::pair<Rect, Colour>> filled;
   std::vector<Rect> inverted;
 
   Rect clip() const override { return clip_; }
   void drawText(int x, int y, const std::string& text, Colour colour) override {
     drawn.push_back({x, y, text, colour});
   }
+  void fill(const Rect& rect, Colour colour) override { filled.push_back({rect, colour}); }
   void invert(const Rect& rect) override { inverted.push_back(rect); }
 
  private:

@@ -6,6 +6,10 @@ namespace tarnwick::test {
 /// Open files and other handles.
 long openHandles();
 
+/// Handles that the system itself keeps open with every console that this process has had and left: none on a system
+/// without a fault. Tries it.
+long handlesLostPerConsole();
+
 /// Threads, this one included.
 long runningThreads();
 

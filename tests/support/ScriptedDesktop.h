@@ -46,6 +46,8 @@ class ScriptedWindow : public DialogWindow {
   ScriptedWindow& page(int tabs, int index);
   ScriptedWindow& child(int slot);
   bool shown() const { return shown_; }
+  /// Whether the field was scrolled to its end.
+  bool showsEnd(int control) const { return at(control).shownToEnd; }
   /// The control that was given the focus last; 0 for none.
   int focused() const { return focused_; }
   bool closed() const { return closed_; }

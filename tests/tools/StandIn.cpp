@@ -10,6 +10,7 @@
 //   environment NAME     writes the variable's value
 //   keep FILE            adds the file's name and its bytes to the file STANDIN_RECORD + ".kept"
 //   sleep MS             waits
+//   await WORD FILE      waits until the file holds the word, 15 seconds at most
 //   readline             reads a line and writes "got: " and the line, or "end of input"
 //   grandchild MS        starts a copy of itself that keeps the standard streams and waits so long; its process number
 //                        is added, on a line of its own, to the file STANDIN_RECORD + ".pids"
@@ -27,6 +28,7 @@
 #include <cstdlib>
 #include <fstream>
 #include <iostream>
+#include <sstream>
 #include <string>
 #include <thread>
 
@@ -38,6 +40,12 @@ const std::string murmurArgument = "--stand-in-murmur=";
 std::string variable(const char* name) {
   const char* value = std::getenv(name);
   return value == nullptr ? "" : value;
+}
+
+/// Also where a sanitizer would rather report the signal.
+void endBy(int signal) {
+  std::signal(signal, SIG_DFL);
+  std::raise(signal);
 }
 
 void sleepFor(const std::string& milliseconds) {
@@ -120,6 +128,17 @@ void keep(const std::string& file) {
   kept << file << ":" << content.rdbuf() << '\n';
 }
 
+/// `what` is a word and, behind a blank, a file.
+void await(const std::string& what) {
+  const auto blank = what.find(' ');
+  for (int tries = 0; tries < 1500; ++tries) {
+    std::ostringstream content;
+    content << std::ifstream(what.substr(blank + 1), std::ios::binary).rdbuf();
+    if (content.str().find(what.substr(0, blank)) != std::string::npos) return;
+    sleepFor("10");
+  }
+}
+
 void play(const std::string& command, const std::string& rest, const char* name) {
   if (command == "out") write(stdout, rest + '\n');
   if (command == "err") write(stderr, rest + '\n');
@@ -131,6 +150,7 @@ void play(const std::string& command, const std::string& rest, const char* name)
   if (command == "environment") write(stdout, variable(rest.c_str()) + '\n');
   if (command == "keep") keep(rest);
   if (command == "sleep") sleepFor(rest);
+  if (command == "await") await(rest);
   if (command == "readline") echoLine();
   if (command == "grandchild") startGrandchild(sleepArgument + rest);
   if (command == "murmurer")
@@ -138,7 +158,7 @@ void play(const std::string& command, const std::string& rest, const char* name)
   if (command == "orphan") startOrphan(rest);
   if (command == "ignoreterm") std::signal(SIGTERM, SIG_IGN);
   if (command == "exit") std::exit(std::atoi(rest.c_str()));
-  if (command == "signal") std::raise(std::atoi(rest.c_str()));
+  if (command == "signal") endBy(std::atoi(rest.c_str()));
 }
 
 }  // namespace

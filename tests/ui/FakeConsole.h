@@ -19,6 +19,7 @@ class FakeConsole : public ConsoleFrame, public ConsoleSurfaceClient {
   const MenuBar& menuBar() const override { return consoleMenuBar(); }
   const std::vector<Accelerator>& accelerators() const override { return consoleAccelerators(); }
   const Toolbar* toolbar() const override { return buttons; }
+  void onPictureFailure() override { ++pictureFailures; }
   std::string title() const override { return "Console under test"; }
   bool commandEnabled(int command) const override { return disabled.count(command) == 0; }
   void onCommand(int command) override { heard.push_back("command " + std::to_string(command)); }
@@ -35,7 +36,10 @@ class FakeConsole : public ConsoleFrame, public ConsoleSurfaceClient {
   void onWake() override { wakes.push_back(std::chrono::steady_clock::now()); }
   void onResized() override { ++resized; }
   bool onKey(ConsoleKey key, int modifiers) override {
-    if (key == ConsoleKey::Other) return false;
+    if (key == ConsoleKey::Other) {
+      if (onOtherKey) onOtherKey(modifiers);
+      return false;
+    }
     heard.push_back("key " + std::to_string(static_cast<int>(key)) + " " + std::to_string(modifiers));
     return true;
   }
@@ -66,10 +70,12 @@ class FakeConsole : public ConsoleFrame, public ConsoleSurfaceClient {
   Point sizeAtStart;
   int paints = 0;
   int resized = 0;
+  int pictureFailures = 0;
   std::set<int> disabled;
   std::vector<std::chrono::steady_clock::time_point> wakes;
   Heard heard;
   std::function<void(ConsolePainter&)> onPaint;
+  std::function<void(int modifiers)> onOtherKey;
 
  private:
   void hearMouse(const std::string& what, const MouseState& mouse) {

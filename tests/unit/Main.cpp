@@ -1,5 +1,7 @@
+#include "support/OwnConsole.h"
 #include "support/TestProgram.h"
 
 int main(int argc, char** argv) {
-  return tarnwick::test::runTests(argc, argv);
+  using namespace tarnwick::test;
+  return leaveOwnConsole() ? runTests(argc, argv) : 2;
 }

@@ -6,6 +6,8 @@
 #include <gio/gdesktopappinfo.h>
 #include <gio/gio.h>
 
+#include <algorithm>
+#include <cstddef>
 #include <memory>
 #include <string_view>
 
@@ -44,9 +46,11 @@ bool standsForFile(char code) {
   return std::string_view("fFuU").find(code) != std::string_view::npos;
 }
 
-/// The text with the field codes taken out that stand for something else than the file (icon, caption, ...).
+/// The text with the field codes taken out that stand for something else than the file (icon, caption, ...). A command
+/// that names no place for the file gets it at its end.
 std::string withFileCodesOnly(const std::string& command) {
   std::string kept;
+  bool hasFile = command.empty();
   for (std::size_t i = 0; i < command.size(); ++i) {
     if (command[i] != '%' || i + 1 == command.size()) {
       kept += command[i];
@@ -54,26 +58,50 @@ std::string withFileCodesOnly(const std::string& command) {
     }
     const char code = command[++i];
     if (code == '%') kept += '%';
-    if (standsForFile(code)) kept += {'%', code};
+    if (!standsForFile(code)) continue;
+    kept += {'%', code};
+    hasFile = true;
   }
-  return kept;
+  return hasFile ? kept : kept + " %f";
 }
 
-/// A command's words without the place of the file; a word that was nothing else goes altogether.
+/// A command's words without the place of the file, nor anything else that a field code stands for; a word that was
+/// nothing but such a code goes altogether.
 std::vector<std::string> wordsWithoutFile(const std::string& command) {
   std::vector<std::string> words;
   int count = 0;
   char** split = nullptr;
   if (!g_shell_parse_argv(command.c_str(), &count, &split, nullptr)) return words;
   for (int i = 0; i < count; ++i) {
-    std::string word = split[i];
-    const auto code = word.find('%');
-    const bool hasFile = code != std::string::npos && code + 1 < word.size() && standsForFile(word[code + 1]);
-    if (hasFile) word.erase(code, 2);
-    if (!hasFile || !word.empty()) words.push_back(word);
+    std::string word;
+    for (const char* c = split[i]; *c != '\0'; ++c) {
+      if (*c != '%' || c[1] == '\0')
+        word += *c;
+      else if (*++c == '%')
+        word += '%';
+    }
+    if (!word.empty() || *split[i] == '\0') words.push_back(word);
   }
   g_strfreev(split);
   return words;
+}
+
+/// Where the double quote stands that closes the text's first word, which begins with one.
+std::size_t closingQuote(const std::string& text) {
+  std::size_t at = 1;
+  while (at < text.size() && text[at] != '"') at += text[at] == '\\' ? 2 : 1;
+  return at < text.size() ? at : std::string::npos;
+}
+
+/// The text without the backslashes that a quoted word has before signs which would mean something there.
+std::string unescaped(const std::string& text) {
+  std::string plain;
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    const bool escape = text[i] == '\\' && i + 1 < text.size() &&
+                        std::string_view("\"`$\\").find(text[i + 1]) != std::string_view::npos;
+    plain += text[escape ? ++i : i];
+  }
+  return plain;
 }
 
 const char* const commonEditors[] = {
@@ -92,17 +120,17 @@ std::string openCommand(const std::string& extension) {
 bool splitOpenCommand(const std::string& commandText, std::string& program, std::string& arguments) {
   if (commandText.empty() || commandText.front() == ' ') return false;
   const bool quoted = commandText.front() == '"';
-  const auto mark = commandText.find(quoted ? '"' : ' ', 1);
+  const auto mark = quoted ? closingQuote(commandText) : commandText.find(' ');
   if (quoted && mark == std::string::npos) return false;
-  const auto end = mark == std::string::npos ? commandText.size() : mark + (quoted ? 1 : 0);
-  program = commandText.substr(0, end);
+  const auto end = std::min(quoted ? mark + 1 : mark, commandText.size());
+  program = quoted ? unescaped(commandText.substr(0, end)) : commandText.substr(0, end);
   arguments = commandText.substr(end);
   return true;
 }
 
 std::vector<std::vector<std::string>> plainTextEditors() {
   std::vector<std::vector<std::string>> editors;
-  auto preferred = wordsWithoutFile(withFileCodesOnly(commandFor("text/plain")));
+  auto preferred = wordsWithoutFile(commandFor("text/plain"));
   if (!preferred.empty()) editors.push_back(std::move(preferred));
   for (const char* name : commonEditors) {
     if (Text(g_find_program_in_path(name))) editors.push_back({name});

@@ -1,6 +1,6 @@
 #include "platform/posix/ChildGuard.h"
 
-#include "platform/Process.h"
+#include "platform/posix/ChildPipes.h"
 #include "platform/posix/Descendants.h"
 
 #include <array>
@@ -13,7 +13,6 @@
 #include <sys/signalfd.h>
 #include <sys/syscall.h>
 #include <sys/wait.h>
-#include <system_error>
 #include <unistd.h>
 
 namespace tarnwick::platform {
@@ -127,7 +126,7 @@ class SignalsBlocked {
 };
 
 SystemError startFailure(int code) {
-  return {"CreateProcess", code, std::generic_category().message(code)};
+  return systemError("CreateProcess", code);
 }
 
 /// The system's number for what kept the child from starting, 0 if nothing did.

@@ -8,6 +8,15 @@
 
 namespace tarnwick::platform {
 
+/// A pipe that no other child inherits.
+struct Pipe {
+  Descriptor read;
+  Descriptor write;
+};
+
+/// Throws SystemError with the label "CreatePipe()".
+Pipe makePipe();
+
 /// What we read from one of the child's outputs, in a way that another thread can stop.
 class OutputPipe {
  public:

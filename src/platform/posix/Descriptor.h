@@ -33,13 +33,4 @@ class Descriptor {
   int number_ = -1;
 };
 
-/// A pipe that no other child inherits.
-struct Pipe {
-  Descriptor read;
-  Descriptor write;
-};
-
-/// Throws SystemError with the label "CreatePipe()".
-Pipe makePipe();
-
 }  // namespace tarnwick::platform

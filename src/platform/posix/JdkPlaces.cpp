@@ -36,9 +36,12 @@ JdkPlaces jdkPlaces() {
       home + "/.local/share/rtx/installs/java",
       movable("JABBA_HOME", "/.jabba") + "/jdk",
       movable("JENV_ROOT", "/.jenv") + "/versions",
-      movable("GRADLE_USER_HOME", "/.gradle") + "/jdks",
       home + "/.jbang/cache/jdks",
   };
+  const std::string gradle = movable("GRADLE_USER_HOME", "/.gradle") + "/jdks";
+  places.parents.push_back(gradle);
+  // Each archive that Gradle fetched is unpacked in a folder of its own, and that may hold the JDK's folder.
+  for (const auto& unpacked : subfolders(gradle)) places.parents.push_back(unpacked);
   return places;
 }
 

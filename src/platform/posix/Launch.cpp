@@ -56,6 +56,10 @@ class Attributes {
 
 }  // namespace
 
+SystemError systemError(const std::string& label, int code) {
+  return {label, code, std::generic_category().message(code)};
+}
+
 int launch(const Launch& what, pid_t& process) {
   FileActions actions;
   if (what.input < 0) actions.nothingToRead();

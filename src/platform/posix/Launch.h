@@ -1,10 +1,15 @@
 #pragma once
 
+#include "platform/Process.h"
+
 #include <string>
 #include <sys/types.h>
 #include <vector>
 
 namespace tarnwick::platform {
+
+/// A call that failed with this number.
+SystemError systemError(const std::string& label, int code);
 
 /// What a process is made from.
 struct Launch {

@@ -14,15 +14,10 @@
 #include <poll.h>
 #include <sys/syscall.h>
 #include <sys/wait.h>
-#include <system_error>
 #include <unistd.h>
 
 namespace tarnwick::platform {
 namespace {
-
-SystemError systemError(const std::string& label, int code) {
-  return {label, code, std::generic_category().message(code)};
-}
 
 class Child final : public ChildProcess {
  public:
@@ -43,9 +38,7 @@ class Child final : public ChildProcess {
   void wait() override {
     while (!hasEnded()) {
       // Where a process can't be polled, it is looked at now and then.
-      if (!waitFor(endHandle(), POLLIN, stopWaiting_, endHandle() < 0 ? 50 : -1)) {
-        if (!hasEnded()) return;
-      }
+      if (!waitFor(endHandle(), POLLIN, stopWaiting_, endHandle() < 0 ? 50 : -1) && !hasEnded()) return;
     }
     const std::lock_guard lock(stateLock_);
     if (ended_) return;
@@ -61,8 +54,9 @@ class Child final : public ChildProcess {
     if (waitpid(process_, &status, 0) == process_ && WIFSIGNALED(status)) signal_ = WTERMSIG(status);
   }
   std::string causeOfDeath() const override {
-    const char* const word = signal_ == 0 ? nullptr : sigdescr_np(signal_);
-    return word != nullptr ? word : signal_ == 0 ? "" : std::to_string(signal_);
+    if (signal_ == 0) return "";
+    const char* const word = sigdescr_np(signal_);
+    return word != nullptr ? word : std::to_string(signal_);
   }
   void stopWaiting() override { stopWaiting_.set(); }
 

@@ -1,7 +1,6 @@
 #include "platform/ProjectType.h"
 
 #include "platform/FileSystem.h"
-#include "platform/Process.h"
 
 #include <gio/gdesktopappinfo.h>
 #include <gio/gio.h>
@@ -39,7 +38,9 @@ std::string execWord(const std::string& program) {
 }
 
 std::string launcherFor(const std::string& program) {
-  return "[Desktop Entry]\nType=Application\nName=Tarnwick\nComment=Java Development Project\nExec=" +
+  // The system would look for the first word without making one of its two percent signs.
+  const std::string starter = program.find('%') == std::string::npos ? "" : "env ";
+  return "[Desktop Entry]\nType=Application\nName=Tarnwick\nComment=Java Development Project\nExec=" + starter +
          execWord(program) + " %f\nMimeType=" + contentType +
          ";\nCategories=Development;\nNoDisplay=true\nStartupNotify=false\n";
 }
@@ -53,17 +54,13 @@ bool writeText(const std::string& folder, const std::string& name, const std::st
   return std::fclose(file) == 0 && written;
 }
 
-/// Brings an index of the user's data up to date, where its tool is installed.
-void runIndexer(const char* tool, const std::string& folder) {
-  char* path = g_find_program_in_path(tool);
-  if (path == nullptr) return;
-  try {
-    const auto child = ChildProcess::start({path, commandWord(folder), false});
-    child->wait();
-  } catch (const SystemError&) {
-    // Without the index the type is not known, and nothing else is lost.
-  }
-  g_free(path);
+/// Brings an index of the user's data up to date, where its tool is installed. Nobody hears what it says.
+void runIndexer(std::string tool, std::string folder) {
+  char* words[] = {tool.data(), folder.data(), nullptr};
+  const auto flags =
+      static_cast<GSpawnFlags>(G_SPAWN_SEARCH_PATH | G_SPAWN_STDOUT_TO_DEV_NULL | G_SPAWN_STDERR_TO_DEV_NULL);
+  // Without the index the type is not known, and nothing else is lost.
+  g_spawn_sync(nullptr, words, nullptr, flags, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr);
 }
 
 }  // namespace

@@ -37,10 +37,9 @@ bool soundIsLikely() {
 
 /// Lives as long as the process: a sound may still be on its way when everything else has gone.
 ca_context* soundContext() {
-  static ca_context* const context = [] {
+  static ca_context* const context = []() -> ca_context* {
     ca_context* made = nullptr;
-    if (!soundIsLikely()) return made;
-    if (ca_context_create(&made) != CA_SUCCESS) return static_cast<ca_context*>(nullptr);
+    if (!soundIsLikely() || ca_context_create(&made) != CA_SUCCESS) return nullptr;
     ca_context_change_props(made, CA_PROP_APPLICATION_NAME, "Tarnwick", nullptr);
     return made;
   }();

@@ -1,49 +1,11 @@
 #include "platform/Associations.h"
 
-#include <windows.h>
+#include "platform/win32/Registry.h"
 
-#include <algorithm>
 #include <cctype>
 
 namespace tarnwick::platform {
 namespace {
-
-/// The text with the variables of the environment in it replaced.
-std::string expanded(const std::string& text) {
-  char buffer[1024];
-  const DWORD size = ExpandEnvironmentStringsA(text.c_str(), buffer, sizeof buffer);
-  return size > 0 && size <= sizeof buffer ? std::string(buffer) : text;
-}
-
-class Key {
- public:
-  Key(HKEY root, const std::string& path) {
-    if (RegOpenKeyExA(root, path.c_str(), 0, KEY_READ, &key_) != ERROR_SUCCESS) key_ = nullptr;
-  }
-  ~Key() {
-    if (key_ != nullptr) RegCloseKey(key_);
-  }
-  Key(const Key&) = delete;
-  Key& operator=(const Key&) = delete;
-
-  /// Takes the key's unnamed text. False, and nothing taken, if there is none.
-  bool readDefault(std::string& text) const {
-    char buffer[1024];
-    DWORD size = sizeof buffer;
-    DWORD type = 0;
-    if (key_ == nullptr) return false;
-    if (RegQueryValueExA(key_, nullptr, nullptr, &type, reinterpret_cast<BYTE*>(buffer), &size) != ERROR_SUCCESS ||
-        (type != REG_SZ && type != REG_EXPAND_SZ)) {
-      return false;
-    }
-    text.assign(buffer, std::find(buffer, buffer + size, '\0'));
-    if (type == REG_EXPAND_SZ) text = expanded(text);
-    return true;
-  }
-
- private:
-  HKEY key_ = nullptr;
-};
 
 std::string lower(std::string text) {
   for (char& c : text) c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
@@ -55,9 +17,8 @@ std::string lower(std::string text) {
 std::string openCommand(const std::string& extension) {
   std::string text;
   // Where the class has no command, its name stays; nobody finds a program in that.
-  if (Key(HKEY_CLASSES_ROOT, extension).readDefault(text) && !text.empty()) {
-    Key(HKEY_CLASSES_ROOT, text + "\\shell\\open\\command").readDefault(text);
-  }
+  if (readDefaultValue(HKEY_CLASSES_ROOT, {extension}, text) && !text.empty())
+    readDefaultValue(HKEY_CLASSES_ROOT, {text, "shell", "open", "command"}, text);
   return text;
 }
 

@@ -2,7 +2,14 @@
 
 namespace tarnwick::platform {
 
-ChildJob::ChildJob(HANDLE process, bool endWithUs) : process_(process), job_(CreateJobObjectA(nullptr, nullptr)) {
+ChildJob::ChildJob(HANDLE process, bool endWithUs)
+    : process_(process),
+      news_(CreateIoCompletionPort(INVALID_HANDLE_VALUE, nullptr, 0, 1)),
+      job_(CreateJobObjectA(nullptr, nullptr)) {
+  if (job_ && news_) {
+    JOBOBJECT_ASSOCIATE_COMPLETION_PORT port{this, news_.get()};
+    SetInformationJobObject(job_.get(), JobObjectAssociateCompletionPortInformation, &port, sizeof port);
+  }
   if (job_ && (!limit(endWithUs) || !AssignProcessToJobObject(job_.get(), process))) job_.close();
 }
 
@@ -22,6 +29,22 @@ void ChildJob::endAll() {
     TerminateJobObject(job_.get(), 1);
   } else {
     TerminateProcess(process_, 1);
+  }
+}
+
+bool ChildJob::waitUntilEmpty(std::chrono::milliseconds time) {
+  using Clock = std::chrono::steady_clock;
+  if (!job_ || !news_) return WaitForSingleObject(process_, static_cast<DWORD>(time.count())) == WAIT_OBJECT_0;
+  const auto end = Clock::now() + time;
+  for (;;) {
+    const auto left = std::chrono::duration_cast<std::chrono::milliseconds>(end - Clock::now()).count();
+    DWORD news = 0;
+    ULONG_PTR key = 0;
+    OVERLAPPED* process = nullptr;
+    if (!GetQueuedCompletionStatus(news_.get(), &news, &key, &process, left > 0 ? static_cast<DWORD>(left) : 0)) {
+      return false;
+    }
+    if (news == JOB_OBJECT_MSG_ACTIVE_PROCESS_ZERO) return true;
   }
 }
 

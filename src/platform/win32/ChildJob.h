@@ -2,6 +2,8 @@
 
 #include "platform/win32/Handle.h"
 
+#include <chrono>
+
 namespace tarnwick::platform {
 
 /// Holds a process and all that it starts, so that they can be ended together.
@@ -17,11 +19,14 @@ class ChildJob {
 
   void release();
   void endAll();
+  /// False if some of them still live after so long.
+  bool waitUntilEmpty(std::chrono::milliseconds time);
 
  private:
   bool limit(bool endWithUs);
 
   HANDLE process_;
+  Handle news_;  ///< where the system tells what becomes of the job; older than the job, and closed after it
   Handle job_;
 };
 

@@ -1,10 +1,9 @@
 #include "platform/win32/ChildPipes.h"
 
-#include "platform/Process.h"
-
 #include <algorithm>
 #include <atomic>
 #include <cstdio>
+#include <utility>
 
 namespace tarnwick::platform {
 namespace {
@@ -17,31 +16,52 @@ SECURITY_ATTRIBUTES inheritable() {
 
 /// A named pipe, since only that can be used without getting stuck in a call. `access` is our side's, `childAccess`
 /// the other's.
-Handle makePipe(DWORD access, DWORD childAccess, Handle& childEnd) {
+PipeEnds makePipe(DWORD access, DWORD childAccess, StartCalls& calls, const StepFaults& faults) {
   static std::atomic<unsigned> number{0};
   char name[80];
   std::snprintf(name, sizeof name, "\\\\.\\pipe\\tarnwick-%lu-%u", GetCurrentProcessId(), ++number);
-  Handle ours(CreateNamedPipeA(name, access | FILE_FLAG_OVERLAPPED | FILE_FLAG_FIRST_PIPE_INSTANCE,
-                               PIPE_TYPE_BYTE | PIPE_REJECT_REMOTE_CLIENTS, 1, pipeSize, pipeSize, 0, nullptr));
-  if (!ours) throw lastSystemError("CreatePipe()");
   auto security = inheritable();
-  childEnd = Handle(CreateFileA(name, childAccess, 0, &security, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
-  if (!childEnd) throw lastSystemError("CreatePipe()");
-  return ours;
-}
-
-Handle makeEvent() {
-  Handle event(CreateEventA(nullptr, TRUE, FALSE, nullptr));
-  if (!event) throw lastSystemError("CreatePipe()");
-  return event;
+  PipeEnds pipe;
+  pipe.ours = Handle(calls.createPipe(name, access, security));
+  if (pipe.ours) {
+    pipe.childs = Handle(CreateFileA(name, childAccess, 0, &security, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
+  }
+  if (pipe.childs) pipe.done = Handle(CreateEventA(nullptr, TRUE, FALSE, nullptr));
+  if (pipe.done) return pipe;
+  faults.note("CreatePipe()");
+  return {};
 }
 
 }  // namespace
 
-OutputPipe::OutputPipe(Handle& childEnd, HANDLE stopEvent)
-    : end_(makePipe(PIPE_ACCESS_INBOUND, GENERIC_WRITE, childEnd)), readDone_(makeEvent()), stopEvent_(stopEvent) {}
+HANDLE StartCalls::createPipe(const char* name, DWORD access, SECURITY_ATTRIBUTES& security) {
+  return CreateNamedPipeA(name, access | FILE_FLAG_OVERLAPPED | FILE_FLAG_FIRST_PIPE_INSTANCE,
+                          PIPE_TYPE_BYTE | PIPE_REJECT_REMOTE_CLIENTS, 1, pipeSize, pipeSize, 0, &security);
+}
+
+PipeEnds makeOutputPipe(StartCalls& calls, const StepFaults& faults) {
+  return makePipe(PIPE_ACCESS_INBOUND, GENERIC_WRITE, calls, faults);
+}
+
+PipeEnds makeInputPipe(StartCalls& calls, const StepFaults& faults) {
+  return makePipe(PIPE_ACCESS_OUTBOUND, GENERIC_READ, calls, faults);
+}
+
+void makePrivate(PipeEnds& pipe, StartCalls& calls, const StepFaults& faults) {
+  if (!pipe.ours) return;
+  HANDLE copy = nullptr;
+  if (!calls.duplicateHandle(pipe.ours.get(), copy)) {
+    faults.note("DuplicateHandle()");
+    copy = nullptr;
+  }
+  pipe.ours = Handle(copy);
+}
+
+OutputPipe::OutputPipe(PipeEnds& pipe, HANDLE stopEvent)
+    : end_(std::move(pipe.ours)), readDone_(std::move(pipe.done)), stopEvent_(stopEvent) {}
 
 std::size_t OutputPipe::read(char* buffer, std::size_t size) {
+  if (!end_) return 0;
   if (WaitForSingleObject(stopEvent_, 0) == WAIT_OBJECT_0) noteStop();
   bool ended = false;
   DWORD count = 0;
@@ -84,8 +104,8 @@ void OutputPipe::noteStop() {
   if (PeekNamedPipe(end_.get(), nullptr, 0, nullptr, &available, nullptr)) remaining_ = available;
 }
 
-InputPipe::InputPipe(Handle& childEnd, HANDLE stopEvent)
-    : end_(makePipe(PIPE_ACCESS_OUTBOUND, GENERIC_READ, childEnd)), writeDone_(makeEvent()), stopEvent_(stopEvent) {}
+InputPipe::InputPipe(PipeEnds& pipe, HANDLE stopEvent)
+    : end_(std::move(pipe.ours)), writeDone_(std::move(pipe.done)), stopEvent_(stopEvent) {}
 
 std::ptrdiff_t InputPipe::write(const char* bytes, std::size_t size) {
   if (!end_) return -1;

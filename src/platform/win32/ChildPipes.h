@@ -1,17 +1,33 @@
 #pragma once
 
 #include "platform/win32/Handle.h"
+#include "platform/win32/StartChild.h"
 
 #include <cstddef>
 
 namespace tarnwick::platform {
 
+/// Both ends of a pipe to a child, either of which a child may inherit. All empty where none could be made.
+struct PipeEnds {
+  Handle ours;
+  Handle childs;
+  Handle done;  ///< the event that our end's operations set
+};
+
+/// A pipe that the child writes to, and one that it reads from. A failure is noted as "CreatePipe()".
+PipeEnds makeOutputPipe(StartCalls& calls, const StepFaults& faults);
+PipeEnds makeInputPipe(StartCalls& calls, const StepFaults& faults);
+
+/// Puts our end where no child inherits it. It is gone after a failure, which is noted as "DuplicateHandle()".
+void makePrivate(PipeEnds& pipe, StartCalls& calls, const StepFaults& faults);
+
 /// Our end of one of the child's outputs, read in a way that another thread can stop.
 class OutputPipe {
  public:
-  /// Makes the pipe; the child's end, which it may inherit, goes to `childEnd`. `stopEvent` outlives the object.
-  /// Throws SystemError with the label "CreatePipe()".
-  OutputPipe(Handle& childEnd, HANDLE stopEvent);
+  /// A pipe that is not there: it is at its end.
+  OutputPipe() = default;
+  /// Takes our end. `stopEvent` outlives the object.
+  OutputPipe(PipeEnds& pipe, HANDLE stopEvent);
 
   /// 0 at the end, and after the stop when all is read that lay in the pipe then.
   std::size_t read(char* buffer, std::size_t size);
@@ -23,7 +39,7 @@ class OutputPipe {
 
   Handle end_;
   Handle readDone_;
-  HANDLE stopEvent_;
+  HANDLE stopEvent_ = nullptr;
   bool stopped_ = false;
   std::size_t remaining_ = 0;
 };
@@ -33,9 +49,8 @@ class InputPipe {
  public:
   /// A pipe that is not there.
   InputPipe() = default;
-  /// Makes the pipe; the child's end, which it may inherit, goes to `childEnd`. `stopEvent` outlives the object.
-  /// Throws SystemError with the label "CreatePipe()".
-  InputPipe(Handle& childEnd, HANDLE stopEvent);
+  /// Takes our end. `stopEvent` outlives the object.
+  InputPipe(PipeEnds& pipe, HANDLE stopEvent);
 
   /// Gives the count written, which falls short after the stop; -1 on failure.
   std::ptrdiff_t write(const char* bytes, std::size_t size);

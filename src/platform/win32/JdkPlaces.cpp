@@ -1,6 +1,7 @@
 #include "platform/JdkPlaces.h"
 
 #include "platform/FileSystem.h"
+#include "platform/win32/Registry.h"
 
 #include <windows.h>
 
@@ -12,52 +13,12 @@ namespace {
 
 constexpr int deepest = 5;  // SOFTWARE\<vendor>\JDK\<version>\hotspot\MSI
 
-/// An open key of the registry.
-class Key {
- public:
-  Key(HKEY above, const std::string& name, REGSAM view) {
-    if (RegOpenKeyExA(above, name.c_str(), 0, KEY_READ | view, &key_) != ERROR_SUCCESS) key_ = nullptr;
-  }
-  ~Key() {
-    if (key_ != nullptr) RegCloseKey(key_);
-  }
-  Key(const Key&) = delete;
-  Key& operator=(const Key&) = delete;
-
-  HKEY handle() const { return key_; }
-
-  std::string value(const char* name) const {
-    char buffer[1024];
-    DWORD size = sizeof buffer;
-    DWORD type = 0;
-    if (RegQueryValueExA(key_, name, nullptr, &type, reinterpret_cast<BYTE*>(buffer), &size) != ERROR_SUCCESS ||
-        type != REG_SZ) {
-      return {};
-    }
-    return std::string(buffer, std::find(buffer, buffer + size, '\0'));
-  }
-
-  std::vector<std::string> subkeys() const {
-    std::vector<std::string> names;
-    char buffer[256];
-    for (DWORD index = 0;; ++index) {
-      DWORD size = sizeof buffer;
-      if (RegEnumKeyExA(key_, index, buffer, &size, nullptr, nullptr, nullptr, nullptr) != ERROR_SUCCESS) break;
-      names.emplace_back(buffer, size);
-    }
-    return names;
-  }
-
- private:
-  HKEY key_ = nullptr;
-};
-
 /// The folders that a key and those below it name, by the words that the vendors use.
 void collectHomes(HKEY above, const std::string& name, REGSAM view, int depth, std::vector<std::string>& homes) {
-  const Key key(above, name, view);
+  const RegistryKey key(above, name, view);
   if (key.handle() == nullptr) return;
   for (const char* word : {"JavaHome", "Path", "InstallationPath"}) {
-    const std::string home = key.value(word);
+    const std::string home = key.text(word);
     if (!home.empty()) homes.push_back(home);
   }
   if (depth == deepest) return;
@@ -97,6 +58,8 @@ JdkPlaces jdkPlaces() {
                              "\\.jbang\\cache\\jdks", "\\AppData\\Local\\mise\\installs\\java"}) {
     places.parents.push_back(home + folder);
   }
+  // Each archive that Gradle fetched is unpacked in a folder of its own, and that may hold the JDK's folder.
+  for (const auto& unpacked : subfolders(home + "\\.gradle\\jdks")) places.parents.push_back(unpacked);
   return places;
 }
 

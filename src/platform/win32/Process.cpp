@@ -1,9 +1,11 @@
 #include "platform/Process.h"
 
 #include "platform/Path.h"
+#include "platform/win32/ChildConsole.h"
 #include "platform/win32/ChildJob.h"
 #include "platform/win32/ChildPipes.h"
 #include "platform/win32/Handle.h"
+#include "platform/win32/StartUp.h"
 
 #include <windows.h>
 
@@ -16,62 +18,41 @@
 namespace tarnwick::platform {
 namespace {
 
-/// While one thread starts a child, no other may: it would inherit the ends of the first one's pipes.
+/// While one thread starts a child, no other may: it would inherit the ends of the first one's pipes, and its console.
 std::mutex& startLock() {
   static std::mutex lock;
   return lock;
 }
 
-/// A start-up record that names the handles which the child inherits, and no others.
-class StartUp {
- public:
-  StartUp(HANDLE input, HANDLE output, HANDLE error) : handles_{input, output, error} {
-    record_.StartupInfo.cb = sizeof record_;
-    record_.StartupInfo.dwFlags = STARTF_USESTDHANDLES;
-    record_.StartupInfo.hStdInput = input;
-    record_.StartupInfo.hStdOutput = output;
-    record_.StartupInfo.hStdError = error;
-    SIZE_T size = 0;
-    InitializeProcThreadAttributeList(nullptr, 1, 0, &size);
-    memory_.resize(size);
-    record_.lpAttributeList = reinterpret_cast<LPPROC_THREAD_ATTRIBUTE_LIST>(memory_.data());
-    if (!InitializeProcThreadAttributeList(record_.lpAttributeList, 1, 0, &size))
-      throw lastSystemError("CreateProcess");
-    if (!UpdateProcThreadAttribute(record_.lpAttributeList, 0, PROC_THREAD_ATTRIBUTE_HANDLE_LIST, handles_,
-                                   sizeof handles_, nullptr, nullptr)) {
-      throw lastSystemError("CreateProcess");
-    }
-  }
-  ~StartUp() { DeleteProcThreadAttributeList(record_.lpAttributeList); }
-  StartUp(const StartUp&) = delete;
-  StartUp& operator=(const StartUp&) = delete;
-
-  STARTUPINFOA* get() { return &record_.StartupInfo; }
-
- private:
-  HANDLE handles_[3];
-  std::vector<char> memory_;
-  STARTUPINFOEXA record_{};
-};
-
 class Child final : public ChildProcess {
  public:
-  explicit Child(const ChildCommand& command)
+  Child(const ChildCommand& command, StartCalls& calls)
       : stopReading_(CreateEventA(nullptr, TRUE, FALSE, nullptr)),
-        stopWaiting_(CreateEventA(nullptr, TRUE, FALSE, nullptr)),
-        output_(outputEnd_, stopReading_.get()),
-        error_(errorEnd_, stopReading_.get()) {
-    Handle inputEnd;
+        stopWaiting_(CreateEventA(nullptr, TRUE, FALSE, nullptr)) {
+    // The pipes go after the console, in whose time they are our standard handles.
+    PipeEnds output;
+    PipeEnds error;
+    PipeEnds input;
+    const StepFaults faults(command);
+    ChildConsole console(command, calls, faults);
+    output = makeOutputPipe(calls, faults);
+    error = makeOutputPipe(calls, faults);
     if (command.interactive) {
-      input_ = InputPipe(inputEnd, stopWaiting_.get());
+      input = makeInputPipe(calls, faults);
     } else {
-      inputEnd = nothingToRead();
+      input.childs = nothingToRead();
     }
-    StartUp startUp(inputEnd.get(), outputEnd_.get(), errorEnd_.get());
+    console.use(STD_OUTPUT_HANDLE, output.childs.get());
+    console.use(STD_ERROR_HANDLE, error.childs.get());
+    if (command.interactive) console.use(STD_INPUT_HANDLE, input.childs.get());
+    for (PipeEnds* const pipe : {&output, &error, &input}) makePrivate(*pipe, calls, faults);
+    output_ = OutputPipe(output, stopReading_.get());
+    error_ = OutputPipe(error, stopReading_.get());
+    if (command.interactive) input_ = InputPipe(input, stopWaiting_.get());
+    StartUp startUp(input.childs.get(), output.childs.get(), error.childs.get());
     create(command, startUp);
-    // Only the child holds its ends now, so that we see the end of its output.
-    outputEnd_.close();
-    errorEnd_.close();
+    console.childStarted();
+    // From here on only the child holds its ends, so that we see the end of its output.
   }
 
   std::size_t read(Stream stream, char* buffer, std::size_t size) override {
@@ -95,6 +76,11 @@ class Child final : public ChildProcess {
     if (job_) job_->endAll();
   }
 
+  void endTreeWithin(std::chrono::milliseconds grace) override {
+    const std::lock_guard lock(stateLock_);
+    if (job_ && !job_->waitUntilEmpty(grace)) job_->endAll();
+  }
+
  private:
   void create(const ChildCommand& command, StartUp& startUp) {
     const auto name = splitPath(command.executable);
@@ -102,10 +88,11 @@ class Child final : public ChildProcess {
     if (!command.arguments.empty() && command.arguments.front() != ' ') line += ' ';
     line += command.arguments;
     PROCESS_INFORMATION made{};
-    // A console without a window; and asleep until it is in its job, so that nothing it starts gets away.
-    const DWORD flags = CREATE_NO_WINDOW | CREATE_SUSPENDED | EXTENDED_STARTUPINFO_PRESENT;
-    if (!CreateProcessA(command.executable.c_str(), line.data(), nullptr, nullptr, TRUE, flags, nullptr, nullptr,
-                        startUp.get(), &made)) {
+    // In our console if there is to be one, else in one without a window; and asleep until it is in its job, so that
+    // nothing it starts gets away.
+    const DWORD flags = (command.consoleTitle ? 0 : CREATE_NO_WINDOW) | CREATE_SUSPENDED | EXTENDED_STARTUPINFO_PRESENT;
+    if (!CreateProcessA(command.executable.c_str(), line.data(), nullptr, nullptr, startUp.inherits(), flags, nullptr,
+                        nullptr, startUp.get(), &made)) {
       throw lastSystemError("CreateProcess");
     }
     process_ = Handle(made.hProcess);
@@ -116,8 +103,6 @@ class Child final : public ChildProcess {
 
   Handle stopReading_;
   Handle stopWaiting_;
-  Handle outputEnd_;
-  Handle errorEnd_;
   OutputPipe output_;
   OutputPipe error_;
   InputPipe input_;
@@ -143,9 +128,14 @@ SystemError lastSystemError(const std::string& label) {
   return {label, static_cast<int>(code), std::string(sentence, length)};
 }
 
-std::unique_ptr<ChildProcess> ChildProcess::start(const ChildCommand& command) {
+std::unique_ptr<ChildProcess> startChild(const ChildCommand& command, StartCalls& calls) {
   const std::lock_guard lock(startLock());
-  return std::make_unique<Child>(command);
+  return std::make_unique<Child>(command, calls);
+}
+
+std::unique_ptr<ChildProcess> ChildProcess::start(const ChildCommand& command) {
+  StartCalls calls;
+  return startChild(command, calls);
 }
 
 void startDetached(const std::string& executable, const std::vector<std::string>& arguments) {

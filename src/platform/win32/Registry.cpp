@@ -1,5 +1,7 @@
 #include "platform/win32/Registry.h"
 
+#include <algorithm>
+
 namespace tarnwick::platform {
 namespace {
 
@@ -16,7 +18,44 @@ std::string textValue(HKEY key, const char* name) {
   return buffer;
 }
 
+/// The text with the variables of the environment in it replaced.
+std::string expanded(const std::string& text) {
+  char buffer[1024];
+  const DWORD size = ExpandEnvironmentStringsA(text.c_str(), buffer, sizeof buffer);
+  return size > 0 && size <= sizeof buffer ? std::string(buffer) : text;
+}
+
 }  // namespace
+
+RegistryKey::RegistryKey(HKEY above, const std::string& name, REGSAM view) {
+  if (RegOpenKeyExA(above, name.c_str(), 0, KEY_READ | view, &key_) != ERROR_SUCCESS) key_ = nullptr;
+}
+
+RegistryKey::~RegistryKey() {
+  if (key_ != nullptr) RegCloseKey(key_);
+}
+
+std::string RegistryKey::text(const char* name) const {
+  char buffer[1024];
+  DWORD size = sizeof buffer;
+  DWORD type = 0;
+  if (RegQueryValueExA(key_, name, nullptr, &type, reinterpret_cast<BYTE*>(buffer), &size) != ERROR_SUCCESS ||
+      type != REG_SZ) {
+    return {};
+  }
+  return std::string(buffer, std::find(buffer, buffer + size, '\0'));
+}
+
+std::vector<std::string> RegistryKey::subkeys() const {
+  std::vector<std::string> names;
+  char buffer[256];
+  for (DWORD index = 0;; ++index) {
+    DWORD size = sizeof buffer;
+    if (RegEnumKeyExA(key_, index, buffer, &size, nullptr, nullptr, nullptr, nullptr) != ERROR_SUCCESS) break;
+    names.emplace_back(buffer, size);
+  }
+  return names;
+}
 
 HKEY openKeyPath(HKEY root, const RegistryPath& path) {
   std::string message = "Couldn't find registry subkey ";
@@ -24,10 +63,30 @@ HKEY openKeyPath(HKEY root, const RegistryPath& path) {
   for (const auto& name : path) {
     message += '\\' + name;
     HKEY next = nullptr;
-    if (RegOpenKeyExA(key, name.c_str(), 0, KEY_READ, &next) != ERROR_SUCCESS) throw NoSuchRegistryEntryE{message};
+    const LONG result = RegOpenKeyExA(key, name.c_str(), 0, KEY_READ, &next);
+    if (key != root) RegCloseKey(key);
+    if (result != ERROR_SUCCESS) throw NoSuchRegistryEntryE{message};
     key = next;
   }
   return key;
+}
+
+bool readDefaultValue(HKEY root, const RegistryPath& path, std::string& text) {
+  HKEY key = nullptr;
+  try {
+    key = openKeyPath(root, path);
+  } catch (const NoSuchRegistryEntryE&) {
+    return false;
+  }
+  char buffer[1024];
+  DWORD size = sizeof buffer;
+  DWORD type = 0;
+  const LONG result = RegQueryValueExA(key, nullptr, nullptr, &type, reinterpret_cast<BYTE*>(buffer), &size);
+  if (key != root) RegCloseKey(key);
+  if (result != ERROR_SUCCESS || (type != REG_SZ && type != REG_EXPAND_SZ)) return false;
+  text.assign(buffer, std::find(buffer, buffer + size, '\0'));
+  if (type == REG_EXPAND_SZ) text = expanded(text);
+  return true;
 }
 
 void deleteKeyTree(HKEY parent, const std::string& name) {

@@ -22,6 +22,10 @@ long openHandles() {
   return entriesOf("/proc/self/fd");
 }
 
+long handlesLostPerConsole() {
+  return 0;
+}
+
 long runningThreads() {
   return entriesOf("/proc/self/task");
 }

@@ -19,6 +19,22 @@ long openHandles() {
   return count;
 }
 
+// Wine keeps the process and the thread of the program behind each console window.
+long handlesLostPerConsole() {
+  constexpr DWORD which[] = {STD_INPUT_HANDLE, STD_OUTPUT_HANDLE, STD_ERROR_HANDLE};
+  HANDLE before[3] = {};
+  for (int i = 0; i < 3; ++i) before[i] = GetStdHandle(which[i]);
+  const auto round = [&] {
+    AllocConsole();
+    FreeConsole();
+    for (int i = 0; i < 3; ++i) SetStdHandle(which[i], before[i]);
+  };
+  round();
+  const long handles = openHandles();
+  round();
+  return openHandles() - handles;
+}
+
 long runningThreads() {
   const HANDLE snapshot = CreateToolhelp32Snapshot(TH32CS_SNAPTHREAD, 0);
   if (snapshot == INVALID_HANDLE_VALUE) return 0;

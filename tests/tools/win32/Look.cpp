@@ -64,6 +64,7 @@ struct Seen {
   bool enabled = true;
   bool focused = false;
   bool checked = false;
+  bool iconic = false;
   DWORD process = 0;
   std::string children;  ///< JSON already
 };
@@ -81,7 +82,8 @@ std::string described(const Seen& seen) {
   return "{\"name\":" + json(seen.name) + ",\"role\":\"" + seen.role + "\",\"text\":" + json(seen.text) +
          ",\"area\":" + area(seen.rect) + ",\"showing\":true,\"selected\":false,\"enabled\":" + truth(seen.enabled) +
          ",\"focused\":" + truth(seen.focused) + ",\"checked\":" + truth(seen.checked) +
-         ",\"process\":" + std::to_string(seen.process) + ",\"children\":[" + seen.children + "]}";
+         ",\"iconic\":" + truth(seen.iconic) + ",\"process\":" + std::to_string(seen.process) + ",\"children\":[" +
+         seen.children + "]}";
 }
 
 std::string roleOf(HWND window, const std::wstring& className) {
@@ -122,6 +124,7 @@ std::string lookAt(HWND window, bool isTop) {
   GetWindowRect(window, &seen.rect);
   seen.role = isTop ? "frame" : roleOf(window, className);
   seen.enabled = IsWindowEnabled(window);
+  seen.iconic = IsIconic(window);
   GUITHREADINFO state{};
   state.cbSize = sizeof state;
   seen.focused = GetGUIThreadInfo(thread, &state) && state.hwndFocus == window;

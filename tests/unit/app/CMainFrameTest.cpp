@@ -70,6 +70,38 @@ TEST_F(CMainFrameTest, OnlyADebuggersFrameHasAToolbarAndItsButtonsAreAlwaysEnabl
   EXPECT_FALSE(frame.commandEnabled(COMMAND_CUT));
 }
 
+TEST_F(CMainFrameTest, ShiftDeleteDoesNothing) {
+  CMainFrame frame(desktop_, settings(), {"Main", "", "", true});
+  FakeSurface surface;
+  frame.view().onStart(surface);
+  frame.view().onCharacter("word", 1);
+  frame.view().onKey(ConsoleKey::Home, 0);
+  frame.onCommand(COMMAND_SELECT_ALL);
+  int found = 0;
+  for (const auto& accelerator : frame.accelerators()) {
+    if (accelerator.key != Accelerator::Key::Delete) continue;
+    ++found;
+    EXPECT_TRUE(accelerator.shift);
+    EXPECT_FALSE(frame.commandEnabled(accelerator.command));
+    frame.onCommand(accelerator.command);
+  }
+  EXPECT_EQ(found, 1);
+  EXPECT_TRUE(frame.commandEnabled(COMMAND_COPY)) << "the selection stands";
+  EXPECT_EQ(savedDisplay(frame), "word\n");
+  frame.view().onClose();
+}
+
+TEST_F(CMainFrameTest, AButtonWithoutItsPictureIsTold) {
+  CMainFrame frame(desktop_, settings(), {"Main", "", "", true});
+  desktop_.expectMessage("LoadBitmap error");
+  frame.onPictureFailure();
+}
+
+TEST_F(CMainFrameTest, TheFramesTitleIsTheDocuments) {
+  CMainFrame frame(desktop_, settings(), {"Größe of x", "", "", false});
+  EXPECT_EQ(frame.title(), "Größe of x");
+}
+
 TEST_F(CMainFrameTest, SomeCommandsOpenTheGuideAtTheirAnchors) {
   std::vector<std::string> anchors;
   settings().context().showHelp = [&anchors](const std::string& anchor) { anchors.push_back(anchor); };

@@ -86,23 +86,28 @@ TEST_F(FileViewTest, TheFieldsShowTheStoredFilesQuotedIfTheyHoldABlank) {
 }
 
 TEST_F(FileViewTest, ATabThatIsNotThereOpensTheFirst) {
-  saveEarlierRun([](Settings& settings) { settings.fileviewTab = 7; });
-  runPanel([&](ScriptedWindow&, ScriptedWindow& panel) {
-    EXPECT_EQ(panel.selection(TABS), 0);
-    panel.page(TABS, 0);
-    exit(panel);
-  });
+  for (const int tab : {7, 3, -1}) {
+    saveEarlierRun([tab](Settings& settings) { settings.fileviewTab = tab; });
+    runPanel([&](ScriptedWindow&, ScriptedWindow& panel) {
+      EXPECT_EQ(panel.selection(TABS), 0) << tab;
+      panel.page(TABS, 0);
+      exit(panel);
+    });
+  }
 }
 
-TEST_F(FileViewTest, TheOpenTabIsStored) {
+TEST_F(FileViewTest, TheOpenTabIsSavedAtOnceAndOpensAtTheNextStart) {
   saveEarlierRun();
   runPanel([&](ScriptedWindow& main, ScriptedWindow& panel) {
     panel.choose(TABS, 2);
     EXPECT_EQ(settings().fileviewTab, 2);
-    main.moveByHand({1, 2});
+    EXPECT_EQ(saved("FILEVIEW_TAB"), "2");
+    main.closeBox();
+  });
+  runPanel([&](ScriptedWindow&, ScriptedWindow& panel) {
+    EXPECT_EQ(panel.selection(TABS), 2);
     exit(panel);
   });
-  EXPECT_EQ(saved("FILEVIEW_TAB"), "2");
 }
 
 TEST_F(FileViewTest, ACleanCompileSoundsTheAsterisk) {

@@ -96,6 +96,32 @@ TEST_F(LockedConfigurationTest, AnotherFolderHoldsForTheWholeRun) {
   EXPECT_NE(saved.find("A.java"), std::string::npos) << "later saves go there without asking";
 }
 
+TEST_F(LockedConfigurationTest, AFolderChosenInAnyDialogHoldsForAllOfThem) {
+  saveEarlierRun();
+  const std::string other = scratch_.file("other place");
+  platform::makeFolders(other);
+  runPanel([&](ScriptedWindow&, ScriptedWindow& panel) {
+    // The list of templates is saved by settings of its own.
+    platform::deleteFile(configFile());
+    platform::makeFolders(configFile());
+    desktop_.expectDialog(refusalOf(configFile()), [&](ScriptedWindow& dialog) {
+      desktop_.expectBrowseFolder(other);
+      dialog.press(1164);
+    });
+    desktop_.expectMessage("The following environment variable definition has been created:\n\nTARNWICK_CFGDIR=\"" +
+                           other +
+                           "\"\n\nThis definition remains effective until you terminate Tarnwick."
+                           "\nUpdate your system's environment settings or AUTOEXEC.BAT\nfor a permanent definition!");
+    desktop_.expectDialog("Create new .java/.html file",
+                          [](ScriptedWindow& dialog) { dialog.press(IDCANCEL_CONTROL); });
+    panel.press(NEW);
+    bar(panel).press(LAYOUT_LEFT);
+    panel.child(198).press(EXIT);
+  });
+  const std::string content = contentOf(other + platform::folderSeparator + defaultConfigurationName);
+  EXPECT_NE(content.find("PANEL_LAYOUT  HORIZONTAL"), std::string::npos);
+}
+
 TEST_F(LockedConfigurationTest, AFolderInTheFilesPlaceIsAFirstUseThatCannotBeSaved) {
   platform::makeFolders(configFile());
   expectWelcome();

@@ -12,6 +12,13 @@ TEST_F(TarnwickAppTest, ItKnowsItsFixedNamesAndWhereItLies) {
   EXPECT_EQ(app().program().programPath, programFolder() + "tarnwick");
 }
 
+TEST_F(TarnwickAppTest, TheProjectTypeIsRegisteredOnceInARun) {
+  std::vector<std::string> openers;
+  for (int press = 0; press < 2; ++press)
+    app().registerProjectType([&](const std::string& program) { openers.push_back(program); });
+  EXPECT_EQ(openers, std::vector<std::string>{programFolder() + "tarnwick"});
+}
+
 TEST_F(TarnwickAppTest, NothingIsReadBeforeTheCommandLineIsLookedAt) {
   // Reading this would bring a warning, which nobody expects here.
   writeFile(configFile(), "JAVAC_DEBUG  ON\nJAVAC_FASTCODE  ON\n");

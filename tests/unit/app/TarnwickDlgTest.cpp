@@ -103,6 +103,60 @@ TEST_F(TarnwickDlgTest, OneUnknownTagCountsAsAFirstUseUntilItIsSavedAway) {
   runPanel([](ScriptedWindow&, ScriptedWindow& panel) { exit(panel); });
 }
 
+TEST_F(TarnwickDlgTest, AConfigurationThatIsThereTakesAFoundJdkOnlyWithOk) {
+  const ScopedEnvironment javaHome("JAVA_HOME", makeJdk("25"));
+  const std::string found =
+      Filename(platform::resolvedPath(Filename(scratch_.file("jdk"), "bin").fullName() + platform::folderSeparator +
+                                      platform::toolFileName("javac")))
+          .directory();
+  for (const int end : {IDCANCEL_CONTROL, IDOK_CONTROL}) {
+    saveEarlierRun([](Settings& earlier) {
+      earlier.javaPath.clear();
+      earlier.javaXfuture = 1;
+    });
+    writeFile(configFile(), contentOf(configFile()) + "SOMETHING  new\n");
+    expectWelcome(firstUse, platform::localText(lookForJavac));
+    desktop_.expectDialog("Tarnwick settings", [&](ScriptedWindow& window) {
+      EXPECT_EQ(window.page(1092, 0).text(1041), found) << "it is offered";
+      window.press(end);
+    });
+    runPanel([](ScriptedWindow&, ScriptedWindow& panel) { exit(panel); });
+    const auto saved = freshSettings();
+    int status = -1;
+    saved->readDefaultConfiguration(status);
+    EXPECT_EQ(status, 0);
+    EXPECT_EQ(saved->javaPath, end == IDOK_CONTROL ? found : "");
+    EXPECT_EQ(saved->javaXfuture, 1) << "the user's own switch is left alone";
+  }
+}
+
+TEST_F(TarnwickDlgTest, FromVersion13OnStrictChecksAreSwitchedOff) {
+  for (const auto& [version, strict] : {std::pair{"12.0.2", 1}, {"13", 0}}) {
+    platform::deleteFile(configFile());
+    settings().resetAll();
+    settings().javaPath.clear();
+    const ScopedEnvironment javaHome("JAVA_HOME", makeJdk(version));
+    expectWelcome(firstUse, platform::localText(lookForJavac));
+    desktop_.expectDialog("Tarnwick settings", [expected = strict](ScriptedWindow& window) {
+      EXPECT_EQ(window.page(1092, 2).checked(1123), expected == 1) << "the dialog shows it";
+      window.press(IDCANCEL_CONTROL);
+    });
+    runPanel([](ScriptedWindow&, ScriptedWindow& panel) { exit(panel); });
+    EXPECT_EQ(saved("JAVA_XFUTURE"), strict ? "ON" : "OFF") << version;
+  }
+}
+
+TEST_F(TarnwickDlgTest, TheSettingsOpenOnTheirFirstPage) {
+  const ScopedEnvironment javaHome("JAVA_HOME", "");
+  const ScopedEnvironment path("PATH", scratch_.path());
+  expectWelcome(firstUse, platform::localText(lookForJavac));
+  desktop_.expectDialog("Tarnwick settings", [](ScriptedWindow& window) {
+    EXPECT_EQ(window.selection(1092), 0);
+    window.press(IDCANCEL_CONTROL);
+  });
+  runPanel([](ScriptedWindow&, ScriptedWindow& panel) { exit(panel); });
+}
+
 TEST_F(TarnwickDlgTest, AnotherVersionIsAnUpgrade) {
   saveEarlierRun();
   std::string content = contentOf(configFile());

@@ -60,6 +60,23 @@ TEST_F(TarnwickViewTest, ATimerThatCantBeHadIsTold) {
   EXPECT_EQ(desktop.messages, (Lines{"Error creating timer"}));
 }
 
+TEST_F(TarnwickViewTest, WhatWaitsForATimerThatCantBeHadIsNotLost) {
+  openRunning();
+  desktop.timersWork = false;
+  view->sendKeys("one\\ntwo\\n");
+  EXPECT_EQ(desktop.messages, (Lines{"Error creating timer"}));
+  // The next key brings it on its way.
+  view->onCharacter(std::string(1, '\0'), 1);
+  EXPECT_TRUE(until([&] { return child->writes() == Lines{"one\n", "two\n"}; }));
+}
+
+TEST_F(TarnwickViewTest, AFontThatCantBeMadeIsToldAndTheConsoleRunsWithoutIt) {
+  surface.fontMade = false;
+  openRunning();
+  EXPECT_EQ(desktop.messages, (Lines{"Error creating font"}));
+  EXPECT_EQ(surface.closes, 0);
+}
+
 TEST_F(TarnwickViewTest, AFontThatCantBeMeasuredIsTold) {
   surface.cellSize = {0, 0};
   open();
@@ -365,6 +382,16 @@ TEST_F(TarnwickViewTest, AnEmptyFunctionKeyWritesNothing) {
   EXPECT_TRUE(child->writes().empty());
 }
 
+TEST_F(TarnwickViewTest, AnEmptyFunctionKeyGoesOnWithWhatWaits) {
+  openRunning();
+  view->sendKeys("one\\ntwo");
+  view->selectAll();
+  EXPECT_EQ(lastLine(), "");
+  view->onKey(ConsoleKey::F5, SHIFT_BIT);
+  EXPECT_EQ(lastLine(), "two");
+  EXPECT_FALSE(view->canCopy());
+}
+
 TEST_F(TarnwickViewTest, NavigationKeysEditTheLine) {
   openIdle();
   type("abc");
@@ -403,6 +430,33 @@ TEST_F(TarnwickViewTest, ACharacterAfterTheEndClosesTheWindow) {
   view->onCharacter("x", 1);
   EXPECT_EQ(surface.closes, 1);
   EXPECT_EQ(lastLine(), "x");
+}
+
+// So the menus can be reached by Alt, to save what has been said.
+TEST_F(TarnwickViewTest, WithAltAKeyClosesNothingAfterTheEndUnlessItTypes) {
+  openRunning();
+  endChild();
+  view->onKey(ConsoleKey::Other, ALT_BIT);
+  view->onKey(ConsoleKey::Home, ALT_BIT);
+  EXPECT_EQ(surface.closes, 0);
+  view->onKey(ConsoleKey::F5, ALT_BIT);
+  EXPECT_EQ(surface.closes, 1);
+}
+
+TEST_F(TarnwickViewTest, APasteAfterTheEndClosesTheWindow) {
+  openRunning();
+  endChild();
+  desktop.clipboard = "x";
+  view->paste();
+  EXPECT_EQ(surface.closes, 1);
+}
+
+TEST_F(TarnwickViewTest, AQuickCopyAfterTheEndClosesTheWindow) {
+  openRunning();
+  endChild();
+  view->selectAll();
+  view->onRightDown({});
+  EXPECT_EQ(surface.closes, 1);
 }
 
 TEST_F(TarnwickViewTest, ACommandAfterTheEndClosesTheWindow) {

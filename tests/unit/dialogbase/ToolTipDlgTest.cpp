@@ -73,7 +73,40 @@ TEST_F(ToolTipDlgTest, MalformedValuesAreDropped) {
   dialog_.setText(12, "a;b");
   window.type(12, "a]");
   EXPECT_NO_THROW(dialog_.updateVariables());
+  EXPECT_EQ(dialog_.list.toString(), "a;b") << "the value keeps what it had";
   EXPECT_NO_THROW(dialog_.setText(12, "]x"));
+  EXPECT_EQ(dialog_.list.toString(), "a;b");
+  EXPECT_EQ(window.text(12), "a;b") << "and shows it";
+}
+
+TEST_F(ToolTipDlgTest, ARowKeepsItsValueWhereThePageHoldsAMalformedOne) {
+  TokenString list("x;y", ';', ']');
+  std::string behind = "before";
+  const TagRow rows[] = {{"A", TAG_STRINGABLE, &list, nullptr, 0, 7, 7, 12},
+                         {"B", TAG_STRING, &behind, nullptr, 0, 7, 7, 10},
+                         {"", TAG_END, nullptr, nullptr, 0, 0, 0, 0}};
+  dialog_.useRows(rows);
+  ScriptedWindow window(sample, dialog_);
+  dialog_.initialise(window);
+  window.type(12, "a]");
+  window.type(10, "after");
+  dialog_.storeToTags();
+  EXPECT_EQ(list.toString(), "x;y");
+  EXPECT_EQ(behind, "after") << "the rows behind it are stored all the same";
+}
+
+TEST_F(ToolTipDlgTest, ALongTextShowsItsEnd) {
+  ScriptedWindow window(sample, dialog_);
+  EXPECT_FALSE(window.showsEnd(10));
+  dialog_.initialise(window);
+  EXPECT_TRUE(window.showsEnd(10));
+}
+
+TEST_F(ToolTipDlgTest, ATextWithoutABindingGoesStraightToItsControl) {
+  ScriptedWindow window(sample, dialog_);
+  dialog_.initialise(window);
+  dialog_.setText(13, "a label");
+  EXPECT_EQ(window.text(13), "a label");
 }
 
 TEST_F(ToolTipDlgTest, WithoutAWindowNothingHappens) {

@@ -173,6 +173,11 @@ TEST_F(OpenEditorTest, AnEditorThatCannotBeStartedIsTold) {
                                                                      ".\n\nNo such file or directory  (2)\n");
 }
 
+TEST_F(OpenEditorTest, WithoutAnyNotepadTheUserIsToldSo) {
+  EXPECT_EQ(edit("1", script_.folder().file("A.java"), "never tried"),
+            doneIn(script_.folder().path()) + "message: Unable to start Notepad.\n\nNo such file or directory  (2)\n");
+}
+
 TEST_F(OpenEditorTest, AFolderThatCannotBeEnteredIsTold) {
   const std::string editor = makeProgram(programName("my editor"));
   const std::string file = script_.folder().file("nothing") + platform::folderSeparator + "A.java";

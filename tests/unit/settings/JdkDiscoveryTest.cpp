@@ -156,6 +156,26 @@ TEST_F(JdkDiscoveryTest, SeveralJdksAreOfferedUnderTheField) {
   EXPECT_EQ(settings().javaPath, newer);
 }
 
+TEST_F(JdkDiscoveryTest, TheListMarksTheJdkOfTheFieldWhateverPutItThere) {
+  const std::string older = makeJdk("older", "11.0.2");
+  const std::string newer = makeJdk("newer", "25");
+  context_.installedJdks = [&] { return findJdks({{scratch_.file("older"), scratch_.file("newer")}, {}}); };
+  settings().javaPath = newer;
+  playAndCancel([&](ScriptedWindow& page) {
+    EXPECT_EQ(page.selection(2002), 0);
+    page.type(1041, "elsewhere");
+    EXPECT_EQ(page.selection(2002), -1) << "so that either can be chosen again";
+    page.type(1041, older.substr(0, older.size() - 1));
+    EXPECT_EQ(page.selection(2002), 1) << "the last separator need not be typed";
+    desktop_.expectOpenFile(newer + platform::toolFileName("javac"));
+    page.press(1006);
+    EXPECT_EQ(page.selection(2002), 0);
+    page.choose(2002, 1);
+    EXPECT_EQ(page.text(1041), older);
+    EXPECT_EQ(page.selection(2002), 1);
+  });
+}
+
 TEST_F(JdkDiscoveryTest, ASingleJdkIsNoChoice) {
   makeJdk("only", "17");
   context_.installedJdks = [&] { return findJdks({{scratch_.file("only")}, {}}); };

@@ -218,6 +218,8 @@ TEST_F(SettingsDialogTest, BrowseTakesTheFolderOfTheChosenFile) {
   });
   settings().runModal(0);
   EXPECT_EQ(desktop_.lastRequest().filter, platform::localText("javac.exe|javac.exe|all files|*.*||"));
+  EXPECT_EQ(desktop_.lastRequest().startFolder, platform::startFolder("C:\\"));
+  EXPECT_EQ(desktop_.lastRequest().name, platform::toolFileName("javac"));
   EXPECT_TRUE(desktop_.lastRequest().mustExist);
 }
 

@@ -94,6 +94,9 @@ TEST_F(TemplateListTest, TheSettingsTextHoldsBothLevels) {
   list.build();
   list.addPersonal("My frame", file);
   EXPECT_EQ(stored(), "My frame];" + file);
+  const std::string bean = templateFile("bean.txt");
+  list.addPersonal("My bean", bean);
+  EXPECT_EQ(stored(), "My frame];" + file + ";My bean];" + bean);
 }
 
 TEST_F(TemplateListTest, ADescriptionReplacesABuiltInRowInItsPlaceWithTheNewSpelling) {
@@ -118,6 +121,18 @@ TEST_F(TemplateListTest, AMissingFileIsAskedAboutAndYesRemovesItForGood) {
   TokenString left;
   left.add(pair("There", there));
   EXPECT_EQ(stored(), left.toString());
+}
+
+TEST_F(TemplateListTest, EachTemplateWhoseFileIsMissingIsAskedAboutOnce) {
+  const std::string one = userFolder() + "one.txt", two = userFolder() + "two.txt";
+  store({pair(" One ", one), pair("Two", two)});
+  TemplateList list(settings());
+  desktop_.expectQuestion("Can't access file " + one + " for template One. Remove template from list?", true);
+  desktop_.expectQuestion("Can't access file " + two + " for template Two. Remove template from list?", true);
+  list.build();
+  EXPECT_EQ(stored(), "");
+  EXPECT_EQ(settings().personalTemplates.count(), 0);
+  TemplateList(settings()).build();
 }
 
 TEST_F(TemplateListTest, NoKeepsATemplateWhoseFileIsMissing) {

@@ -72,6 +72,24 @@ TEST_F(AppletviewerLauncherTest, ASilentRunShowsNothing) {
   EXPECT_EQ(platform::currentDirectory() + platform::folderSeparator, userFolder());
 }
 
+TEST_F(AppletviewerLauncherTest, WhatTheToolSaidIsShown) {
+  useStandIns();
+  settings().editorTarget = scratch_.file("no editor");
+  settings().displayWithNotepad = 0;
+  const std::string reason = "No such file or directory";
+  const std::string failure =
+      "Unable to start " + settings().editorTarget + " for log file display.\n\n" + reason + "\n";
+  for (const std::string word : {"first", "second"}) {
+    writeFile(scratch_.file("script"), "err " + word + "\n");
+    // The attempt to show it tells that it is shown.
+    desktop_.expectMessage(failure + reason);
+    runAppletviewer(settings(), file_, false);
+    const std::string end = platform::lineEnd;
+    EXPECT_EQ(contentOf(log_.path()), end + end + "appletviewer page.html" + end + end + word + "\n")
+        << "each run begins a new log";
+  }
+}
+
 TEST_F(AppletviewerLauncherTest, AToolsFolderThatStaysUnknownIsTold) {
   settings().javaPath.clear();
   for (const bool debugging : {false, true}) {

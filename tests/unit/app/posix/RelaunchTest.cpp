@@ -87,6 +87,46 @@ TEST_F(RelaunchTest, AFileOfAnyNameReachesItsToolAsOneArgument) {
   }
 }
 
+TEST_F(RelaunchTest, EveryOptionReachesItsToolAsTheWordsThatWereTyped) {
+  Settings& s = settings();
+  s.javaXfuture = s.javaXprof = s.javaJniValidate = s.javaSystemAssertEnable = s.javaSystemAssertDisable = 1;
+  s.javaVerbose = s.jdbLaunch = 1;
+  s.javaXrunhprof = "cpu=samples";
+  s.bootpath = "/boot/a;/boot/b";
+  s.javaXms = "1m";
+  s.javaXmx = "2m";
+  s.javaXss = "3m";
+  s.javaProperty = "-Dx=y  -Dz=\"two words\"";
+  s.javaGarbageCollector = "Concurrent";
+  s.javaAssertEnable = "Foo.class, bar";
+  s.javaAssertDisable = "baz";
+  FileForSubprocess file(userFolder(), "Main.class");
+  file.args() = {"one \"two \\/ three\" $HOME"};
+  const std::string common = "-Xfuture\n-Xprof\n-Xcheck:jni\n-Xrunhprof:cpu=samples\n-classpath\n";
+  const std::string paths = "-Xbootclasspath:/boot/a:/boot/b\n-Xms1m\n-Xmx2m\n-Xss3m\n-Dx=y\n-Dz=two words\n-Xconcgc\n";
+  const std::string last = "Main\none\ntwo \\/ three\n$HOME\n";
+  for (const bool debugging : {false, true}) {
+    if (debugging) {
+      runJdb(s, file, "/my a:/b", "/src");
+    } else {
+      runJava(s, file, "/a;/b");
+    }
+    TarnwickApp copy(desktop_, host_, programFolder() + "tarnwick");
+    ASSERT_TRUE(copy.parseSwitches(commandLine(file.args().front())));
+    EXPECT_EQ(copy.debugging(), debugging);
+    EXPECT_EQ(copy.exeFile(), standInFolder() + (debugging ? "jdb" : "java"));
+    const auto tool = platform::ChildProcess::start({copy.exeFile(), copy.runArguments(), true});
+    tool->wait();
+    EXPECT_EQ(contentOf(scratch_.file("record")),
+              debugging ? common + "/my\na:/b\n-sourcepath\n/src\n" + paths + "-launch\n" + last
+                        : common + "/a:/b\n" + paths +
+                              "-ea:Foo\n-ea:bar\n-da:baz\n-enablesystemassertions\n-disablesystemassertions\n"
+                              "-verbose\n" +
+                              last);
+    platform::deleteFile(scratch_.file("record"));
+  }
+}
+
 /// A name that ends in a backslash and the slash behind it make the mark that ends a value.
 TEST_F(RelaunchTest, WhatCannotBePassedOnIsToldAndNothingIsStarted) {
   const std::string odd = scratch_.file("odd\\") + '/';
@@ -115,18 +155,6 @@ TEST_F(RelaunchTest, WhatCannotBePassedOnIsToldAndNothingIsStarted) {
   panel->javaPath = standInFolder();
   const std::string configuration = odd + defaultConfigurationName;
   runAll(*panel, {configuration, configuration, configuration});
-}
-
-TEST_F(RelaunchTest, TheProjectTypeIsRegisteredOnceInARun) {
-  const ScopedEnvironment data("XDG_DATA_HOME", scratch_.file("data"));
-  TarnwickApp app(desktop_, host_, StandInScript::tool("jdb"));
-  // The system's libraries look for the user's folders once in a process, so that another test may have been first.
-  const std::string launcher = scratch_.file("data") + "/applications/tarnwick-project.desktop";
-  app.registerProjectType();
-  if (!platform::isFile(launcher)) GTEST_SKIP() << "this process has asked for the user's folders before";
-  platform::deleteFile(launcher);
-  app.registerProjectType();
-  EXPECT_FALSE(platform::isFile(launcher));
 }
 
 }  // namespace

@@ -72,6 +72,36 @@ TEST_F(PosixAssociationsTest, CodesThatStandForNoFileAreTakenOut) {
   EXPECT_EQ(probe("open .htm"), "browser --caption    --percent 100% %F\n");
 }
 
+TEST_F(PosixAssociationsTest, ACommandThatNamesNoPlaceForTheFileGetsItAtItsEnd) {
+  makeProgram("browser");
+  xdg_.addApplication("browser", "browser", "text/html;");
+  xdg_.addApplication("packer", "browser --pack %i", "application/zip;");
+  EXPECT_EQ(probe("open .htm"), "browser %f\n");
+  EXPECT_EQ(probe("runapp .htm \"my page.htm\" \"\""), "1\n");
+  EXPECT_TRUE(recordIs("my page.htm\n"));
+  EXPECT_EQ(probe("open .zip"), "browser --pack  %f\n");
+}
+
+TEST_F(PosixAssociationsTest, AProgramOfAnyNameIsStartedWithTheFile) {
+  const struct {
+    std::string name;
+    std::string exec;  ///< as it stands in the file, where texts have escapes of their own
+  } table[] = {
+      {"a\"b", R"(a\\"b)"},           {"a$b", R"(a\\$b)"},        {"a`b", R"(a\\`b)"},
+      {"a\\b", R"(a\\\\b)"},          {"a\\\"b", R"(a\\\\\\"b)"}, {"end\\", R"(end\\\\)"},
+      {"it's a & b;", "it's a & b;"}, {"\"", R"(\\")"},           {" lead", " lead"},
+      {"\xC3\xA4", "\xC3\xA4"},
+  };
+  for (const auto& row : table) {
+    makeProgram(row.name);
+    xdg_.addApplication("any", '"' + programs() + row.exec + "\" -x %f -y", "text/html;text/plain;");
+    platform::deleteFile(script_.folder().file("record"));
+    EXPECT_EQ(probe("runapp .htm \"my page.htm\" last"), "1\n") << row.name;
+    EXPECT_TRUE(recordIs("-x\nmy page.htm\n-y\nlast\n")) << row.name;
+    EXPECT_EQ(probe("editors"), programs() + row.name + "|-x|-y\n");
+  }
+}
+
 TEST_F(PosixAssociationsTest, TheAssociationsProgramIsStartedWithTheFile) {
   makeProgram("jar runner");
   xdg_.addApplication("jars", '"' + programs() + "jar runner\" -jar %f -end", "application/x-java-archive;");
@@ -102,6 +132,15 @@ TEST_F(PosixAssociationsTest, PlainTextEditorsBeginWithTheUsersDefault) {
   xdg_.addApplication("zz", "kate %U", "text/plain;");
   xdg_.setDefaults("text/plain=mine.desktop\n");
   EXPECT_EQ(probe("editors"), "mine|--new|two words|-x\ngedit\nkate\n");
+}
+
+TEST_F(PosixAssociationsTest, AnEditorsWordsAreFreeOfCodes) {
+  makeProgram("mine");
+  xdg_.addApplication("mine", "mine --icon %i --file=%f \"\" 100%% --name=%c %", "text/plain;");
+  EXPECT_EQ(probe("editors"), "mine|--icon|--file=||100%|--name=|%\n");
+  makeProgram("env");
+  xdg_.addApplication("mine", "env \"/opt/a%%f b\" %u", "text/plain;");
+  EXPECT_EQ(probe("editors"), "env|/opt/a%f b\n");
 }
 
 TEST_F(PosixAssociationsTest, WithoutADefaultTheCommonEditorsAreTaken) {
@@ -160,6 +199,10 @@ TEST(SplitOpenCommandTest, TheProgramEndsAtTheFirstBlankOrTheClosingQuote) {
       {"\"/opt/my viewer\" %f", true, "\"/opt/my viewer\"", " %f"},
       {"\"/opt/my viewer\"", true, "\"/opt/my viewer\"", ""},
       {"\"/opt/my viewer", false, "", ""},
+      {R"("/opt/a\"b \$c\`d\\e\f" %f)", true, R"("/opt/a"b $c`d\e\f")", " %f"},
+      {R"("/opt/end\\" %f)", true, R"("/opt/end\")", " %f"},
+      {R"("/opt/never closed\" %f)", false, "", ""},
+      {R"("/opt/never closed\)", false, "", ""},
       {" viewer", false, "", ""},
   };
   for (const auto& row : table) {

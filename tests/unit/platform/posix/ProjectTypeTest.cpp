@@ -64,6 +64,28 @@ TEST_F(PosixProjectTypeTest, AProgramsOddNameIsEscapedTwice) {
   // The system understands it: an opener that it could not find would not have become the default.
   EXPECT_NE(test::contentOf(script_.folder().file("config/mimeapps.list")).find("tarnwick-project.desktop"),
             std::string::npos);
+  if (!isFile("/usr/bin/update-mime-database")) GTEST_SKIP() << "this system has no update-mime-database";
+  EXPECT_EQ(probe("runapp .twp p.twp \"\""), "1\n") << "and so do we";
+  EXPECT_TRUE(test::waitUntil([&] { return script_.hasRecord() && script_.record() == "p.twp\n"; }));
+}
+
+TEST_F(PosixProjectTypeTest, AProgramWithAPercentSignIsRegisteredToo) {
+  const std::string program = makeProgram("100% of it");
+  probe("register " + commandWord(program));
+  const std::string launcher = test::contentOf(data() + "applications/tarnwick-project.desktop");
+  EXPECT_NE(launcher.find("100%% of it\" %f\n"), std::string::npos) << launcher;
+  EXPECT_NE(test::contentOf(script_.folder().file("config/mimeapps.list")).find("tarnwick-project.desktop"),
+            std::string::npos)
+      << "the system has understood it";
+}
+
+TEST_F(PosixProjectTypeTest, ATalkativeIndexerIsRunToItsEnd) {
+  script_.setScript("flood 1000000\nout done\nerr done\nkeep x");
+  for (const char* name : {"update-mime-database", "update-desktop-database"}) makeProgram(name);
+  const test::ScopedEnvironment path("PATH", script_.folder().path());
+  EXPECT_EQ(probe("register /bin/true"), "");
+  EXPECT_EQ(script_.record(), data() + "/mime\n" + data() + "/applications\n");
+  EXPECT_EQ(test::contentOf(script_.folder().file("record.kept")), "x:x:") << "each has come to its end";
 }
 
 TEST_F(PosixProjectTypeTest, WhatCannotBeWrittenIsNotTold) {

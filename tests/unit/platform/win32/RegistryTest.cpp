@@ -67,6 +67,20 @@ TEST_F(RegistryTest, TheMessageNamesThePathUpToTheMissingKey) {
   }
 }
 
+TEST_F(RegistryTest, TheUnnamedTextOfAKeyIsTaken) {
+  std::string text = "kept";
+  const auto read = [&](const RegistryPath& path) { return readDefaultValue(HKEY_CURRENT_USER, path, text); };
+  EXPECT_FALSE(read({testKey})) << "no such key";
+  setValue(HKEY_CURRENT_USER, testKey, "named", "x");
+  EXPECT_FALSE(read({testKey})) << "no such value";
+  setValue(HKEY_CURRENT_USER, below("a"), nullptr, std::string(1024, 'x'));
+  EXPECT_FALSE(read({testKey, "a"})) << "with its end it is too long";
+  EXPECT_EQ(text, "kept");
+  setValue(HKEY_CURRENT_USER, below("a"), nullptr, std::string(1023, 'x'));
+  EXPECT_TRUE(read({testKey, "a"}));
+  EXPECT_EQ(text, std::string(1023, 'x'));
+}
+
 TEST_F(RegistryTest, AKeyGoesWithTheOneBelowIt) {
   make("x\\one");
   const HKEY parent = openKeyPath(HKEY_CURRENT_USER, {testKey});

@@ -1,0 +1,9 @@
+#include "support/OwnConsole.h"
+
+namespace tarnwick::test {
+
+bool leaveOwnConsole() {
+  return true;
+}
+
+}  // namespace tarnwick::test

@@ -1,0 +1,114 @@
+// How long a console waits for a child's last words: by the waits themselves, not by the clock.
+#include "console/ConsoleChild.h"
+#include "support/Children.h"
+#include "support/ConsoleFixture.h"
+
+#include <algorithm>
+#include <chrono>
+#include <functional>
+#include <gtest/gtest.h>
+#include <memory>
+
+namespace tarnwick {
+namespace {
+
+using Lines = std::vector<std::string>;
+using std::chrono::milliseconds;
+
+constexpr milliseconds settle(1);
+constexpr milliseconds readerWait(2);
+const char banner[] = "****  Tarnwick:  E n d   o f   j a v a   e x e c u t i o n   ****";
+
+class ConsoleWaitsTest : public testing::Test {
+ protected:
+  ConsoleWaitsTest() {
+    program_.timing = {settle, readerWait, 8, [this](milliseconds time) { onWait(time); }};
+    program_.start = [this](const platform::ChildCommand&) { return std::make_unique<test::FakeChild>(script_); };
+    child_ = std::make_unique<ConsoleChild>(screen_, desktop_, program_, [] {});
+  }
+  ~ConsoleWaitsTest() override { child_->close(); }
+
+  /// Runs a child that says something and ends, while somebody holds its pipes, until its end has been told.
+  void runToTheEnd() {
+    child_->start();
+    say("x");
+    script_->end(false);
+    ASSERT_TRUE(test::waitUntil([this] { return child_->childState() == 0; }));
+  }
+
+  /// Says it, and returns when it stands in the text.
+  void say(const std::string& text) {
+    said_ += text;
+    script_->out(text);
+    EXPECT_TRUE(test::waitUntil([this] {
+      std::string all;
+      for (const auto& line : lines()) all += line;
+      return all == said_;
+    }));
+  }
+
+  Lines lines() {
+    const TextGuard guard(document_.textLock());
+    return test::textOf(document_);
+  }
+  std::ptrdiff_t waitsOf(milliseconds time) const { return std::count(waits_.begin(), waits_.end(), time); }
+
+  /// What happens within a wait.
+  std::function<void(milliseconds)> during_ = [](milliseconds) {};
+
+ private:
+  /// On the child run thread, which has told the end before anybody asks.
+  void onWait(milliseconds time) {
+    waits_.push_back(time);
+    during_(time);
+  }
+
+  std::shared_ptr<test::ChildScript> script_ = std::make_shared<test::ChildScript>();
+  test::RecordingDesktop desktop_;
+  TarnwickDoc document_{desktop_, ""};
+  ConsoleScreen screen_{document_};
+  ConsoleProgram program_{"java", " Main", {}, {}};
+  std::vector<milliseconds> waits_;
+  std::string said_;
+  std::unique_ptr<ConsoleChild> child_;
+};
+
+TEST_F(ConsoleWaitsTest, AQuietEndIsToldAfterOneLookAtTheOutputAndOneAtTheReaders) {
+  runToTheEnd();
+  EXPECT_EQ(waitsOf(settle), 1);
+  EXPECT_EQ(waitsOf(readerWait), 1);
+}
+
+TEST_F(ConsoleWaitsTest, TheBannerWaitsUntilTheOutputHasSettled) {
+  int said = 0;
+  during_ = [&](milliseconds time) {
+    if (time == settle && ++said <= 5) say("a");
+  };
+  runToTheEnd();
+  EXPECT_EQ(waitsOf(settle), 6);
+  EXPECT_EQ(waitsOf(readerWait), 1);
+  EXPECT_EQ(lines(), (Lines{"", "", "xaaaaa", "", banner, ""}));
+}
+
+TEST_F(ConsoleWaitsTest, AReaderThatIsActiveAgainAndAgainIsWaitedForEightTimesAtMost) {
+  during_ = [&](milliseconds time) {
+    if (time == readerWait) say("y");
+  };
+  runToTheEnd();
+  EXPECT_EQ(waitsOf(settle), 1);
+  EXPECT_EQ(waitsOf(readerWait), 8);
+  EXPECT_EQ(lines(), (Lines{"", "", "xyyyyyyyy", "", banner, ""}));
+}
+
+TEST_F(ConsoleWaitsTest, AReaderIsWaitedForAsLongAsItWasActiveInTheWaitBefore) {
+  int said = 0;
+  during_ = [&](milliseconds time) {
+    if (time == readerWait && ++said <= 3) say("y");
+  };
+  runToTheEnd();
+  EXPECT_EQ(waitsOf(readerWait), 4);
+  EXPECT_EQ(lines(), (Lines{"", "", "xyyy", "", banner, ""}));
+}
+
+}  // namespace
+}  // namespace tarnwick

@@ -20,7 +20,7 @@ struct ConsoleTiming {
   std::chrono::milliseconds settle{200};      ///< the output has settled when nothing comes for so long
   std::chrono::milliseconds readerWait{400};  ///< for a reader that was active lately
   int readerTries = 8;
-  /// Hears, on the thread that waits, of each of these waits as it begins.
+  /// Hears, on the thread that waits, of each of the waits above as it begins.
   std::function<void(std::chrono::milliseconds)> onWait = {};
   std::chrono::milliseconds restoreWait{500};  ///< for the child's console window to be no icon any longer
   int restoreTries = 6;

@@ -218,9 +218,10 @@ wxSize naturalSize(const DialogItem& item, const Control& control) {
   wxWindow& window = *control.window;
   wxSize size = window.GetBestSize();
   if (item.kind == ItemKind::Edit) {
-    // With the system set to larger letters, the toolkit asks for too little.
-    size.y = std::max(size.y, window.GetCharHeight() + window.FromDIP(10));
-    if (item.likeButtons) size.y = std::max(size.y, wxButton::GetDefaultSize(&window).y);
+    const int least = window.GetCharHeight() + window.FromDIP(10);
+    // With the system set to larger letters, the toolkit asks for too little before the field shows, and later for more
+    // than its neighbours get.
+    size.y = std::max(item.likeButtons ? wxButton::GetDefaultSize(&window).y : size.y, least);
     // The toolkit's own reckoning grows when the field comes to be seen, too late for the window's size.
     if (item.width > 0) size.x = widthOfCharacters(window, item.width) + window.FromDIP(20);
     return size;

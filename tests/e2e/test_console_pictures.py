@@ -122,7 +122,12 @@ def test_each_kind_of_text_has_its_colour_in_its_cells(scratch):
     picture(scratch, "console-banner")
     green = [row for row in range(25) if now.pixels(*view.row(row)).get(GREEN)]
     assert len(green) == 1, green
-    assert all(shade[1] == 255 for shade in now.pixels(*view.row(green[0])))
+    # It stands on a dark band of its own cells.
+    _, top, right, bottom = view.row(green[0])
+    end = view.cell(len(BANNER), green[0])[0]
+    band = now.pixels(view.cell(0, green[0])[0], top, end, bottom)
+    assert band.get(BLACK) and all(red == 0 and blue == 0 for red, _, blue in band), band
+    assert set(now.pixels(end, top, right, bottom)) == {WHITE}
     # Two lines lie between it and the last line of the program, and the caret's line behind.
     assert green[0] == 11 and now.pixels(*view.cell(0, 12)).get(BLACK) == 2 * view.height, green
 

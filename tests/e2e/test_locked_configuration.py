@@ -132,6 +132,7 @@ def test_configuration_that_may_only_be_read(scratch):
 
 
 def test_configuration_of_another_user(scratch):
+    source = scratch.sample("Greeter.java")
     scratch.configured()
     if os.geteuid() == 0:
         os.chown(scratch.configuration, 65534, 65534)
@@ -142,7 +143,22 @@ def test_configuration_of_another_user(scratch):
         os.chmod(scratch.configuration, 0)
         os.chmod(scratch.config, 0)
     obey_permissions(scratch)
-    panel = first_use(scratch, REFUSED)
+    scratch.start()
+    Window("Welcome to Tarnwick").press("OK")
+    Window("Tarnwick settings").press("OK")
+    other = os.path.join(scratch.home, "Meins 日本")
+    os.mkdir(other)
+    choose_folder(Window(REFUSED), other)
+    assert "The following environment variable definition has been created:" in message()
+    press_ok()
+    panel = Window("Tarnwick")
+    listens(panel)
+    # A program's console reads the settings where they lie now.
+    scratch.configuration = os.path.join(other, "Tarnwickdefault.CFG")
+    console = scratch.run_class(panel, scratch.compile(panel, source))
+    wait_until("the program's question", lambda: "What is your name?" in scratch.saved_display(console))
+    console.close()
+    console.is_gone()
     panel.press("Exit")
     assert scratch.running[-1].wait(20) == 0
 

@@ -5,10 +5,10 @@
 #include "dialogbase/AddPathDlg.h"
 #include "settings/AlternateLocationDlg.h"
 #include "source/PortabilityWarningDlg.h"
-#include "support/TestProgram.h"
 #include "templates/AddTemplateDlg.h"
 #include "templates/NewSourceFileDlg.h"
 #include "ui/DialogChecks.h"
+#include "ui/ProgramWorld.h"
 
 #include <wx/button.h>
 #include <wx/dialog.h>
@@ -22,25 +22,10 @@ constexpr int NO_DEFAULT = 0;
 const char* const settingsTitle = "Tarnwick settings";
 const char* const mainTitle = "Tarnwick";
 
-/// What the dialogs stand on.
-struct World {
-  World() : environment("TARNWICK_CFGDIR", scratch.path()) {
-    program.programDirectory = scratch.path();
-    context.installedJdks = [] { return std::vector<Jdk>(); };
-  }
-
-  ScratchFolder scratch;
-  ScopedEnvironment environment;
-  ProgramInfo program;
-  ToolLog log{scratch.path()};
-  SettingsContext context{desktop(), program, log};
-  Settings settings{context};
-};
-
 struct RealDialog {
   std::string name;
   /// Runs the dialog. Its result, or NO_RESULT where it gives none.
-  std::function<int(World&)> run;
+  std::function<int(ProgramWorld&)> run;
   int defaultButton = NO_DEFAULT;
   /// The titles of the dialogs that open one after the other when it has closed.
   std::vector<std::string> followers = {};
@@ -50,12 +35,12 @@ std::ostream& operator<<(std::ostream& out, const RealDialog& dialog) {
   return out << dialog.name;
 }
 
-int runMain(World& world) {
+int runMain(ProgramWorld& world) {
   TarnwickDlg(world.settings).runModal();
   return NO_RESULT;
 }
 
-int runUpgrade(World& world) {
+int runUpgrade(ProgramWorld& world) {
   const std::string present = world.program.version;
   world.program.version = "Tarnwick V4.6";
   Settings(world.context).saveDefaultConfiguration(nullptr);
@@ -64,12 +49,12 @@ int runUpgrade(World& world) {
 }
 
 RealDialog newSource(const std::string& name, NewSourceMode mode) {
-  return {name, [mode](World& world) { return NewSourceFileDlg(world.settings, mode, nullptr).runModal(); },
+  return {name, [mode](ProgramWorld& world) { return NewSourceFileDlg(world.settings, mode, nullptr).runModal(); },
           IDOK_CONTROL};
 }
 
 /// A path as long as they come.
-std::string longPath(const World& world) {
+std::string longPath(const ProgramWorld& world) {
   std::string path = world.scratch.path();
   for (int i = 0; i < 8; ++i) path += "a folder with a long name/";
   return path;
@@ -78,27 +63,27 @@ std::string longPath(const World& world) {
 std::vector<RealDialog> allDialogs() {
   return {
       {"about",
-       [](World& world) {
+       [](ProgramWorld& world) {
          AboutDlg(desktop(), world.program).runModal();
          return NO_RESULT;
        },
        IDOK_CONTROL},
       {"welcomeFirstUse", runMain, IDOK_CONTROL, {settingsTitle, mainTitle}},
       {"welcomeUpgrade", runUpgrade, IDOK_CONTROL, {mainTitle}},
-      {"helpFile", [](World& world) { return HelpFileDlg(desktop(), longPath(world) + "usersguide.htm").runModal(); },
-       1173},
+      {"helpFile",
+       [](ProgramWorld& world) { return HelpFileDlg(desktop(), longPath(world) + "usersguide.htm").runModal(); }, 1173},
       newSource("newFile", NewSourceMode::NewFile),
       newSource("nothingToEdit", NewSourceMode::NothingToEdit),
       newSource("newInProject", NewSourceMode::InProject),
-      {"addTemplate", [](World& world) { return AddTemplateDlg(world.context).runModal(); }, IDOK_CONTROL},
-      {"portabilityWarning", [](World&) { return PortabilityWarningDlg(desktop()).runModal(); }, IDOK_CONTROL},
+      {"addTemplate", [](ProgramWorld& world) { return AddTemplateDlg(world.context).runModal(); }, IDOK_CONTROL},
+      {"portabilityWarning", [](ProgramWorld&) { return PortabilityWarningDlg(desktop()).runModal(); }, IDOK_CONTROL},
       {"addPath",
-       [](World& world) {
+       [](ProgramWorld& world) {
          AddPathDlg(desktop(), "Classpath (option -classpath)", longPath(world)).runModal();
          return NO_RESULT;
        }},
       {"alternateLocation",
-       [](World& world) {
+       [](ProgramWorld& world) {
          const Tarnwickfile::FileNotOpenE failure("Read-only file system", longPath(world) + "Tarnwickdefault.CFG");
          return AlternateLocationDlg(desktop(), world.program, failure).runModal();
        },
@@ -130,7 +115,7 @@ class RealDialogsTest : public WindowTest, public testing::WithParamInterface<Re
 
   int run() { return GetParam().run(world_); }
 
-  World world_;
+  ProgramWorld world_;
 };
 
 }  // namespace

@@ -23,7 +23,9 @@ class ConsoleRealChildTest : public test::ConsoleFixture {
 
   void run(const std::string& script) {
     standIn = std::make_unique<test::StandInScript>(script);
-    openWith({test::StandInScript::tool("java"), " one \"two three\"", &platform::ChildProcess::start, {}, windows});
+    ConsoleProgram real{test::StandInScript::tool("java"), " one \"two three\"", &platform::ChildProcess::start, {}};
+    real.windows = windows;
+    openWith(real);
   }
   /// Leaves the child's own console window alone, which takes its time to close.
   void withoutConsoleWindow() {

@@ -32,6 +32,14 @@ class RunsTest : public testing::Test {
     runOnce(missing);
   }
 
+  /// As a console does.
+  void runInteractive() {
+    const auto child = platform::ChildProcess::start({StandInScript::tool("java"), "", true, "interactive"});
+    child->write("z\n", 2);
+    EXPECT_EQ(test::readAll(*child, platform::ChildProcess::Stream::Output), "x\n");
+    child->wait();
+  }
+
   void startDetached() {
     DetachedSubprocess run(desktop_, log_, StandInScript::tool("java"));
     run.addArg("java");
@@ -48,6 +56,7 @@ TEST_F(RunsTest, HundredsOfRunsLeaveNoProcessNoHandleAndNoThread) {
   const auto round = [this](int number) {
     if (number % 10 == 9) return failToStart();
     if (number % 10 == 4) return startDetached();
+    if (number % 10 == 2) return runInteractive();
     runOnce(StandInScript::tool("javac"));
   };
   const long threads = test::runningThreads();

@@ -44,7 +44,7 @@ bool ChildJob::waitUntilEmpty(std::chrono::milliseconds time) {
     ULONG_PTR key = 0;
     OVERLAPPED* process = nullptr;
     if (!GetQueuedCompletionStatus(news_.get(), &news, &key, &process, static_cast<DWORD>(left.count()))) {
-      if (Clock::now() < end && GetLastError() == WAIT_TIMEOUT) continue;
+      if (GetLastError() == WAIT_TIMEOUT && Clock::now() < end) continue;
       return false;
     }
     if (news == JOB_OBJECT_MSG_ACTIVE_PROCESS_ZERO) return true;

@@ -87,7 +87,7 @@ testLinux() {
   installPackages test || return
   buildFor linux Tarnwick tarnwick_unit_tests tarnwick_window_tests -- TARNWICK_TESTS=ON || return
   inShards linux-unit 300 "$root/build/linux/tests/tarnwick_unit_tests"
-  runTests linux-windows 600 "$root/scripts/with-display.sh" "$root/build/linux/tests/tarnwick_window_tests"
+  runTests linux-windows 900 "$root/scripts/with-display.sh" "$root/build/linux/tests/tarnwick_window_tests"
   runTests linux-end-to-end 1800 "$root/scripts/with-display.sh" /usr/bin/python3 "$root/tests/e2e/run.py" "$root"
 }
 
@@ -121,7 +121,7 @@ testWindowsTarget() {
     return
   fi
   underWine "$preset-unit" 900 "$loader" "$root/build/$preset/tests/tarnwick_unit_tests.exe"
-  underWine "$preset-windows" 900 "$loader" "$root/build/$preset/tests/tarnwick_window_tests.exe"
+  underWine "$preset-windows" 1200 "$loader" "$root/build/$preset/tests/tarnwick_window_tests.exe"
   # The 64-bit program is the one that is driven from outside.
   [ "$target" = x86_64 ] && underWine "$preset-end-to-end" 600 /usr/bin/python3 "$root/tests/e2e/run.py" "$root"
 }

@@ -11,6 +11,8 @@ ConsoleProgram programOf(const ConsoleStart& start) {
   ConsoleProgram program;
   program.exeFile = start.exeFile;
   program.runArguments = start.runArguments;
+  // However a debugger ends, the program that it has run is of no use without it, and nobody would know of it.
+  program.leavesNothing = start.debugging;
   return program;
 }
 

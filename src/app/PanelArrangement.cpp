@@ -95,6 +95,8 @@ void arrangeFlatProjectView(PanelPlaces& places) {
     const LayoutItem& before = i < 3 ? firstBefore : secondBefore;
     shift(places.own[i], group.left - before.left, group.top - before.top);
   }
+  // Where the tabs are low, the titles would stand out of the window.
+  for (LayoutItem* const group : {&first, &second}) group->top = std::max(0, group->top);
   closeFlat(places, places.own[3].top - places.own[3].height());
 }
 

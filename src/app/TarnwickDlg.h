@@ -31,6 +31,7 @@ class TarnwickDlg : public ToolTipDlg {
   void arrangePanels();
   void readSettings();
   void welcomeFirstUse(int status);
+  /// Switches off what the JDK of the settings does not take any more.
   void suitJdk();
   void welcomeUpgrade();
 

@@ -127,7 +127,7 @@ bool ConsoleChild::startProcess() {
   try {
     // By its title, in the letters that the executable's path has here, the child's console window is found later.
     process = program_.start({program_.exeFile, program_.runArguments, true, program_.exeFile,
-                              [this](const platform::SystemError& fault) { report(fault); }});
+                              [this](const platform::SystemError& fault) { report(fault); }, program_.leavesNothing});
   } catch (const platform::SystemError& error) {
     const std::string text = "Can't start " + shownExecutable(program_.exeFile) + "\n" + error.text();
     desktop_.post([&desktop = desktop_, text] { desktop.message(text); });

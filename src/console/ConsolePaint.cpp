@@ -14,6 +14,11 @@ struct Span {
   int last = 0;
 };
 
+/// The cells of a line whose top is `y`, from column `first` to just before `last`.
+Rect cells(const ConsoleGrid& grid, int first, int last, int y) {
+  return {grid.x(first), y, grid.x(last), y + grid.charHeight};
+}
+
 void paintLine(ConsolePainter& painter, const ConsoleLine& line, const ConsoleGrid& grid, int y, const Span& visible) {
   int column = 0;
   for (const auto& segment : line.segments()) {
@@ -22,6 +27,8 @@ void paintLine(ConsolePainter& painter, const ConsoleLine& line, const ConsoleGr
     if (from < to) {
       const TextPlace start = characterAtColumn(segment.text, segment.columns, from);
       const std::size_t end = byteAtColumn(segment.text, segment.columns, to);
+      const Colour background = backgroundOf(segment.kind);
+      if (background != consoleBackground) painter.fill(cells(grid, column + from, column + to, y), background);
       painter.drawText(grid.x(column + start.column), y, segment.text.substr(start.byte, end - start.byte),
                        colourOf(segment.kind));
     }
@@ -42,6 +49,11 @@ Colour colourOf(int kind) {
     default:
       return {0, 0, 0};
   }
+}
+
+Colour backgroundOf(int kind) {
+  // The banner's light green could hardly be read on white.
+  return kind == KIND_BANNER ? Colour{0, 0, 0} : consoleBackground;
 }
 
 void paintText(ConsolePainter& painter, const TarnwickDoc& document, const ConsoleGrid& grid) {

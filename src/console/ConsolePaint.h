@@ -10,6 +10,8 @@ namespace tarnwick {
 /// The colour of a kind of text, on the view's own background whatever the desktop's colours are.
 Colour colourOf(int kind);
 inline constexpr Colour consoleBackground{255, 255, 255};
+/// What a kind of text stands on.
+Colour backgroundOf(int kind);
 
 /// Draws what of the text lies in the painter's clip. The caller holds the text lock.
 void paintText(ConsolePainter& painter, const TarnwickDoc& document, const ConsoleGrid& grid);

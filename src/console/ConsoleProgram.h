@@ -37,6 +37,8 @@ struct ConsoleProgram {
   ChildFactory start = &platform::ChildProcess::start;
   ConsoleTiming timing;
   ThreadFactory thread = [](std::function<void()> work) { return std::thread(std::move(work)); };
+  /// What the child has started does not outlive it.
+  bool leavesNothing = false;
   platform::ConsoleWindows* windows = &platform::ConsoleWindows::ofSystem();
 };
 

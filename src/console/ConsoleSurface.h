@@ -25,6 +25,8 @@ class ConsolePainter {
   virtual Rect clip() const = 0;
   /// Draws text in fixed-pitch cells from this left top corner on.
   virtual void drawText(int x, int y, const std::string& text, Colour colour) = 0;
+  /// Fills a rectangle with one colour.
+  virtual void fill(const Rect& rect, Colour colour) = 0;
   /// Inverts what has been painted in the rectangle.
   virtual void invert(const Rect& rect) = 0;
 };

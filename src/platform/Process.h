@@ -37,6 +37,8 @@ struct ChildCommand {
   /// Told of each step of the start that failed and did not keep the child from starting; by the thread that starts it,
   /// and before `start` returns or throws. What could not be had is missing: a stream without a pipe is at its end.
   std::function<void(const SystemError&)> report = nullptr;
+  /// Of an interactive child: what it has started ends when the child itself has ended, as by `endTree`.
+  bool leavesNothing = false;
 };
 
 /// A running child with its standard output and standard error on pipes, and its standard input if it is interactive.

@@ -41,7 +41,8 @@ const DialogLayout& fileViewLayout() {
                      group(1239, " Source (.java) ",
                            {
                                space(),
-                               row({narrowButton(1240, "New").stretched(), narrowButton(1006, "Browse").stretched(),
+                               row({narrowButton(1240, "New").stretched(),
+                                    narrowButton(1006, "Browse").named("Browse for a source file").stretched(),
                                     narrowButton(1007, "Edit").stretched(), narrowButton(1008, "javac").stretched()}),
                                space(),
                                edit(1009, 20).asHighAsButtons().named("Source file (.java)"),

@@ -11,6 +11,9 @@ namespace {
 
 enum Control { LAUNCH = 1125, F5 = 1158, F6 = 1162, SHIFT = 1261, CTRL = 1262, ALT = 1263 };
 
+/// What the modifiers add to the number of a group.
+enum Modifier { WITH_SHIFT = 1, WITH_CTRL = 2, WITH_ALT = 4 };
+
 /// The fields of F5 to F12.
 constexpr std::array<int, 8> keyFields = {F5, F6, 1163, 1164, 1166, 1167, 1168, 1169};
 
@@ -50,7 +53,7 @@ void JdbPage::updateControls() {
   }
   enableControl(F6, true);
   // That system keeps Alt+F6 for itself. The emptied field reaches the group with the next store, which is meant.
-  const bool withAlt = mask_ == 4 || mask_ == 5;
+  const bool withAlt = mask_ == WITH_ALT || mask_ == WITH_ALT + WITH_SHIFT;
   if (withAlt && context_.isWindows98()) {
     setFieldText(F6, "");
     enableControl(F6, false);
@@ -60,7 +63,7 @@ void JdbPage::updateControls() {
 void JdbPage::onCommand(int control) {
   if (control != SHIFT && control != CTRL && control != ALT) return;
   keys_ = keysWithFields();
-  mask_ = getCheck(SHIFT) + 2 * getCheck(CTRL) + 4 * getCheck(ALT);
+  mask_ = WITH_SHIFT * getCheck(SHIFT) + WITH_CTRL * getCheck(CTRL) + WITH_ALT * getCheck(ALT);
   updateControls();
 }
 

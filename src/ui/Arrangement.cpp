@@ -139,14 +139,32 @@ std::vector<int> shares(const Node& node, int room, bool along, int plain, const
   return lengths;
 }
 
+wxRect insideGroup(const Node& group, const wxRect& outer, const Gaps& gaps) {
+  wxRect inner = outer;
+  inner.x += group.frameOther + gaps.inGroup;
+  inner.width -= 2 * (group.frameOther + gaps.inGroup);
+  inner.y += group.frameTop + gaps.inGroup;
+  inner.height -= group.frameTop + group.frameOther + 2 * gaps.inGroup;
+  return inner;
+}
+
+/// Where the unframed children of a row stand: level with what is inside a group beside them.
+wxRect roomBesideGroup(const Node& row, const wxRect& room, const Gaps& gaps) {
+  const auto group = std::find_if(row.children.begin(), row.children.end(),
+                                  [](const Node& child) { return child.kind == ItemKind::Group; });
+  return group == row.children.end() ? room : insideGroup(*group, room, gaps);
+}
+
 void placeRow(const Node& node, const wxRect& room, const Gaps& gaps) {
   const auto widths = shares(node, room.width, true, gaps.inRow, gaps);
+  const wxRect besideGroup = roomBesideGroup(node, room, gaps);
   int x = room.x;
   for (std::size_t i = 0; i < widths.size(); ++i) {
     const Node& child = node.children[i];
     if (i > 0) x += gapBetween(node.children[i - 1], child, gaps.inRow, gaps);
-    const int height = fillsHeight(child) ? room.height : child.least.y;
-    place(child, wxRect(x, room.y + (room.height - height) / 2, widths[i], height), gaps);
+    const wxRect& here = isContainer(child) && !isButtonRow(child) ? room : besideGroup;
+    const int height = fillsHeight(child) ? here.height : child.least.y;
+    place(child, wxRect(x, here.y + (here.height - height) / 2, widths[i], height), gaps);
     x += widths[i];
   }
 }
@@ -161,15 +179,6 @@ void placeColumn(const Node& node, const wxRect& room, const Gaps& gaps) {
     place(child, wxRect(room.x, y, width, heights[i]), gaps);
     y += heights[i];
   }
-}
-
-wxRect insideGroup(const Node& group, const wxRect& outer, const Gaps& gaps) {
-  wxRect inner = outer;
-  inner.x += group.frameOther + gaps.inGroup;
-  inner.width -= 2 * (group.frameOther + gaps.inGroup);
-  inner.y += group.frameTop + gaps.inGroup;
-  inner.height -= group.frameTop + group.frameOther + 2 * gaps.inGroup;
-  return inner;
 }
 
 wxSize sizeOfGroup(const Node& group, const Gaps& gaps) {

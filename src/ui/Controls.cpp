@@ -97,13 +97,25 @@ wxWindow* makeEdit(wxWindow& parent, const DialogItem& item) {
   return edit;
 }
 
-/// Blue, and red under the pointer, on any theme; it never opens anything by itself.
+struct LinkColours {
+  wxColour usual = *wxBLUE;
+  wxColour underPointer = *wxRED;
+};
+
+/// Blue and red, pure wherever they can be read: on a dark theme they need some light.
+LinkColours linkColours() {
+  if (!wxSystemSettings::GetAppearance().IsUsingDarkBackground()) return {};
+  return {wxColour(110, 160, 255), wxColour(255, 120, 120)};
+}
+
+/// It never opens anything by itself.
 wxWindow* makeLink(wxWindow& parent, const std::string& address) {
   auto* made = new wxGenericHyperlinkCtrl(&parent, wxID_ANY, toWx(address), toWx(address), wxDefaultPosition,
                                           wxDefaultSize, wxHL_ALIGN_LEFT | wxNO_BORDER);
-  made->SetNormalColour(*wxBLUE);
-  made->SetVisitedColour(*wxBLUE);
-  made->SetHoverColour(*wxRED);
+  const LinkColours colours = linkColours();
+  made->SetNormalColour(colours.usual);
+  made->SetVisitedColour(colours.usual);
+  made->SetHoverColour(colours.underPointer);
   describeLink(*made, address);
   return made;
 }
@@ -206,9 +218,10 @@ wxSize naturalSize(const DialogItem& item, const Control& control) {
   wxWindow& window = *control.window;
   wxSize size = window.GetBestSize();
   if (item.kind == ItemKind::Edit) {
-    // With the system set to larger letters, the toolkit asks for too little.
-    size.y = std::max(size.y, window.GetCharHeight() + window.FromDIP(10));
-    if (item.likeButtons) size.y = std::max(size.y, wxButton::GetDefaultSize(&window).y);
+    const int least = window.GetCharHeight() + window.FromDIP(10);
+    // With the system set to larger letters, the toolkit asks for too little before the field shows, and later for more
+    // than its neighbours get.
+    size.y = std::max(item.likeButtons ? wxButton::GetDefaultSize(&window).y : size.y, least);
     // The toolkit's own reckoning grows when the field comes to be seen, too late for the window's size.
     if (item.width > 0) size.x = widthOfCharacters(window, item.width) + window.FromDIP(20);
     return size;

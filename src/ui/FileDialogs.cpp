@@ -79,7 +79,9 @@ std::optional<std::string> saveFileDialog(WindowStack& stack, const FileRequest&
 }
 
 std::optional<std::string> folderDialog(WindowStack& stack) {
-  wxDirDialog dialog(stack.parent(), "Choose a folder", wxString(), wxDD_DEFAULT_STYLE | wxDD_DIR_MUST_EXIST);
+  // Where systems have a home folder the browser begins there, and not among what happened to be used lately.
+  const wxString start = toWx(platform::startFolder(""));
+  wxDirDialog dialog(stack.parent(), "Choose a folder", start, wxDD_DEFAULT_STYLE | wxDD_DIR_MUST_EXIST);
   const WindowStack::Place place(stack, nullptr);
   const NativeLoop posted;
   if (dialog.ShowModal() != wxID_OK) return std::nullopt;

@@ -67,6 +67,14 @@ int WxConsolePainter::baselineOf(const wxString& text) const {
   return height - descent;
 }
 
+void WxConsolePainter::fill(const Rect& rect, Colour colour) {
+  const wxRect area = wxRect(rect.left, rect.top, rect.width(), rect.height()).Intersect(clip_);
+  if (area.IsEmpty()) return;
+  dc_.SetPen(*wxTRANSPARENT_PEN);
+  dc_.SetBrush(wxBrush(wxColour(colour.red, colour.green, colour.blue)));
+  dc_.DrawRectangle(area);
+}
+
 void WxConsolePainter::invert(const Rect& rect) {
   const wxRect area = wxRect(rect.left, rect.top, rect.width(), rect.height()).Intersect(clip_);
   if (!area.IsEmpty()) invertColours(dc_, area);

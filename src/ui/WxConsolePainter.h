@@ -16,6 +16,7 @@ class WxConsolePainter : public ConsolePainter {
 
   Rect clip() const override;
   void drawText(int x, int y, const std::string& text, Colour colour) override;
+  void fill(const Rect& rect, Colour colour) override;
   void invert(const Rect& rect) override;
 
  private:

@@ -22,7 +22,8 @@ if "WINE" in os.environ:
     MODULES, World = ["test_windows"], wine_world.World
 else:
     MODULES = ["test_start", "test_start_up", "test_panels", "test_compile", "test_splitting", "test_console",
-               "test_console_text", "test_console_pictures", "test_console_dark", "test_jdb", "test_help", "test_tools", "test_bad_input"]
+               "test_console_text", "test_console_pictures", "test_console_dark", "test_jdb", "test_help", "test_tools",
+               "test_bad_input", "test_locked_configuration"]
     World = world.World
 
 

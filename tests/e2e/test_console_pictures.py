@@ -57,15 +57,20 @@ class View:
         self.point(x, y)
         person.xdotool("click", "--repeat", 2, "--delay", 40, 1)
 
-    def measure(self, x, y):
+    def first_row(self, colour=BLUE):
+        """The topmost row of pixels that holds the colour."""
+        now = self.settled()
+        return next(y for y in range(self.area[3]) if now.pixels(0, y, self.area[2], y + 1).get(colour))
+
+    def measure(self, x, y, letters=LETTERS):
         """Selects the word at a point, which has so many letters: its rectangle tells the size of a cell."""
         before = self.settled()
         self.double_click(x, y)
         after = wait_until("a selected word", lambda: (now := self.now()).bytes != before.bytes and now)
         places = before.changes(after)
         left, top, right, bottom = frame_of(places)
-        assert left == MARGIN and (right - left) % LETTERS == 0, (left, right)
-        self.width, self.height = (right - left) // LETTERS, bottom - top
+        assert left == MARGIN and (right - left) % letters == 0, (left, right)
+        self.width, self.height = (right - left) // letters, bottom - top
         assert len(places) == (right - left) * (bottom - top), "a whole rectangle"
         return before, after
 
@@ -77,9 +82,7 @@ def coloured(scratch):
     console.activate()
     view = View(console)
     assert view.settled().pixel(view.area[2] - 5, 5) == WHITE
-    now = view.settled()
-    first = next(y for y in range(view.area[3]) if now.pixels(0, y, view.area[2], y + 1).get(BLUE))
-    before, after = view.measure(MARGIN + 20, first + 3)
+    before, after = view.measure(MARGIN + 20, view.first_row() + 3)
     return console, view, before, after
 
 
@@ -119,7 +122,12 @@ def test_each_kind_of_text_has_its_colour_in_its_cells(scratch):
     picture(scratch, "console-banner")
     green = [row for row in range(25) if now.pixels(*view.row(row)).get(GREEN)]
     assert len(green) == 1, green
-    assert all(shade[1] == 255 for shade in now.pixels(*view.row(green[0])))
+    # It stands on a dark band of its own cells.
+    _, top, right, bottom = view.row(green[0])
+    end = view.cell(len(BANNER), green[0])[0]
+    band = now.pixels(view.cell(0, green[0])[0], top, end, bottom)
+    assert band.get(BLACK) and all(red == 0 and blue == 0 for red, _, blue in band), band
+    assert set(now.pixels(end, top, right, bottom)) == {WHITE}
     # Two lines lie between it and the last line of the program, and the caret's line behind.
     assert green[0] == 11 and now.pixels(*view.cell(0, 12)).get(BLACK) == 2 * view.height, green
 

@@ -9,6 +9,7 @@ import person
 from person import wait_until
 from picture import BLACK, WHITE, Picture
 from test_console import BANNER, nothing_left, nothing_left_three_seconds_later, shows, started
+from test_console_pictures import MARGIN, View
 from world import type_line
 
 
@@ -29,15 +30,30 @@ def test_letters_of_every_width_stand_in_their_columns(scratch):
     # A character in two pieces is whole; each byte that is none shows as one replacement.
     assert "abcd|\n日本|\ne\u0301e\u0301cd|\näöüß|\n<日>\n(\ufffd\ufffd)\nready\n" in display, display
     console.activate()
-    time.sleep(0.5)
+    view = View(console)
+    before, _ = view.measure(MARGIN + 4, view.first_row() + 3, letters=5)
     person.screenshot(os.path.join(scratch.project, "build", "e2e", "console-letters.png"))
-    area = view_area(console)
-    now = Picture(area)
-    # All four lines end with the same bar in the same column: look for a column with ink in all of them.
-    columns = [x for x in range(now.width) if sum(now.pixel(x, y) != WHITE for y in range(now.height)) > 40]
-    assert columns, "the bars stand below one another"
-    bar = max(columns)
-    assert all(now.pixel(x, y) == WHITE for x in range(bar + 4, now.width) for y in range(now.height // 6))
+
+    def inked(row, first, last):
+        """Where there is ink in these cells, each pixel counted from the left of the first."""
+        left, top, _, bottom = view.cell(first, row)
+        return {(x - left, y - top) for x in range(left, view.cell(last, row)[2]) for y in range(top, bottom)
+                if before.pixel(x, y) != WHITE}
+    # All four lines end with the same bar in the fifth cell.
+    bar = inked(2, 4, 4)
+    assert len(bar) > 8
+    for row, cells in [(2, [(0, 0), (1, 1), (2, 2), (3, 3)]), (3, [(0, 1), (2, 3)]), (4, [(0, 0), (1, 1), (2, 2), (3, 3)]),
+                       (5, [(0, 0), (1, 1), (2, 2), (3, 3)])]:
+        assert all(len(inked(row, *cell)) > 8 for cell in cells), row
+        assert inked(row, 4, 4) == bar, row
+        assert not inked(row, 5, 40), row
+    # The accents stand above their letters. A letter of another font may reach down to the row's first pixels.
+    top = min(y for _, y in inked(4, 2, 2) if y > 1)
+    for column in (0, 1):
+        assert any(1 < y < top - 1 for _, y in inked(4, column, column)), column
+    # A wide letter between two narrow ones, and two replacements.
+    assert inked(6, 1, 2) and inked(6, 0, 0) and inked(6, 3, 3) and not inked(6, 4, 40)
+    assert inked(7, 1, 1) and inked(7, 2, 2) and inked(7, 3, 3) and not inked(7, 4, 40)
 
 
 def test_a_line_of_a_million_characters_neither_freezes_nor_breaks_the_console(scratch):
@@ -67,7 +83,8 @@ def test_a_line_of_a_million_characters_neither_freezes_nor_breaks_the_console(s
     wait_until("what was typed", lambda: letters(Picture(area), x - 40, top, "black") > 40, 5)
     assert letters(Picture(area), x - 100, top, "blue") > 100
     person.key("Left", "Left", "BackSpace", "End")
-    assert time.monotonic() - begin < 8, "the console hardly answers"
+    # A busy machine has its time; a console that goes through its whole text at each key takes minutes.
+    assert time.monotonic() - begin < 30, "the console hardly answers"
     person.key("ctrl+a", "ctrl+c")
     copied = subprocess.run(["xclip", "-selection", "clipboard", "-out"], stdin=subprocess.DEVNULL,
                             stdout=subprocess.PIPE, check=True, timeout=30).stdout.decode()

@@ -32,6 +32,26 @@ def test_a_consoles_menu_opens_the_guide_and_about(scratch):
     about.is_gone()
 
 
+def test_help_of_the_settings_opens_the_guide_at_the_page_that_shows(scratch):
+    _, panel = scratch.first_start()
+    panel.press("Settings")
+    settings = Window("Tarnwick settings")
+    anchors = {"JDK tools": "configTab1", "javac": "javacparameters", "java": "javaparameters", "jdb": "jdbparams",
+               "appletviewer": "appletviewerparameters", "Sourcecode editor": "editorparameters", "Paths": "paths"}
+    guide = os.path.join(os.path.dirname(scratch.program), "usersguide.htm")
+    for count, (tab, anchor) in enumerate(anchors.items(), start=1):
+        settings.control(tab, "page tab").click()
+        settings.press("Help")
+        wait_until(f"help on {tab}", lambda: len(scratch.editor_notes()) == count)
+        assert [f"file://{guide}#{anchor}"] in [arguments for arguments, _ in scratch.editor_notes()], scratch.editor_notes()
+    settings.press("About ...")
+    about = Window("About Tarnwick")
+    about.press("OK")
+    about.is_gone()
+    settings.press("Cancel")
+    settings.is_gone()
+
+
 def test_a_link_of_welcome_opens_in_the_browser(scratch):
     scratch.start()
     welcome = Window("Welcome to Tarnwick")

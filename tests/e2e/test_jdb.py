@@ -285,6 +285,15 @@ def test_killing_the_console_lets_the_hooks_of_a_debugged_program_run(scratch):
     assert hook_was_here(scratch)
 
 
+def test_a_debugger_that_is_killed_does_not_leave_a_program_that_runs(scratch):
+    panel, console = running_with_a_hook(scratch)
+    os.kill(scratch.processes("jdb")[0], signal.SIGKILL)
+    shows(scratch, console, BANNER)
+    console.close()
+    console.is_gone()
+    nothing_left_three_seconds_later(scratch, panel.process)
+
+
 def test_a_debugger_that_is_killed_leaves_no_program(scratch):
     panel, console = debugged(scratch)
     both_run(scratch, console)

@@ -56,6 +56,16 @@ def test_layout_buttons_change_the_layout_and_the_next_start_finds_it_again(scra
     assert program.wait(20) == 0
 
 
+def test_open_tab_is_remembered(scratch):
+    program, panel = scratch.first_start()
+    panel.control("Utilities", "page tab").click()
+    wait_until("the saved tab", lambda: scratch.settings()["FILEVIEW_TAB"] == "2")
+    panel.close()
+    assert program.wait(20) == 0
+    scratch.start()
+    assert Window("Tarnwick").control("Utilities", "page tab").selected
+
+
 def test_views_switch_and_share_the_layout(scratch):
     program, panel = scratch.first_start()
     tall = size(panel)

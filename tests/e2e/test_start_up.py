@@ -184,6 +184,22 @@ def test_names_ignore_case_and_unknown_switches_are_skipped(scratch):
     ends(console, program)
 
 
+def test_child_that_cannot_be_started_is_told_and_only_the_close_box_ends_its_console(scratch):
+    line = switches(scratch, r"\/TITLE=x\/", r"\/RUN=")
+    missing = child(scratch)
+    os.remove(missing)
+    program = scratch.start(*line)
+    words = f"Can't start {missing}\nCreateProcess error 2\nNo such file or directory"
+    press_ok(wait_until("the message", lambda: next(
+        (window for window in person.look() if any(one.name == words for one in window.all())), None)))
+    console = Window("x")
+    console.activate()
+    person.type_text("typed")
+    person.key("Return", "F5", "Left")
+    assert shows(scratch, console, "typed") == "typed\ncont\n\n"
+    ends(console, program)
+
+
 def test_without_the_debugging_switch_the_debuggers_help_is_disabled(scratch):
     program = scratch.start(*switches(scratch, r"\/TITLE=x\/", r"\/RUN="))
     console = Window("x")

@@ -6,6 +6,7 @@
 #include "support/FakeSurface.h"
 #include "support/RecordingDesktop.h"
 
+#include <algorithm>
 #include <chrono>
 #include <gtest/gtest.h>
 #include <memory>
@@ -63,6 +64,31 @@ class ConsoleFixture : public testing::Test {
     open();
     EXPECT_TRUE(until([&] { return view->childState() == 1 && lineCount() == 3; }));
     return *view;
+  }
+
+  /// A view without any child's output under way: the start has failed.
+  TarnwickView& openIdle() {
+    program.start = [](const platform::ChildCommand&) -> std::unique_ptr<platform::ChildProcess> {
+      throw platform::SystemError{"CreateProcess", 2, ""};
+    };
+    openWith(program);
+    EXPECT_TRUE(until([&] { return !desktop.messages.empty(); }));
+    desktop.messages.clear();
+    surface.forget();
+    return *view;
+  }
+
+  /// The end of a child that has said something.
+  void endChild() {
+    child->out("x\n");
+    // What is not read before the end has settled would count as nothing said.
+    ASSERT_TRUE(until([&] {
+      const auto all = lines();
+      return std::find(all.begin(), all.end(), "x") != all.end();
+    }));
+    child->end();
+    ASSERT_TRUE(until([&] { return view->childState() == 0; }));
+    pump();
   }
 
   /// Does what the window's event loop does until the condition holds. False after ten seconds.

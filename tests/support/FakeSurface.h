@@ -4,6 +4,7 @@
 
 #include <atomic>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace tarnwick::test {
@@ -79,12 +80,14 @@ class FakePainter : public ConsolePainter {
   explicit FakePainter(const Rect& clip = {0, 0, 644, 400}) : clip_(clip) {}
 
   std::vector<Drawn> drawn;
+  std::vector<std::pair<Rect, Colour>> filled;
   std::vector<Rect> inverted;
 
   Rect clip() const override { return clip_; }
   void drawText(int x, int y, const std::string& text, Colour colour) override {
     drawn.push_back({x, y, text, colour});
   }
+  void fill(const Rect& rect, Colour colour) override { filled.push_back({rect, colour}); }
   void invert(const Rect& rect) override { inverted.push_back(rect); }
 
  private:

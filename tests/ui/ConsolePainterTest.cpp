@@ -28,7 +28,7 @@ TEST(ConsolePainter, AMillionMarksOnOneLetterTakeNoTime) {
   const auto begin = std::chrono::steady_clock::now();
   ui::WxConsolePainter painter(device, wxRect(0, 0, 100, 60), {10, 20}, true);
   painter.drawText(0, 30, text + "M", red);
-  EXPECT_LT(std::chrono::steady_clock::now() - begin, std::chrono::seconds(5));
+  EXPECT_LT(std::chrono::steady_clock::now() - begin, std::chrono::seconds(20));
   device.SelectObject(wxNullBitmap);
   const wxImage picture = bitmap.ConvertToImage();
   EXPECT_GT(countIn(picture, wxRect(0, 30, 10, 20), isReddish), 10);

@@ -1,4 +1,5 @@
 #include "ui/DialogFixture.h"
+#include "ui/Pixels.h"
 
 namespace tarnwick::test {
 
@@ -27,6 +28,27 @@ TEST_F(DialogTest, AChildWindowHidesAndShows) {
     bar.window->showWindow(true);
     EXPECT_TRUE(top().children()[2]->surface().IsShownOnScreen());
   });
+  thenClose();
+  play();
+}
+
+TEST_F(DialogTest, ATabPageKeepsItsColourWhateverHappensAroundIt) {
+  rules.onInitialise = [this](DialogWindow& window) { fill(window); };
+  const auto colour = [this] {
+    const wxImage picture = pictureOf(top().children()[0]->surface());
+    return std::vector<int>{picture.GetRed(2, 2), picture.GetGreen(2, 2), picture.GetBlue(2, 2)};
+  };
+  std::vector<int> atFirst;
+  waitForDialog();
+  steps.settle(20);
+  steps.then("look", [&] {
+    atFirst = colour();
+    top().enable(SAMPLE_TABS, false);
+  });
+  steps.settle(20);
+  steps.then("change", [this] { top().enable(SAMPLE_TABS, true); });
+  steps.settle(40);
+  steps.then("look", [&] { EXPECT_EQ(colour(), atFirst); });
   thenClose();
   play();
 }

@@ -9,6 +9,8 @@
 #include "ui/SampleDialog.h"
 #include "ui/WindowTest.h"
 
+#include <algorithm>
+
 namespace tarnwick::test {
 
 namespace {
@@ -52,9 +54,111 @@ std::vector<NamedLayout> allLayouts() {
           {"hint", hintLayout()}};
 }
 
+/// Those that open as a window of their own.
+std::vector<NamedLayout> allDialogLayouts() {
+  return {{"newFile", newSourceLayout(NewSourceMode::NewFile)},
+          {"nothingToEdit", newSourceLayout(NewSourceMode::NothingToEdit)},
+          {"newInProject", newSourceLayout(NewSourceMode::InProject)},
+          {"addTemplate", addTemplateLayout()},
+          {"welcome", welcomeLayout()},
+          {"about", aboutLayout()},
+          {"helpFile", helpFileLayout()},
+          {"settings", settingsLayout()},
+          {"addPath", addPathLayout()},
+          {"alternateLocation", alternateLocationLayout()},
+          {"portabilityWarning", portabilityWarningLayout()}};
+}
+
+void collect(const DialogItem& item, std::vector<DialogItem>& all) {
+  all.push_back(item);
+  for (const auto& child : item.children) collect(child, all);
+}
+
+std::vector<DialogItem> itemsOf(const DialogLayout& layout) {
+  std::vector<DialogItem> all;
+  collect(layout.content, all);
+  return all;
+}
+
+bool takesReturn(const DialogItem& item) {
+  return item.kind == ItemKind::Edit || item.kind == ItemKind::ComboBox || item.kind == ItemKind::CheckBox;
+}
+
 class LayoutsTest : public WindowTest, public testing::WithParamInterface<NamedLayout> {};
 
+class DialogLayoutsTest : public LayoutsTest {
+ protected:
+  void waitForDialog() {
+    steps.until("the dialog shows", [this] { return openDialogs() == 1 && top().dialog().IsActive(); });
+    steps.settle();
+  }
+
+  void run() {
+    steps.then("close", [this] { rules_.window->close(99); });
+    EXPECT_EQ(desktop().runDialog(GetParam().layout, rules_), 99);
+  }
+
+  void forget() { rules_.heard.clear(); }
+  /// Focuses the control, presses Return, and expects that one button was pressed by it.
+  void expectReturnPresses(int focused, int button) {
+    steps.then("focus", [this, focused] { top().focus(focused); });
+    steps.until("focus", [this, focused] { return wxWindow::FindFocus() == top().windowOf(focused); });
+    steps.then("Return", [this] {
+      forget();
+      key(WXK_RETURN);
+    });
+    steps.until("something is heard", [this] { return !rules_.heard.empty(); });
+    steps.settle();
+    steps.then("look", [this, focused, button] {
+      EXPECT_EQ(rules_.heard, std::vector<std::string>{"command " + std::to_string(button)}) << "from " << focused;
+    });
+  }
+
+  Recorder rules_;
+};
+
 }  // namespace
+
+TEST_P(DialogLayoutsTest, ReturnPressesTheDefaultButtonOrTheOneThatHasTheFocus) {
+  const auto items = itemsOf(GetParam().layout);
+  const auto found = std::find_if(items.begin(), items.end(), [](const DialogItem& item) { return item.isDefault; });
+  waitForDialog();
+  for (const auto& item : items) {
+    if (found != items.end() && takesReturn(item)) expectReturnPresses(item.control, found->control);
+    if (item.kind == ItemKind::Button) expectReturnPresses(item.control, item.control);
+  }
+  run();
+}
+
+TEST_P(DialogLayoutsTest, ReturnAtTheStartPressesTheDefaultButton) {
+  const auto items = itemsOf(GetParam().layout);
+  const auto found = std::find_if(items.begin(), items.end(), [](const DialogItem& item) { return item.isDefault; });
+  waitForDialog();
+  steps.then("Return", [this] {
+    forget();
+    key(WXK_RETURN);
+  });
+  steps.until("something is heard", [this] { return !rules_.heard.empty(); });
+  steps.then("look", [&] {
+    // Where no button is the default one, the first that has the focus is as good as that.
+    const int expected = found == items.end() ? GetParam().layout.firstFocus : found->control;
+    EXPECT_EQ(rules_.heard, std::vector<std::string>{"command " + std::to_string(expected)});
+  });
+  run();
+}
+
+TEST_P(DialogLayoutsTest, EscapePressesCancelOrAsksToClose) {
+  const auto items = itemsOf(GetParam().layout);
+  const bool hasCancel =
+      std::any_of(items.begin(), items.end(), [](const DialogItem& item) { return item.control == IDCANCEL_CONTROL; });
+  waitForDialog();
+  steps.then("Escape", [] { key(WXK_ESCAPE); });
+  steps.until("something is heard", [this] { return !rules_.heard.empty(); });
+  steps.then("look", [this, hasCancel] {
+    EXPECT_EQ(rules_.heard, std::vector<std::string>{hasCancel ? "command 2" : "close"});
+  });
+  run();
+}
 
 TEST_P(LayoutsTest, EveryControlShowsWhole) {
   Recorder rules;
@@ -69,6 +173,9 @@ TEST_P(LayoutsTest, EveryControlShowsWhole) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Program, LayoutsTest, testing::ValuesIn(allLayouts()),
+                         [](const auto& info) { return info.param.name; });
+
+INSTANTIATE_TEST_SUITE_P(Program, DialogLayoutsTest, testing::ValuesIn(allDialogLayouts()),
                          [](const auto& info) { return info.param.name; });
 
 }  // namespace tarnwick::test

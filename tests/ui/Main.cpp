@@ -5,9 +5,11 @@
 #include "ui/SampleDialog.h"
 #include "ui/WindowTest.h"
 
+#include <wx/dialog.h>
 #include <wx/uiaction.h>
 
 #include <cstdlib>
+#include <set>
 #include <string>
 
 namespace {
@@ -33,9 +35,16 @@ int showDialogs(Desktop& desktop, int result) {
   return result;
 }
 
+/// How high letters are on the screen.
+int letterHeight() {
+  const wxDialog window(nullptr, wxID_ANY, "Letters");
+  return static_cast<int>(window.GetCharHeight() * window.GetContentScaleFactor());
+}
+
 /// Small programs of their own, for the tests of what a process gives back.
 int runSmall(const std::string& which, int result, Desktop& desktop) {
   if (which == "--dialogs") return showDialogs(desktop, result);
+  if (which == "--letter-height") return letterHeight();
   if (which == "--throw") {
     const int timer = desktop.startTimer(200, [] { wxUIActionSimulator().Char(WXK_RETURN); });
     static_cast<void>(timer);
@@ -48,7 +57,8 @@ int runSmall(const std::string& which, int result, Desktop& desktop) {
 
 int main(int argc, char** argv) {
   const std::string which = argc == 3 ? argv[1] : "";
-  if (which != "--exit-code" && which != "--dialogs" && which != "--throw") return runAll(argc, argv);
+  const std::set<std::string> small = {"--exit-code", "--dialogs", "--throw", "--letter-height"};
+  if (small.count(which) == 0) return runAll(argc, argv);
   const int result = std::atoi(argv[2]);
   return ui::runProgram(
       argc, argv, [which, result](Desktop& desktop, ConsoleFrameHost&) { return runSmall(which, result, desktop); });

@@ -1,28 +1,10 @@
-#include "platform/FileSystem.h"
 #include "support/TestProgram.h"
+#include "ui/ProgramAnew.h"
 
-#include <cstdio>
-#include <cstdlib>
 #include <gtest/gtest.h>
 #include <string>
 
 namespace tarnwick::test {
-
-namespace {
-
-bool onWindows() {
-  return platform::environment("OS").value_or("") == "Windows_NT";
-}
-
-/// Runs this program anew with the arguments; what it writes goes to a file.
-int runAnew(const std::string& arguments, const std::string& output) {
-  std::string command = "\"" + platform::executablePath() + "\" " + arguments + " >\"" + output + "\" 2>&1";
-  if (onWindows()) command = "\"" + command + "\"";  // its shell takes off the outermost quotes
-  const int status = std::system(command.c_str());
-  return onWindows() ? status : (status >> 8) & 0xFF;
-}
-
-}  // namespace
 
 TEST(ProgramTest, TheProgramsResultIsTheExitCode) {
   ScratchFolder folder;

@@ -3,12 +3,11 @@
 #include "process/ToolLog.h"
 #include "settings/Settings.h"
 #include "support/TestProgram.h"
-#include "ui/Toolkit.h"
-#include "ui/WindowTest.h"
+#include "ui/DialogChecks.h"
 
 #include <wx/dialog.h>
 
-#include <algorithm>
+#include <memory>
 
 namespace tarnwick::test {
 
@@ -97,12 +96,7 @@ TEST_P(SettingsWindowTest, ThePageShowsWholeOnASmallScreen) {
   steps.then("look", [this] {
     shoot("settings-" + GetParam().name);
     expectGoodLooks(top());
-    const wxSize size = top().dialog().GetSize();
-    // Larger letters need a larger screen.
-    if (!platform::environment("GDK_DPI_SCALE")) {
-      EXPECT_LE(size.x, 1024);
-      EXPECT_LE(size.y, 730) << "a panel of the desktop takes the rest";
-    }
+    expectFitsSmallScreen(top());
     top().close(IDCANCEL_CONTROL);
   });
   run();
@@ -111,19 +105,7 @@ TEST_P(SettingsWindowTest, ThePageShowsWholeOnASmallScreen) {
 TEST_P(SettingsWindowTest, EveryControlHasANameForReadersOfTheScreen) {
   waitForPage();
   steps.then("look", [this] {
-    std::vector<std::string> names;
-    for (const int control : GetParam().reached) {
-      const std::string name = ui::spokenName(*page().windowOf(control));
-      EXPECT_FALSE(name.empty()) << "control " << control;
-      EXPECT_EQ(name.find("control "), std::string::npos) << "the toolkit's own name of " << control;
-      names.push_back(name);
-    }
-    for (const int control : {1036, 1037, 1, 2, 1168, 1038}) {
-      EXPECT_FALSE(ui::spokenName(*top().windowOf(control)).empty()) << "control " << control;
-    }
-    std::sort(names.begin(), names.end());
-    const auto twice = std::adjacent_find(names.begin(), names.end());
-    EXPECT_EQ(twice, names.end()) << "two controls are called " << *twice;
+    expectNames(top());
     top().close(IDCANCEL_CONTROL);
   });
   run();
@@ -145,6 +127,32 @@ TEST_P(SettingsWindowTest, TabReachesEveryControlInTheOrderOfReading) {
     EXPECT_EQ(wxWindow::FindFocus(), top().windowOf(1036)) << "the dialog's own buttons follow";
     top().close(IDCANCEL_CONTROL);
   });
+  run();
+}
+
+TEST_P(SettingsWindowTest, TabWalksThroughTheWholeDialogAndItsTabs) {
+  const auto reached = std::make_shared<Stops>();
+  waitForPage();
+  walkByTab(steps, reached);
+  steps.then("look", [this, reached] {
+    expectAllReached(top(), *reached);
+    expectReadingOrder(*reached);
+    top().close(IDCANCEL_CONTROL);
+  });
+  run();
+}
+
+TEST_P(SettingsWindowTest, TheArrowsOpenTheOtherTabs) {
+  const int here = GetParam().tab;
+  const int other = here == 0 ? 1 : here - 1;
+  waitForPage();
+  steps.then("focus", [this] { top().focus(TABS); });
+  steps.until("focus", [this] { return wxWindow::FindFocus() == top().windowOf(TABS); });
+  steps.then("arrow", [here] { key(here == 0 ? WXK_RIGHT : WXK_LEFT); });
+  steps.until("the other page", [this, other] {
+    return top().children().at(static_cast<std::size_t>(other))->surface().IsShownOnScreen();
+  });
+  steps.then("close", [this] { top().close(IDCANCEL_CONTROL); });
   run();
 }
 

@@ -1,5 +1,6 @@
 #include "platform/FileSystem.h"
 #include "ui/Text.h"
+#include "ui/Toolkit.h"
 #include "ui/WindowTest.h"
 
 #include <wx/app.h>
@@ -8,6 +9,7 @@
 #include <wx/combobox.h>
 #include <wx/dcmemory.h>
 #include <wx/dcscreen.h>
+#include <wx/dialog.h>
 #include <wx/image.h>
 #include <wx/listbox.h>
 #include <wx/notebook.h>
@@ -229,6 +231,20 @@ void expectPlaces(const wxWindow& surface, const wxRect& room) {
   }
 }
 
+/// Every tab must be there for the mouse, at least as wide as its label.
+void expectTabsWhole(const wxNotebook& tabs) {
+  std::vector<int> widths(tabs.GetPageCount());
+  const int middle = ui::pageRect(tabs).y / 2;
+  for (int x = 0; x < tabs.GetSize().x; ++x) {
+    const int tab = tabs.HitTest(wxPoint(x, middle));
+    if (tab >= 0) ++widths[static_cast<std::size_t>(tab)];
+  }
+  for (std::size_t i = 0; i < widths.size(); ++i) {
+    const wxString label = tabs.GetPageText(i).Trim(true).Trim(false);
+    EXPECT_GE(widths[i], tabs.GetTextExtent(label).x) << "the tab " << label << " is cut";
+  }
+}
+
 bool mustShowWhole(const wxWindow& window) {
   return !dynamic_cast<const wxTextCtrl*>(&window) && !dynamic_cast<const wxListBox*>(&window) &&
          !dynamic_cast<const wxNotebook*>(&window) && !dynamic_cast<const wxPanel*>(&window) &&
@@ -248,6 +264,8 @@ void expectWhole(const wxWindow& surface) {
           << nameOf(*window) << " is cut: " << size.x << "x" << size.y << " of " << best.x << "x" << best.y;
     } else if (dynamic_cast<const wxStaticBox*>(window)) {
       EXPECT_LE(window->GetTextExtent(window->GetLabel()).x, size.x) << nameOf(*window) << " is cut";
+    } else if (const auto* tabs = dynamic_cast<const wxNotebook*>(window)) {
+      expectTabsWhole(*tabs);
     } else if (dynamic_cast<const wxTextCtrl*>(window)) {
       EXPECT_GE(size.y, window->GetCharHeight()) << nameOf(*window) << " is too low";
       EXPECT_GE(size.x, 4 * window->GetCharWidth()) << nameOf(*window) << " is too narrow";
@@ -263,6 +281,21 @@ void expectGoodLooks(ui::WxDialogWindow& window) {
   expectPlaces(surface, wxRect(surface.GetClientSize()));
   expectWhole(surface);
   for (const auto& child : window.children()) expectGoodLooks(*child);
+}
+
+bool isScaledRun() {
+  return platform::environment("TARNWICK_TEST_SCALED").has_value();
+}
+
+void expectFitsSmallScreen(ui::WxTopWindow& window) {
+  if (isScaledRun()) return;
+  const wxSize size = window.dialog().GetSize();
+  EXPECT_LE(size.x, 1024);
+  EXPECT_LE(size.y, 730);
+}
+
+void signOfLife() {
+  watchdog().step(testName());
 }
 
 wxImage screen(const wxRect& area) {

@@ -71,6 +71,16 @@ void key(int code, int modifiers = 0);
 /// over no other, its text not cut.
 void expectGoodLooks(ui::WxDialogWindow& window);
 
+/// True in a run of this program that is to see the windows with larger letters or pixels.
+bool isScaledRun();
+
+/// Fails the test if the dialog is too large for a small screen, whose desktop has a panel. Of a scaled run nothing is
+/// asked: it needs a larger screen.
+void expectFitsSmallScreen(ui::WxTopWindow& window);
+
+/// Tells that the test is alive while it waits for something slow.
+void signOfLife();
+
 /// What the screen shows there.
 wxImage screen(const wxRect& area);
 

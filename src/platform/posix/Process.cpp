@@ -45,8 +45,12 @@ class Child final : public ChildProcess {
     ended_ = true;
     if (guard_) {
       guard_->settle();
-      // What the child has left behind goes its own way.
-      guard_->release();
+      if (leavesNothing_) {
+        guard_->endTree();
+      } else {
+        // What the child has left behind goes its own way.
+        guard_->release();
+      }
       return;
     }
     // Only now does the child lose its number, when `endTree` no longer signals it.
@@ -83,6 +87,7 @@ class Child final : public ChildProcess {
     what.input = input.read.number();
     what.output = output.write.number();
     what.error = error.write.number();
+    leavesNothing_ = command.leavesNothing;
     if (command.interactive) {
       guard_ = std::make_unique<ChildGuard>(what);
       return;
@@ -115,6 +120,7 @@ class Child final : public ChildProcess {
   Descriptor processHandle_;
   std::mutex stateLock_;
   bool ended_ = false;
+  bool leavesNothing_ = false;
   int signal_ = 0;  ///< what ended the child, if it was one
   std::unique_ptr<ChildGuard> guard_;
 };

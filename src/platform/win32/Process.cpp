@@ -28,7 +28,8 @@ class Child final : public ChildProcess {
  public:
   Child(const ChildCommand& command, StartCalls& calls)
       : stopReading_(CreateEventA(nullptr, TRUE, FALSE, nullptr)),
-        stopWaiting_(CreateEventA(nullptr, TRUE, FALSE, nullptr)) {
+        stopWaiting_(CreateEventA(nullptr, TRUE, FALSE, nullptr)),
+        leavesNothing_(command.leavesNothing) {
     // The pipes go after the console, in whose time they are our standard handles.
     PipeEnds output;
     PipeEnds error;
@@ -67,6 +68,7 @@ class Child final : public ChildProcess {
     const HANDLE events[] = {process_.get(), stopWaiting_.get()};
     if (WaitForMultipleObjects(2, events, FALSE, INFINITE) != WAIT_OBJECT_0) return;
     const std::lock_guard lock(stateLock_);
+    if (job_ && leavesNothing_) job_->endAll();
     job_.reset();
   }
   void stopWaiting() override { SetEvent(stopWaiting_.get()); }
@@ -103,6 +105,7 @@ class Child final : public ChildProcess {
 
   Handle stopReading_;
   Handle stopWaiting_;
+  bool leavesNothing_;
   OutputPipe output_;
   OutputPipe error_;
   InputPipe input_;

@@ -130,6 +130,9 @@ wxSize sizeWithTabs(wxNotebook& tabs, const wxSize& page) {
   wxSize size = tabs.CalcSizeFromPage(page);
   // With scrolling off the control asks for the width of all of its tabs, and gets it: nothing has to scroll.
   gtk_notebook_set_scrollable(GTK_NOTEBOOK(widget(tabs)), FALSE);
+  // What the theme looked up before there was a tab it would keep until something else changes: the pages would have
+  // one colour at first and another later.
+  gtk_widget_reset_style(widget(tabs));
   GtkRequisition least{};
   gtk_widget_get_preferred_size(widget(tabs), &least, nullptr);
   size.x = std::max(size.x, least.width);

@@ -91,6 +91,24 @@ TEST_F(CMainFrameTest, ShiftDeleteDoesNothing) {
   frame.view().onClose();
 }
 
+// Killed, say, while its program goes on.
+TEST_F(CMainFrameTest, WhatADebuggerHasStartedEndsWithItWhatAProgramHasStartedDoesNot) {
+  for (const bool debugging : {true, false}) {
+    const StandInScript script("grandchild 60000\nout done");
+    CMainFrame frame(desktop_, settings(), {"Main", StandInScript::tool("jdb"), " Main", debugging});
+    FakeSurface surface;
+    frame.view().onStart(surface);
+    const int grandchild = script.grandchildren(1).at(0);
+    EXPECT_TRUE(waitUntil([&] { return savedDisplay(frame).find("E n d   o f") != std::string::npos; }));
+    if (debugging) {
+      EXPECT_TRUE(waitUntil([&] { return !processLives(grandchild); }));
+    } else {
+      EXPECT_TRUE(processLives(grandchild));
+    }
+    frame.view().onClose();
+  }
+}
+
 TEST_F(CMainFrameTest, AButtonWithoutItsPictureIsTold) {
   CMainFrame frame(desktop_, settings(), {"Main", "", "", true});
   desktop_.expectMessage("LoadBitmap error");

@@ -1,4 +1,4 @@
-#include "app/PanelLayout.h"
+#include "app/PanelArrangement.h"
 #include "resources/PanelLayouts.h"
 #include "support/ScriptedDesktop.h"
 
@@ -95,6 +95,21 @@ TEST_F(PanelLayoutTest, ItemsAreCopies) {
   layout_.add(one, 0);
   one.moveTo(500, 500);
   EXPECT_EQ(layout_.findControl(1009).left, 1);
+}
+
+TEST(PanelArrangement, GroupsThatAreHigherThanTheFlatTabsKeepTheirTitlesInTheWindow) {
+  PanelPlaces places;
+  places.own.assign(6, LayoutItem{20, 30, 60, 54});
+  places.firstGroup = {12, 2, 112, 200};
+  places.secondGroup = {12, 210, 112, 408};
+  places.tabControl = {12, 420, 300, 520};
+  arrangeFlatProjectView(places);
+  for (const LayoutItem& group : {places.firstGroup, places.secondGroup}) {
+    EXPECT_EQ(group.top, 0);
+    EXPECT_EQ(group.bottom, places.tabControl.bottom);
+    EXPECT_EQ(group.width(), 100);
+  }
+  EXPECT_LT(places.tabControl.height(), 198) << "lower than the groups were";
 }
 
 }  // namespace

@@ -60,6 +60,7 @@ TEST_F(ConsoleChildTest, StartsTheExecutableWithTheRunArgumentsUnchanged) {
   EXPECT_EQ(started.executable, "C:\\Jdk\\Bin\\Java.exe");
   EXPECT_EQ(started.arguments, " -cp \"a b\"  Main \\/b");
   EXPECT_TRUE(started.interactive);
+  EXPECT_FALSE(started.leavesNothing);
   EXPECT_EQ(started.consoleTitle, "C:\\Jdk\\Bin\\Java.exe");
 }
 

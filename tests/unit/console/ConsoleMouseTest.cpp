@@ -18,15 +18,6 @@ class ConsoleMouseTest : public test::ConsoleFixture {
       document.newLine();
     }
   }
-  void openIdle() {
-    program.start = [](const platform::ChildCommand&) -> std::unique_ptr<platform::ChildProcess> {
-      throw platform::SystemError{"CreateProcess", 2, ""};
-    };
-    openWith(program);
-    EXPECT_TRUE(until([&] { return !desktop.messages.empty(); }));
-    desktop.messages.clear();
-    surface.forget();
-  }
 
   /// A point in the left half of a cell.
   static Point at(int column, int line) { return {4 + column * 8 + 1, line * 16 + 3}; }

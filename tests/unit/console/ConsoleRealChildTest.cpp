@@ -144,6 +144,9 @@ TEST_F(ConsoleRealChildTest, AMissingExecutableIsTold) {
   ASSERT_TRUE(until([&] { return !desktop.messages.empty(); }));
   const std::string start = "Can't start no-such-folder/java\nCreateProcess error ";
   EXPECT_EQ(desktop.messages[0].substr(0, start.size()), start);
+  if (platform::folderSeparator == '/') {
+    EXPECT_EQ(desktop.messages[0], start + "2\nNo such file or directory");
+  }
   EXPECT_EQ(view->childState(), -1);
 }
 

@@ -162,6 +162,14 @@ TEST_F(InputEditorTest, AControlCharacterAloneIsJustWritten) {
   EXPECT_EQ(segments(), (Lines{"2:out"}));
 }
 
+TEST_F(InputEditorTest, AControlCharacterEndsAlsoAnInputThatWasTakenBack) {
+  type("x\b\x04");
+  EXPECT_EQ(sent, (Lines{"\x04"}));
+  EXPECT_EQ(segments(), (Lines{"1:", "3:"}));
+  type("\r");
+  EXPECT_EQ(sent, (Lines{"\x04", "\r"}));
+}
+
 TEST_F(InputEditorTest, ALineFeedIsAControlCharacterLikeAnother) {
   type("abc\n");
   EXPECT_EQ(sent, (Lines{"abc", "\n"}));

@@ -187,6 +187,17 @@ TEST(ChildProcessTest, WaitReturnsThoughAGrandchildKeepsThePipes) {
   EXPECT_TRUE(processLives(grandchild)) << "the child has ended by itself: nothing is ended any more";
 }
 
+TEST(ChildProcessTest, WhatAChildHasStartedEndsWithItIfItIsToLeaveNothing) {
+  const StandInScript script("grandchild 60000\nout done");
+  ChildCommand command{StandInScript::tool("java"), "", true};
+  command.leavesNothing = true;
+  const auto child = ChildProcess::start(command);
+  const int grandchild = script.grandchildren(1).at(0);
+  child->wait();
+  EXPECT_TRUE(waitUntil([grandchild] { return !processLives(grandchild); }));
+  child->endTree();
+}
+
 TEST(ChildProcessTest, StopReadingWakesAReader) {
   const StandInScript script("out early\ngrandchild 20000\nsleep 20000");
   const auto child = startInteractive();

@@ -90,12 +90,13 @@ TEST(DialogWordsTest, TheToolsPagesButtons) {
 }
 
 TEST(DialogWordsTest, AnotherPlaceForTheConfiguration) {
+  const char permanent[] =
+      "For a permanent definition please update your system's environment settings or AUTOEXEC.BAT, depending on your "
+      "Windows version. Consult Tarnwick's usersguide.htm for more information.";
   EXPECT_EQ(wordsOf(alternateLocationLayout()),
             (Words{"Tarnwick could not write configuration data to the default location:",
                    "You can define an alternate location for saving the configuration: Press the Browse button!",
-                   "For a permanent definition please update your system's environment settings or AUTOEXEC.BAT, "
-                   "depending on your Windows version. Consult Tarnwick's usersguide.htm for more information.",
-                   "Browse", "Cancel"}));
+                   permanent, "Browse", "Cancel"}));
 }
 
 TEST(DialogWordsTest, NewSourceFiles) {
@@ -115,15 +116,16 @@ TEST(DialogWordsTest, NewSourceFiles) {
 }
 
 TEST(DialogWordsTest, ANewTemplate) {
-  EXPECT_EQ(
-      wordsOf(addTemplateLayout()),
-      (Words{"Add template for new sourcefiles",
-             "Extend or customize Tarnwick's list of templates.\nSpecify below your own template from which new "
-             "sourcefiles can be created. Supply your template as a file. Press Help for an example of a template.",
-             "File", "Browse", "Description",
-             "The Description field is the text that appears in the dropdown list of templates. If you enter a "
-             "description that already exists in the list, your new template will override the existing list entry.",
-             "OK", "Cancel", "Help"}));
+  const char introduction[] =
+      "Extend or customize Tarnwick's list of templates.\nSpecify below your own template from which new sourcefiles "
+      "can "
+      "be created. Supply your template as a file. Press Help for an example of a template.";
+  const char description[] =
+      "The Description field is the text that appears in the dropdown list of templates. If you enter a description "
+      "that "
+      "already exists in the list, your new template will override the existing list entry.";
+  EXPECT_EQ(wordsOf(addTemplateLayout()), (Words{"Add template for new sourcefiles", introduction, "File", "Browse",
+                                                 "Description", description, "OK", "Cancel", "Help"}));
 }
 
 TEST(DialogWordsTest, TheFileViewsOwnGroup) {

@@ -1,33 +1,12 @@
 // A disk that takes no more bytes, played by the limit on the size of files.
+#include "support/posix/FullDisk.h"
 #include "unit/app/PanelFixture.h"
 
-#include <csignal>
+#include <cerrno>
 #include <cstring>
-#include <sys/resource.h>
 
 namespace tarnwick::test {
 namespace {
-
-/// While it lives no file of this process grows beyond a few bytes.
-class FullDisk {
- public:
-  FullDisk() : handler_(std::signal(SIGXFSZ, SIG_IGN)) {
-    ::getrlimit(RLIMIT_FSIZE, &before_);
-    rlimit small = before_;
-    small.rlim_cur = 512;
-    ::setrlimit(RLIMIT_FSIZE, &small);
-  }
-  ~FullDisk() {
-    ::setrlimit(RLIMIT_FSIZE, &before_);
-    std::signal(SIGXFSZ, handler_);
-  }
-  FullDisk(const FullDisk&) = delete;
-  FullDisk& operator=(const FullDisk&) = delete;
-
- private:
-  rlimit before_{};
-  void (*handler_)(int);
-};
 
 class PanelOnFullDiskTest : public PanelFixture {};
 
@@ -40,7 +19,7 @@ TEST_F(PanelOnFullDiskTest, ASaveThatFailsHalfwayIsToldLosesNothingAndThePanelGo
       window.page(1092, 2).type(1129, "9m");
       desktop_.expectDialog(reason, [](ScriptedWindow& dialog) { dialog.press(IDCANCEL_CONTROL); });
       desktop_.expectMessage(reason + "\nCan't save configuration data in " + configFile());
-      const FullDisk full;
+      const FullDisk full(512);
       window.press(IDOK_CONTROL);
     });
     bar(panel).press(SETTINGS);
@@ -60,7 +39,7 @@ TEST_F(PanelOnFullDiskTest, ASeparateFileThatFailsHalfwayIsToldAndTheOneThatWasT
       desktop_.expectSaveFile(chosen);
       desktop_.expectMessage(std::string(std::strerror(EFBIG)) + "\nCan't save configuration data.");
       {
-        const FullDisk full;
+        const FullDisk full(512);
         window.press(1036);
       }
       EXPECT_EQ(window.page(1092, 2).text(1129), "9m");

@@ -1,11 +1,10 @@
 // New source files where the system fails in the middle.
 #include "support/SettingsFixture.h"
+#include "support/posix/FullDisk.h"
 #include "templates/NewSourceFileDlg.h"
 
 #include <cerrno>
-#include <csignal>
 #include <cstring>
-#include <sys/resource.h>
 
 namespace tarnwick::test {
 namespace {
@@ -13,25 +12,6 @@ namespace {
 class NewSourceFileFailuresTest : public SettingsFixture {
  protected:
   FileForSubprocess file_;
-};
-
-/// While it lives no file of this process grows at all.
-struct FullDisk {
-  FullDisk() : handler(std::signal(SIGXFSZ, SIG_IGN)) {
-    ::getrlimit(RLIMIT_FSIZE, &before);
-    rlimit none = before;
-    none.rlim_cur = 0;
-    ::setrlimit(RLIMIT_FSIZE, &none);
-  }
-  ~FullDisk() {
-    ::setrlimit(RLIMIT_FSIZE, &before);
-    std::signal(SIGXFSZ, handler);
-  }
-  FullDisk(const FullDisk&) = delete;
-  FullDisk& operator=(const FullDisk&) = delete;
-
-  rlimit before{};
-  void (*handler)(int);
 };
 
 TEST_F(NewSourceFileFailuresTest, AnErrorInTheMiddleOfATemplateIsToldAndWhatWasReadIsUsed) {
@@ -61,7 +41,7 @@ TEST_F(NewSourceFileFailuresTest, AFullDiskIsToldAndTheFileThatWasThereStaysWhol
     desktop_.expectSaveFile(path);
     desktop_.expectQuestion("The file " + Filename(path).quoted() + " already exists. Overwrite?", true);
     desktop_.expectMessage("Error writing to \"" + path + "\"\n" + std::strerror(EFBIG));
-    const FullDisk full;
+    const FullDisk full(0);
     dialog.press(IDOK_CONTROL);
     EXPECT_TRUE(dialog.closed());
   });

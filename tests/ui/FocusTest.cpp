@@ -1,0 +1,135 @@
+// Where the focus is after a message box, and what the keyboard alone can do.
+#include "app/TarnwickDlg.h"
+#include "ui/DialogFixture.h"
+#include "ui/ProgramWorld.h"
+
+#include <wx/button.h>
+#include <wx/dialog.h>
+
+namespace tarnwick::test {
+
+namespace {
+
+constexpr int JAVAC_TAB = 1;
+constexpr int EDITOR_TAB = 5;
+
+class FocusTest : public WindowTest {
+ protected:
+  FocusTest() { world_.settings.javacDebug = 1; }
+
+  void waitForDialog() {
+    steps.until("the dialog shows", [this] { return openDialogs() == 1 && top().dialog().IsActive(); });
+    steps.settle(5);
+  }
+
+  ui::WxDialogWindow& child(std::size_t index) const { return *top().children().at(index); }
+
+  void thenFocus(const std::function<wxWindow*()>& control) {
+    steps.then("focus", [control] { control()->SetFocus(); });
+    steps.until("focus", [control] { return wxWindow::FindFocus() == control(); });
+  }
+
+  /// A message box takes its time to show.
+  void thenAnswer(int code) {
+    steps.settle(40);
+    steps.then("answer", [code] { key(code); });
+    steps.settle(20);
+  }
+
+  void expectFocus(const std::function<wxWindow*()>& control) {
+    steps.then("look", [control] { EXPECT_EQ(wxWindow::FindFocus(), control()); });
+  }
+
+  void thenClose() {
+    steps.then("close", [this] { top().close(IDCANCEL_CONTROL); });
+  }
+
+  ProgramWorld world_;
+};
+
+}  // namespace
+
+TEST_F(DialogTest, AfterAMessageTheFocusIsBackWhereItWas) {
+  rules.onInitialise = [this](DialogWindow& window) {
+    fill(window);
+    window.setEntries(SAMPLE_LIST, {"one", "two"});
+    window.setChecked(SAMPLE_RADIO_B, true);
+  };
+  bool told = false;
+  waitForDialog();
+  for (const int control : {SAMPLE_EDIT, SAMPLE_SHOWN, SAMPLE_CHECK, SAMPLE_RADIO_B, SAMPLE_COMBO, SAMPLE_LIST,
+                            SAMPLE_TABS, SAMPLE_BUTTON}) {
+    steps.then("focus", [this, control] { top().focus(control); });
+    steps.until("focus", [this, control] { return wxWindow::FindFocus() == top().windowOf(control); });
+    steps.then("tell", [&told] {
+      told = false;
+      desktop().message("Something to be told");
+      told = true;
+    });
+    steps.settle(40);
+    steps.then("Return", [] { key(WXK_RETURN); });
+    steps.until("the message has gone", [&told] { return told; });
+    steps.settle(20);
+    steps.then("look",
+               [this, control] { EXPECT_EQ(wxWindow::FindFocus(), top().windowOf(control)) << "control " << control; });
+  }
+  thenClose();
+  play();
+}
+
+TEST_F(FocusTest, AWarningThatIsCancelledLeavesTheFieldItsFocus) {
+  world_.settings.javacFastcode = 1;
+  const auto field = [this] { return child(JAVAC_TAB).windowOf(1117); };
+  waitForDialog();
+  thenFocus(field);
+  steps.then("Return", [] { key(WXK_RETURN); });
+  thenAnswer(WXK_ESCAPE);
+  expectFocus(field);
+  thenClose();
+  EXPECT_EQ(world_.settings.runModal(JAVAC_TAB), DIALOG_CANCEL);
+}
+
+TEST_F(FocusTest, TheArrowsMoveAmongRadioButtonsAndTheirTipLeavesTheFocus) {
+  world_.settings.editWithNotepad = 0;
+  world_.settings.editorTarget = "/usr/bin/gedit";
+  waitForDialog();
+  thenFocus([this] { return child(EDITOR_TAB).windowOf(1014); });
+  steps.then("arrow", [] { key(WXK_LEFT); });
+  thenAnswer(WXK_RETURN);
+  steps.then("look", [this] {
+    EXPECT_TRUE(child(EDITOR_TAB).checked(1013));
+    EXPECT_FALSE(child(EDITOR_TAB).enabled(1042)) << "the other editor's field";
+  });
+  expectFocus([this] { return child(EDITOR_TAB).windowOf(1013); });
+  thenClose();
+  world_.settings.runModal(EDITOR_TAB);
+}
+
+TEST_F(FocusTest, SpaceChecksABoxAndArrowsChooseInAComboBox) {
+  waitForDialog();
+  thenFocus([this] { return child(JAVAC_TAB).windowOf(1024); });
+  steps.then("Space", [] { key(WXK_SPACE); });
+  steps.until("checked", [this] { return child(JAVAC_TAB).checked(1024); });
+  thenFocus([this] { return child(JAVAC_TAB).windowOf(1028); });
+  steps.then("arrow", [] { key(WXK_DOWN); });
+  steps.until("chosen", [this] { return child(JAVAC_TAB).text(1028) == "1.1"; });
+  thenClose();
+  world_.settings.runModal(JAVAC_TAB);
+}
+
+TEST_F(FocusTest, AFileDialogAndItsMessageLeaveTheButtonItsFocus) {
+  world_.settings.saveDefaultConfiguration(nullptr);
+  // The panel is the first child of the main window, and the page " Main program " of the panel.
+  const auto java = [this] { return child(0).children().at(0)->windowOf(PanelPage::RIGHT); };
+  waitForDialog();
+  thenFocus(java);
+  steps.then("Space", [] { key(WXK_SPACE); });
+  thenAnswer(WXK_ESCAPE);  // no file is chosen
+  thenAnswer(WXK_RETURN);  // and that is told
+  steps.then("look", [this] { EXPECT_TRUE(top().dialog().IsActive()); });
+  expectFocus(java);
+  thenClose();
+  TarnwickDlg(world_.settings).runModal();
+}
+
+}  // namespace tarnwick::test

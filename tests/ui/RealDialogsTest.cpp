@@ -1,0 +1,177 @@
+// Every dialog of the program with its own rules and words, as its user meets it.
+#include "app/AboutDlg.h"
+#include "app/HelpFileDlg.h"
+#include "app/TarnwickDlg.h"
+#include "dialogbase/AddPathDlg.h"
+#include "settings/AlternateLocationDlg.h"
+#include "source/PortabilityWarningDlg.h"
+#include "templates/AddTemplateDlg.h"
+#include "templates/NewSourceFileDlg.h"
+#include "ui/DialogChecks.h"
+#include "ui/ProgramWorld.h"
+
+#include <wx/button.h>
+#include <wx/dialog.h>
+
+namespace tarnwick::test {
+
+namespace {
+
+constexpr int NO_RESULT = -1;
+constexpr int NO_DEFAULT = 0;
+const char* const settingsTitle = "Tarnwick settings";
+const char* const mainTitle = "Tarnwick";
+
+struct RealDialog {
+  std::string name;
+  /// Runs the dialog. Its result, or NO_RESULT where it gives none.
+  std::function<int(ProgramWorld&)> run;
+  int defaultButton = NO_DEFAULT;
+  /// The titles of the dialogs that open one after the other when it has closed.
+  std::vector<std::string> followers = {};
+};
+
+std::ostream& operator<<(std::ostream& out, const RealDialog& dialog) {
+  return out << dialog.name;
+}
+
+int runMain(ProgramWorld& world) {
+  TarnwickDlg(world.settings).runModal();
+  return NO_RESULT;
+}
+
+int runUpgrade(ProgramWorld& world) {
+  const std::string present = world.program.version;
+  world.program.version = "Tarnwick V4.6";
+  Settings(world.context).saveDefaultConfiguration(nullptr);
+  world.program.version = present;
+  return runMain(world);
+}
+
+RealDialog newSource(const std::string& name, NewSourceMode mode) {
+  return {name, [mode](ProgramWorld& world) { return NewSourceFileDlg(world.settings, mode, nullptr).runModal(); },
+          IDOK_CONTROL};
+}
+
+/// A path as long as they come.
+std::string longPath(const ProgramWorld& world) {
+  std::string path = world.scratch.path();
+  for (int i = 0; i < 8; ++i) path += "a folder with a long name/";
+  return path;
+}
+
+std::vector<RealDialog> allDialogs() {
+  return {
+      {"about",
+       [](ProgramWorld& world) {
+         AboutDlg(desktop(), world.program).runModal();
+         return NO_RESULT;
+       },
+       IDOK_CONTROL},
+      {"welcomeFirstUse", runMain, IDOK_CONTROL, {settingsTitle, mainTitle}},
+      {"welcomeUpgrade", runUpgrade, IDOK_CONTROL, {mainTitle}},
+      {"helpFile",
+       [](ProgramWorld& world) { return HelpFileDlg(desktop(), longPath(world) + "usersguide.htm").runModal(); }, 1173},
+      newSource("newFile", NewSourceMode::NewFile),
+      newSource("nothingToEdit", NewSourceMode::NothingToEdit),
+      newSource("newInProject", NewSourceMode::InProject),
+      {"addTemplate", [](ProgramWorld& world) { return AddTemplateDlg(world.context).runModal(); }, IDOK_CONTROL},
+      {"portabilityWarning", [](ProgramWorld&) { return PortabilityWarningDlg(desktop()).runModal(); }, IDOK_CONTROL},
+      {"addPath",
+       [](ProgramWorld& world) {
+         AddPathDlg(desktop(), "Classpath (option -classpath)", longPath(world)).runModal();
+         return NO_RESULT;
+       }},
+      {"alternateLocation",
+       [](ProgramWorld& world) {
+         const Tarnwickfile::FileNotOpenE failure("Read-only file system", longPath(world) + "Tarnwickdefault.CFG");
+         return AlternateLocationDlg(desktop(), world.program, failure).runModal();
+       },
+       1164},
+  };
+}
+
+class RealDialogsTest : public WindowTest, public testing::WithParamInterface<RealDialog> {
+ protected:
+  void waitForDialog() {
+    steps.until("the dialog shows", [this] { return openDialogs() > 0 && top().dialog().IsActive(); });
+    steps.settle(5);
+  }
+
+  /// The dialog is about to close: those that open after it close too.
+  void thenCloseFollowers() {
+    for (const auto& title : GetParam().followers) {
+      steps.until("the next dialog shows",
+                  [this, title] { return openDialogs() > 0 && top().dialog().IsActive() && top().title() == title; });
+      steps.settle(3);
+      steps.then("close", [this] { top().close(IDCANCEL_CONTROL); });
+    }
+  }
+
+  void thenClose() {
+    steps.then("close", [this] { top().close(IDCANCEL_CONTROL); });
+    thenCloseFollowers();
+  }
+
+  int run() { return GetParam().run(world_); }
+
+  ProgramWorld world_;
+};
+
+}  // namespace
+
+TEST_P(RealDialogsTest, ShowsWhole) {
+  waitForDialog();
+  steps.then("look", [this] {
+    shoot("dialog-" + GetParam().name);
+    expectGoodLooks(top());
+    expectFitsSmallScreen(top());
+  });
+  thenClose();
+  run();
+}
+
+TEST_P(RealDialogsTest, EveryControlHasANameOfItsOwnForReadersOfTheScreen) {
+  waitForDialog();
+  steps.then("look", [this] { expectNames(top()); });
+  thenClose();
+  run();
+}
+
+TEST_P(RealDialogsTest, TabReachesEveryControlInTheOrderOfReading) {
+  const auto reached = std::make_shared<Stops>();
+  waitForDialog();
+  walkByTab(steps, reached);
+  steps.then("look", [this, reached] {
+    expectAllReached(top(), *reached);
+    expectReadingOrder(*reached);
+  });
+  thenClose();
+  run();
+}
+
+TEST_P(RealDialogsTest, EscapeDoesWhatCancelDoes) {
+  waitForDialog();
+  steps.then("Escape", [] { key(WXK_ESCAPE); });
+  thenCloseFollowers();
+  const int result = run();
+  if (result != NO_RESULT) {
+    EXPECT_EQ(result, DIALOG_CANCEL);
+  }
+}
+
+TEST_P(RealDialogsTest, TheDefaultButtonIsTheOneThatReturnPresses) {
+  waitForDialog();
+  steps.then("look", [this] {
+    wxWindow* const wanted =
+        GetParam().defaultButton == NO_DEFAULT ? nullptr : top().windowOf(GetParam().defaultButton);
+    EXPECT_EQ(top().dialog().GetDefaultItem(), wanted);
+  });
+  thenClose();
+  run();
+}
+
+INSTANTIATE_TEST_SUITE_P(Program, RealDialogsTest, testing::ValuesIn(allDialogs()),
+                         [](const auto& info) { return info.param.name; });
+
+}  // namespace tarnwick::test

@@ -1,5 +1,7 @@
 #include "platform/win32/ChildJob.h"
 
+#include <algorithm>
+
 namespace tarnwick::platform {
 
 ChildJob::ChildJob(HANDLE process, bool endWithUs)
@@ -36,12 +38,13 @@ bool ChildJob::waitUntilEmpty(std::chrono::milliseconds time) {
   using Clock = std::chrono::steady_clock;
   if (!job_ || !news_) return WaitForSingleObject(process_, static_cast<DWORD>(time.count())) == WAIT_OBJECT_0;
   const auto end = Clock::now() + time;
-  for (;;) {
-    const auto left = std::chrono::duration_cast<std::chrono::milliseconds>(end - Clock::now()).count();
+  for (auto now = Clock::now();; now = Clock::now()) {
+    const auto left = std::chrono::ceil<std::chrono::milliseconds>(std::max(end - now, Clock::duration::zero()));
     DWORD news = 0;
     ULONG_PTR key = 0;
     OVERLAPPED* process = nullptr;
-    if (!GetQueuedCompletionStatus(news_.get(), &news, &key, &process, left > 0 ? static_cast<DWORD>(left) : 0)) {
+    if (!GetQueuedCompletionStatus(news_.get(), &news, &key, &process, static_cast<DWORD>(left.count()))) {
+      if (GetLastError() == WAIT_TIMEOUT && Clock::now() < end) continue;
       return false;
     }
     if (news == JOB_OBJECT_MSG_ACTIVE_PROCESS_ZERO) return true;

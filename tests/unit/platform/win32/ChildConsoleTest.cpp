@@ -39,13 +39,14 @@ bool hasNoConsole() {
   return true;
 }
 
+BOOL CALLBACK collectVisible(HWND window, LPARAM all) {
+  if (IsWindowVisible(window)) reinterpret_cast<std::vector<HWND>*>(all)->push_back(window);
+  return TRUE;
+}
+
 std::vector<HWND> visibleWindows() {
   std::vector<HWND> found;
-  const auto collect = [](HWND window, LPARAM all) -> BOOL {
-    if (IsWindowVisible(window)) reinterpret_cast<std::vector<HWND>*>(all)->push_back(window);
-    return TRUE;
-  };
-  EnumWindows(collect, reinterpret_cast<LPARAM>(&found));
+  EnumWindows(collectVisible, reinterpret_cast<LPARAM>(&found));
   return found;
 }
 

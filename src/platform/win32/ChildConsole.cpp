@@ -15,13 +15,23 @@ void setTitle(const std::string& title) {
   SetConsoleTitleW(wide.c_str());
 }
 
+/// A busy system may need another moment for a console; a process that has one already gets no second.
+bool allocate(StartCalls& calls) {
+  constexpr int mostTries = 5;
+  for (int tries = 1;; ++tries) {
+    if (calls.allocateConsole()) return true;
+    if (tries == mostTries || GetLastError() == ERROR_ACCESS_DENIED) return false;
+    Sleep(40);
+  }
+}
+
 }  // namespace
 
 ChildConsole::ChildConsole(const ChildCommand& command, StartCalls& calls, const StepFaults& faults)
     : calls_(calls), faults_(faults), wanted_(command.consoleTitle.has_value()) {
   if (!wanted_) return;
   take(before_);
-  allocated_ = calls_.allocateConsole();
+  allocated_ = allocate(calls_);
   if (!allocated_) faults_.note("AllocConsole()");
   take(consoles_);
   setTitle(*command.consoleTitle);

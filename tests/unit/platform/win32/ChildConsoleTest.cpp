@@ -230,11 +230,15 @@ TEST_F(ChildConsoleTest, TheChildInheritsNothingButItsStreams) {
 class FailingCalls : public StartCalls {
  public:
   bool consoles = true;
-  int pipes = 99;  ///< so many can be made
+  int busyTimes = 0;  ///< so often no console is to be had for the moment
+  int pipes = 99;     ///< so many can be made
   bool standardHandles = true;
   bool duplicates = true;
 
-  bool allocateConsole() override { return consoles ? StartCalls::allocateConsole() : refuse(); }
+  bool allocateConsole() override {
+    if (busyTimes-- > 0) return refuse(ERROR_INVALID_FUNCTION);
+    return consoles ? StartCalls::allocateConsole() : refuse();
+  }
   HANDLE createPipe(const char* name, DWORD access, SECURITY_ATTRIBUTES& security) override {
     if (pipes-- > 0) return StartCalls::createPipe(name, access, security);
     refuse();
@@ -248,8 +252,8 @@ class FailingCalls : public StartCalls {
   }
 
  private:
-  static bool refuse() {
-    SetLastError(ERROR_ACCESS_DENIED);
+  static bool refuse(DWORD code = ERROR_ACCESS_DENIED) {
+    SetLastError(code);
     return false;
   }
 };
@@ -273,6 +277,22 @@ TEST_F(FailingStartTest, WithoutAConsoleTheRunGoesOn) {
   EXPECT_EQ(test::readAll(*child, Stream::Output), "said\n");
   EXPECT_EQ(test::readAll(*child, Stream::Error), "complained\n");
   child->wait();
+}
+
+TEST_F(FailingStartTest, ABusySystemIsAskedForAConsoleAgain) {
+  calls_.busyTimes = 4;
+  const auto child = start();
+  EXPECT_EQ(faults_, Texts{});
+  child->wait();
+  EXPECT_TRUE(ran());
+}
+
+TEST_F(FailingStartTest, ASystemThatStaysBusyIsToldOfOnce) {
+  calls_.busyTimes = 99;
+  const auto child = start();
+  EXPECT_EQ(faults_, Texts{textOf("AllocConsole()", ERROR_INVALID_FUNCTION)});
+  child->wait();
+  EXPECT_TRUE(ran());
 }
 
 TEST_F(FailingStartTest, WithoutPipesTheStreamsAreAtTheirEnd) {

@@ -148,7 +148,7 @@ wxWindow* makeWindow(wxWindow& parent, const DialogItem& item) {
     case ItemKind::Tabs:
       return new wxNotebook(&parent, wxID_ANY);
     default:
-      return new wxPanel(&parent, wxID_ANY);
+      return makePanel(parent);
   }
 }
 
@@ -197,6 +197,14 @@ int widthOfCharacters(const wxWindow& window, int characters) {
 }
 
 }  // namespace
+
+wxPanel* makePanel(wxWindow& parent) {
+  class Panel : public wxPanel {
+   public:
+    explicit Panel(wxWindow& owner) : wxPanel(&owner) { m_container.DisableSelfFocus(); }
+  };
+  return new Panel(parent);
+}
 
 wxRadioButton* beginRadioRun(wxWindow& parent) {
   auto* none = new wxRadioButton(&parent, wxID_ANY, "none", wxDefaultPosition, wxDefaultSize, wxRB_GROUP);

@@ -9,6 +9,7 @@
 #include <string>
 #include <vector>
 
+class wxPanel;
 class wxRadioButton;
 class wxWindow;
 
@@ -31,6 +32,9 @@ struct Control {
 
 /// Makes the window of an item that is no column, row or space. `noneOfRun` is the run of a radio button.
 Control makeControl(wxWindow& parent, const DialogItem& item, wxRadioButton* noneOfRun, const ControlEvents& events);
+
+/// Makes a window for other controls. It takes no focus itself, not even while none of them does.
+wxPanel* makePanel(wxWindow& parent);
 
 /// Begins a run of radio buttons.
 wxRadioButton* beginRadioRun(wxWindow& parent);

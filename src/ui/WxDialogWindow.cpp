@@ -363,7 +363,7 @@ DialogWindow& WxDialogWindow::addTabPage(int tabs, const std::string& label, con
                                          DialogHandler& handler) {
   auto* const book = dynamic_cast<wxNotebook*>(at(tabs).window);
   if (!book) throw std::out_of_range("no tab control " + std::to_string(tabs));
-  auto* const panel = new wxPanel(book);
+  wxPanel* const panel = makePanel(*book);
   auto page = std::make_unique<WxPage>(stack_, *this, *panel, layout, handler, pageMargin);
   childrenOf_[tabs].push_back(page.get());
   quiet_ = true;
@@ -374,7 +374,7 @@ DialogWindow& WxDialogWindow::addTabPage(int tabs, const std::string& label, con
 
 DialogWindow& WxDialogWindow::addChild(int slot, const DialogLayout& layout, DialogHandler& handler) {
   wxWindow* const place = at(slot).window;
-  auto* const panel = new wxPanel(place);
+  wxPanel* const panel = makePanel(*place);
   auto child = std::make_unique<WxPage>(stack_, *this, *panel, layout, handler, 0);
   childrenOf_[slot].push_back(child.get());
   place->Bind(wxEVT_SIZE, [place, panel](wxSizeEvent& event) {

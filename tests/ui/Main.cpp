@@ -6,6 +6,7 @@
 #include "ui/WindowTest.h"
 
 #include <wx/dialog.h>
+#include <wx/settings.h>
 #include <wx/uiaction.h>
 
 #include <cstdlib>
@@ -45,6 +46,7 @@ int letterHeight() {
 int runSmall(const std::string& which, int result, Desktop& desktop) {
   if (which == "--dialogs") return showDialogs(desktop, result);
   if (which == "--letter-height") return letterHeight();
+  if (which == "--dark-theme") return wxSystemSettings::GetAppearance().IsUsingDarkBackground() ? 1 : 0;
   if (which == "--throw") {
     const int timer = desktop.startTimer(200, [] { wxUIActionSimulator().Char(WXK_RETURN); });
     static_cast<void>(timer);
@@ -57,7 +59,7 @@ int runSmall(const std::string& which, int result, Desktop& desktop) {
 
 int main(int argc, char** argv) {
   const std::string which = argc == 3 ? argv[1] : "";
-  const std::set<std::string> small = {"--exit-code", "--dialogs", "--throw", "--letter-height"};
+  const std::set<std::string> small = {"--exit-code", "--dialogs", "--throw", "--letter-height", "--dark-theme"};
   if (small.count(which) == 0) return runAll(argc, argv);
   const int result = std::atoi(argv[2]);
   return ui::runProgram(

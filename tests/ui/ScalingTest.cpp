@@ -40,12 +40,13 @@ int runPatiently(const std::string& arguments, const std::string& output) {
 
 }  // namespace
 
-TEST_P(ScalingTest, LettersReallyGrow) {
+TEST_P(ScalingTest, ItIsReallyInForce) {
   const int usual = runAnew("--letter-height 0", scratch_.file("out"));
   const ScalingInForce scaling(GetParam());
   const int grown = runAnew("--letter-height 0", scratch_.file("out"));
   EXPECT_GT(usual, 8);
   EXPECT_NEAR(grown, usual * GetParam().growth, 3);
+  EXPECT_EQ(runAnew("--dark-theme 0", scratch_.file("out")), GetParam().name == "darkTheme" ? 1 : 0);
 }
 
 TEST_P(ScalingTest, TheTestsOfLooksPass) {

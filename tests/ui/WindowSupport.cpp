@@ -10,6 +10,7 @@
 #include <wx/dcmemory.h>
 #include <wx/dcscreen.h>
 #include <wx/dialog.h>
+#include <wx/hyperlink.h>
 #include <wx/image.h>
 #include <wx/listbox.h>
 #include <wx/notebook.h>
@@ -19,8 +20,13 @@
 #include <wx/textctrl.h>
 #include <wx/uiaction.h>
 
+// Needs its own family's header first, which on Linux does not bring it.
+#include <wx/generic/hyperlink.h>
+
+#include <algorithm>
 #include <atomic>
 #include <chrono>
+#include <cmath>
 #include <condition_variable>
 #include <cstdio>
 #include <cstdlib>
@@ -245,6 +251,22 @@ void expectTabsWhole(const wxNotebook& tabs) {
   }
 }
 
+/// What the eye makes of a colour, from 0 to 1.
+double luminance(const wxColour& colour) {
+  const auto linear = [](unsigned char channel) { return std::pow(channel / 255.0, 2.2); };
+  return 0.2126 * linear(colour.Red()) + 0.7152 * linear(colour.Green()) + 0.0722 * linear(colour.Blue());
+}
+
+/// Links have colours of their own, whatever the theme's.
+void expectReadable(const wxGenericHyperlinkCtrl& link, const wxColour& background) {
+  const double paper = luminance(background);
+  for (const auto& colour : {link.GetNormalColour(), link.GetVisitedColour(), link.GetHoverColour()}) {
+    const double ink = luminance(colour);
+    const double contrast = (std::max(ink, paper) + 0.05) / (std::min(ink, paper) + 0.05);
+    EXPECT_GT(contrast, 3) << ui::fromWx(colour.GetAsString()) << " on " << ui::fromWx(background.GetAsString());
+  }
+}
+
 bool mustShowWhole(const wxWindow& window) {
   return !dynamic_cast<const wxTextCtrl*>(&window) && !dynamic_cast<const wxListBox*>(&window) &&
          !dynamic_cast<const wxNotebook*>(&window) && !dynamic_cast<const wxPanel*>(&window) &&
@@ -264,6 +286,9 @@ void expectWhole(const wxWindow& surface) {
           << nameOf(*window) << " is cut: " << size.x << "x" << size.y << " of " << best.x << "x" << best.y;
     } else if (dynamic_cast<const wxStaticBox*>(window)) {
       EXPECT_LE(window->GetTextExtent(window->GetLabel()).x, size.x) << nameOf(*window) << " is cut";
+    }
+    if (const auto* link = dynamic_cast<const wxGenericHyperlinkCtrl*>(window)) {
+      expectReadable(*link, surface.GetBackgroundColour());
     } else if (const auto* tabs = dynamic_cast<const wxNotebook*>(window)) {
       expectTabsWhole(*tabs);
     } else if (dynamic_cast<const wxTextCtrl*>(window)) {

@@ -29,7 +29,8 @@ void flattenTabs(PanelPlaces& places, int rowHeight) {
 /// Bar and top window, once everything to their left has its place.
 void closeFlat(PanelPlaces& places, int barTop) {
   LayoutItem& bar = places.bars[LayoutValue::FLAT];
-  bar.moveTo(places.tabControl.right + 4, barTop);
+  // It begins with empty room, which would stand out of the window where the tabs are low.
+  bar.moveTo(places.tabControl.right + 4, std::max(0, barTop));
   places.topWindow.resize(bar.right + roomForFrame(8, places), places.tabControl.height() + places.frameHeight + 4);
 }
 

@@ -192,11 +192,20 @@ void connect(wxWindow& window, const DialogItem& item, const ControlEvents& even
   }
 }
 
+int leastFieldHeight(const wxWindow& window) {
+  return window.GetCharHeight() + window.FromDIP(10);
+}
+
 int widthOfCharacters(const wxWindow& window, int characters) {
   return window.GetCharWidth() * characters;
 }
 
 }  // namespace
+
+int rowHeight(wxWindow& window) {
+  // The toolkit's usual height of a button does not follow the size of the letters.
+  return std::max(wxButton::GetDefaultSize(&window).y, leastFieldHeight(window));
+}
 
 wxPanel* makePanel(wxWindow& parent) {
   class Panel : public wxPanel {
@@ -226,10 +235,8 @@ wxSize naturalSize(const DialogItem& item, const Control& control) {
   wxWindow& window = *control.window;
   wxSize size = window.GetBestSize();
   if (item.kind == ItemKind::Edit) {
-    const int least = window.GetCharHeight() + window.FromDIP(10);
-    // With the system set to larger letters, the toolkit asks for too little before the field shows, and later for more
-    // than its neighbours get.
-    size.y = std::max(item.likeButtons ? wxButton::GetDefaultSize(&window).y : size.y, least);
+    // With the system set to larger letters, the toolkit asks for too little.
+    size.y = std::max(item.likeButtons ? rowHeight(window) : size.y, leastFieldHeight(window));
     // The toolkit's own reckoning grows when the field comes to be seen, too late for the window's size.
     if (item.width > 0) size.x = widthOfCharacters(window, item.width) + window.FromDIP(20);
     return size;
@@ -248,7 +255,7 @@ wxSize naturalSize(const DialogItem& item, const Control& control) {
     // With room for the layout's own text, which may be the longest of several that the rules give it.
     const int text = std::max(window.GetTextExtent(window.GetLabel()).x, window.GetTextExtent(toWx(item.text)).x);
     size.x = text + 2 * window.GetCharWidth();
-    size.y = std::max(size.y, wxButton::GetDefaultSize(&window).y);
+    size.y = std::max(size.y, rowHeight(window));
   } else if (item.kind == ItemKind::Button && bearsSigns(item.text)) {
     size.x = window.GetTextExtent(window.GetLabel()).x + 3 * window.GetCharWidth();
   }

@@ -39,6 +39,9 @@ wxPanel* makePanel(wxWindow& parent);
 /// Begins a run of radio buttons.
 wxRadioButton* beginRadioRun(wxWindow& parent);
 
+/// The height of buttons and fields that stand level, in pixels.
+int rowHeight(wxWindow& window);
+
 /// The least size in pixels of an item's window.
 wxSize naturalSize(const DialogItem& item, const Control& control);
 

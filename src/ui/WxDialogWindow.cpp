@@ -85,7 +85,7 @@ Node WxDialogWindow::build(const DialogItem& item, const DialogItem* before) {
       Node node;
       node.kind = item.kind;
       if (item.kind == ItemKind::EmptyButtonRow) {
-        node.natural = [this] { return wxSize(0, wxButton::GetDefaultSize(&surface_).y); };
+        node.natural = [this] { return wxSize(0, rowHeight(surface_)); };
       }
       node.stretch = item.stretch;
       node.equalWidths = item.equalWidths;

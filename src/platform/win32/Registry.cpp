@@ -1,9 +1,13 @@
 #include "platform/win32/Registry.h"
 
 #include <algorithm>
+#include <cstddef>
+#include <optional>
 
 namespace tarnwick::platform {
 namespace {
+
+constexpr DWORD longestText = 1024;
 
 struct Trace {
   HKEY root;
@@ -11,18 +15,23 @@ struct Trace {
   const char* key;
 };
 
-std::string textValue(HKEY key, const char* name) {
-  char buffer[100] = "";
-  DWORD size = sizeof buffer - 1;
-  if (RegQueryValueExA(key, name, nullptr, nullptr, reinterpret_cast<BYTE*>(buffer), &size) != ERROR_SUCCESS) return "";
-  return buffer;
-}
-
 /// The text with the variables of the environment in it replaced.
 std::string expanded(const std::string& text) {
-  char buffer[1024];
+  char buffer[longestText];
   const DWORD size = ExpandEnvironmentStringsA(text.c_str(), buffer, sizeof buffer);
   return size > 0 && size <= sizeof buffer ? std::string(buffer) : text;
+}
+
+/// A value that is a text; nothing if it is none, is not there, or does not fit into so many bytes.
+std::optional<std::string> textValue(HKEY key, const char* name, DWORD room) {
+  std::string buffer(room, '\0');
+  DWORD type = 0;
+  if (RegQueryValueExA(key, name, nullptr, &type, reinterpret_cast<BYTE*>(buffer.data()), &room) != ERROR_SUCCESS ||
+      (type != REG_SZ && type != REG_EXPAND_SZ)) {
+    return std::nullopt;
+  }
+  const std::string text = buffer.substr(0, std::min<std::size_t>(buffer.find('\0'), room));
+  return type == REG_EXPAND_SZ ? expanded(text) : text;
 }
 
 }  // namespace
@@ -36,14 +45,7 @@ RegistryKey::~RegistryKey() {
 }
 
 std::string RegistryKey::text(const char* name) const {
-  char buffer[1024];
-  DWORD size = sizeof buffer;
-  DWORD type = 0;
-  if (RegQueryValueExA(key_, name, nullptr, &type, reinterpret_cast<BYTE*>(buffer), &size) != ERROR_SUCCESS ||
-      type != REG_SZ) {
-    return {};
-  }
-  return std::string(buffer, std::find(buffer, buffer + size, '\0'));
+  return textValue(key_, name, longestText).value_or("");
 }
 
 std::vector<std::string> RegistryKey::subkeys() const {
@@ -78,15 +80,10 @@ bool readDefaultValue(HKEY root, const RegistryPath& path, std::string& text) {
   } catch (const NoSuchRegistryEntryE&) {
     return false;
   }
-  char buffer[1024];
-  DWORD size = sizeof buffer;
-  DWORD type = 0;
-  const LONG result = RegQueryValueExA(key, nullptr, nullptr, &type, reinterpret_cast<BYTE*>(buffer), &size);
+  const auto value = textValue(key, nullptr, longestText);
   if (key != root) RegCloseKey(key);
-  if (result != ERROR_SUCCESS || (type != REG_SZ && type != REG_EXPAND_SZ)) return false;
-  text.assign(buffer, std::find(buffer, buffer + size, '\0'));
-  if (type == REG_EXPAND_SZ) text = expanded(text);
-  return true;
+  if (value) text = *value;
+  return value.has_value();
 }
 
 void deleteKeyTree(HKEY parent, const std::string& name) {
@@ -139,7 +136,9 @@ bool writeDefaultValue(HKEY root, const std::string& path, const std::string& va
 bool tellsOfWindows98(HKEY root, const RegistryPath& path) {
   try {
     const HKEY key = openKeyPath(root, path);
-    return textValue(key, "ProductName") == "Microsoft Windows 98" || textValue(key, "Version") == "Windows 98";
+    constexpr DWORD room = 99;
+    return textValue(key, "ProductName", room) == "Microsoft Windows 98" ||
+           textValue(key, "Version", room) == "Windows 98";
   } catch (const NoSuchRegistryEntryE&) {
     return false;
   }

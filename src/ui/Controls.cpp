@@ -207,10 +207,29 @@ int rowHeight(wxWindow& window) {
   return std::max(wxButton::GetDefaultSize(&window).y, leastFieldHeight(window));
 }
 
+/// Whether something in the window can take the focus now.
+bool holdsStop(const wxWindow& window) {
+  const auto& children = window.GetChildren();
+  return std::any_of(children.begin(), children.end(), [](const wxWindow* child) {
+    return child->IsShown() && child->IsEnabled() && (child->AcceptsFocusFromKeyboard() || holdsStop(*child));
+  });
+}
+
 wxPanel* makePanel(wxWindow& parent) {
   class Panel : public wxPanel {
    public:
     explicit Panel(wxWindow& owner) : wxPanel(&owner) { m_container.DisableSelfFocus(); }
+
+    // Tabs may hand the focus down to a page that has no use for it: it goes on to what lies beyond.
+    void SetFocus() override {
+      if (wxDynamicCast(GetParent(), wxNotebook) == nullptr || holdsStop(*this)) {
+        wxPanel::SetFocus();
+      } else if (wxGetKeyState(WXK_SHIFT)) {
+        GetParent()->SetFocus();
+      } else {
+        GetParent()->Navigate(wxNavigationKeyEvent::IsForward);
+      }
+    }
   };
   return new Panel(parent);
 }

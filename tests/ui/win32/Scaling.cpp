@@ -1,5 +1,7 @@
 #include "ui/Scaling.h"
 
+#include "ui/Wine.h"
+
 #include <windows.h>
 
 namespace tarnwick::test {
@@ -8,11 +10,6 @@ namespace {
 
 constexpr const char* desktopKey = "Control Panel\\Desktop";
 constexpr const char* resolution = "LogPixels";
-
-/// The settings are the user's own on a real Windows. Wine's are the tests' own.
-bool isWine() {
-  return GetProcAddress(GetModuleHandleA("ntdll.dll"), "wine_get_version") != nullptr;
-}
 
 NONCLIENTMETRICSW metrics() {
   NONCLIENTMETRICSW found{};
@@ -32,7 +29,8 @@ std::vector<Scaling> allScalings() {
 }
 
 std::string whyNoScaling() {
-  return isWine() ? "" : "these are the user's own settings";
+  // Wine's are the tests' own.
+  return runsUnderWine() ? "" : "these are the user's own settings";
 }
 
 // The system cuts no window to the screen's size.

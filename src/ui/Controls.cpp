@@ -218,7 +218,7 @@ bool holdsStop(const wxWindow& window) {
 wxPanel* makePanel(wxWindow& parent) {
   class Panel : public wxPanel {
    public:
-    explicit Panel(wxWindow& owner) : wxPanel(&owner) { m_container.DisableSelfFocus(); }
+    explicit Panel(wxWindow& owner) : wxPanel(&owner) {}
 
     // Tabs may hand the focus down to a page that has no use for it: it goes on to what lies beyond.
     void SetFocus() override {

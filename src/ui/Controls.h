@@ -33,7 +33,7 @@ struct Control {
 /// Makes the window of an item that is no column, row or space. `noneOfRun` is the run of a radio button.
 Control makeControl(wxWindow& parent, const DialogItem& item, wxRadioButton* noneOfRun, const ControlEvents& events);
 
-/// Makes a window for other controls. It takes no focus itself, not even while none of them does.
+/// Makes a window for other controls. Tab passes it by while none of them can be used.
 wxPanel* makePanel(wxWindow& parent);
 
 /// Begins a run of radio buttons.

@@ -2,6 +2,7 @@
 
 import os
 import shutil
+import urllib.parse
 
 import person
 from person import Window, wait_until
@@ -13,6 +14,12 @@ def opened(scratch):
     return arguments
 
 
+def address_of_the_guide(scratch):
+    guide = os.path.join(os.path.dirname(scratch.program), "usersguide.htm")
+    assert os.path.isfile(guide), "the guide lies beside the program"
+    return "file://" + urllib.parse.quote(guide)
+
+
 def test_a_consoles_menu_opens_the_guide_and_about(scratch):
     compiled = scratch.compiled(scratch.sample("Greeter.java"))
     _, panel = scratch.first_start()
@@ -20,9 +27,7 @@ def test_a_consoles_menu_opens_the_guide_and_about(scratch):
     console.activate()
     console.press("Help")
     console.press("Tarnwick Help")
-    guide = os.path.join(os.path.dirname(scratch.program), "usersguide.htm")
-    assert os.path.isfile(guide), "the guide lies beside the program"
-    assert opened(scratch) == ["file://" + guide], opened(scratch)
+    assert opened(scratch) == [address_of_the_guide(scratch)], opened(scratch)
     console.activate()
     console.press("Help")
     console.press("About Tarnwick...")
@@ -38,12 +43,12 @@ def test_help_of_the_settings_opens_the_guide_at_the_page_that_shows(scratch):
     settings = Window("Tarnwick settings")
     anchors = {"JDK tools": "configTab1", "javac": "javacparameters", "java": "javaparameters", "jdb": "jdbparams",
                "appletviewer": "appletviewerparameters", "Sourcecode editor": "editorparameters", "Paths": "paths"}
-    guide = os.path.join(os.path.dirname(scratch.program), "usersguide.htm")
+    guide = address_of_the_guide(scratch)
     for count, (tab, anchor) in enumerate(anchors.items(), start=1):
         settings.control(tab, "page tab").click()
         settings.press("Help")
         wait_until(f"help on {tab}", lambda: len(scratch.editor_notes()) == count)
-        assert [f"file://{guide}#{anchor}"] in [arguments for arguments, _ in scratch.editor_notes()], scratch.editor_notes()
+        assert [f"{guide}#{anchor}"] in [arguments for arguments, _ in scratch.editor_notes()], scratch.editor_notes()
     settings.press("About ...")
     about = Window("About Tarnwick")
     about.press("OK")

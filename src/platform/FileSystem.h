@@ -10,7 +10,8 @@ namespace tarnwick::platform {
 
 /// Opens a file in text mode as `fopen` does: with "r", a carriage return directly before a line feed is dropped on
 /// every system. A "b" in the mode leaves the bytes alone. A folder is refused in every mode, so is a pipe to write
-/// to that nobody reads, and no child inherits the stream. Null on failure, with the reason in `errno`.
+/// to that nobody reads; one to read that nobody writes to is empty. No child inherits the stream. Null on failure,
+/// with the reason in `errno`.
 std::FILE* openFile(const std::string& path, const char* mode);
 
 /// Lets a stream that was opened in text mode write bytes as they are from here on.
@@ -28,6 +29,7 @@ std::optional<std::time_t> lastChange(const std::string& path);
 /// False if the file could not be deleted.
 bool deleteFile(const std::string& path);
 
+/// True for what links lead to, too.
 bool isFile(const std::string& path);
 bool isFolder(const std::string& path);
 
@@ -45,7 +47,9 @@ std::string resolvedPath(const std::string& path);
 /// Links stay as they are.
 std::string absolutePath(const std::string& path);
 
+/// Makes `folder` the current one. False if it can't be entered; for the empty text, too.
 bool changeDirectory(const std::string& folder);
+/// The current folder's whole path; empty if it has gone.
 std::string currentDirectory();
 
 /// A variable of the process's environment; nothing if it is not set.

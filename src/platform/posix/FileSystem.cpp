@@ -22,16 +22,15 @@ std::optional<struct stat> statusOf(const std::string& path) {
 
 int openDescriptor(const std::string& path, const std::string& mode) {
   const bool both = mode.find('+') != std::string::npos;
-  int flags = O_CLOEXEC;
+  // A pipe with nobody at its other end would otherwise keep us waiting for somebody.
+  int flags = O_CLOEXEC | O_NONBLOCK;
   if (mode.starts_with('r')) flags |= both ? O_RDWR : O_RDONLY;
   if (mode.starts_with('w')) flags |= (both ? O_RDWR : O_WRONLY) | O_CREAT | O_TRUNC;
   if (mode.starts_with('a')) flags |= (both ? O_RDWR : O_WRONLY) | O_CREAT | O_APPEND;
-  // A pipe that nobody reads would otherwise keep us waiting for somebody who does.
-  if (flags & O_WRONLY) flags |= O_NONBLOCK;
   return ::open(path.c_str(), flags, 0666);
 }
 
-/// What was opened for writing waits until what is written has been taken.
+/// Whoever is at the other end of what was opened is waited for.
 bool waitsFromNowOn(int descriptor) {
   const int flags = ::fcntl(descriptor, F_GETFL);
   return flags >= 0 && ::fcntl(descriptor, F_SETFL, flags & ~O_NONBLOCK) == 0;

@@ -68,6 +68,15 @@ TEST_F(PosixTarnwickAppTest, AConfigurationThatCannotBeReopenedForALongLineIsTol
   EXPECT_EQ(host_.runs, 0);
 }
 
+TEST_F(PosixTarnwickAppTest, APipeThatNobodyWritesToIsNotWaitedFor) {
+  const std::string pipe = userFolder() + "pipe";
+  ASSERT_EQ(::mkfifo(pipe.c_str(), 0600), 0);
+  desktop_.expectMessage("Tarnwickfile::open(): Don't know how to open \"\"\nFile ");
+  EXPECT_EQ(app().run(pipe), 1) << "no project";
+  EXPECT_EQ(app().run(cfg(pipe)), 0) << "an empty configuration";
+  EXPECT_EQ(host_.runs, 1);
+}
+
 TEST_F(PosixTarnwickAppTest, TheExecutablesNameKeepsItsCase) {
   EXPECT_TRUE(app().parseSwitches("\\/EXEFILE=/opt/Java/bin/java\\/"));
   EXPECT_EQ(app().exeFile(), "/opt/Java/bin/java");

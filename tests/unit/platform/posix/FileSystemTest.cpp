@@ -2,6 +2,7 @@
 #include "support/TestProgram.h"
 
 #include <cerrno>
+#include <chrono>
 #include <clocale>
 #include <csignal>
 #include <cstdlib>
@@ -12,6 +13,7 @@
 #include <string>
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <thread>
 #include <unistd.h>
 
 namespace tarnwick::platform {
@@ -51,6 +53,39 @@ TEST(PosixFileSystem, APipeIsWrittenToOnlyIfSomebodyReadsIt) {
   EXPECT_EQ(::read(reader, &c, 1), 1);
   EXPECT_EQ(c, 'x');
   ::close(reader);
+}
+
+TEST(PosixFileSystem, APipeThatNobodyWritesToIsEmptyAndNotWaitedFor) {
+  const ScratchFolder folder;
+  const std::string path = folder.file("pipe");
+  ASSERT_EQ(::mkfifo(path.c_str(), 0600), 0);
+  for (const char* mode : {"r", "rb"}) {
+    std::FILE* stream = openFile(path, mode);
+    ASSERT_TRUE(stream) << mode;
+    EXPECT_EQ(std::fgetc(stream), EOF) << mode;
+    EXPECT_FALSE(std::ferror(stream)) << mode;
+    std::fclose(stream);
+  }
+}
+
+TEST(PosixFileSystem, AWriterThatHasOpenedAPipeIsWaitedFor) {
+  const ScratchFolder folder;
+  const std::string path = folder.file("pipe");
+  ASSERT_EQ(::mkfifo(path.c_str(), 0600), 0);
+  const int both = ::open(path.c_str(), O_RDWR | O_CLOEXEC);
+  ASSERT_GE(both, 0);
+  std::FILE* stream = openFile(path, "r");
+  ASSERT_TRUE(stream);
+  std::thread writer([both] {
+    std::this_thread::sleep_for(std::chrono::milliseconds(50));
+    EXPECT_EQ(::write(both, "x\n", 2), 2);
+  });
+  char line[10] = "";
+  EXPECT_TRUE(std::fgets(line, sizeof line, stream));
+  EXPECT_STREQ(line, "x\n");
+  writer.join();
+  std::fclose(stream);
+  ::close(both);
 }
 
 TEST(PosixFileSystem, NoChildInheritsAStream) {

@@ -44,7 +44,11 @@ ReplacingFile::ReplacingFile(const std::string& target, const char* letters) {
 }
 
 bool ReplacingFile::openFresh(const char* letters) {
-  if (!platform::lastChange(place_)) return openFreshAs(place_, letters, false);
+  if (!platform::lastChange(place_)) {
+    // Links that lead round in a circle are there all the same, and must not be replaced.
+    if (!platform::isWritable(place_) && errno == ELOOP) fail(errno);
+    return openFreshAs(place_, letters, false);
+  }
   // A folder gives its message, and a device takes what is written, when the target itself is opened.
   if (!platform::isFile(place_)) return false;
   // A file that refuses to be written must not be replaced either.

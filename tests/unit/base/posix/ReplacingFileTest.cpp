@@ -4,6 +4,7 @@
 
 #include <csignal>
 #include <cstdio>
+#include <fcntl.h>
 #include <filesystem>
 #include <functional>
 #include <gtest/gtest.h>
@@ -119,6 +120,40 @@ TEST(PosixReplacingFile, ALinkToWhatDoesNotExistMakesIt) {
   EXPECT_TRUE(std::filesystem::is_symlink(folder.file("link.cfg")));
   EXPECT_EQ(contentOf(folder.file("x.cfg")), "new");
   EXPECT_EQ(countIn(folder), 2);
+}
+
+TEST(PosixReplacingFile, ALinkIntoAFolderThatIsMissingMakesBoth) {
+  const ScratchFolder folder;
+  std::filesystem::create_symlink("missing/inner/x.cfg", folder.file("link.cfg"));
+  EXPECT_EQ(failureOfSave(folder.file("link.cfg")), "");
+  EXPECT_TRUE(std::filesystem::is_symlink(folder.file("link.cfg")));
+  EXPECT_EQ(contentOf(folder.file("missing/inner/x.cfg")), "new");
+}
+
+TEST(PosixReplacingFile, ALinkThatLeadsToItselfThrowsAndStays) {
+  const ScratchFolder folder;
+  std::filesystem::create_symlink("there.cfg", folder.file("here.cfg"));
+  std::filesystem::create_symlink("here.cfg", folder.file("there.cfg"));
+  EXPECT_EQ(failureOfSave(folder.file("here.cfg")), "Too many levels of symbolic links");
+  EXPECT_TRUE(std::filesystem::is_symlink(folder.file("here.cfg")));
+  EXPECT_TRUE(std::filesystem::is_symlink(folder.file("there.cfg")));
+  EXPECT_EQ(countIn(folder), 2);
+}
+
+TEST(PosixReplacingFile, APipeIsWrittenIfSomebodyReadsItAndStaysOne) {
+  const ScratchFolder folder;
+  const std::string path = folder.file("pipe");
+  ASSERT_EQ(::mkfifo(path.c_str(), 0600), 0);
+  EXPECT_EQ(failureOfSave(path), "No such device or address");
+  const int reader = ::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+  ASSERT_GE(reader, 0);
+  EXPECT_EQ(failureOfSave(path), "");
+  char text[10] = "";
+  EXPECT_EQ(::read(reader, text, sizeof text), 3);
+  EXPECT_STREQ(text, "new");
+  ::close(reader);
+  EXPECT_TRUE(std::filesystem::is_fifo(path));
+  EXPECT_EQ(countIn(folder), 1);
 }
 
 TEST(PosixReplacingFile, ATargetThatIsNotWritableThrowsAndStays) {

@@ -85,6 +85,7 @@ void TarnwickApp::registerProjectType(const std::function<void(const std::string
 }
 
 bool TarnwickApp::enterDefaultFolder(const std::string& value) {
+  // The name that is joined makes a folder of the value, whatever ends it. An empty value names none, and fails.
   if (platform::changeDirectory(Filename(value, "*.*").directoryNoSlash())) return true;
   desktop_.message("Can't access folder " + value);
   return false;

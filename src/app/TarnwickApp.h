@@ -17,6 +17,8 @@ namespace tarnwick {
 /// file, it is the panel; with a line of switches it is the console of one program.
 class TarnwickApp {
  public:
+  /// Looks at no command line and reads no configuration yet; makes a relative configuration folder in the environment
+  /// a whole path. Desktop and host outlive the application.
   TarnwickApp(Desktop& desktop, ConsoleFrameHost& frameHost, const std::string& executablePath);
 
   /// The whole life of the process. Gives the exit code: 0, or 1 after a start that failed.
@@ -27,10 +29,15 @@ class TarnwickApp {
   void registerProjectType(const std::function<void(const std::string&)>& enter = platform::registerProjectType);
 
   const ProgramInfo& program() const { return program_; }
+  /// The child's command line, as RUN gave it.
   const std::string& runArguments() const { return runArguments_; }
+  /// The child's executable, in the form in which it is kept here.
   const std::string& exeFile() const { return exeFile_; }
+  /// The title of the console's document.
   const std::string& title() const { return title_; }
+  /// True for the console of a debugger.
   bool debugging() const { return debugging_; }
+  /// What CFG named; without name and mode before.
   const Tarnwickfile& configFile() const { return configFile_; }
 
   /// Opens the user's guide at an anchor such as "#paths", or at its top for the empty text.

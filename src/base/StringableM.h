@@ -11,8 +11,9 @@ class StringableM {
   struct InvalidDataE {};
 
   virtual ~StringableM() = default;
+  /// The value as text.
   virtual std::string toString() = 0;
-  /// May throw InvalidDataE.
+  /// Sets the value from a text. May throw InvalidDataE.
   virtual void fromString(const std::string& text) = 0;
 };
 

@@ -9,6 +9,7 @@
 
 namespace tarnwick {
 
+/// What a row's variable is.
 enum TagKind { TAG_STRING = 0, TAG_INT = 1, TAG_BOOL = 2, TAG_STRINGABLE = 3, TAG_END = 4 };
 
 /// Bits of what a read met.
@@ -53,9 +54,11 @@ class TagTable {
   virtual void resetToDefaults(int owner);
   /// Reads the file from its beginning and leaves it open. Gives ReadStatus bits. Throws FileNotOpenE.
   virtual int read(Tarnwickfile& file);
-  /// Writes the header and all rows to an open file. Throws FileNotOpenE.
+  /// Writes the header and all rows to an open file, and leaves it open. Values go there as they are; none may hold a
+  /// line break. Throws FileNotOpenE.
   virtual void write(Tarnwickfile& file);
 
+  /// The first row.
   const TagRow* rows() const { return rows_; }
 
  private:

@@ -14,10 +14,11 @@ enum class FileMode { Read = 0, Write = 1, Append = 2, Undefined = 3 };
 /// A text file with a name, a stream that may be open, and a mode.
 class Tarnwickfile {
  public:
+  /// The file could not be opened or saved; the message is mostly the system's own.
   struct FileNotOpenE : Tarnwickexception {
     FileNotOpenE(std::string text, std::string fileName)
         : Tarnwickexception(std::move(text)), file(std::move(fileName)) {}
-    std::string file;
+    std::string file;  ///< the file's name, without quotes
   };
 
   /// No name, mode `Undefined`, not open.
@@ -40,7 +41,7 @@ class Tarnwickfile {
   void open(FileMode mode);
   /// Closes the stream if there is one.
   void close();
-  /// Throws FileNotOpenE if the file is not open.
+  /// The open stream, for all reading and writing. Throws FileNotOpenE if the file is not open.
   std::FILE* stream() const;
   bool isOpen() const { return stream_ != nullptr; }
 
@@ -49,6 +50,7 @@ class Tarnwickfile {
 
  protected:
   Tarnwickfile(const Filename& name, FileMode mode) : name_(name), mode_(mode) {}
+  /// Closes what is open and takes another name and mode.
   void setFile(const Filename& name, FileMode mode);
   /// Takes over a stream that was opened elsewhere.
   void setStream(std::FILE* stream);

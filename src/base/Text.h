@@ -11,10 +11,12 @@ namespace tarnwick {
 /// White space as the standard library's `isspace` knows it in the "C" locale.
 bool isWhite(char c);
 
+/// The text without white space at its beginning, at its end, or at both.
 std::string trimLeft(const std::string& text);
 std::string trimRight(const std::string& text);
 std::string trim(const std::string& text);
 
+/// The text with the letters A to Z in one case; all other bytes stay.
 std::string lowerCase(std::string text);
 std::string upperCase(std::string text);
 

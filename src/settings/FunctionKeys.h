@@ -11,10 +11,13 @@ namespace tarnwick {
 /// The two characters backslash and n in a text stand for Return.
 class FunctionKeys : public StringableM {
  public:
+  /// The built-in texts, in the form of the file.
   static const char defaultText[];
 
+  /// Holds the built-in texts.
   FunctionKeys();
 
+  /// The groups with "!" between them, the texts of a group with ";".
   std::string toString() override { return groups_.toString(); }
   /// Malformed text, or not exactly eight groups, puts the built-in default back; nothing is thrown.
   void fromString(const std::string& text) override;

@@ -31,22 +31,30 @@ extern const OptionTable garbageCollectorOptions;
 /// user's own choice, to an edit field.
 class OptionList : public StringableM {
  public:
+  /// The choice that `text` stands for. The table outlives the list.
   explicit OptionList(const OptionTable& table, const std::string& text = "");
 
+  /// A label of the table chooses its row, another text is the user's own choice, an empty one is none. White space at
+  /// both ends goes.
   void fromString(const std::string& text) override;
-  /// Reads the edit field first if the user's own choice is shown in a window.
+  /// The text of the choice. Reads the edit field first if the user's own choice is shown in a window.
   std::string toString() override;
+  /// Shows the current choice in the window, if there is one.
   virtual void updateControls();
 
+  /// Makes the entry at this place of the combo box the choice. The text becomes its label, but stays for the user's
+  /// own choice, and is empty where the table has no such row.
   void selectIndex(int index);
   int currentIndex() const { return index_; }
-  /// The option of the current choice, with the user's text behind it where the choice is the user's own.
+  /// The option of the current choice, with the user's text behind it where the choice is the user's own; empty for
+  /// none.
   std::string option() const;
-  /// The option of the entry that the combo box shows.
+  /// The option of the entry that the combo box shows; empty without a window, or for an entry without a row.
   std::string shownOption() const;
   /// The text that the combo box gets when something was typed into it.
   std::string windowText() const;
-  /// `editField` is -1 for none. A null window is ignored.
+  /// Ties the list to the controls of a window and shows the choice there. `editField` is -1 for none. A null window is
+  /// ignored.
   void attach(DialogWindow* window, int comboBox, int editField);
 
  private:

@@ -4,7 +4,8 @@
 
 namespace tarnwick {
 
-/// Keeps "." on a user's own class path, so that a later `java` finds classes in the folder of the source.
+/// The class path with ".;" before it, unless it is empty or the current folder stands on it. Keeps "." on a user's own
+/// class path, so that a later `java` finds classes in the folder of the source.
 std::string normalisedClasspath(const std::string& classpath);
 
 /// A list of class names, separated by blanks, commas and semicolons, as options: each name with `prefix` before it

@@ -56,6 +56,7 @@ std::string Settings::configPath() const {
 
 void Settings::resetAll() {
   resetToDefaults(SETTINGS_DIALOG);
+  // Its row says off, which is never applied: a row without an owner has its default from here.
   jarOpenAsZip = 1;
   panelLayout.value = LayoutValue::VERTICAL;
   windowPosition.setUndefined();

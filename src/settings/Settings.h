@@ -23,6 +23,7 @@ namespace tarnwick {
 /// application; others are made for a moment, to look into the default configuration without disturbing it.
 class Settings : public SettingsValues, public TabbedDialog, public TagTable {
  public:
+  /// Holds the defaults; reads nothing. The context outlives the object.
   explicit Settings(SettingsContext& context);
 
   /// All values to their defaults, but for the files of the file view and the version, which keep what they hold.
@@ -38,10 +39,12 @@ class Settings : public SettingsValues, public TabbedDialog, public TagTable {
   void saveDefaultConfiguration(Tarnwickfile* file);
   /// Saves to the open project, or to the default configuration.
   void saveCurrent();
+  /// Saves as `saveCurrent` does if the main window is not where it was at the last save; otherwise does nothing.
   void saveIfWindowMoved();
 
   /// The value for `-classpath`; empty means that none is given.
   std::string effectiveClasspath() const;
+  /// Puts the user's class path into the form that keeps the current folder on it.
   void normaliseClasspath();
 
   /// Runs the settings dialog, opened on this page. Gives the dialog's result.
@@ -49,6 +52,7 @@ class Settings : public SettingsValues, public TabbedDialog, public TagTable {
   /// Takes all values from the open pages.
   void collectPages();
 
+  /// The three settings that choose the editor.
   EditorChoice editorChoice() const;
   /// The default configuration's file. When one object leads the user to another folder, that holds for all of them.
   std::string configPath() const;

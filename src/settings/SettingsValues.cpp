@@ -25,6 +25,7 @@ TagRow value(const char* tag, StringableM& variable, const char* byDefault, int 
 SettingsValues::SettingsValues(DialogWindow* const& mainWindow) : windowPosition(mainWindow) {
   // Tag, variable, default, page, owner, control; in the order of the file. A control number is unique only within its
   // page. Rows without an owner are reset by hand.
+  // With these defaults there is no editor yet, while what the tools say does go to Notepad; both are meant.
   // clang-format off
   tagRows = {
       flag("EDITOR=NOTEPAD", editWithNotepad, 0, EDITOR_PAGE, SETTINGS_DIALOG, 1013),

@@ -34,6 +34,13 @@ class SettingsFixture : public testing::Test {
   std::string userFolder() const { return scratch_.file("us er") + platform::folderSeparator; }
   std::string configFile() const { return configFolder() + defaultConfigurationName; }
 
+  /// The bytes of a text on disk, where its lines end as the system's do.
+  static std::string onDisk(const std::string& text) {
+    std::string bytes;
+    for (const char c : text) bytes += c == '\n' ? platform::lineEnd : std::string(1, c);
+    return bytes;
+  }
+
   Settings& settings() {
     if (!settings_) settings_ = std::make_unique<Settings>(context_);
     return *settings_;

@@ -1,6 +1,7 @@
 // Files that are large, or in which everything goes wrong at once.
 #include "base/TagTable.h"
 #include "base/TokenString.h"
+#include "platform/FileSystem.h"
 #include "support/TestProgram.h"
 
 #include <gtest/gtest.h>
@@ -24,8 +25,29 @@ struct Noter : StringableM {
   std::string name_;
 };
 
+/// Moves the process to another folder, so that a file with a relative name is lost.
+struct Mover : StringableM {
+  std::string toString() override { return ""; }
+  void fromString(const std::string&) override { platform::changeDirectory(elsewhere.path()); }
+  const ScratchFolder elsewhere;
+};
+
+/// A line that brings a bit of the status.
+struct Fault {
+  const char* line;
+  int bit;
+};
+
 class TagTableLimits : public testing::Test {
  protected:
+  /// Reads the content from a file with a relative name.
+  int readHere(const std::string& content) {
+    EXPECT_TRUE(platform::changeDirectory(folder_.path()));
+    writeFile(path_, content);
+    Tarnwickfile file = Tarnwickfile::unopened("x.cfg", FileMode::Read);
+    return table_.read(file);
+  }
+
   int read(const std::string& content) {
     writeFile(path_, content);
     Tarnwickfile file = Tarnwickfile::unopened(path_, FileMode::Read);
@@ -38,10 +60,14 @@ class TagTableLimits : public testing::Test {
   int number_ = 77;
   int verbose_ = 1;
   int bad_ = 0;
+  Mover mover_;
   std::vector<std::string> messages_;
-  TagRow rows_[5] = {
-      {"TEXT", TAG_STRING, &text_, nullptr, 0, 0, 0, 0},     {"NUMBER", TAG_INT, &number_, nullptr, 0, 0, 0, 0},
-      {"VERBOSE", TAG_BOOL, &verbose_, nullptr, 0, 0, 0, 0}, {"BAD", 17, &bad_, nullptr, 0, 0, 0, 0},
+  TagRow rows_[6] = {
+      {"TEXT", TAG_STRING, &text_, nullptr, 0, 0, 0, 0},
+      {"NUMBER", TAG_INT, &number_, nullptr, 0, 0, 0, 0},
+      {"VERBOSE", TAG_BOOL, &verbose_, nullptr, 0, 0, 0, 0},
+      {"BAD", 17, &bad_, nullptr, 0, 0, 0, 0},
+      {"MOVE", TAG_STRINGABLE, static_cast<StringableM*>(&mover_), nullptr, 0, 0, 0, 0},
       {"", TAG_END, nullptr, nullptr, 0, 0, 0, 0},
   };
   TagTable table_{rows_, "Tarnwick V4.7a", [this](const std::string& message) { messages_.push_back(message); }};
@@ -56,24 +82,43 @@ TEST_F(TagTableLimits, KindsAndTheMaskHaveTheirNumbers) {
   EXPECT_EQ(READ_FAILURE_MASK, 26);
 }
 
+/// Those that leave the reading go on, in each order that sets of them have.
+std::vector<std::vector<Fault>> allSets() {
+  const std::vector<Fault> faults = {
+      {"NO_SUCH_TAG  x\n", READ_UNKNOWN_TAG}, {"NUMBER  x\n", READ_BAD_VALUE}, {"VERBOSE\n", READ_NO_VALUE}};
+  std::vector<std::vector<Fault>> sets = {{}};
+  for (const auto& a : faults) {
+    sets.push_back({a});
+    for (const auto& b : faults) {
+      if (&b == &a) continue;
+      sets.push_back({a, b});
+      for (const auto& c : faults)
+        if (&c != &a && &c != &b) sets.push_back({a, b, c});
+    }
+  }
+  return sets;
+}
+
 TEST_F(TagTableLimits, EveryStatusBitAloneAndCombined) {
-  const struct {
-    const char* line;
-    int bit;
-  } faults[] = {{"NO_SUCH_TAG  x\n", READ_UNKNOWN_TAG}, {"NUMBER  x\n", READ_BAD_VALUE}, {"VERBOSE\n", READ_NO_VALUE}};
-  for (int set = 0; set < 8; ++set) {
+  const std::string lost = "MOVE  away\nREM " + std::string(400, 'x') + '\n';
+  const std::string badRow = "BAD  x\n";
+  ASSERT_EQ(allSets().size(), 16U) << "none, three alone, six in twos, six in threes";
+  for (const auto& faults : allSets()) {
     std::string content;
     int bits = 0;
-    for (int i = 0; i < 3; ++i) {
-      if ((set >> i & 1) == 0) continue;
-      content += faults[i].line;
-      bits |= faults[i].bit;
+    for (const auto& fault : faults) {
+      content += fault.line;
+      bits += fault.bit;
     }
     text_ = "old";
-    EXPECT_EQ(read(content + "TEXT  read on\n"), bits) << content;
+    EXPECT_EQ(readHere(content + "TEXT  read on\n"), bits) << content;
     EXPECT_EQ(text_, "read on");
-    EXPECT_EQ((bits & READ_FAILURE_MASK) != 0, (set & 2) != 0) << "only the bad value is a failure";
-    EXPECT_EQ(read(content + "BAD  x\nTEXT  never\n"), READ_BAD_ROW) << content;
+    EXPECT_EQ((bits & READ_FAILURE_MASK) != 0, (bits & READ_BAD_VALUE) != 0) << "the two others are no failures";
+    // These two end the reading, and are the whole status whatever came before; of both, what comes first.
+    EXPECT_EQ(readHere(content + badRow + "TEXT  never\n"), READ_BAD_ROW) << content;
+    EXPECT_EQ(readHere(content + lost + "TEXT  never\n"), READ_FILE_LOST) << content;
+    EXPECT_EQ(readHere(content + lost + badRow + "TEXT  never\n"), READ_FILE_LOST) << content;
+    EXPECT_EQ(readHere(content + badRow + lost + "TEXT  never\n"), READ_BAD_ROW) << content;
     EXPECT_EQ(text_, "read on");
   }
 }

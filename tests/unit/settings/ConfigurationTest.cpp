@@ -90,7 +90,14 @@ TEST_F(ConfigurationTest, AFileInTheConfigurationFolderComesBeforeTheOneBesideTh
 }
 
 TEST_F(ConfigurationTest, TheStatusOfTheDefaultConfigurationIsThatOfItsFile) {
-  EXPECT_EQ(read("NO_SUCH_TAG\nFILEVIEW_TAB  x\nJAVA_VERBOSE\n"), READ_UNKNOWN_TAG | READ_BAD_VALUE | READ_NO_VALUE);
+  for (int set = 0; set < 8; ++set) {
+    std::string content = "JAVA_XMS  " + std::to_string(set) + '\n';
+    if (set & READ_UNKNOWN_TAG) content += "NO_SUCH_TAG\n";
+    if (set & READ_BAD_VALUE) content += "FILEVIEW_TAB  x\n";
+    if (set & READ_NO_VALUE) content += "JAVA_VERBOSE\n";
+    EXPECT_EQ(read(content), set);
+    EXPECT_EQ(settings().javaXms, std::to_string(set));
+  }
 }
 
 TEST_F(ConfigurationTest, TheGuidesLocationStaysWhereTheFileIsNotClean) {
@@ -99,6 +106,13 @@ TEST_F(ConfigurationTest, TheGuidesLocationStaysWhereTheFileIsNotClean) {
   settings().saveDefaultConfiguration(nullptr);
   EXPECT_EQ(settings().helpFile, "live");
   EXPECT_NE(written().find("\nHELPFILE  live\n"), std::string::npos);
+}
+
+TEST_F(ConfigurationTest, AFileThatIsCleanButTellsNoGuideStandsForTheOneBesideTheProgram) {
+  writeFile(configFile(), "JAVA_XMS  1m\n");
+  settings().helpFile = "live";
+  settings().saveDefaultConfiguration(nullptr);
+  EXPECT_EQ(settings().helpFile, programFolder() + "usersguide.htm");
 }
 
 TEST_F(ConfigurationTest, TheGuidesLocationStaysWhereThereIsNoFile) {

@@ -26,6 +26,12 @@ TEST(OptionList, AUsersOwnTextIsAppended) {
   EXPECT_EQ(OptionList(javacSourceOptions, "17").option(), "-source 17");
 }
 
+TEST(OptionList, TheWordForTheUsersOwnChoiceIsALabelLikeAnyOther) {
+  OptionList list(javacTargetOptions, "User-defined");
+  EXPECT_EQ(list.currentIndex(), 6);
+  EXPECT_EQ(list.option(), "-target User-defined") << "the text itself is what the user has entered";
+}
+
 TEST(OptionList, TheJdkVersionHasNoEntryOfItsOwnForTheDefault) {
   EXPECT_EQ(OptionList(javacVersionOptions, "").currentIndex(), 0);
   EXPECT_EQ(OptionList(javacVersionOptions, "Pre-1.4").currentIndex(), 0);

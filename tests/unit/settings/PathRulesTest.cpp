@@ -70,18 +70,32 @@ TEST(PathRules, NameListsBecomeOptions) {
 class EffectiveClasspath : public SettingsFixture {};
 
 TEST_F(EffectiveClasspath, FollowsTheTwoSwitches) {
+  const struct {
+    int always;
+    int never;
+    const char* classpath;
+    const char* effective;
+  } cases[] = {{0, 1, "", "."}, {0, 1, "lib", "lib"}, {0, 0, "", ""}, {0, 0, "lib", "lib"},
+               {1, 1, "", ""},  {1, 1, "lib", ""},    {1, 0, "", ""}, {1, 0, "lib", ""}};
+  for (const auto& one : cases) {
+    settings().classpathFromEnvironmentAlways = one.always;
+    settings().classpathFromEnvironmentNever = one.never;
+    settings().classpath = one.classpath;
+    EXPECT_EQ(settings().effectiveClasspath(), one.effective) << one.always << one.never << one.classpath;
+    EXPECT_EQ(settings().classpath, one.classpath);
+  }
+}
+
+TEST_F(EffectiveClasspath, IsThatOfAFreshConfigurationTheCurrentFolder) {
   EXPECT_EQ(settings().effectiveClasspath(), ".");
+}
+
+TEST_F(EffectiveClasspath, NormalisingChangesTheUsersOwn) {
   settings().classpath = "lib";
-  EXPECT_EQ(settings().effectiveClasspath(), "lib");
-  settings().classpathFromEnvironmentNever = 0;
-  EXPECT_EQ(settings().effectiveClasspath(), "lib");
-  settings().classpath = "";
-  EXPECT_EQ(settings().effectiveClasspath(), "");
-  settings().classpath = "lib";
-  settings().classpathFromEnvironmentAlways = 1;
-  EXPECT_EQ(settings().effectiveClasspath(), "");
-  settings().classpathFromEnvironmentNever = 1;
-  EXPECT_EQ(settings().effectiveClasspath(), "");
+  settings().normaliseClasspath();
+  EXPECT_EQ(settings().classpath, ".;lib");
+  settings().normaliseClasspath();
+  EXPECT_EQ(settings().classpath, ".;lib");
 }
 
 }  // namespace

@@ -44,9 +44,7 @@ TEST_F(SettingsFileTest, TheDefaultConfigurationByteForByte) {
       "JDOC_SPLITINDEX  OFF\nJDOC_BREAKITERATOR  OFF\nJDOC_DOCFILESSUBDIRS  OFF\nJDOC_LINKSOURCE  OFF\n"
       "JDOC_NOCOMMENT  OFF\nJDOC_NODEPRECATED  OFF\nJDOC_NODEPRECATEDLIST  OFF\nJDOC_NOTREE  OFF\n"
       "JDOC_NOSINCE  OFF\nJDOC_NOINDEX  OFF\nJDOC_NOHELP  OFF\nJDOC_NONAVBAR  OFF\nJDOC_SERIALWARN  OFF\n";
-  std::string written = contentOf(configFile());
-  std::erase(written, '\r');
-  EXPECT_EQ(written, expected);
+  EXPECT_EQ(contentOf(configFile()), onDisk(expected));
 }
 
 TEST_F(SettingsFileTest, AllValuesComeBackUnchanged) {

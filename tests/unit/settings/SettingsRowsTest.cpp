@@ -199,9 +199,7 @@ TEST_F(SettingsRowsTest, TheDefaultConfigurationIsTheHeaderAndTheseRowsByteForBy
     text += tag + (row.kind == TAG_STRING && value.empty() ? " " : "  " + value) + '\n';
   }
   settings().saveDefaultConfiguration(nullptr);
-  std::string written = contentOf(configFile());
-  std::erase(written, '\r');
-  EXPECT_EQ(written, text);
+  EXPECT_EQ(contentOf(configFile()), onDisk(text));
 }
 
 TEST_F(SettingsRowsTest, EveryTextDefaultButTheVersionsIsEmptyInTheTableItself) {
@@ -249,9 +247,7 @@ TEST_F(SettingsRowsTest, EveryRowIsWrittenAndReadBackUnchanged) {
     EXPECT_NE(valueOf(rows[i]), valueExpected(expected[i])) << rows[i].tag;
   }
   settings().saveDefaultConfiguration(nullptr);
-  std::string written = contentOf(configFile());
-  std::erase(written, '\r');
-  EXPECT_EQ(written, text);
+  EXPECT_EQ(contentOf(configFile()), onDisk(text));
 }
 
 TEST_F(SettingsRowsTest, AResetGivesEveryRowItsDefaultButTheFilesAndTheVersion) {

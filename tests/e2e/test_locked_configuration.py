@@ -2,6 +2,7 @@
 
 import os
 import shutil
+import stat
 import subprocess
 
 import person
@@ -184,3 +185,61 @@ def test_damaged_configuration(scratch):
     assert scratch.settings()["JAVA_XMS"] == "64m"
     panel.press("Exit")
     assert program.wait(20) == 0
+
+
+def test_configuration_that_is_a_link_stays_one(scratch):
+    real = os.path.join(scratch.home, "Wolke 日本", "meine.cfg")
+    os.mkdir(os.path.dirname(real))
+    os.symlink(real, scratch.configuration)
+    program, panel = scratch.first_start()
+    panel.press("Exit")
+    assert program.wait(20) == 0
+    assert os.path.islink(scratch.configuration)
+    assert len(scratch.settings()) == 111
+    assert os.listdir(scratch.config) == ["Tarnwickdefault.CFG"] and os.listdir(os.path.dirname(real)) == ["meine.cfg"]
+    program = scratch.start()
+    listens(Window("Tarnwick"))
+
+
+def test_configuration_that_is_a_pipe_holds_nobody_up(scratch):
+    os.mkfifo(scratch.configuration)
+    program = scratch.start()
+    # Nothing comes from it, no version either.
+    Window("Welcome to Tarnwick").press("OK")
+    decline(scratch, "No such device or address")
+    panel = Window("Tarnwick")
+    listens(panel)
+    panel.press("Exit")
+    assert program.wait(20) == 0
+    assert stat.S_ISFIFO(os.stat(scratch.configuration).st_mode)
+
+
+def test_configuration_folder_that_is_missing_is_made(scratch):
+    os.rmdir(scratch.config)
+    scratch.config = os.path.join(scratch.config, "tiefer 日本")
+    scratch.configuration = os.path.join(scratch.config, "Tarnwickdefault.CFG")
+    scratch.environment["TARNWICK_CFGDIR"] = scratch.config
+    program, panel = scratch.first_start()
+    assert len(scratch.settings()) == 111
+    panel.press("Exit")
+    assert program.wait(20) == 0
+    assert os.listdir(scratch.config) == ["Tarnwickdefault.CFG"]
+
+
+def test_huge_configuration(scratch):
+    """A line of a million characters, and very many lines of somebody else's."""
+    scratch.configured()
+    with open(scratch.configuration, "a", encoding="utf-8") as out:
+        out.write("JAVA_PROPERTY  " + "x" * 1000000 + "\n")
+    program = scratch.start()
+    panel = Window("Tarnwick")
+    listens(panel)
+    panel.press("Exit")
+    assert program.wait(20) == 0
+    with open(scratch.configuration, "w", encoding="utf-8") as out:
+        out.write("JAVA_XMS  64m\n" + "SOMEBODY  else's\n" * 100000)
+    program = scratch.start()
+    Window("Welcome to Tarnwick").press("OK")
+    Window("Tarnwick settings").press("Cancel")
+    listens(Window("Tarnwick"))
+    assert len(scratch.settings()) == 111 and scratch.settings()["JAVA_XMS"] == "64m"

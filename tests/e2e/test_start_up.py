@@ -5,6 +5,7 @@ import subprocess
 
 import person
 from person import Window, wait_until
+from test_locked_configuration import obey_permissions
 
 NO_CONFIGURATION = 'Tarnwickfile::open(): Don\'t know how to open ""\nFile '
 
@@ -142,6 +143,23 @@ def test_configuration_that_cannot_be_read_is_refused(scratch):
     is_refused(scratch, f"No such file or directory\nFile {missing}", rf'\/CFG="{missing}"\/')
     is_refused(scratch, f"Is a directory\nFile {scratch.work}", rf"\/CFG={scratch.work}\/")
     is_refused(scratch, "No such file or directory\nFile ", r"\/CFG=\/")
+
+
+def test_configuration_that_may_not_be_read_is_refused(scratch):
+    closed = console_configuration(scratch)
+    os.chmod(closed, 0)
+    obey_permissions(scratch)
+    is_refused(scratch, f"Permission denied\nFile {closed}", rf"\/CFG={closed}\/", r"\/RUN=", "X")
+
+
+def test_pipe_that_nobody_writes_to_is_not_waited_for(scratch):
+    pipe = os.path.join(scratch.work, "Rohr")
+    os.mkfifo(pipe)
+    is_refused(scratch, NO_CONFIGURATION, pipe)
+    line = switches(scratch, r"\/TITLE=x\/", r"\/RUN=")
+    line[2] = rf"\/CFG={pipe}\/"
+    program = scratch.start(*line)
+    ends(Window("x"), program)
 
 
 def test_configuration_with_a_bad_value_is_refused(scratch):

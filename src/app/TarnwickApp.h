@@ -6,6 +6,7 @@
 #include "dialogbase/Desktop.h"
 #include "platform/ProjectType.h"
 #include "process/ToolLog.h"
+#include "process/WinApp.h"
 #include "settings/Settings.h"
 
 #include <functional>
@@ -39,6 +40,8 @@ class TarnwickApp {
   bool debugging() const { return debugging_; }
   /// What CFG named; without name and mode before.
   const Tarnwickfile& configFile() const { return configFile_; }
+  /// What opens ".ZIP" files here, as the system told at construction; its command text is empty if nothing does.
+  const WinApp& zipApplication() const { return zipApplication_; }
 
   /// Opens the user's guide at an anchor such as "#paths", or at its top for the empty text.
   void showHelp(const std::string& anchor);
@@ -59,6 +62,7 @@ class TarnwickApp {
   Desktop& desktop_;
   ConsoleFrameHost& frameHost_;
   ProgramInfo program_;
+  WinApp zipApplication_;
   ToolLog log_;
   SettingsContext context_;
   Settings settings_;

@@ -129,13 +129,19 @@ TEST(ReplacingFile, WhatAKilledSaveHasLeftIsUsedByTheNext) {
 }
 
 TEST(ReplacingFile, AFolderUnderTheFreshFilesNameIsPassedOver) {
-  const ScratchFolder folder;
-  ASSERT_TRUE(platform::makeFolders(folder.file("x.cfg.1.tmp")));
-  ReplacingFile file(folder.file("x.cfg"));
-  std::fputs("new", file.stream());
-  file.commit();
-  EXPECT_EQ(contentOf(folder.file("x.cfg")), "new");
-  EXPECT_TRUE(platform::isFolder(folder.file("x.cfg.1.tmp")));
+  for (const bool thereBefore : {false, true}) {
+    const ScratchFolder folder;
+    if (thereBefore) writeFile(folder.file("x.cfg"), "old");
+    ASSERT_TRUE(platform::makeFolders(folder.file("x.cfg.1.tmp")));
+    ReplacingFile file(folder.file("x.cfg"));
+    EXPECT_TRUE(platform::isFile(folder.file("x.cfg.2.tmp")));
+    EXPECT_EQ(platform::isFile(folder.file("x.cfg")), thereBefore);
+    std::fputs("new", file.stream());
+    file.commit();
+    EXPECT_EQ(contentOf(folder.file("x.cfg")), "new");
+    EXPECT_TRUE(platform::isFolder(folder.file("x.cfg.1.tmp")));
+    EXPECT_FALSE(platform::isFile(folder.file("x.cfg.2.tmp")));
+  }
 }
 
 TEST(ReplacingFile, MoreSavesAtOnceThanThereAreNumbersFailAndLeaveTheTarget) {
@@ -179,6 +185,24 @@ TEST(ReplacingFile, AFolderAsTargetThrowsWhatOpeningItForWritingThrows) {
     EXPECT_EQ(failure.file, folder.file("inner"));
   }
   EXPECT_EQ(namesIn(folder), Names{"inner"});
+}
+
+TEST(ReplacingFile, ATargetThatBecomesAFolderMeanwhileThrowsAndLeavesNothingBesideIt) {
+  const ScratchFolder folder;
+  {
+    ReplacingFile file(folder.file("x.cfg"));
+    std::fputs("new", file.stream());
+    ASSERT_TRUE(platform::makeFolders(folder.file("x.cfg")));
+    try {
+      file.commit();
+      ADD_FAILURE() << "nothing was thrown";
+    } catch (const Tarnwickfile::FileNotOpenE& failure) {
+      EXPECT_EQ(failure.message, platform::folderSeparator == '/' ? "Is a directory" : "Permission denied");
+      EXPECT_EQ(failure.file, folder.file("x.cfg"));
+    }
+    EXPECT_FALSE(file.isOpen());
+  }
+  EXPECT_EQ(namesIn(folder), Names{"x.cfg"});
 }
 
 TEST(ReplacingFile, AFolderThatCannotBeMadeThrowsWithTheTargetsName) {

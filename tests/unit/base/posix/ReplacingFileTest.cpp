@@ -1,6 +1,7 @@
 #include "base/ReplacingFile.h"
 #include "platform/FileSystem.h"
 #include "support/TestProgram.h"
+#include "support/posix/OwnDevice.h"
 
 #include <csignal>
 #include <cstdio>
@@ -103,6 +104,46 @@ TEST(PosixReplacingFile, TheTargetKeepsItsPermissions) {
   EXPECT_EQ(contentOf(folder.file("x.cfg")), "new");
 }
 
+TEST(PosixReplacingFile, ANewTargetHasThePermissionsOfAnyNewFile) {
+  const ScratchFolder folder;
+  const mode_t before = ::umask(027);
+  EXPECT_EQ(failureOfSave(folder.file("x.cfg")), "");
+  ::umask(before);
+  EXPECT_EQ(permissionsOf(folder.file("x.cfg")), 0640u);
+}
+
+TEST(PosixReplacingFile, WhatIsToReplaceAFileIsItsOwnersAloneUntilItDoes) {
+  const ScratchFolder folder;
+  writeFile(folder.file("x.cfg"), "old");
+  ASSERT_EQ(::chmod(folder.file("x.cfg").c_str(), 0644), 0);
+  ReplacingFile file(folder.file("x.cfg"));
+  EXPECT_EQ(permissionsOf(folder.file("x.cfg.1.tmp")), 0600u);
+  file.commit();
+  EXPECT_EQ(permissionsOf(folder.file("x.cfg")), 0644u);
+}
+
+TEST(PosixReplacingFile, AFreshFileOfAnotherUserIsPassedOver) {
+  if (::geteuid() != 0) GTEST_SKIP() << "only root can make another user's file";
+  const ScratchFolder folder;
+  writeFile(folder.file("x.cfg"), "old");
+  writeFile(folder.file("x.cfg.1.tmp"), "theirs");
+  ASSERT_EQ(::chown(folder.file("x.cfg.1.tmp").c_str(), 65534, 65534), 0);
+  EXPECT_EQ(failureOfSave(folder.file("x.cfg")), "");
+  EXPECT_EQ(contentOf(folder.file("x.cfg")), "new");
+  EXPECT_EQ(contentOf(folder.file("x.cfg.1.tmp")), "theirs");
+  EXPECT_EQ(countIn(folder), 2);
+}
+
+TEST(PosixReplacingFile, ALinkUnderTheFreshFilesNameIsPassedOver) {
+  const ScratchFolder folder;
+  writeFile(folder.file("x.cfg"), "old");
+  writeFile(folder.file("precious"), "content");
+  std::filesystem::create_symlink("precious", folder.file("x.cfg.1.tmp"));
+  EXPECT_EQ(failureOfSave(folder.file("x.cfg")), "");
+  EXPECT_EQ(contentOf(folder.file("x.cfg")), "new");
+  EXPECT_EQ(contentOf(folder.file("precious")), "content");
+}
+
 TEST(PosixReplacingFile, ATargetThatIsALinkStaysOne) {
   const ScratchFolder folder;
   ASSERT_TRUE(platform::makeFolders(folder.file("inner")));
@@ -193,6 +234,7 @@ TEST(PosixReplacingFile, AFailedSaveInAFolderThatTakesNoNewFileLeavesTheTargetWh
     std::fflush(file.stream());
     EXPECT_EQ(contentOf(target), "old") << "nothing happens before the commit";
     EXPECT_EQ(countIn(temporary), 1);
+    EXPECT_EQ(permissionsOf(temporary.file("tarnwick-save.1.tmp")), 0600u) << "anybody may look in there";
   }
   EXPECT_EQ(contentOf(target), "old");
   {
@@ -271,13 +313,17 @@ TEST(PosixReplacingFile, ADiskThatFailsAfterAnyCountOfBytesCostsNothing) {
 }
 
 TEST(PosixReplacingFile, ADeviceIsWrittenAndNotReplaced) {
-  EXPECT_EQ(failureOfSave("/dev/null"), "");
-  EXPECT_TRUE(std::filesystem::is_character_file("/dev/null"));
+  const test::OwnDevice device("null", 3);
+  if (!device.isUsable()) GTEST_SKIP() << test::noOwnDevice;
+  EXPECT_EQ(failureOfSave(device.path()), "");
+  EXPECT_TRUE(std::filesystem::is_character_file(device.path()));
 }
 
 TEST(PosixReplacingFile, AFullDiskIsTold) {
-  EXPECT_EQ(failureOfSave("/dev/full"), "No space left on device");
-  EXPECT_TRUE(std::filesystem::is_character_file("/dev/full"));
+  const test::OwnDevice device("full", 7);
+  if (!device.isUsable()) GTEST_SKIP() << test::noOwnDevice;
+  EXPECT_EQ(failureOfSave(device.path()), "No space left on device");
+  EXPECT_TRUE(std::filesystem::is_character_file(device.path()));
 }
 
 }  // namespace

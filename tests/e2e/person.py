@@ -100,6 +100,16 @@ class Control:
         time.sleep(0.2)
 
 
+def standing(what, find):
+    """What `find` sees, once it stays where it is: a window that has just come is still being placed, and a click goes
+    where a control was seen."""
+    def steady():
+        before, again = find(), find()
+        places = [[one.area for one in seen.all()] for seen in (before, again) if seen]
+        return again if len(places) == 2 and places[0] == places[1] else None
+    return wait_until(what, steady)
+
+
 class Window:
     """A window by its title. Each question looks at the screen anew."""
 

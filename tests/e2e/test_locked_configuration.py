@@ -40,7 +40,7 @@ def fill_disk(scratch):
 
 
 def press_ok():
-    box = wait_until("a message box", lambda: next(
+    box = person.standing("a message box", lambda: next(
         (one for one in person.look() if one.role in ("alert", "dialog") and
          any(child.label == "OK" for child in one.all())), None))
     next(child for child in box.all() if child.label == "OK").click()

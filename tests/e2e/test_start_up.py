@@ -50,7 +50,7 @@ def box_that_says(words):
     def found():
         return next((window for window in person.look() if any(one.name == words for one in window.all())), None)
     try:
-        box = wait_until(f"the message {words!r}", found)
+        box = person.standing(f"the message {words!r}", found)
     except person.NotSeen as nothing:
         raise AssertionError([[one.name for one in window.all()] for window in person.look()]) from nothing
     assert len(person.look()) == 1
@@ -208,7 +208,7 @@ def test_child_that_cannot_be_started_is_told_and_only_the_close_box_ends_its_co
     os.remove(missing)
     program = scratch.start(*line)
     words = f"Can't start {missing}\nCreateProcess error 2\nNo such file or directory"
-    press_ok(wait_until("the message", lambda: next(
+    press_ok(person.standing("the message", lambda: next(
         (window for window in person.look() if any(one.name == words for one in window.all())), None)))
     console = Window("x")
     console.activate()

@@ -58,7 +58,7 @@ def test_line_of_switches_opens_a_console_whose_child_bears_the_folded_name(scra
     # The system's box sets the first words apart, in larger letters.
     warning = ["Javac settings:", "As of JDK 1.2, you can combine -g and -O, but you may get surprising results,\n"
                "such as missing variables or relocated or missing code."]
-    box = wait_until("the warning", lambda: next(
+    box = person.standing("the warning", lambda: next(
         (one for one in person.look() if [child.name for child in one.all()][-3:-1] == warning), None))
     press_ok(box)
     console = Window("Main")

@@ -130,6 +130,10 @@ TEST_F(ParseSwitches, RunIsTheLastSwitch) {
   EXPECT_EQ(app().runArguments(), "Main \\/TITLE=b\\/ \\/JDEBUG\\/");
   EXPECT_EQ(app().title(), "a");
   EXPECT_FALSE(app().debugging());
+  // Whether its marks come in pairs or not.
+  EXPECT_TRUE(parse("\\/RUN=Main \\/ \\/TITLE=b\\/"));
+  EXPECT_EQ(app().runArguments(), "Main \\/ \\/TITLE=b\\/");
+  EXPECT_EQ(app().title(), "a");
 }
 
 TEST_F(ParseSwitches, RunDropsOneCharacterBehindItsNameWhateverItIs) {

@@ -28,6 +28,7 @@ TEST(SwitchLine, BlanksOnTheLeftOfAValueGoThoseOnTheRightStay) {
   EXPECT_EQ(all("\\/TITLE=  x\\/")[0].value, "x");
   EXPECT_EQ(all("\\/TITLE=x  \\/")[0].value, "x  ");
   EXPECT_EQ(all("\\/TITLE=   \\/")[0].value, "");
+  EXPECT_EQ(all("\\/TITLE= \tx\\/")[0].value, "\tx") << "a tab is no blank";
 }
 
 TEST(SwitchLine, OneEqualsSignIsDropped) {

@@ -102,6 +102,7 @@ TEST_F(TarnwickAppTest, ASwitchLineOpensTheConsole) {
   EXPECT_EQ(app().run("\\/TITLE=Main\\/ " + cfg(configFile()) + "\\/RUN=Main"), 0);
   EXPECT_EQ(host_.runs, 1);
   EXPECT_EQ(host_.title, "Main");
+  EXPECT_FALSE(app().configFile().isOpen()) << "the configuration is free again";
   EXPECT_FALSE(host_.jdbHelp);
   EXPECT_FALSE(host_.cut) << "nothing answers to Shift+Delete";
   EXPECT_TRUE(host_.save);

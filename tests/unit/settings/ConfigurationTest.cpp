@@ -2,6 +2,7 @@
 #include "settings/AlternateLocationDlg.h"
 #include "support/SettingsFixture.h"
 
+#include <filesystem>
 #include <gtest/gtest.h>
 #include <memory>
 #include <optional>
@@ -201,6 +202,22 @@ TEST_F(ConfigurationTest, SavesOnlyWhenTheWindowHasMoved) {
   settings().saveIfWindowMoved();
   EXPECT_NE(written().find("\nWINDOW_POSITION  7;10\n"), std::string::npos);
   EXPECT_FALSE(settings().windowPosition.hasMoved()) << "the save takes the new place";
+
+  struct Project : OpenProject {
+    explicit Project(int& count) : saves(count) {}
+    void save() override { ++saves; }
+    std::string name() const override { return "p"; }
+    std::string quotedPath() const override { return "p.twp"; }
+    int& saves;
+  };
+  int saves = 0;
+  settings().currentProject = std::make_unique<Project>(saves);
+  settings().saveIfWindowMoved();
+  EXPECT_EQ(saves, 0);
+  window->moveByHand({8, 10});
+  settings().saveIfWindowMoved();
+  EXPECT_EQ(saves, 1) << "with a project open, the project is what is saved";
+  EXPECT_NE(written().find("\nWINDOW_POSITION  7;10\n"), std::string::npos);
   context_.mainWindow = nullptr;
 }
 
@@ -244,6 +261,18 @@ TEST_F(FailedSaveTest, TheTitleIsThePrintableStartOfTheMessage) {
     AlternateLocationDlg dialog(desktop_, program_, Tarnwickfile::FileNotOpenE(std::string("Refused") + end, "x"));
     EXPECT_EQ(dialog.runModal(), DIALOG_CANCEL);
   }
+}
+
+TEST_F(FailedSaveTest, CancelSavesNothingThoughItWouldGoMeanwhile) {
+  desktop_.expectDialog(reason_, [&](ScriptedWindow& window) {
+    std::filesystem::remove(defaultConfigurationName);
+    window.press(IDCANCEL_CONTROL);
+  });
+  desktop_.expectMessage(reason_ + "\nCan't save configuration data in " + configFile());
+  platform::changeDirectory(configFolder());
+  settings().saveCurrent();
+  EXPECT_FALSE(platform::isFolder(configFile()));
+  EXPECT_FALSE(platform::isFile(configFile()));
 }
 
 TEST_F(FailedSaveTest, CancelKeepsThePathAndTheEnvironment) {

@@ -137,5 +137,31 @@ TEST(OptionList, DrivesItsComboBoxAndField) {
   EXPECT_EQ(list.toString(), "");
 }
 
+TEST(OptionList, NoWindowIsIgnoredAlsoWhereOneIsAttached) {
+  using namespace tarnwick::layout;
+  NoRules rules;
+  const DialogLayout dialog = {1, "", false, column({comboBox(28, {"Default", "1.1"}), edit(22, 10)}), 0};
+  ScriptedWindow window(dialog, rules);
+  OptionList list(javacTargetOptions);
+  list.attach(&window, 28, 22);
+  EXPECT_EQ(window.selection(28), 0);
+  list.attach(nullptr, 29, -1);
+  list.selectIndex(1);
+  EXPECT_EQ(window.selection(28), 1);
+  EXPECT_EQ(list.shownOption(), "-target 1.1");
+}
+
+TEST(OptionList, ATextThatTheListCannotHoldShowsNoOption) {
+  using namespace tarnwick::layout;
+  NoRules rules;
+  const DialogLayout dialog = {1, "", false, column({comboBox(28, {"Pre-1.4", "1.4", "1.5"})}), 0};
+  ScriptedWindow window(dialog, rules);
+  OptionList list(javacVersionOptions, "9");
+  list.attach(&window, 28, -1);
+  EXPECT_EQ(list.currentIndex(), -1);
+  EXPECT_EQ(list.shownOption(), "");
+  EXPECT_EQ(list.toString(), "9") << "there is no field that it could come from";
+}
+
 }  // namespace
 }  // namespace tarnwick::test

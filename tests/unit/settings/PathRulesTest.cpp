@@ -55,6 +55,7 @@ TEST(PathRules, ASeparatorInTheFirstPlaceMakesAnEmptyName) {
 
 TEST(PathRules, ANameIsCutAtItsClassEndingWhereverThatStands) {
   EXPECT_EQ(assertionOptions("a.Class.b", "-da:"), "-da:a ");
+  EXPECT_EQ(assertionOptions("a.class.b.class", "-da:"), "-da:a ") << "where it stands first";
   EXPECT_EQ(assertionOptions(".class", "-da:"), "-da: ");
   EXPECT_EQ(assertionOptions("p.MyClass", "-da:"), "-da:p.MyClass ");
 }

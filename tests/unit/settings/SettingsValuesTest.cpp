@@ -111,8 +111,10 @@ TEST_F(SettingsValuesTest, AnUnknownLayoutMeansVertical) {
   EXPECT_EQ(layout.value, LayoutValue::HORIZONTAL);
   layout.fromString("DIAGONAL");
   EXPECT_EQ(layout.value, LayoutValue::VERTICAL);
-  layout.value = 17;
-  EXPECT_EQ(layout.toString(), "VERTICAL");
+  for (const int none : {17, 3, -1}) {
+    layout.value = none;
+    EXPECT_EQ(layout.toString(), "VERTICAL") << none;
+  }
 }
 
 }  // namespace

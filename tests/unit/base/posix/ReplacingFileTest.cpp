@@ -144,6 +144,15 @@ TEST(PosixReplacingFile, ALinkUnderTheFreshFilesNameIsPassedOver) {
   EXPECT_EQ(contentOf(folder.file("precious")), "content");
 }
 
+TEST(PosixReplacingFile, APipeUnderTheFreshFilesNameIsPassedOver) {
+  const ScratchFolder folder;
+  writeFile(folder.file("x.cfg"), "old");
+  ASSERT_EQ(::mkfifo(folder.file("x.cfg.1.tmp").c_str(), 0600), 0);
+  EXPECT_EQ(failureOfSave(folder.file("x.cfg")), "");
+  EXPECT_EQ(contentOf(folder.file("x.cfg")), "new");
+  EXPECT_TRUE(std::filesystem::is_fifo(folder.file("x.cfg.1.tmp")));
+}
+
 TEST(PosixReplacingFile, ATargetThatIsALinkStaysOne) {
   const ScratchFolder folder;
   ASSERT_TRUE(platform::makeFolders(folder.file("inner")));

@@ -1,6 +1,7 @@
 #include "ui/WxTopWindow.h"
 
 #include "ui/Icons.h"
+#include "ui/ScreenPlace.h"
 #include "ui/Text.h"
 #include "ui/Toolkit.h"
 
@@ -157,7 +158,8 @@ std::optional<Point> WxTopWindow::position() const {
 
 void WxTopWindow::moveTo(const Point& leftTop) {
   moved_ = true;
-  moveWindow(*dialog_, leftTop);
+  const wxSize size = dialog_->GetSize();
+  moveWindow(*dialog_, withinReach(leftTop, size.x, size.y, presentScreens()));
 }
 
 }  // namespace tarnwick::ui

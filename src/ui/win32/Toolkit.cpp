@@ -76,9 +76,15 @@ bool handlesKey() {
 }
 
 std::optional<Point> normalPosition(const wxTopLevelWindow& window) {
+  const auto handle = static_cast<HWND>(window.GetHandle());
+  RECT now{};
+  // A placement counts from the task bar where that stands above or on the left, and windows are moved in the
+  // coordinates of the screen: by the placement a window would creep a little at each start.
+  if (!IsIconic(handle) && GetWindowRect(handle, &now))
+    return Point{static_cast<int>(now.left), static_cast<int>(now.top)};
   WINDOWPLACEMENT placement{};
   placement.length = sizeof placement;
-  if (!GetWindowPlacement(static_cast<HWND>(window.GetHandle()), &placement)) return std::nullopt;
+  if (!GetWindowPlacement(handle, &placement)) return std::nullopt;
   return Point{static_cast<int>(placement.rcNormalPosition.left), static_cast<int>(placement.rcNormalPosition.top)};
 }
 

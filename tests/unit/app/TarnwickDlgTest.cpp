@@ -103,6 +103,18 @@ TEST_F(TarnwickDlgTest, OneUnknownTagCountsAsAFirstUseUntilItIsSavedAway) {
   runPanel([](ScriptedWindow&, ScriptedWindow& panel) { exit(panel); });
 }
 
+TEST_F(TarnwickDlgTest, ABadOrMissingValueCountsAsAFirstUseToo) {
+  for (const char* row : {"FILEVIEW_TAB  12x\n", "FILEVIEW_TAB\n"}) {
+    saveEarlierRun();
+    writeFile(configFile(), contentOf(configFile()) + row);
+    expectWelcome(firstUse, platform::localText(lookForJavac));
+    desktop_.expectDialog("Tarnwick settings", [](ScriptedWindow& window) { window.press(IDCANCEL_CONTROL); });
+    runPanel([](ScriptedWindow&, ScriptedWindow& panel) { exit(panel); });
+    // What was saved then is whole: the next start asks nothing.
+    runPanel([](ScriptedWindow&, ScriptedWindow& panel) { exit(panel); });
+  }
+}
+
 TEST_F(TarnwickDlgTest, AConfigurationThatIsThereTakesAFoundJdkOnlyWithOk) {
   const ScopedEnvironment javaHome("JAVA_HOME", makeJdk("25"));
   const std::string found =

@@ -110,6 +110,7 @@ void WxTopWindow::onKey(wxKeyEvent& event) {
 
 void WxTopWindow::onEscape() {
   if (!windowOf(IDCANCEL_CONTROL)) {
+    askChildrenToClose();
     guard([this] { handler().onCloseRequest(); });
   } else if (hasUsable(IDCANCEL_CONTROL)) {
     command(IDCANCEL_CONTROL);

@@ -167,6 +167,33 @@ TEST_P(PanelsWindowTest, TheLayoutButtonsSizeTheWindowAndLeaveItsPlace) {
   run();
 }
 
+class LeavingTest : public PanelsWindowTest {
+ protected:
+  void waitUntilMovedByHand() {
+    waitForView();
+    steps.then("move it by hand", [this] { top().dialog().Move(61, 72); });
+    steps.until("it is there", [this] { return top().position() == Point{61, 72}; });
+  }
+
+  bool placeIsSaved() const {
+    return contentOf(scratch_.file("Tarnwickdefault.CFG")).find("WINDOW_POSITION  61;72") != std::string::npos;
+  }
+};
+
+TEST_P(LeavingTest, EscapeNotesWhereTheWindowStands) {
+  waitUntilMovedByHand();
+  steps.then("Escape", [] { key(WXK_ESCAPE); });
+  TarnwickDlg(settings_).runModal();
+  EXPECT_TRUE(placeIsSaved());
+}
+
+TEST_P(LeavingTest, TheCloseBoxDoesNot) {
+  waitUntilMovedByHand();
+  steps.then("close box", [this] { top().dialog().Close(); });
+  TarnwickDlg(settings_).runModal();
+  EXPECT_FALSE(placeIsSaved());
+}
+
 TEST_P(PanelsWindowTest, TabReachesWhateverCanBeUsedInTheOrderOfReading) {
   const auto reached = std::make_shared<Stops>();
   waitForView();
@@ -195,6 +222,9 @@ INSTANTIATE_TEST_SUITE_P(Views, PanelsWindowTest,
                          testing::Values(View{LayoutValue::VERTICAL, false}, View{LayoutValue::HORIZONTAL, false},
                                          View{LayoutValue::FLAT, false}, View{LayoutValue::VERTICAL, true},
                                          View{LayoutValue::HORIZONTAL, true}, View{LayoutValue::FLAT, true}),
+                         [](const auto& info) { return nameOf(info.param); });
+INSTANTIATE_TEST_SUITE_P(Views, LeavingTest,
+                         testing::Values(View{LayoutValue::VERTICAL, false}, View{LayoutValue::HORIZONTAL, true}),
                          [](const auto& info) { return nameOf(info.param); });
 INSTANTIATE_TEST_SUITE_P(Views, FlatFileViewTest, testing::Values(View{LayoutValue::FLAT, false}));
 

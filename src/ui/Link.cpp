@@ -58,9 +58,10 @@ void Link::paint() {
 }
 
 void Link::onKey(wxKeyEvent& event) {
-  const bool isReturn = event.GetKeyCode() == WXK_RETURN || event.GetKeyCode() == WXK_NUMPAD_ENTER;
-  if (isReturn && event.GetModifiers() == wxMOD_NONE) {
-    SendEvent();  // or Return would press the dialog's default button
+  const int code = event.GetKeyCode();
+  const bool presses = code == WXK_RETURN || code == WXK_NUMPAD_ENTER || code == WXK_SPACE;
+  if (presses && event.GetModifiers() == wxMOD_NONE) {
+    SendEvent();  // left alone, Return would press the dialog's default button
   } else {
     event.Skip();
   }

@@ -97,7 +97,7 @@ wxWindow* makeEdit(wxWindow& parent, const DialogItem& item) {
 wxWindow* makeWindow(wxWindow& parent, const DialogItem& item) {
   switch (item.kind) {
     case ItemKind::Group:
-      return new wxStaticBox(&parent, wxID_ANY, toWx(item.text));
+      return makeFrame(parent, toWx(item.text));
     case ItemKind::Icon:
       return new wxStaticBitmap(&parent, wxID_ANY, iconBitmap(parent.FromDIP(48)));
     case ItemKind::Heading:

@@ -8,7 +8,9 @@
 #include <wx/button.h>
 #include <wx/dcscreen.h>
 #include <wx/dialog.h>
+#include <wx/textctrl.h>
 
+#include <map>
 #include <memory>
 
 namespace tarnwick::test {
@@ -30,6 +32,21 @@ std::string nameOf(const View& view) {
 
 std::ostream& operator<<(std::ostream& out, const View& view) {
   return out << nameOf(view);
+}
+
+using Bytes = std::vector<unsigned char>;
+
+/// The outermost pixels of a window as the screen shows them. (On Linux the toolkit's picture of the screen never
+/// changes; there no group paints over anything.)
+Bytes rimOf(const wxWindow& window) {
+  const wxRect all = window.GetScreenRect();
+  Bytes rim;
+  for (const wxRect& side : {wxRect(all.x, all.y, all.width, 1), wxRect(all.x, all.GetBottom(), all.width, 1),
+                             wxRect(all.x, all.y, 1, all.height), wxRect(all.GetRight(), all.y, 1, all.height)}) {
+    const wxImage picture = screen(side);
+    rim.insert(rim.end(), picture.GetData(), picture.GetData() + std::ptrdiff_t{3} * side.width * side.height);
+  }
+  return rim;
 }
 
 class PanelsWindowTest : public WindowTest, public testing::WithParamInterface<View> {
@@ -105,6 +122,31 @@ TEST_P(PanelsWindowTest, EveryControlShowsWholeInsideTheWindow) {
       expectGoodLooks(panel());
     });
   }
+  run();
+}
+
+TEST_P(PanelsWindowTest, NoControlIsPaintedOverByItsGroup) {
+  std::map<int, Bytes> atFirst;
+  const auto eachControl = [this](const std::function<void(int, wxWindow&)>& look) {
+    for (const int control : panel().controls()) {
+      wxWindow& one = *panel().windowOf(control);
+      const bool isMeant = dynamic_cast<wxButton*>(&one) || dynamic_cast<wxTextCtrl*>(&one);
+      if (isMeant && one.IsShownOnScreen()) look(control, one);
+    }
+  };
+  waitForView();
+  steps.settle(20);
+  steps.then("look", [&] {
+    eachControl([&](int control, wxWindow& one) {
+      atFirst[control] = rimOf(one);
+      one.Refresh();
+    });
+  });
+  steps.settle(20);
+  steps.then("look again", [&] {
+    EXPECT_GE(atFirst.size(), 5U);
+    eachControl([&](int control, wxWindow& one) { EXPECT_EQ(rimOf(one), atFirst[control]) << control; });
+  });
   run();
 }
 

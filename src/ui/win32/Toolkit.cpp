@@ -9,6 +9,7 @@
 #include <wx/menu.h>
 #include <wx/msw/private.h>
 #include <wx/notebook.h>
+#include <wx/statbox.h>
 #include <wx/stattext.h>
 #include <wx/toplevel.h>
 
@@ -32,6 +33,18 @@ class SpokenName : public wxAccessible {
 
  private:
   wxString name_;
+};
+
+/// The toolkit repaints a strip along each edge, wider with finer pixels, and with it whatever stands in the strip.
+class Frame : public wxStaticBox {
+ public:
+  using wxStaticBox::wxStaticBox;
+
+  void GetBordersForSizer(int* top, int* other) const override {
+    constexpr int line = 4;
+    wxStaticBox::GetBordersForSizer(top, other);
+    *other = std::min(*other, line);
+  }
 };
 
 }  // namespace
@@ -62,6 +75,10 @@ std::string spokenName(wxWindow& control) {
   const auto before = GetWindow(static_cast<HWND>(control.GetHandle()), GW_HWNDPREV);
   const auto* const label = dynamic_cast<wxStaticText*>(wxFindWinFromHandle(before));
   return label ? fromWx(wxControl::RemoveMnemonics(label->GetLabel())) : std::string();
+}
+
+wxStaticBox* makeFrame(wxWindow& parent, const wxString& title) {
+  return new Frame(&parent, wxID_ANY, title);
 }
 
 // The address is the window's text already.

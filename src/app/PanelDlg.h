@@ -64,6 +64,7 @@ class PanelDlg : public TabbedDialog {
 
   void initialise(DialogWindow& window) override;
   void onCommand(int control) override;
+  /// Escape; the main window then ends.
   void onCloseRequest() override { settings_.saveIfWindowMoved(); }
 
   /// Tells the panel the other one and the label of its button that switches to it.

@@ -22,7 +22,7 @@ class TarnwickDlg : public ToolTipDlg {
 
  protected:
   // Return ends nothing here. The close box ends the dialog without the save of a moved window, which is meant: that
-  // is Exit's.
+  // is done by Exit, and by Escape through the panel that shows.
   void onOk() override {}
 
  private:

@@ -112,7 +112,7 @@ class DialogHandler {
   virtual void onSelectionChanged(int /*control*/) {}
   /// The user pressed an entry of a list twice.
   virtual void onDoubleClick(int /*control*/) {}
-  /// The title bar's close box, or Escape where no Cancel button stands.
+  /// The title bar's close box; or Escape where no Cancel button stands, of which child windows that show hear first.
   virtual void onCloseRequest() = 0;
   /// The window is about to go; nothing may address it afterwards.
   virtual void detached() {}

@@ -53,28 +53,28 @@ void ToolTipDlg::close(int result) {
 }
 
 void ToolTipDlg::scrollFieldToEnd(int control) {
-  window_->scrollToEnd(control);
+  if (window_) window_->scrollToEnd(control);
 }
 
 void ToolTipDlg::setFieldText(int control, const std::string& text) {
-  window_->setText(control, text);
+  if (window_) window_->setText(control, text);
   scrollFieldToEnd(control);
 }
 
 void ToolTipDlg::showControl(int control, bool show) {
-  window_->show(control, show);
+  if (window_) window_->show(control, show);
 }
 void ToolTipDlg::enableControl(int control, bool enable) {
-  window_->enable(control, enable);
+  if (window_) window_->enable(control, enable);
 }
 void ToolTipDlg::moveControl(int control, const Rect& rect) {
-  window_->setRect(control, rect);
+  if (window_) window_->setRect(control, rect);
 }
 bool ToolTipDlg::isControlVisible(int control) const {
-  return window_->visible(control);
+  return window_ && window_->visible(control);
 }
 Rect ToolTipDlg::getControlRect(int control) const {
-  return window_->rect(control);
+  return window_ ? window_->rect(control) : Rect();
 }
 
 void ToolTipDlg::loadFromTags() {
@@ -170,22 +170,23 @@ void ToolTipDlg::storeToTags() {
 }
 
 int ToolTipDlg::getCheck(int control) const {
-  return window_->checked(control) ? 1 : 0;
+  return window_ && window_->checked(control) ? 1 : 0;
 }
 std::string ToolTipDlg::getText(int control) const {
-  return window_->text(control);
+  return window_ ? window_->text(control) : "";
 }
 
 void ToolTipDlg::askPathEntry(int control, const std::string& description) {
+  if (!window_) return;
   appendPathEntry(control, AddPathDlg(desktop_, description, getText(control)).runModal());
 }
 
 void ToolTipDlg::addFolderToField(int control) {
-  appendPathEntry(control, chosenFolderElement(desktop_));
+  if (window_) appendPathEntry(control, chosenFolderElement(desktop_));
 }
 
 void ToolTipDlg::appendPathEntry(int control, const std::string& entry) {
-  if (entry.empty()) return;
+  if (!window_ || entry.empty()) return;
   const std::string list = getText(control);
   setText(control, list.empty() ? entry : list + ";" + entry);
 }

@@ -20,8 +20,8 @@ const DialogLayout& horizontalBarLayout();
 /// 199: the button bar of the layout "FLAT".
 const DialogLayout& flatBarLayout();
 
-/// Slots of the main window.
-enum MainSlot { FILE_VIEW_SLOT = 1, PROJECT_VIEW_SLOT = 2 };
+/// Slots of the main window. They bear the numbers of what fills them; 1 and 2 would stand for OK and Cancel.
+enum MainSlot { FILE_VIEW_SLOT = 130, PROJECT_VIEW_SLOT = 157 };
 /// Slots of a panel.
 enum PanelSlot { VERTICAL_BAR_SLOT = 197, HORIZONTAL_BAR_SLOT = 198, FLAT_BAR_SLOT = 199 };
 

@@ -1,6 +1,7 @@
 #include "ui/Controls.h"
 
 #include "ui/Icons.h"
+#include "ui/Link.h"
 #include "ui/Text.h"
 #include "ui/Toolkit.h"
 
@@ -8,7 +9,6 @@
 #include <wx/button.h>
 #include <wx/checkbox.h>
 #include <wx/combobox.h>
-#include <wx/hyperlink.h>
 #include <wx/listbox.h>
 #include <wx/notebook.h>
 #include <wx/panel.h>
@@ -18,9 +18,6 @@
 #include <wx/statbox.h>
 #include <wx/stattext.h>
 #include <wx/textctrl.h>
-
-// Needs its own family's header first, which on Linux does not bring it.
-#include <wx/generic/hyperlink.h>
 
 #include <algorithm>
 #include <cctype>
@@ -97,33 +94,10 @@ wxWindow* makeEdit(wxWindow& parent, const DialogItem& item) {
   return edit;
 }
 
-struct LinkColours {
-  wxColour usual = *wxBLUE;
-  wxColour underPointer = *wxRED;
-};
-
-/// Blue and red, pure wherever they can be read: on a dark theme they need some light.
-LinkColours linkColours() {
-  if (!wxSystemSettings::GetAppearance().IsUsingDarkBackground()) return {};
-  return {wxColour(110, 160, 255), wxColour(255, 120, 120)};
-}
-
-/// It never opens anything by itself.
-wxWindow* makeLink(wxWindow& parent, const std::string& address) {
-  auto* made = new wxGenericHyperlinkCtrl(&parent, wxID_ANY, toWx(address), toWx(address), wxDefaultPosition,
-                                          wxDefaultSize, wxHL_ALIGN_LEFT | wxNO_BORDER);
-  const LinkColours colours = linkColours();
-  made->SetNormalColour(colours.usual);
-  made->SetVisitedColour(colours.usual);
-  made->SetHoverColour(colours.underPointer);
-  describeLink(*made, address);
-  return made;
-}
-
 wxWindow* makeWindow(wxWindow& parent, const DialogItem& item) {
   switch (item.kind) {
     case ItemKind::Group:
-      return new wxStaticBox(&parent, wxID_ANY, toWx(item.text));
+      return makeFrame(parent, toWx(item.text));
     case ItemKind::Icon:
       return new wxStaticBitmap(&parent, wxID_ANY, iconBitmap(parent.FromDIP(48)));
     case ItemKind::Heading:
@@ -131,7 +105,7 @@ wxWindow* makeWindow(wxWindow& parent, const DialogItem& item) {
     case ItemKind::Label:
       return new Label(parent, item.text);
     case ItemKind::Link:
-      return makeLink(parent, item.text);
+      return new Link(parent, item.text);
     case ItemKind::Edit:
       return makeEdit(parent, item);
     case ItemKind::Button:

@@ -12,6 +12,8 @@
 class wxBitmap;
 class wxDC;
 class wxNotebook;
+class wxStaticBox;
+class wxString;
 class wxTopLevelWindow;
 class wxWindow;
 
@@ -37,6 +39,9 @@ std::string spokenName(wxWindow& control);
 
 /// Lets Tab stop once at a combo box, not at its arrow as well.
 void makeOneTabStop(wxWindow& comboBox);
+
+/// Makes the frame of a group, which leaves alone what stands 4 pixels from its edges.
+wxStaticBox* makeFrame(wxWindow& parent, const wxString& title);
 
 /// Tells readers of the screen that the toolkit's own drawing in this window is a link.
 void describeLink(wxWindow& link, const std::string& address);

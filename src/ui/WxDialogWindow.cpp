@@ -270,6 +270,14 @@ void WxDialogWindow::command(int control) {
   guard([&] { handler_.onCommand(control); });
 }
 
+void WxDialogWindow::askChildrenToClose() {
+  for (const auto& child : children_) {
+    if (!child->surface_.IsShownOnScreen()) continue;
+    child->askChildrenToClose();
+    guard([&child] { child->handler_.onCloseRequest(); });
+  }
+}
+
 const Control& WxDialogWindow::at(int control) const {
   const auto found = controls_.find(control);
   if (found == controls_.end()) throw std::out_of_range("no control " + std::to_string(control));

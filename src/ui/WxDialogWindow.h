@@ -80,6 +80,8 @@ class WxDialogWindow : public DialogWindow {
   WindowStack& stack() { return stack_; }
   bool hasUsable(int control) const;
   void command(int control);
+  /// Tells the child windows that show, the inner ones first, that the user asks to close.
+  void askChildrenToClose();
 
  private:
   const Control& at(int control) const;

@@ -1,6 +1,7 @@
 #include "ui/WxTopWindow.h"
 
 #include "ui/Icons.h"
+#include "ui/ScreenPlace.h"
 #include "ui/Text.h"
 #include "ui/Toolkit.h"
 
@@ -109,6 +110,7 @@ void WxTopWindow::onKey(wxKeyEvent& event) {
 
 void WxTopWindow::onEscape() {
   if (!windowOf(IDCANCEL_CONTROL)) {
+    askChildrenToClose();
     guard([this] { handler().onCloseRequest(); });
   } else if (hasUsable(IDCANCEL_CONTROL)) {
     command(IDCANCEL_CONTROL);
@@ -157,7 +159,8 @@ std::optional<Point> WxTopWindow::position() const {
 
 void WxTopWindow::moveTo(const Point& leftTop) {
   moved_ = true;
-  moveWindow(*dialog_, leftTop);
+  const wxSize size = dialog_->GetSize();
+  moveWindow(*dialog_, withinReach(leftTop, size.x, size.y, presentScreens()));
 }
 
 }  // namespace tarnwick::ui

@@ -1,6 +1,7 @@
 """The panel's three layouts and its two views."""
 
 from person import Window, key, wait_until, xdotool
+from test_start import settled_area
 
 # The names of the bar's small buttons for readers of the screen.
 WIDE, FLAT, TALL = "Wide layout", "Flat layout", "Tall layout"
@@ -100,3 +101,34 @@ def test_views_switch_and_share_the_layout(scratch):
     is_laid_out(scratch, panel, "VERTICAL", is_tall)
     panel.press("Exit")
     assert program.wait(20) == 0
+
+
+def test_escape_leaves_either_view_and_notes_where_the_window_stood(scratch):
+    scratch.configured()
+    for view, left, top in (("Fileview", 340, 210), ("Projectview", 120, 90)):
+        program, panel = scratch.start(), Window("Tarnwick")
+        if view == "Projectview":
+            panel.press(view)
+            assert panel.control("Fileview")
+        xdotool("windowmove", panel.x_number(), left, top)
+        place = settled_area(panel)
+        panel.activate()
+        key("Escape")
+        assert program.wait(20) == 0
+        program, panel = scratch.start(), Window("Tarnwick")
+        assert settled_area(panel)[:2] == place[:2], view
+        panel.close()
+        assert program.wait(20) == 0
+
+
+def test_window_of_a_screen_that_is_gone_shows_whole(scratch):
+    scratch.configured()
+    for place in ("5000;200", "200;5000", "2147483647;2147483647"):
+        scratch.change_settings(WINDOW_POSITION=place)
+        program, panel = scratch.start(), Window("Tarnwick")
+        left, top, width, height = settled_area(panel)
+        assert 0 <= left and left + width <= 1280 and 0 <= top and top + height <= 1024, (place, left, top)
+        panel.press("Exit")
+        assert program.wait(20) == 0
+        kept = [int(one) for one in scratch.settings()["WINDOW_POSITION"].split(";")]
+        assert kept[0] < 1280 and kept[1] < 1024, (place, kept)

@@ -1,6 +1,8 @@
 #include "ui/DialogFixture.h"
 #include "ui/Pixels.h"
 
+#include <wx/dialog.h>
+
 namespace tarnwick::test {
 
 TEST_F(DialogTest, PagesHearTheirOwnControlsAndCloseTheWholeDialog) {
@@ -30,6 +32,31 @@ TEST_F(DialogTest, AChildWindowHidesAndShows) {
   });
   thenClose();
   play();
+}
+
+TEST_F(DialogTest, ChildWindowsThatShowHearOfEscapeFirstAndNothingOfTheCloseBox) {
+  DialogLayout layout;
+  layout.title = "Two children";
+  layout.content =
+      layout::column({layout::button(7, "Go on"), layout::layers({layout::slot(8), layout::slot(9).hiddenAtFirst()})});
+  Heard closing;
+  rules.onInitialise = [this](DialogWindow& window) {
+    window.addChild(8, sampleBarLayout(), bar);
+    window.addChild(9, sampleBarLayout(), secondPage).showWindow(false);
+  };
+  bar.onClose = [&closing] { closing.emplace_back("child"); };
+  rules.onClose = [&] {
+    closing.emplace_back("dialog");
+    if (closing.size() > 2) rules.window->close(99);
+  };
+  waitForDialog();
+  steps.settle(5);
+  steps.then("Escape", [] { key(WXK_ESCAPE); });
+  steps.until("something is heard", [&closing] { return closing.size() >= 2; });
+  steps.then("close box", [this] { top().dialog().Close(); });
+  EXPECT_EQ(desktop().runDialog(layout, rules), 99);
+  EXPECT_EQ(closing, (Heard{"child", "dialog", "dialog"}));
+  EXPECT_EQ(secondPage.heard, Heard{"detached"}) << "it does not show";
 }
 
 TEST_F(DialogTest, ATabPageKeepsItsColourWhateverHappensAroundIt) {

@@ -125,7 +125,8 @@ TEST_P(DialogLayoutsTest, ReturnPressesTheDefaultButtonOrTheOneThatHasTheFocus) 
   waitForDialog();
   for (const auto& item : items) {
     if (found != items.end() && takesReturn(item)) expectReturnPresses(item.control, found->control);
-    if (item.kind == ItemKind::Button) expectReturnPresses(item.control, item.control);
+    const bool isPressed = item.kind == ItemKind::Button || item.kind == ItemKind::Link;
+    if (isPressed) expectReturnPresses(item.control, item.control);
   }
   run();
 }

@@ -1,5 +1,6 @@
 // A web address in a dialog, as a person sees and presses it.
 #include "ui/DialogFixture.h"
+#include "ui/Pixels.h"
 
 #include <wx/hyperlink.h>
 
@@ -15,7 +16,8 @@ constexpr int LINK = 10;
 DialogLayout linkLayout() {
   DialogLayout layout;
   layout.title = "A link";
-  layout.content = layout::column({layout::link(LINK, "https://one.example/"), layout::button(IDOK_CONTROL, "OK")});
+  layout.content =
+      layout::column({layout::link(LINK, "https://one.example/"), layout::button(IDOK_CONTROL, "OK").asDefault()});
   return layout;
 }
 
@@ -47,6 +49,46 @@ TEST_F(LinkTest, IsUnderlinedAndBlueAndRedUnderThePointer) {
     EXPECT_EQ(link().GetForegroundColour(), *wxBLUE);
     mouse(wxEVT_MOTION, lastPixelRow());
     EXPECT_EQ(link().GetForegroundColour(), *wxRED) << "the last row of pixels counts as inside";
+  });
+  thenClose();
+  desktop().runDialog(linkLayout(), rules);
+}
+
+TEST_F(LinkTest, TheKeyboardPressesItAndNotTheDefaultButton) {
+  steps.until("the dialog shows", [this] { return openDialogs() == 1 && top().dialog().IsActive(); });
+  steps.settle();
+  for (const int code : {WXK_RETURN, WXK_SPACE}) {
+    steps.then("focus", [this] {
+      rules.heard.clear();
+      link().SetFocus();
+    });
+    steps.until("focus", [this] { return wxWindow::FindFocus() == &link(); });
+    steps.then("press", [code] { key(code); });
+    steps.until("something is heard", [this] { return !rules.heard.empty(); });
+    steps.settle();
+    steps.then("look", [this, code] { EXPECT_EQ(rules.heard, Heard{"command 10"}) << code; });
+  }
+  thenClose();
+  desktop().runDialog(linkLayout(), rules);
+}
+
+TEST_F(LinkTest, ShowsThatItHasTheFocus) {
+  wxImage without;
+  steps.until("the dialog shows", [this] { return openDialogs() == 1 && top().dialog().IsActive(); });
+  steps.then("focus elsewhere", [this] { top().focus(IDOK_CONTROL); });
+  steps.settle(20);
+  steps.then("look", [&] {
+    without = pictureOf(link());
+    link().SetFocus();
+  });
+  steps.settle(20);
+  steps.then("look", [&] {
+    shoot("link-focus");
+    const wxImage with = pictureOf(link());
+    ASSERT_EQ(with.GetSize(), without.GetSize());
+    int changed = 0;
+    for (int x = 0; x < with.GetWidth(); ++x) changed += with.GetGreen(x, 0) != without.GetGreen(x, 0) ? 1 : 0;
+    EXPECT_GT(changed, with.GetWidth() / 4) << "the upper edge of a frame";
   });
   thenClose();
   desktop().runDialog(linkLayout(), rules);

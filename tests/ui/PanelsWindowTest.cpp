@@ -8,7 +8,9 @@
 #include <wx/button.h>
 #include <wx/dcscreen.h>
 #include <wx/dialog.h>
+#include <wx/textctrl.h>
 
+#include <map>
 #include <memory>
 
 namespace tarnwick::test {
@@ -30,6 +32,21 @@ std::string nameOf(const View& view) {
 
 std::ostream& operator<<(std::ostream& out, const View& view) {
   return out << nameOf(view);
+}
+
+using Bytes = std::vector<unsigned char>;
+
+/// The outermost pixels of a window as the screen shows them. (On Linux the toolkit's picture of the screen never
+/// changes; there no group paints over anything.)
+Bytes rimOf(const wxWindow& window) {
+  const wxRect all = window.GetScreenRect();
+  Bytes rim;
+  for (const wxRect& side : {wxRect(all.x, all.y, all.width, 1), wxRect(all.x, all.GetBottom(), all.width, 1),
+                             wxRect(all.x, all.y, 1, all.height), wxRect(all.GetRight(), all.y, 1, all.height)}) {
+    const wxImage picture = screen(side);
+    rim.insert(rim.end(), picture.GetData(), picture.GetData() + std::ptrdiff_t{3} * side.width * side.height);
+  }
+  return rim;
 }
 
 class PanelsWindowTest : public WindowTest, public testing::WithParamInterface<View> {
@@ -108,6 +125,31 @@ TEST_P(PanelsWindowTest, EveryControlShowsWholeInsideTheWindow) {
   run();
 }
 
+TEST_P(PanelsWindowTest, NoControlIsPaintedOverByItsGroup) {
+  std::map<int, Bytes> atFirst;
+  const auto eachControl = [this](const std::function<void(int, wxWindow&)>& look) {
+    for (const int control : panel().controls()) {
+      wxWindow& one = *panel().windowOf(control);
+      const bool isMeant = dynamic_cast<wxButton*>(&one) || dynamic_cast<wxTextCtrl*>(&one);
+      if (isMeant && one.IsShownOnScreen()) look(control, one);
+    }
+  };
+  waitForView();
+  steps.settle(20);
+  steps.then("look", [&] {
+    eachControl([&](int control, wxWindow& one) {
+      atFirst[control] = rimOf(one);
+      one.Refresh();
+    });
+  });
+  steps.settle(20);
+  steps.then("look again", [&] {
+    EXPECT_GE(atFirst.size(), 5U);
+    eachControl([&](int control, wxWindow& one) { EXPECT_EQ(rimOf(one), atFirst[control]) << control; });
+  });
+  run();
+}
+
 TEST_P(PanelsWindowTest, ThePagesStandWhereTheArrangementTookThemToStand) {
   waitForView();
   steps.then("look", [this] {
@@ -167,6 +209,33 @@ TEST_P(PanelsWindowTest, TheLayoutButtonsSizeTheWindowAndLeaveItsPlace) {
   run();
 }
 
+class LeavingTest : public PanelsWindowTest {
+ protected:
+  void waitUntilMovedByHand() {
+    waitForView();
+    steps.then("move it by hand", [this] { top().dialog().Move(61, 72); });
+    steps.until("it is there", [this] { return top().position() == Point{61, 72}; });
+  }
+
+  bool placeIsSaved() const {
+    return contentOf(scratch_.file("Tarnwickdefault.CFG")).find("WINDOW_POSITION  61;72") != std::string::npos;
+  }
+};
+
+TEST_P(LeavingTest, EscapeNotesWhereTheWindowStands) {
+  waitUntilMovedByHand();
+  steps.then("Escape", [] { key(WXK_ESCAPE); });
+  TarnwickDlg(settings_).runModal();
+  EXPECT_TRUE(placeIsSaved());
+}
+
+TEST_P(LeavingTest, TheCloseBoxDoesNot) {
+  waitUntilMovedByHand();
+  steps.then("close box", [this] { top().dialog().Close(); });
+  TarnwickDlg(settings_).runModal();
+  EXPECT_FALSE(placeIsSaved());
+}
+
 TEST_P(PanelsWindowTest, TabReachesWhateverCanBeUsedInTheOrderOfReading) {
   const auto reached = std::make_shared<Stops>();
   waitForView();
@@ -195,6 +264,9 @@ INSTANTIATE_TEST_SUITE_P(Views, PanelsWindowTest,
                          testing::Values(View{LayoutValue::VERTICAL, false}, View{LayoutValue::HORIZONTAL, false},
                                          View{LayoutValue::FLAT, false}, View{LayoutValue::VERTICAL, true},
                                          View{LayoutValue::HORIZONTAL, true}, View{LayoutValue::FLAT, true}),
+                         [](const auto& info) { return nameOf(info.param); });
+INSTANTIATE_TEST_SUITE_P(Views, LeavingTest,
+                         testing::Values(View{LayoutValue::VERTICAL, false}, View{LayoutValue::HORIZONTAL, true}),
                          [](const auto& info) { return nameOf(info.param); });
 INSTANTIATE_TEST_SUITE_P(Views, FlatFileViewTest, testing::Values(View{LayoutValue::FLAT, false}));
 

@@ -3,6 +3,7 @@
 #include <wx/bitmap.h>
 #include <wx/dc.h>
 #include <wx/notebook.h>
+#include <wx/statbox.h>
 #include <wx/toplevel.h>
 
 #include <algorithm>
@@ -83,6 +84,10 @@ std::string spokenName(wxWindow& control) {
   }
   g_object_unref(relations);
   return found;
+}
+
+wxStaticBox* makeFrame(wxWindow& parent, const wxString& title) {
+  return new wxStaticBox(&parent, wxID_ANY, title);
 }
 
 void describeLink(wxWindow& link, const std::string& address) {

@@ -9,6 +9,7 @@
 #include <wx/menu.h>
 #include <wx/msw/private.h>
 #include <wx/notebook.h>
+#include <wx/statbox.h>
 #include <wx/stattext.h>
 #include <wx/toplevel.h>
 
@@ -32,6 +33,18 @@ class SpokenName : public wxAccessible {
 
  private:
   wxString name_;
+};
+
+/// The toolkit repaints a strip along each edge, wider with finer pixels, and with it whatever stands in the strip.
+class Frame : public wxStaticBox {
+ public:
+  using wxStaticBox::wxStaticBox;
+
+  void GetBordersForSizer(int* top, int* other) const override {
+    constexpr int line = 4;
+    wxStaticBox::GetBordersForSizer(top, other);
+    *other = std::min(*other, line);
+  }
 };
 
 }  // namespace
@@ -64,6 +77,10 @@ std::string spokenName(wxWindow& control) {
   return label ? fromWx(wxControl::RemoveMnemonics(label->GetLabel())) : std::string();
 }
 
+wxStaticBox* makeFrame(wxWindow& parent, const wxString& title) {
+  return new Frame(&parent, wxID_ANY, title);
+}
+
 // The address is the window's text already.
 void describeLink(wxWindow&, const std::string&) {}
 
@@ -76,9 +93,15 @@ bool handlesKey() {
 }
 
 std::optional<Point> normalPosition(const wxTopLevelWindow& window) {
+  const auto handle = static_cast<HWND>(window.GetHandle());
+  RECT now{};
+  // A placement counts from the task bar where that stands above or on the left, and windows are moved in the
+  // coordinates of the screen: by the placement a window would creep a little at each start.
+  if (!IsIconic(handle) && GetWindowRect(handle, &now))
+    return Point{static_cast<int>(now.left), static_cast<int>(now.top)};
   WINDOWPLACEMENT placement{};
   placement.length = sizeof placement;
-  if (!GetWindowPlacement(static_cast<HWND>(window.GetHandle()), &placement)) return std::nullopt;
+  if (!GetWindowPlacement(handle, &placement)) return std::nullopt;
   return Point{static_cast<int>(placement.rcNormalPosition.left), static_cast<int>(placement.rcNormalPosition.top)};
 }
 

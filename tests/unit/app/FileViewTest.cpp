@@ -371,7 +371,7 @@ TEST_F(FileViewTest, ALogThatCannotBeMadeIsNoSuccess) {
   SettingsContext context{desktop_, program_, nowhere};
   Settings settings(context);
   desktop_.expectMainDialog([&](ScriptedWindow& main) {
-    auto& panel = main.child(1);
+    auto& panel = main.child(FILE_VIEW_SLOT);
     panel.type(SOURCE, quoted(source));
     desktop_.expectMessage("No such file or directory\nCan't open log file " + scratch_.file("gone") +
                            platform::folderSeparator + "Tarnwick_LOG1.tmp");

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/TarnwickDlg.h"
+#include "resources/PanelLayouts.h"
 #include "support/SettingsFixture.h"
 
 #include <functional>
@@ -45,7 +46,7 @@ class PanelFixture : public SettingsFixture {
 
   /// Runs the main dialog; the script plays the user of the file view and has to close it.
   void runPanel(const std::function<void(ScriptedWindow& main, ScriptedWindow& panel)>& script) {
-    desktop_.expectMainDialog([&](ScriptedWindow& main) { script(main, main.child(1)); });
+    desktop_.expectMainDialog([&](ScriptedWindow& main) { script(main, main.child(FILE_VIEW_SLOT)); });
     TarnwickDlg(settings()).runModal();
   }
 

@@ -1,4 +1,5 @@
 #include "AppFixture.h"
+#include "resources/PanelLayouts.h"
 
 namespace tarnwick::test {
 namespace {
@@ -82,7 +83,7 @@ TEST_F(TarnwickAppTest, NothingIsSavedAtExitUnlessTheWindowMoved) {
   settings().tarnwickVersion = program_.version;
   settings().saveDefaultConfiguration(nullptr);
   const auto exit = [this] {
-    desktop_.expectMainDialog([](ScriptedWindow& main) { main.child(1).child(197).press(2); });
+    desktop_.expectMainDialog([](ScriptedWindow& main) { main.child(FILE_VIEW_SLOT).child(197).press(2); });
     EXPECT_EQ(app().run(""), 0);
   };
   exit();
@@ -187,7 +188,7 @@ TEST_F(TarnwickAppTest, AConfigurationFolderWithoutItsWholePathStaysTheSameFolde
   desktop_.expectMainDialog([&](ScriptedWindow& main) {
     platform::changeDirectory(userFolder());
     main.moveByHand({7, 9});
-    main.child(1).child(197).press(2);
+    main.child(FILE_VIEW_SLOT).child(197).press(2);
   });
   EXPECT_EQ(app.run(""), 0);
   EXPECT_EQ(platform::environment("TARNWICK_CFGDIR"), whole) << "what we start gets it too";

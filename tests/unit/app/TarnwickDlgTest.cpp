@@ -103,6 +103,18 @@ TEST_F(TarnwickDlgTest, OneUnknownTagCountsAsAFirstUseUntilItIsSavedAway) {
   runPanel([](ScriptedWindow&, ScriptedWindow& panel) { exit(panel); });
 }
 
+TEST_F(TarnwickDlgTest, ABadOrMissingValueCountsAsAFirstUseToo) {
+  for (const char* row : {"FILEVIEW_TAB  12x\n", "FILEVIEW_TAB\n"}) {
+    saveEarlierRun();
+    writeFile(configFile(), contentOf(configFile()) + row);
+    expectWelcome(firstUse, platform::localText(lookForJavac));
+    desktop_.expectDialog("Tarnwick settings", [](ScriptedWindow& window) { window.press(IDCANCEL_CONTROL); });
+    runPanel([](ScriptedWindow&, ScriptedWindow& panel) { exit(panel); });
+    // What was saved then is whole: the next start asks nothing.
+    runPanel([](ScriptedWindow&, ScriptedWindow& panel) { exit(panel); });
+  }
+}
+
 TEST_F(TarnwickDlgTest, AConfigurationThatIsThereTakesAFoundJdkOnlyWithOk) {
   const ScopedEnvironment javaHome("JAVA_HOME", makeJdk("25"));
   const std::string found =
@@ -158,20 +170,23 @@ TEST_F(TarnwickDlgTest, TheSettingsOpenOnTheirFirstPage) {
 }
 
 TEST_F(TarnwickDlgTest, AnotherVersionIsAnUpgrade) {
-  saveEarlierRun();
-  std::string content = contentOf(configFile());
   const std::string line = "TARNWICK_VERSION  Tarnwick V4.7a";
-  content.replace(content.find(line), line.size(), "TARNWICK_VERSION  Tarnwick V4.6");
-  writeFile(configFile(), content);
-  expectWelcome(
-      "You seem to be upgrading from a previous Tarnwick version,\n"
-      "as far as I can tell from data from a previous session.",
-      "You may wish to review the javac options.\n"
-      "Depending on the JDK version, different options exist for\n"
-      "compiler warnings. They are not compatible across JDK versions,\n"
-      "so you should select the options appropriate for your JDK.");
-  runPanel([](ScriptedWindow&, ScriptedWindow& panel) { exit(panel); });
-  EXPECT_NE(contentOf(configFile()).find(line), std::string::npos);
+  // Versions are compared letter by letter.
+  for (const char* other : {"Tarnwick V4.6", "tarnwick v4.7A", "Tarnwick V4.7", "Tarnwick V4.7a1"}) {
+    saveEarlierRun();
+    std::string content = contentOf(configFile());
+    content.replace(content.find(line), line.size(), std::string("TARNWICK_VERSION  ") + other);
+    writeFile(configFile(), content);
+    expectWelcome(
+        "You seem to be upgrading from a previous Tarnwick version,\n"
+        "as far as I can tell from data from a previous session.",
+        "You may wish to review the javac options.\n"
+        "Depending on the JDK version, different options exist for\n"
+        "compiler warnings. They are not compatible across JDK versions,\n"
+        "so you should select the options appropriate for your JDK.");
+    runPanel([](ScriptedWindow&, ScriptedWindow& panel) { exit(panel); });
+    EXPECT_EQ(saved("TARNWICK_VERSION"), "Tarnwick V4.7a") << other;
+  }
 }
 
 TEST_F(TarnwickDlgTest, AnAbsentVersionLineIsAnUpgrade) {

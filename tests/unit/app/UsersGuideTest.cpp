@@ -68,6 +68,50 @@ TEST_F(UsersGuideTest, AGuideThatMovedIsAskedForAndRememberedWithTheAnchorKept) 
   EXPECT_EQ(settings().helpFile, moved) << "and learns it at the next save";
 }
 
+TEST_F(UsersGuideTest, AGuideThatWasChosenAndCannotBeReadIsAskedForAgain) {
+  settings().saveDefaultConfiguration(nullptr);
+  const std::string gone = userFolder() + "gone.htm";
+  const std::string there = userFolder() + "there.htm";
+  writeFile(there, "guide");
+  expectLost(guideBesideProgram(), [&](ScriptedWindow& dialog) {
+    desktop_.expectOpenFile(gone);
+    dialog.press(FIND);
+    expectLost(gone, [&](ScriptedWindow& second) {
+      EXPECT_EQ(storedPlace(), gone) << "what was chosen is remembered all the same";
+      desktop_.expectOpenFile(there);
+      second.press(FIND);
+      EXPECT_EQ(desktop_.lastRequest().startFolder, userFolder());
+    });
+  });
+  show("#paths");
+  EXPECT_EQ(opened_, std::vector{platform::documentAddress(there, "#paths")});
+  EXPECT_EQ(storedPlace(), there);
+}
+
+TEST_F(UsersGuideTest, ARepairChangesNothingElseInTheFile) {
+  settings().javaPath = "saved";
+  settings().saveDefaultConfiguration(nullptr);
+  settings().javaPath = "live";
+  const std::string moved = userFolder() + "moved.htm";
+  writeFile(moved, "guide");
+  std::string expected = contentOf(configFile());
+  const std::string place = "HELPFILE  " + guideBesideProgram();
+  expected.replace(expected.find(place), place.size(), "HELPFILE  " + moved);
+  expectLost(guideBesideProgram(), [&](ScriptedWindow& dialog) {
+    desktop_.expectOpenFile(moved);
+    dialog.press(FIND);
+  });
+  show("");
+  EXPECT_EQ(contentOf(configFile()), expected);
+}
+
+TEST_F(UsersGuideTest, APlaceInAConfigurationWithUnknownTagsCountsToo) {
+  writeFile(userFolder() + "elsewhere.htm", "guide");
+  writeFile(configFile(), "SOMETHING  new\nHELPFILE  " + userFolder() + "elsewhere.htm\nFILEVIEW_TAB  12x\n");
+  show("");
+  EXPECT_EQ(opened_, std::vector{platform::documentAddress(userFolder() + "elsewhere.htm", "")});
+}
+
 TEST_F(UsersGuideTest, NotOpeningItChangesNothing) {
   settings().saveDefaultConfiguration(nullptr);
   const std::string before = contentOf(configFile());

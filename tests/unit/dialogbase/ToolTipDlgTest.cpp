@@ -117,6 +117,36 @@ TEST_F(ToolTipDlgTest, WithoutAWindowNothingHappens) {
   EXPECT_EQ(dialog_.text, "before");
 }
 
+TEST_F(ToolTipDlgTest, APageWithoutAWindowTakesEveryOperationForNothing) {
+  dialog_.scrollFieldToEnd(10);
+  dialog_.setFieldText(10, "x");
+  dialog_.showControl(10, false);
+  dialog_.enableControl(10, false);
+  dialog_.moveControl(10, {1, 2, 3, 4});
+  EXPECT_FALSE(dialog_.isControlVisible(10));
+  EXPECT_EQ(dialog_.getControlRect(10), Rect());
+  EXPECT_EQ(dialog_.getText(10), "");
+  EXPECT_EQ(dialog_.getCheck(11), 0);
+  // No dialog is expected, so one that opened would fail the test.
+  dialog_.askPathEntry(10, "things");
+  dialog_.addFolderToField(10);
+  dialog_.appendPathEntry(10, "/x");
+  EXPECT_EQ(dialog_.text, "before");
+}
+
+TEST_F(ToolTipDlgTest, AfterItsWindowHasGoneADialogIsAsIfItNeverHadOne) {
+  {
+    ScriptedWindow window(sample, dialog_);
+    dialog_.initialise(window);
+    window.type(10, "typed");
+    dialog_.detached();
+  }
+  EXPECT_FALSE(dialog_.initialised());
+  dialog_.updateVariables();
+  dialog_.appendPathEntry(10, "/x");
+  EXPECT_EQ(dialog_.text, "before") << "what was typed was never taken";
+}
+
 TEST_F(ToolTipDlgTest, MovesTheRowsOfItsPageAndNoOthers) {
   std::string shown = "shown", other = "other";
   int flag = 1, number = 1;

@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <cctype>
 #include <fstream>
+#include <utility>
 
 namespace tarnwick {
 
@@ -15,8 +16,14 @@ namespace {
 
 /// The folder if a `javac` lies in it; links lead to the real folder.
 std::string toolsIn(const std::string& folder) {
-  const std::string javac = Filename(folder, platform::toolFileName("javac")).fullName();
-  return platform::isFile(javac) ? Filename(platform::resolvedPath(javac)).directory() : "";
+  const std::string tool = platform::toolFileName("javac");
+  const Filename javac(folder, tool);
+  if (!platform::isFile(javac.fullName())) return "";
+  const Filename real(platform::resolvedPath(javac.fullName()));
+  if (platform::sameFileName(real.nameWithExtension(), tool) && platform::isFile(real.fullName()))
+    return real.directory();
+  // The link of a version manager leads to its own program, which goes by the name that it is called by.
+  return Filename(platform::resolvedPath(folder), tool).directory();
 }
 
 std::string toolsOfHome(const std::string& home) {
@@ -41,10 +48,21 @@ std::vector<std::string> toolsOnSearchPath() {
   return found;
 }
 
+/// The folder above that of the tools, with its last separator.
+std::string homeOf(const std::string& toolsFolder) {
+  return Filename(Filename(toolsFolder, "x").directoryNoSlash()).directory();
+}
+
+/// True for the tools of a JDK of its own. What else bears the name `javac`, a version manager's or an installer's,
+/// looks for a JDK whenever it is called: it tells no version, and may come without the other tools.
+bool liesInJdk(const std::string& toolsFolder) {
+  const std::string home = homeOf(toolsFolder);
+  return platform::isFile(home + "release") || platform::isFile(Filename(home + "lib", "tools.jar").fullName());
+}
+
 /// <jdk>/release beside <jdk>/bin holds a line JAVA_VERSION="17.0.15".
 std::string versionOf(const std::string& toolsFolder) {
-  const std::string home = Filename(Filename(toolsFolder, "x").directoryNoSlash()).directory();
-  std::ifstream release(home + "release");
+  std::ifstream release(homeOf(toolsFolder) + "release");
   const std::string key = "JAVA_VERSION=";
   for (std::string line; std::getline(release, line);) {
     if (line.compare(0, key.size(), key) == 0) return cleanedPath(line.substr(key.size()));
@@ -58,12 +76,24 @@ std::vector<int> numbersOf(const std::string& version) {
   bool inNumber = false;
   for (const char c : version) {
     const bool digit = std::isdigit(static_cast<unsigned char>(c)) != 0;
+    // What follows, as in "26-ea+5", names a build.
+    if (!numbers.empty() && (c == '-' || c == '+')) break;
     if (digit && !inNumber) numbers.push_back(0);
     if (digit && numbers.back() < 1000000) numbers.back() = numbers.back() * 10 + (c - '0');
     inNumber = digit;
   }
   if (numbers.size() > 1 && numbers.front() == 1) numbers.erase(numbers.begin());
+  // "17.0.0" is "17".
+  while (numbers.size() > 1 && numbers.back() == 0) numbers.pop_back();
   return numbers;
+}
+
+bool isNewer(const std::string& left, const std::string& right) {
+  // A version with early access comes before the one that it leads to.
+  const auto order = [](const std::string& version) {
+    return std::pair(numbersOf(version), version.find("-ea") == std::string::npos);
+  };
+  return order(left) > order(right);
 }
 
 void addOnce(std::vector<Jdk>& jdks, const std::string& tools) {
@@ -82,9 +112,8 @@ std::vector<Jdk> findJdks(const platform::JdkPlaces& places) {
   for (const auto& parent : places.parents) {
     for (const auto& home : platform::subfolders(parent)) addOnce(jdks, toolsOfHome(home));
   }
-  std::stable_sort(jdks.begin(), jdks.end(), [](const Jdk& left, const Jdk& right) {
-    return numbersOf(left.version) > numbersOf(right.version);
-  });
+  std::stable_sort(jdks.begin(), jdks.end(),
+                   [](const Jdk& left, const Jdk& right) { return isNewer(left.version, right.version); });
   return jdks;
 }
 
@@ -96,8 +125,10 @@ std::string preferredJdkTools(const std::vector<Jdk>& installed) {
   const std::string named = toolsOfJavaHome();
   if (!named.empty()) return named;
   const auto onPath = toolsOnSearchPath();
-  if (!onPath.empty()) return onPath.front();
-  return installed.empty() ? "" : installed.front().toolsFolder;
+  const auto own = std::find_if(onPath.begin(), onPath.end(), liesInJdk);
+  if (own != onPath.end()) return *own;
+  const std::string newest = installed.empty() ? "" : installed.front().toolsFolder;
+  return onPath.empty() || liesInJdk(newest) ? newest : onPath.front();
 }
 
 int jdkVersion(const std::string& toolsFolder) {

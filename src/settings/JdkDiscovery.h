@@ -21,7 +21,8 @@ std::vector<Jdk> findJdks(const platform::JdkPlaces& places);
 std::vector<Jdk> installedJdks();
 
 /// The folder of the tools to begin with: that of JAVA_HOME, since the user has named it; else that of the `javac` on
-/// the PATH; else that of the newest JDK of `installed`; empty if there is none.
+/// the PATH that belongs to a JDK; else that of the newest JDK of `installed`; else any `javac` on the PATH; empty if
+/// there is none.
 std::string preferredJdkTools(const std::vector<Jdk>& installed);
 
 /// The main version of the JDK whose tools lie in this folder, as its `release` file tells: 8, 17, 25; 0 if unknown.

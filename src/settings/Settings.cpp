@@ -217,6 +217,8 @@ void Settings::saveSeparately() {
 void Settings::saveTo(const std::string& path) {
   ReplacingFile target(path);
   Tarnwickfile defaults(configPath(), FileMode::Read);
+  // It may be the target too, and an open file is hard to replace on Windows. Reading it opens it again.
+  defaults.close();
   collectPages();
   try {
     write(target);

@@ -242,6 +242,18 @@ TEST_F(FailedSaveTest, AFurtherFailureTellsTheNewFile) {
   EXPECT_EQ(settings().configPath(), blocked) << "the path has moved all the same";
 }
 
+TEST_F(FailedSaveTest, TheSameFolderOnceMoreIsAFurtherFailure) {
+  const std::string folder = configFolder().substr(0, configFolder().size() - 1);
+  desktop_.expectDialog(reason_, [&](ScriptedWindow& window) {
+    desktop_.expectBrowseFolder(folder);
+    window.press(1164);
+  });
+  desktop_.expectMessage(reason_ + "\nCan't save configuration data in " + configFile());
+  settings().saveCurrent();
+  EXPECT_EQ(settings().configPath(), configFile());
+  EXPECT_TRUE(platform::isFolder(configFile())) << "what stands there is left alone";
+}
+
 TEST_F(FailedSaveTest, AVariableThatCannotBeDefinedIsToldAndTheDialogClosesWithOk) {
   // No system takes a variable without a name.
   program_.configDirVariable = "";

@@ -130,10 +130,12 @@ TEST_F(JavaPageTest, ShowJavaVersionRunsTheJavaOfTheFieldAndShowsWhatItSaid) {
   playWithTools([](ScriptedWindow& tools, ScriptedWindow& java) {
     tools.type(TOOLS_FOLDER, standInFolder());
     java.press(SHOW_VERSION);
+    java.press(SHOW_VERSION);
   });
   std::string log = contentOf(log_.path());
   std::erase(log, '\r');
   EXPECT_NE(log.find(" -version\n\n"), std::string::npos) << log;
+  EXPECT_EQ(log.find("java version"), log.rfind("java version")) << "each answer begins the log anew: " << log;
   EXPECT_NE(log.find("java version \"17\""), std::string::npos) << log;
   // The editor goes its own way.
   std::string recorded;

@@ -88,6 +88,63 @@ TEST_F(JdkDiscoveryTest, TheNewestComesFirstByTheNumbersOfTheVersion) {
             (Folders{later, seventeen, ten, nine, old, older, unknown}));
 }
 
+TEST_F(JdkDiscoveryTest, AnEarlyAccessVersionComesBeforeTheOneThatItLeadsTo) {
+  const std::string early = makeJdk("jvm/a", "25-ea+36");
+  const std::string earlyUpdate = makeJdk("jvm/b", "25.0.1-ea");
+  const std::string final = makeJdk("jvm/c", "25");
+  const std::string update = makeJdk("jvm/d", "25.0.1");
+  const std::string next = makeJdk("jvm/e", "26-ea");
+  const std::string zeros = makeJdk("jvm/f", "24.0.0");
+  const std::string older = makeJdk("jvm/g", "24+9");
+  const std::string rebuilt = makeJdk("jvm/h", "23.0.2+7");
+  const std::string old = makeJdk("jvm/i", "1.9.0-ea");
+  EXPECT_EQ(foldersOf(findJdks({{}, {scratch_.file("jvm")}})),
+            (Folders{next, update, earlyUpdate, final, early, zeros, older, rebuilt, old}));
+}
+
+TEST_F(JdkDiscoveryTest, ALinkToAProgramOfAnotherNameIsTakenAsItStands) {
+  const std::string manager = scratch_.file("manager") + platform::folderSeparator;
+  const std::string shims = scratch_.file("shims") + platform::folderSeparator;
+  platform::makeFolders(manager);
+  platform::makeFolders(shims);
+  writeFile(manager + "manager", "");
+  const std::string javac = shims + platform::toolFileName("javac");
+  std::error_code failure;
+  std::filesystem::create_symlink(manager + "manager", javac, failure);
+  if (failure) GTEST_SKIP() << "no links here: " << failure.message();
+  const ScopedEnvironment path("PATH", shims);
+  const auto found = findJdks({});
+  ASSERT_EQ(found.size(), 1U);
+  EXPECT_EQ(found.front().toolsFolder, platform::resolvedPath(scratch_.file("shims")) + platform::folderSeparator);
+  EXPECT_EQ(found.front().version, "");
+}
+
+TEST_F(JdkDiscoveryTest, OnThePathAJdksOwnToolsComeBeforeALauncher) {
+  const std::string launcher = scratch_.file("launcher") + platform::folderSeparator;
+  platform::makeFolders(launcher);
+  writeFile(launcher + platform::toolFileName("javac"), "");
+  const std::string real = Filename(platform::resolvedPath(launcher + platform::toolFileName("javac"))).directory();
+  {
+    const ScopedEnvironment path("PATH", launcher);
+    EXPECT_EQ(preferredJdkTools(findJdks({})), real) << "where there is nothing else";
+    const std::string newest = makeJdk("jvm/b", "25");
+    makeJdk("jvm/a", "17");
+    EXPECT_EQ(preferredJdkTools(findJdks({{}, {scratch_.file("jvm")}})), newest) << "it tells its version";
+  }
+  const std::string onPath = makeJdk("path", "11");
+  const ScopedEnvironment path("PATH", platform::commandLineList(launcher + ";" + onPath));
+  EXPECT_EQ(preferredJdkTools(findJdks({{}, {scratch_.file("jvm")}})), onPath);
+}
+
+TEST_F(JdkDiscoveryTest, AnOldJdkOnThePathIsKnownByItsJar) {
+  const std::string old = makeJdk("old", "");
+  platform::makeFolders(scratch_.file("old") + platform::folderSeparator + "lib");
+  writeFile(scratch_.file("old") + platform::folderSeparator + "lib" + platform::folderSeparator + "tools.jar", "");
+  makeJdk("jvm/a", "25");
+  const ScopedEnvironment path("PATH", old);
+  EXPECT_EQ(preferredJdkTools(findJdks({{}, {scratch_.file("jvm")}})), old);
+}
+
 TEST_F(JdkDiscoveryTest, AFolderWithoutAJavacIsNoJdk) {
   platform::makeFolders(scratch_.file("jvm/runtime/bin"));
   writeFile(scratch_.file("jvm/runtime/release"), "JAVA_VERSION=\"25\"\n");
@@ -115,6 +172,7 @@ TEST_F(JdkDiscoveryTest, TheReleaseFileTellsTheVersion) {
   EXPECT_EQ(jdkVersion(makeJdk("c", "17.0.15")), 17);
   EXPECT_EQ(jdkVersion(makeJdk("d", "25")), 25);
   EXPECT_EQ(jdkVersion(makeJdk("e", "26-ea")), 26);
+  EXPECT_EQ(jdkVersion(makeJdk("ee", "9-Ubuntu")), 9);
   EXPECT_EQ(jdkVersion(makeJdk("f", "no number")), 0);
   EXPECT_EQ(jdkVersion(makeJdk("g", "99999999999999999999")) > 13, true) << "too long a number is still a number";
   EXPECT_EQ(jdkVersion(scratch_.file("none")), 0);

@@ -1,6 +1,7 @@
 // "Save ..." and "Load ..." of the settings dialog.
 #include "support/SettingsFixture.h"
 
+#include <chrono>
 #include <gtest/gtest.h>
 
 namespace tarnwick::test {
@@ -45,6 +46,7 @@ TEST_F(SeparateConfigurationTest, SaveWritesThePagesAndLeavesTheRunningSettings)
   play([&](ScriptedWindow& window) {
     window.page(TABS, 0).type(FOLDER, "other");
     window.page(TABS, 2).type(XMS, "9m");
+    settings().tarnwickVersion = "Tarnwick V1.0";
     desktop_.expectSaveFile(chosen());
     window.press(SAVE);
     EXPECT_EQ(window.page(TABS, 2).text(XMS), "9m") << "the pages keep what they show";
@@ -115,6 +117,19 @@ TEST_F(SeparateConfigurationTest, ASaveThatFailsIsToldAndLosesNothing) {
   });
   EXPECT_EQ(settings().javaXms, "1m");
   EXPECT_EQ(contentOf(configFile()), before_);
+}
+
+TEST_F(SeparateConfigurationTest, WhenTheDefaultConfigurationItselfIsChosenItTakesThePages) {
+  const auto begin = std::chrono::steady_clock::now();
+  play([&](ScriptedWindow& window) {
+    window.page(TABS, 2).type(XMS, "9m");
+    desktop_.expectSaveFile(configFile());
+    window.press(SAVE);
+  });
+  EXPECT_NE(contentOf(configFile()).find("JAVA_XMS  9m"), std::string::npos);
+  EXPECT_EQ(settings().javaXms, "9m") << "what stands in that file now";
+  EXPECT_LT(std::chrono::steady_clock::now() - begin, std::chrono::milliseconds(900))
+      << "nothing of ours holds it open while it is replaced";
 }
 
 TEST_F(SeparateConfigurationTest, WithoutADefaultConfigurationTheChosenFileIsLeftAlone) {

@@ -191,6 +191,18 @@ TEST_F(SettingsDialogTest, CancelOnTheWarningLeavesTheDialogOpen) {
   EXPECT_EQ(settings().runModal(0), DIALOG_OK);
 }
 
+TEST_F(SettingsDialogTest, EitherOfTheTwoOptionsAloneIsNotWarnedOf) {
+  for (const int debug : {0, 1}) {
+    settings().javacDebug = debug;
+    settings().javacFastcode = 1 - debug;
+    desktop_.expectDialog("Tarnwick settings", [](ScriptedWindow& window) {
+      window.press(IDOK_CONTROL);
+      EXPECT_TRUE(window.closed());
+    });
+    EXPECT_EQ(settings().runModal(0), DIALOG_OK);
+  }
+}
+
 TEST_F(SettingsDialogTest, CollectPagesPrefixesTheOptions) {
   Settings& live = settings();
   live.javacJOption = "Xmx1g";

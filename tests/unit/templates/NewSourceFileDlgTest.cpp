@@ -1,5 +1,6 @@
 #include "support/SettingsFixture.h"
 #include "templates/AddTemplateDlg.h"
+#include "templates/FileNameMark.h"
 #include "templates/NewSourceFileDlg.h"
 
 #include <cstring>
@@ -116,6 +117,32 @@ TEST_F(NewSourceFileDlgTest, AMainProgramBeginsWithAnEmptyLineAndNamesItsClass) 
   EXPECT_EQ(desktop_.lastRequest().extension, ".java");
   EXPECT_EQ(desktop_.lastRequest().name, "*.java");
   EXPECT_EQ(desktop_.lastRequest().filter, "java source files (*.java)|*.java||");
+}
+
+TEST_F(NewSourceFileDlgTest, EveryBuiltInTextIsWrittenAsItStandsWithItsNames) {
+  TemplateList templates(settings());
+  templates.build();
+  for (const auto& row : templates.rows()) {
+    const std::string path = target("Gar_" + std::to_string(row.kind) + ".java");
+    EXPECT_EQ(create(row.label, path), DIALOG_OK);
+    EXPECT_EQ(linesOf(path), withFileName(row.option, "Gar_" + std::to_string(row.kind))) << row.label;
+  }
+}
+
+TEST_F(NewSourceFileDlgTest, WhateverTheNameIsItsBaseNameBecomesTheClass) {
+  for (const char* name : {"Größe", "class", "my-test", "a.b", "Two words", "2nd", "$_"}) {
+    const std::string path = target(std::string(name) + ".java");
+    EXPECT_EQ(create("Java mainprogram", path), DIALOG_OK);
+    EXPECT_EQ(linesOf(path).find("\nclass " + std::string(name) + " {\n"), 0U) << name;
+    EXPECT_EQ(file_.name().fullName(), path);
+  }
+}
+
+TEST_F(NewSourceFileDlgTest, ATemplateWithNoPathIsABlankFile) {
+  addTemplate("Nothing", "");
+  desktop_.expectQuestion("Can't access file  for template Nothing. Remove template from list?", false);
+  EXPECT_EQ(create("Nothing", target("Foo.java")), DIALOG_OK);
+  EXPECT_EQ(contentOf(target("Foo.java")), "") << "the first row that holds the same decides";
 }
 
 TEST_F(NewSourceFileDlgTest, ABlankFileHasNoBytes) {
@@ -246,9 +273,11 @@ TEST_F(NewSourceFileDlgTest, ATargetThatCantBeOpenedIsToldAndTheDialogStays) {
 
 TEST_F(NewSourceFileDlgTest, BrowsingForAnExistingFileEmptiesTheCallersFile) {
   file_.setName(target("Old.java"));
+  file_.args().emplace_back("behind the name");
   const int result = run(NewSourceMode::NothingToEdit, [](ScriptedWindow& dialog) { dialog.press(BROWSE_EXISTING); });
   EXPECT_EQ(result, DIALOG_OK);
   EXPECT_TRUE(file_.isEmpty());
+  EXPECT_TRUE(file_.args().empty());
   EXPECT_EQ(created_, "");
 }
 
@@ -285,6 +314,7 @@ TEST_F(NewSourceFileDlgTest, ATemplateIsAddedAfterItsFieldsAreRight) {
       add.press(IDOK_CONTROL);
       EXPECT_FALSE(add.closed());
       writeFile(path, "bean %FILENAME%");
+      add.type(TEMPLATE_FILE, " \t" + path);
       add.press(IDOK_CONTROL);
       EXPECT_TRUE(add.closed());
     });
@@ -296,6 +326,7 @@ TEST_F(NewSourceFileDlgTest, ATemplateIsAddedAfterItsFieldsAreRight) {
     dialog.press(IDOK_CONTROL);
   });
   EXPECT_EQ(contentOf(target("Foo.java")), "bean Foo");
+  EXPECT_EQ(settings().personalTemplates.toString(), "My bean];" + path) << "without the blanks before the name";
 }
 
 TEST_F(NewSourceFileDlgTest, WithoutACallersFileTheNewOneIsOnlyTold) {

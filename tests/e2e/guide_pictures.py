@@ -1,0 +1,135 @@
+#!/usr/bin/env python3
+"""Takes the pictures of the user's guide anew, on the samples with the real JDK, and puts them into guide/.
+
+usage: guide_pictures.py PROJECT [FOLDER]     needs a display with a window manager (scripts/with-display.sh)
+"""
+
+import os
+import shutil
+import subprocess
+import sys
+import tempfile
+import time
+
+import person
+import world
+from person import Window, wait_until
+
+
+class Camera:
+    """Takes windows with their frames."""
+
+    def __init__(self, folder):
+        self.folder = folder
+
+    def take(self, window, name):
+        # The pointer lights up what it rests on.
+        person.xdotool("mousemove", 1279, 1023)
+        time.sleep(0.7)
+        path = os.path.join(self.folder, f"guide-{name}.png")
+        taken = subprocess.run(["import", "-silent", "-frame", "-window", window.x_number(), "png:-"], check=True,
+                               timeout=60, stdin=subprocess.DEVNULL, stdout=subprocess.PIPE).stdout
+        # Few colours make small files; without dithering a plain ground stays plain.
+        subprocess.run(["convert", "png:-", "+dither", "-colors", "128", "-strip", "-define", "png:compression-level=9",
+                        path], check=True, timeout=60, input=taken)
+        print(path, flush=True)
+
+
+def turn_to(settings, label):
+    next(one for one in settings.controls() if one.role == "page tab" and one.label == label).click()
+
+
+def take_settings(camera, settings):
+    camera.take(settings, "tools")
+    turn_to(settings, "javac")
+    versions = next(one for one in settings.controls() if one.label == "JDK version of the warnings")
+    versions.click()
+    person.key("Down", "Down")
+    settings.control("Serialization")
+    camera.take(settings, "javac")
+    for label, name in (("java", "java"), ("jdb", "jdb"), ("Sourcecode editor", "editor"), ("Paths", "paths")):
+        turn_to(settings, label)
+        camera.take(settings, name)
+
+
+def take_new_file(camera, panel):
+    panel.press("New")
+    new = Window("Create new .java/.html file")
+    person.key("Down")
+    camera.take(new, "new")
+    new.press("Add new template ..")
+    template = Window("Add template for new sourcefiles")
+    camera.take(template, "template")
+    template.press("Cancel")
+    template.is_gone()
+    new.press("Cancel")
+    new.is_gone()
+
+
+def take_console(scratch, camera, panel):
+    console = scratch.run_class(panel, scratch.compile(panel, scratch.sample("Greeter.java")))
+    for expected, line in (("What is your name? ", "Ada Lovelace"), ("Hello, Ada Lovelace!", "Ça va, Zoë από Αθήνα?"),
+                           ("backwards", "bye")):
+        wait_until(expected, lambda words=expected: words in scratch.saved_display(console), 30)
+        world.type_line(console, line)
+    wait_until("the banner", lambda: "E n d   o f   j a v a" in scratch.saved_display(console), 30)
+    camera.take(console, "console")
+    console.close()
+    console.is_gone()
+
+
+def take_debugger(scratch, camera, panel):
+    path = scratch.compile(panel, scratch.source("Countdown.java"))
+    panel.write(world.quoted(path), index=1)
+    panel.press("jdb debug")
+    console = Window("Countdown", seconds=40)
+
+    def shows(words, times=1):
+        wait_until(words, lambda: scratch.saved_display(console).count(words) >= times, 40)
+    shows("main[1] ")
+    world.type_line(console, "stop in Countdown.tell")
+    shows("breakpoint Countdown.tell")
+    console.press("Continue")
+    shows("Breakpoint hit:")
+    prompts = scratch.saved_display(console).count("main[1] ")
+    for count, button in enumerate(("Show local variables", "Show current object (dump this)", "where"), start=1):
+        console.press(button)
+        shows("main[1] ", prompts + count)
+    camera.take(console, "debugger")
+    console.close()
+    console.is_gone()
+
+
+def walk(scratch, camera):
+    scratch.start()
+    Window("Welcome to Tarnwick").press("OK")
+    settings = Window("Tarnwick settings")
+    take_settings(camera, settings)
+    settings.press("OK")
+    panel = Window("Tarnwick")
+    panel.field().click()
+    camera.take(panel, "panel")
+    panel.press("Wide layout")
+    camera.take(panel, "wide")
+    panel.press("Tall layout")
+    take_new_file(camera, panel)
+    take_console(scratch, camera, panel)
+    take_debugger(scratch, camera, panel)
+    panel.press("Exit")
+    panel.is_gone()
+
+
+def main():
+    project = os.path.abspath(sys.argv[1])
+    camera = Camera(sys.argv[2] if len(sys.argv) > 2 else os.path.join(project, "guide"))
+    runtime = tempfile.mkdtemp(prefix="tarnwick-bus-")
+    try:
+        world.start_bus(os.path.join(runtime, "run"))
+        # Letters that the fonts of a fresh machine can show.
+        with world.World(project, letters="Αθήνα") as scratch:
+            walk(scratch, camera)
+    finally:
+        shutil.rmtree(runtime, ignore_errors=True)
+
+
+main()

@@ -1,0 +1,100 @@
+// The user's guide explains whatever can be pressed, marked or chosen.
+#include "resources/AddPathLayout.h"
+#include "resources/HelpLayouts.h"
+#include "resources/Menu.h"
+#include "resources/PanelLayouts.h"
+#include "resources/SettingsLayouts.h"
+#include "resources/SettingsPageLayouts.h"
+#include "resources/SourceLayouts.h"
+#include "resources/TemplateLayouts.h"
+#include "resources/Toolbar.h"
+#include "support/TestProgram.h"
+
+#include <algorithm>
+#include <cctype>
+#include <gtest/gtest.h>
+
+namespace tarnwick::test {
+namespace {
+
+/// The page's words alone: no tags, no style, one blank between two words.
+std::string wordsOfGuide() {
+  std::string page = contentOf(TARNWICK_SOURCE_FOLDER "/guide/usersguide.htm");
+  page.erase(0, page.find("<body>"));
+  std::string words;
+  bool inTag = false;
+  for (const char c : page) {
+    if (c == '<') inTag = true;
+    if (!inTag) words += std::isspace(static_cast<unsigned char>(c)) ? ' ' : c;
+    if (c == '>') inTag = false;
+  }
+  for (const auto& [entity, character] :
+       {std::pair{"&gt;", ">"}, {"&lt;", "<"}, {"&nbsp;", " "}, {"&amp;", "&"}, {"  ", " "}}) {
+    for (auto at = words.find(entity); at != std::string::npos; at = words.find(entity))
+      words.replace(at, std::string(entity).size(), character);
+  }
+  return words;
+}
+
+/// As the guide writes a control's label: one line, no mark for its key, no accelerator.
+std::string inGuide(std::string label) {
+  label.erase(std::min(label.find('\t'), label.size()));
+  std::erase(label, '&');
+  std::replace(label.begin(), label.end(), '\n', ' ');
+  return label;
+}
+
+void expectExplained(const DialogItem& item, const std::string& guide) {
+  // One button bears this for a moment only, until both views are there.
+  if (item.text == "Switch view") return;
+  const bool answers =
+      item.kind == ItemKind::Button || item.kind == ItemKind::CheckBox || item.kind == ItemKind::RadioButton;
+  // The sign on one button belongs to the system's character set.
+  const bool plain = std::all_of(item.text.begin(), item.text.end(), [](unsigned char c) { return c < 128; });
+  if (answers && plain) {
+    EXPECT_NE(guide.find(inGuide(item.text)), std::string::npos) << item.text;
+  }
+  for (const auto& child : item.children) expectExplained(child, guide);
+}
+
+TEST(GuideWordsTest, ItNamesEveryButtonAndMark) {
+  const std::string guide = wordsOfGuide();
+  for (const auto* layout : {&fileViewLayout(),
+                             &verticalBarLayout(),
+                             &horizontalBarLayout(),
+                             &flatBarLayout(),
+                             &settingsLayout(),
+                             &toolsPageLayout(),
+                             &javacPageLayout(),
+                             &javaPageLayout(),
+                             &jdbPageLayout(),
+                             &appletviewerPageLayout(),
+                             &editorPageLayout(),
+                             &pathsPageLayout(),
+                             &alternateLocationLayout(),
+                             &addPathLayout(),
+                             &addTemplateLayout(),
+                             &newSourceLayout(NewSourceMode::NothingToEdit),
+                             &portabilityWarningLayout(),
+                             &helpFileLayout(),
+                             &welcomeLayout(),
+                             &aboutLayout()}) {
+    SCOPED_TRACE(layout->resource);
+    expectExplained(layout->content, guide);
+  }
+}
+
+TEST(GuideWordsTest, ItNamesEveryMenuEntryAndToolbarButton) {
+  const std::string guide = wordsOfGuide();
+  for (const auto& menu : consoleMenuBar()) {
+    for (const auto& entry : menu.items) {
+      EXPECT_NE(guide.find(inGuide(entry.text)), std::string::npos) << entry.text;
+    }
+  }
+  for (const auto& button : debuggerToolbar()) {
+    EXPECT_NE(guide.find(button.toolTip), std::string::npos) << button.toolTip;
+  }
+}
+
+}  // namespace
+}  // namespace tarnwick::test

@@ -39,33 +39,37 @@ def split_under_way(scratch):
     return panel
 
 
-def expect_an_end_without_traces(scratch):
-    assert scratch.running[-1].wait(20) == 0
+def expect_the_end(scratch, number):
+    """Tells the program to end. It does so without a complaint; what GTK said while it was looked at is no matter."""
+    program, said = scratch.running[-1], scratch.messages()
+    program.send_signal(number)
+    assert program.wait(20) == 0
+    assert scratch.messages() == said, scratch.messages()
+    assert not leftovers(scratch), leftovers(scratch)
+
+
+def expect_an_end_without_traces(scratch, number):
+    expect_the_end(scratch, number)
     wait_until("the end of the tool", lambda: not scratch.processes("javac"), 5)
     assert os.listdir(scratch.work) == ["Shapes.java"], os.listdir(scratch.work)
-    assert not leftovers(scratch), leftovers(scratch)
     assert not scratch.editor_notes(), "nobody is shown what the tool has said"
-    assert not scratch.messages(), scratch.messages()
 
 
 def test_from_outside_in_the_middle_of_a_run_it_leaves_nothing(scratch):
     split_under_way(scratch)
-    scratch.running[-1].terminate()
-    expect_an_end_without_traces(scratch)
+    expect_an_end_without_traces(scratch, signal.SIGTERM)
 
 
 def test_by_ctrl_c_in_the_middle_of_a_run_it_leaves_nothing(scratch):
     with started_with(signal.SIGINT, signal.SIG_DFL):
         split_under_way(scratch)
-    scratch.running[-1].send_signal(signal.SIGINT)
-    expect_an_end_without_traces(scratch)
+    expect_an_end_without_traces(scratch, signal.SIGINT)
 
 
 def test_with_its_terminal_in_the_middle_of_a_run_it_leaves_nothing(scratch):
     with started_with(signal.SIGHUP, signal.SIG_DFL):
         split_under_way(scratch)
-    scratch.running[-1].send_signal(signal.SIGHUP)
-    expect_an_end_without_traces(scratch)
+    expect_an_end_without_traces(scratch, signal.SIGHUP)
 
 
 def test_behind_a_nohup_it_outlives_its_terminal(scratch):
@@ -78,46 +82,39 @@ def test_behind_a_nohup_it_outlives_its_terminal(scratch):
     assert program.wait(20) == 0
 
 
-def expect_the_end_by_term(scratch, program):
-    program.terminate()
-    assert program.wait(20) == 0
-    assert not leftovers(scratch), leftovers(scratch)
-    assert not scratch.messages(), scratch.messages()
-
-
 def after_a_run(scratch):
     """A panel that has a log to take away."""
-    program, panel = scratch.first_start()
+    _, panel = scratch.first_start()
     scratch.compile(panel, scratch.sample("Greeter.java"))
     assert leftovers(scratch)
-    return program, panel
+    return panel
 
 
 def test_with_dialogs_on_top_of_each_other_it_closes_all(scratch):
-    program, panel = after_a_run(scratch)
+    panel = after_a_run(scratch)
     panel.press("Settings")
     Window("Tarnwick settings").press("About ...")
     Window("About Tarnwick")
-    expect_the_end_by_term(scratch, program)
+    expect_the_end(scratch, signal.SIGTERM)
 
 
 def test_with_a_message_on_the_screen_it_closes_that_too(scratch):
-    program, panel = after_a_run(scratch)
+    panel = after_a_run(scratch)
     panel.control("Applet").click()
     panel.press("appletviewer")
     Window("Open").press("Cancel")
     wait_until("the message", lambda: any("no htm* file known" in (one.name, one.text)
                                           for window in person.look() for one in window.all()))
-    expect_the_end_by_term(scratch, program)
+    expect_the_end(scratch, signal.SIGTERM)
 
 
 def test_with_a_file_dialog_on_top_of_a_dialog_it_closes_both_and_makes_no_file(scratch):
-    program, panel = after_a_run(scratch)
+    panel = after_a_run(scratch)
     files = sorted(os.listdir(scratch.work))
     panel.press("New")
     Window("Create new .java/.html file").press("Create sourcefile")
     Window("Save as")
-    expect_the_end_by_term(scratch, program)
+    expect_the_end(scratch, signal.SIGTERM)
     assert sorted(os.listdir(scratch.work)) == files
 
 

@@ -130,10 +130,10 @@ class World:
         return path.removesuffix(".java") + ".class"
 
     def messages(self):
-        """What the program wrote to its standard streams, less what GTK says to whoever looks at it from outside."""
+        """What the program wrote to its standard streams, less what GTK says to whoever looks at a notebook."""
         with open(os.path.join(self.root, "messages"), encoding="utf-8", errors="replace") as lines:
             return "".join(line for line in lines if line.strip() and "Atk-CRITICAL" not in line and
-                           "GLib-GObject-CRITICAL" not in line and "GTK_IS_ACCESSIBLE" not in line)
+                           "GLib-GObject-CRITICAL" not in line)
 
     def listing(self):
         """All files below the scratch folder, each with the time of its last change."""

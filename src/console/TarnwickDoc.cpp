@@ -39,7 +39,11 @@ TarnwickDoc::TarnwickDoc(Desktop& desktop, std::string title) : desktop_(desktop
 }
 
 void TarnwickDoc::newLine() {
-  if (recordStream_) writeLine(recordStream_, lines_.back());
+  if (recordStream_) {
+    writeLine(recordStream_, lines_.back());
+    // The line is in the file now: for whoever follows the record, and even if nobody gets to close it.
+    std::fflush(recordStream_.get());
+  }
   lines_.emplace_back();
   if (lineCount() <= maxLines) return;
   lines_.pop_front();

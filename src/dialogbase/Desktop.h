@@ -52,8 +52,11 @@ class Desktop {
   virtual void runMainDialog(const DialogLayout& layout, DialogHandler& handler) = 0;
 
   /// Runs `work` on another thread and returns when it has ended. Meanwhile windows repaint, nothing takes input, and
-  /// the wait cursor shows. An exception of `work` is thrown on.
-  virtual void whileBusy(const std::function<void()>& work) = 0;
+  /// the wait cursor shows. An exception of `work` is thrown on. If the program is told to end meanwhile, `giveUp` is
+  /// called, which is to make `work` end soon; then an exception that only the edge knows takes the place of returning.
+  virtual void whileBusy(const std::function<void()>& work, const std::function<void()>& giveUp) = 0;
+  /// For work that does not last.
+  void whileBusy(const std::function<void()>& work) { whileBusy(work, {}); }
 
   /// Calls `tick` every so many milliseconds until the timer is stopped. Gives the timer's number, above 0; 0 if the
   /// system has no timer left.

@@ -188,7 +188,7 @@ bool Subprocess::run(FileForSubprocess* file, FileMode logOpenMode) {
   }
   outputBytes_ = 0;
   LoggedRun run(*child, log_, command, outputBytes_);
-  desktop_.whileBusy([&run] { run.waitForEnd(); });
+  desktop_.whileBusy([&run] { run.waitForEnd(); }, [&child] { child->endTree(); });
   if (logFault) throw Tarnwickfile::FileNotOpenE(*logFault);
   const std::string unwritten = log_.fault();
   if (!unwritten.empty()) desktop_.message(unwritten + "\nCan't write log file " + log_.path());

@@ -32,14 +32,20 @@ std::string presetOf(const FileRequest& request) {
   return pattern && !presetMayBePattern ? std::string() : request.name;
 }
 
+void cancel(wxDialog& dialog) {
+  if (dialog.IsModal()) dialog.EndModal(wxID_CANCEL);
+}
+
 std::optional<std::string> run(WindowStack& stack, const FileRequest& request, const char* title, long style) {
   const std::string folder = platform::isFolder(request.startFolder) ? request.startFolder : std::string();
   const std::string filter = toolkitFilter(request.filter);
   wxFileDialog dialog(stack.parent(), title, toWx(folder), toWx(presetOf(request)),
                       filter.empty() ? wxString(wxFileSelectorDefaultWildcardStr) : toWx(filter), style);
-  const WindowStack::Place place(stack, nullptr);
+  const WindowStack::Place place(stack, nullptr, [&dialog] { cancel(dialog); });
   const NativeLoop posted;
-  if (dialog.ShowModal() != wxID_OK) return std::nullopt;
+  const bool chosen = dialog.ShowModal() == wxID_OK;
+  stack.goOn();
+  if (!chosen) return std::nullopt;
   return fromWx(dialog.GetPath());
 }
 
@@ -82,9 +88,11 @@ std::optional<std::string> folderDialog(WindowStack& stack) {
   // Where systems have a home folder the browser begins there, and not among what happened to be used lately.
   const wxString start = toWx(platform::startFolder(""));
   wxDirDialog dialog(stack.parent(), "Choose a folder", start, wxDD_DEFAULT_STYLE | wxDD_DIR_MUST_EXIST);
-  const WindowStack::Place place(stack, nullptr);
+  const WindowStack::Place place(stack, nullptr, [&dialog] { cancel(dialog); });
   const NativeLoop posted;
-  if (dialog.ShowModal() != wxID_OK) return std::nullopt;
+  const bool chosen = dialog.ShowModal() == wxID_OK;
+  stack.goOn();
+  if (!chosen) return std::nullopt;
   return fromWx(dialog.GetPath());
 }
 

@@ -4,6 +4,7 @@
 #include "platform/Characters.h"
 #include "ui/NativeLoop.h"
 #include "ui/Text.h"
+#include "ui/Toolkit.h"
 
 #include <wx/msgdlg.h>
 
@@ -82,9 +83,10 @@ std::string shownPart(const std::string& text) {
 
 bool showMessage(WindowStack& stack, const std::string& text, MessageKind kind) {
   wxMessageDialog box(stack.parent(), toWx(shownPart(text)), "Tarnwick", styleOf(kind) | wxCENTRE);
-  const WindowStack::Place place(stack, nullptr);
+  const WindowStack::Place place(stack, nullptr, [&box] { dismiss(box); });
   const NativeLoop posted;
   const int answer = box.ShowModal();
+  stack.goOn();
   return answer == wxID_OK || answer == wxID_YES;
 }
 
@@ -93,6 +95,8 @@ void guarded(WindowStack& stack, const std::function<void()>& action) {
   try {
     action();
     return;
+  } catch (const ProgramEnds&) {
+    return;
   } catch (const Tarnwickexception& failure) {
     problem = failure.message;
   } catch (const std::exception& failure) {
@@ -100,7 +104,7 @@ void guarded(WindowStack& stack, const std::function<void()>& action) {
   } catch (...) {
     problem = "Internal error: unknown exception";
   }
-  showMessage(stack, problem, MessageKind::Ok);
+  if (!stack.isEnding()) showMessage(stack, problem, MessageKind::Ok);
 }
 
 }  // namespace tarnwick::ui

@@ -11,6 +11,7 @@
 
 class wxBitmap;
 class wxDC;
+class wxMessageDialog;
 class wxNotebook;
 class wxStaticBox;
 class wxString;
@@ -72,6 +73,10 @@ wxSize sizeWithTabs(wxNotebook& tabs, const wxSize& page);
 
 /// Where a page stands in a tab control of the size that it has now.
 wxRect pageRect(const wxNotebook& tabs);
+
+/// Closes a message box that shows, as its user would by its close box. Only a system that tells programs to end needs
+/// it.
+void dismiss(wxMessageDialog& box);
 
 /// Inverts the colours of what has been painted in the rectangle.
 void invertColours(wxDC& dc, const wxRect& rect);

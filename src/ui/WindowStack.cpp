@@ -6,6 +6,7 @@ namespace tarnwick::ui {
 
 WindowStack::Place::Place(WindowStack& stack, wxWindow* window, End end)
     : stack_(stack), window_(window), end_(std::move(end)) {
+  stack_.goOn();
   stack_.places_.push_back(this);
 }
 
@@ -14,6 +15,16 @@ WindowStack::Place::~Place() {
   if (stack_.places_.empty() || !stack_.places_.back()->wished_) return;
   // The toolkit is still about to leave the inner window's loop: the next one is ended from the outer loop.
   wxTheApp->CallAfter([&stack = stack_] { stack.endInnermostIfWished(); });
+}
+
+void WindowStack::endAll() {
+  ending_ = true;
+  for (Place* const place : places_) place->wished_ = true;
+  endInnermostIfWished();
+}
+
+void WindowStack::goOn() const {
+  if (ending_) throw ProgramEnds();
 }
 
 void WindowStack::Place::wishEnd() {

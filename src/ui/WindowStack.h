@@ -8,6 +8,10 @@
 
 namespace tarnwick::ui {
 
+/// Thrown where the program would go on although it has been told to end. It unwinds what was under way; only the edge
+/// catches it.
+struct ProgramEnds {};
+
 /// The open windows that wait for each other. An outer one must never end while an inner one runs, so a wish to end
 /// waits here until everything above has gone.
 class WindowStack {
@@ -21,8 +25,9 @@ class WindowStack {
   /// A place on the stack for as long as it lives.
   class Place {
    public:
-    /// `window` is the parent of what opens on top of it, or null. `end` ends this one; it may be empty for what only
-    /// its user can end.
+    /// `window` is the parent of what opens on top of it, or null. `end` ends this one; it may be empty for what ends
+    /// by itself.
+    /// Throws ProgramEnds after `endAll`.
     Place(WindowStack& stack, wxWindow* window, End end = {});
     ~Place();
     Place(const Place&) = delete;
@@ -39,6 +44,12 @@ class WindowStack {
     bool wished_ = false;
   };
 
+  /// Ends all windows, the innermost first, and lets none be opened any more.
+  void endAll();
+  bool isEnding() const { return ending_; }
+  /// To be called when a window has ended that others wait for. Throws ProgramEnds after `endAll`.
+  void goOn() const;
+
   /// What a new dialog stands on top of; null if nothing shows.
   wxWindow* parent() const;
 
@@ -46,6 +57,7 @@ class WindowStack {
   void endInnermostIfWished();
 
   std::list<Place*> places_;
+  bool ending_ = false;
 };
 
 }  // namespace tarnwick::ui

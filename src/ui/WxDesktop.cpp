@@ -2,6 +2,7 @@
 
 #include "platform/Sound.h"
 #include "ui/BusyLoop.h"
+#include "ui/EndRequests.h"
 #include "ui/FileDialogs.h"
 #include "ui/MessageBoxes.h"
 #include "ui/Text.h"
@@ -91,15 +92,30 @@ int WxDesktop::runTop(WxTopWindow& window) {
 
 int WxDesktop::runDialog(const DialogLayout& layout, DialogHandler& handler) {
   WxTopWindow window(stack_, WxTopWindow::Role::Modal, layout, handler);
-  return runTop(window);
+  const int result = runTop(window);
+  stack_.goOn();
+  return result;
 }
 
 void WxDesktop::runMainDialog(const DialogLayout& layout, DialogHandler& handler) {
   WxTopWindow window(stack_, WxTopWindow::Role::Main, layout, handler);
+  const EndRequests requests([this] { endProgram(); });
   runTop(window);
 }
 
-void WxDesktop::whileBusy(const std::function<void()>& work) {
+void WxDesktop::endProgram() {
+  stack_.endAll();
+  if (giveUp_) giveUp_();
+}
+
+void WxDesktop::whileBusy(const std::function<void()>& work, const std::function<void()>& giveUp) {
+  struct GiveUp {
+    std::function<void()>& now;
+    std::function<void()> before;
+    GiveUp(std::function<void()>& place, const std::function<void()>& own) : now(place), before(place) { now = own; }
+    ~GiveUp() { now = before; }
+  };
+  const GiveUp lasting(giveUp_, giveUp);
   const WindowStack::Place place(stack_, nullptr);
   const wxBusyCursor hourglass;
   BusyLoop loop;
@@ -114,6 +130,7 @@ void WxDesktop::whileBusy(const std::function<void()>& work) {
   });
   loop.run();
   worker.join();
+  stack_.goOn();
   if (failure) std::rethrow_exception(failure);
 }
 

@@ -27,7 +27,8 @@ class WxDesktop : public Desktop, public ConsoleFrameHost {
   bool setClipboardText(const std::string& text) override;
   int runDialog(const DialogLayout& layout, DialogHandler& handler) override;
   void runMainDialog(const DialogLayout& layout, DialogHandler& handler) override;
-  void whileBusy(const std::function<void()>& work) override;
+  using Desktop::whileBusy;
+  void whileBusy(const std::function<void()>& work, const std::function<void()>& giveUp) override;
   int startTimer(int milliseconds, std::function<void()> tick) override;
   void stopTimer(int timer) override;
   void post(std::function<void()> task) override;
@@ -41,8 +42,10 @@ class WxDesktop : public Desktop, public ConsoleFrameHost {
 
  private:
   int runTop(WxTopWindow& window);
+  void endProgram();
 
   WindowStack stack_;
+  std::function<void()> giveUp_;  ///< ends the work that the program is busy with
   std::vector<WxTopWindow*> openDialogs_;
   Timers timers_;
   PostQueue queue_;

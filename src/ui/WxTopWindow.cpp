@@ -91,6 +91,9 @@ void WxTopWindow::close(int result) {
 }
 
 void WxTopWindow::end() {
+  // Whoever wishes the end of the whole program has no result for each of its windows.
+  if (!result_) result_ = IDCANCEL_CONTROL;
+  if (!running_) return;
   if (role_ == Role::Modal) {
     dialog_->EndModal(*result_);
   } else if (auto* loop = wxTheApp->GetMainLoop()) {

@@ -73,6 +73,16 @@ def test_the_panel_is_used_without_a_utf8_locale(scratch):
     wait_until("the question", lambda: "What is your name? " in scratch.saved_display(console), 30)
 
 
+def test_the_panel_is_used_with_a_language_that_is_not_installed(scratch):
+    """Tools that do not get the locale they are told of take the C locale."""
+    source = scratch.sample("Greeter.java")
+    scratch.environment.pop("LC_ALL", None)
+    scratch.environment["LANG"] = "xx_XX.UTF-8"
+    _, panel = scratch.first_start()
+    console = scratch.run_class(panel, scratch.compile(panel, source))
+    wait_until("the question", lambda: "What is your name? " in scratch.saved_display(console), 30)
+
+
 def test_a_folder_that_a_shell_would_touch(scratch):
     scratch.work = scratch._folder("Zoës Heim", "it's 100% & $HOME `id` #1 ;x| (日本)")
     source = scratch.sample("Greeter.java")

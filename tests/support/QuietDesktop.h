@@ -25,7 +25,7 @@ class QuietDesktop : public Desktop {
   bool setClipboardText(const std::string& /*text*/) override { return false; }
   int runDialog(const DialogLayout& /*layout*/, DialogHandler& /*handler*/) override { return 0; }
   void runMainDialog(const DialogLayout& /*layout*/, DialogHandler& /*handler*/) override {}
-  void whileBusy(const std::function<void()>& work) override { work(); }
+  void whileBusy(const std::function<void()>& work, const std::function<void()>& /*giveUp*/) override { work(); }
   int startTimer(int /*milliseconds*/, std::function<void()> /*tick*/) override { return 1; }
   void stopTimer(int /*timer*/) override {}
   void post(std::function<void()> task) override { task(); }

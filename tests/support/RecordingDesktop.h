@@ -90,7 +90,7 @@ class RecordingDesktop : public Desktop {
     return 0;
   }
   void runMainDialog(const DialogLayout& layout, DialogHandler& /*handler*/) override { unexpected(layout.title); }
-  void whileBusy(const std::function<void()>& work) override { work(); }
+  void whileBusy(const std::function<void()>& work, const std::function<void()>& /*giveUp*/) override { work(); }
   int startTimer(int milliseconds, std::function<void()> tick) override {
     if (!timersWork) return 0;
     timers_[++lastTimer_] = {milliseconds, std::move(tick)};

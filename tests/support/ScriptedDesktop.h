@@ -177,7 +177,7 @@ class ScriptedDesktop : public Desktop {
   bool setClipboardText(const std::string& text) override;
   int runDialog(const DialogLayout& layout, DialogHandler& handler) override;
   void runMainDialog(const DialogLayout& layout, DialogHandler& handler) override;
-  void whileBusy(const std::function<void()>& work) override { work(); }
+  void whileBusy(const std::function<void()>& work, const std::function<void()>& /*giveUp*/) override { work(); }
   int startTimer(int milliseconds, std::function<void()> tick) override;
   void stopTimer(int timer) override { timers_.erase(timer); }
   void post(std::function<void()> task) override;

@@ -13,16 +13,51 @@ namespace tarnwick::platform {
 
 namespace {
 
+struct Category {
+  const char* variable;
+  int mask;
+};
+
+/// All but the character set, which has rules of its own.
+constexpr Category categories[] = {
+    {"LC_NUMERIC", LC_NUMERIC_MASK},
+    {"LC_TIME", LC_TIME_MASK},
+    {"LC_COLLATE", LC_COLLATE_MASK},
+    {"LC_MONETARY", LC_MONETARY_MASK},
+    {"LC_MESSAGES", LC_MESSAGES_MASK},
+    {"LC_PAPER", LC_PAPER_MASK},
+    {"LC_NAME", LC_NAME_MASK},
+    {"LC_ADDRESS", LC_ADDRESS_MASK},
+    {"LC_TELEPHONE", LC_TELEPHONE_MASK},
+    {"LC_MEASUREMENT", LC_MEASUREMENT_MASK},
+    {"LC_IDENTIFICATION", LC_IDENTIFICATION_MASK},
+};
+
 /// LC_ALL overrides every category: it is dealt out to the others, so that one of them can differ.
 void dealOutLocale() {
   const auto all = environment("LC_ALL");
   if (!all) return;
   if (!all->empty()) {
-    for (const char* category : {"LC_NUMERIC", "LC_TIME", "LC_COLLATE", "LC_MONETARY", "LC_MESSAGES", "LC_PAPER",
-                                 "LC_NAME", "LC_ADDRESS", "LC_TELEPHONE", "LC_MEASUREMENT", "LC_IDENTIFICATION"})
-      ::setenv(category, all->c_str(), 1);
+    for (const Category& category : categories) ::setenv(category.variable, all->c_str(), 1);
   }
   ::unsetenv("LC_ALL");
+}
+
+bool isInstalled(int categoryMask) {
+  const locale_t locale = ::newlocale(categoryMask, "", nullptr);
+  if (!locale) return false;
+  ::freelocale(locale);
+  return true;
+}
+
+/// Where one category names a locale that is not installed, Java's tools take the C locale for all of them, the
+/// character set included.
+void replaceMissingLocales() {
+  if (isInstalled(LC_ALL_MASK)) return;
+  dealOutLocale();
+  for (const Category& category : categories) {
+    if (!isInstalled(category.mask)) ::setenv(category.variable, "C", 1);
+  }
 }
 
 bool speaksUtf8() {
@@ -70,6 +105,7 @@ int processId() {
 }
 
 void prepareProcess() {
+  replaceMissingLocales();
   std::setlocale(LC_CTYPE, "");
   if (!speaksUtf8()) {
     // Texts inside are UTF-8, and Java's tools write and read file names in the locale's set.

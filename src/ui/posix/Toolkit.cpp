@@ -2,6 +2,7 @@
 
 #include <wx/bitmap.h>
 #include <wx/dc.h>
+#include <wx/msgdlg.h>
 #include <wx/notebook.h>
 #include <wx/statbox.h>
 #include <wx/toplevel.h>
@@ -166,6 +167,10 @@ wxRect pageRect(const wxNotebook& tabs) {
   const int top = whole - highest - border.bottom;
   const wxSize size = tabs.GetSize();
   return {border.left, top, size.x - border.left - border.right, size.y - top - border.bottom};
+}
+
+void dismiss(wxMessageDialog& box) {
+  if (GtkWidget* const shown = widget(box)) gtk_dialog_response(GTK_DIALOG(shown), GTK_RESPONSE_DELETE_EVENT);
 }
 
 void invertColours(wxDC& dc, const wxRect& rect) {

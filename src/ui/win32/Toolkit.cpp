@@ -144,6 +144,8 @@ wxRect pageRect(const wxNotebook& tabs) {
           static_cast<int>(room.bottom - room.top)};
 }
 
+void dismiss(wxMessageDialog&) {}
+
 void invertColours(wxDC& dc, const wxRect& rect) {
   RECT area{};
   area.left = dc.LogicalToDeviceX(rect.GetLeft());

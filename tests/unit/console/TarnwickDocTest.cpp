@@ -186,6 +186,17 @@ TEST_F(TarnwickDocTest, RecordingWritesCompletedLinesInFull) {
   EXPECT_TRUE(desktop.messages.empty());
 }
 
+TEST_F(TarnwickDocTest, ALineReachesTheRecordWhenTheNextOneIsBegun) {
+  const std::string file = scratch.file("record.txt");
+  desktop.saveAnswers = {file};
+  EXPECT_TRUE(document.startRecording());
+  document.addText("short", KIND_OUTPUT);
+  EXPECT_EQ(test::contentOf(file), "");
+  document.newLine();
+  EXPECT_EQ(test::contentOf(file), asText("short\n"));
+  EXPECT_TRUE(document.recording());
+}
+
 TEST_F(TarnwickDocTest, TheDocumentsEndLeavesTheUnfinishedLineUnrecorded) {
   const std::string file = scratch.file("record.txt");
   {

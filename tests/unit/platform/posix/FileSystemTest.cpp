@@ -238,6 +238,35 @@ TEST(PosixFileSystem, PreparingReplacesALocaleThatTheSystemDoesNotKnow) {
   expectAfterPreparing([] { return speaksUtf8() && environment("LC_CTYPE") == "C.UTF-8"; });
 }
 
+/// Whether a program that takes all of its locale from the environment gets what it asks for, as Java's tools do.
+bool programsGetTheirLocale() {
+  return std::setlocale(LC_ALL, "") != nullptr && speaksUtf8();
+}
+
+TEST(PosixFileSystem, PreparingReplacesTheCategoriesWhoseLocaleIsNotInstalled) {
+  const ScopedEnvironment all("LC_ALL", "");
+  const ScopedEnvironment type("LC_CTYPE", "");
+  const ScopedEnvironment language("LANG", "C.UTF-8");
+  const ScopedEnvironment time("LC_TIME", "xx_XX.UTF-8");
+  expectAfterPreparing([] {
+    return programsGetTheirLocale() && environment("LC_TIME") == "C" && !environment("LC_NUMERIC") &&
+           environment("LANG") == "C.UTF-8";
+  });
+}
+
+TEST(PosixFileSystem, PreparingReplacesALanguageThatIsNotInstalled) {
+  const ScopedEnvironment all("LC_ALL", "");
+  const ScopedEnvironment type("LC_CTYPE", "");
+  const ScopedEnvironment language("LANG", "xx_XX.UTF-8");
+  expectAfterPreparing(programsGetTheirLocale);
+}
+
+TEST(PosixFileSystem, PreparingReplacesWhatOverridesEveryCategoryAndIsNotInstalled) {
+  const ScopedEnvironment all("LC_ALL", "xx_XX.UTF-8");
+  const ScopedEnvironment type("LC_CTYPE", "");
+  expectAfterPreparing([] { return programsGetTheirLocale() && !environment("LC_ALL"); });
+}
+
 TEST(PosixFileSystem, AWriteToAReaderThatHasGoneFailsAfterPreparing) {
   int ends[2];
   ASSERT_EQ(::pipe(ends), 0);

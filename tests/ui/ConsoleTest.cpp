@@ -179,7 +179,12 @@ TEST_F(ConsoleTest, CharactersAndControlCharactersArrive) {
   }
   press('D', wxMOD_CONTROL);
   press('Z', wxMOD_CONTROL);
-  thenExpect({"char a", "char  ", "char <13>", "char <9>", "char <8>", "char <27>", "char <4>", "char <26>"});
+  press('[', wxMOD_CONTROL);
+  press('\\', wxMOD_CONTROL);
+  press(']', wxMOD_CONTROL);
+  press('[');
+  thenExpect({"char a", "char  ", "char <13>", "char <9>", "char <8>", "char <27>", "char <4>", "char <26>",
+              "char <27>", "char <28>", "char <29>", "char ["});
   thenClose();
   play();
 }
@@ -305,12 +310,6 @@ TEST_F(ConsoleTest, AWakeThatComesAfterAnotherIsNotLost) {
 }
 
 TEST_F(ConsoleTest, TheHintShowsNearTheCornerAndLeavesTheFocus) {
-  const auto hint = [this]() -> wxWindow* {
-    for (wxWindow* child : window()->GetChildren()) {
-      if (child->IsTopLevel() || child->IsShown()) return child;
-    }
-    return nullptr;
-  };
   waitForFrame();
   steps.then("show", [&] { console.surface->showHint(true); });
   steps.settle(10);
@@ -324,6 +323,20 @@ TEST_F(ConsoleTest, TheHintShowsNearTheCornerAndLeavesTheFocus) {
   });
   steps.settle();
   steps.then("look again", [&] { EXPECT_TRUE(!hint() || !hint()->IsShown()); });
+  thenClose();
+  play();
+}
+
+TEST_F(ConsoleTest, TheHintDoesNotStayAloneWhenItsWindowIsMinimised) {
+  waitForFrame();
+  steps.then("show", [this] { console.surface->showHint(true); });
+  steps.until("the hint shows", [this] { return hint() && hint()->IsShown(); });
+  steps.then("minimise", [this] { frame()->Iconize(true); });
+  steps.until("the hint has gone", [this] { return !hint() || !hint()->IsShown(); });
+  steps.then("restore", [this] { frame()->Iconize(false); });
+  steps.until("the window is back", [this] { return !frame()->IsIconized(); });
+  steps.then("show again", [this] { console.surface->showHint(true); });
+  steps.until("the hint shows again", [this] { return hint() && hint()->IsShown(); });
   thenClose();
   play();
 }

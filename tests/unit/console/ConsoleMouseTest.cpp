@@ -183,6 +183,14 @@ TEST_F(ConsoleMouseTest, ADoubleClickBeyondALineDoesNothing) {
   EXPECT_FALSE(view->canCopy());
 }
 
+TEST_F(ConsoleMouseTest, ADoubleClickBeyondALineDropsWhatWasSelected) {
+  openIdle();
+  drag(at(0, 0), at(5, 0));
+  view->onDoubleClick({.at = at(20, 0)});
+  EXPECT_FALSE(view->canCopy());
+  EXPECT_TRUE(inverted().empty());
+}
+
 TEST_F(ConsoleMouseTest, ARightClickCopiesTheSelectionIntoTheInput) {
   openIdle();
   type("stop at ");

@@ -159,6 +159,13 @@ TEST_F(ConsoleSelectionTest, SelectAllIsOneRectangle) {
   EXPECT_EQ(text(), "first line\r\ntwo\r\n\r\nthe fourth line is long\r\n");
 }
 
+TEST_F(ConsoleSelectionTest, AMarkWithNoCharacterBeforeItIsSelectedWithTheLinesStart) {
+  if (!test::charactersAreUtf8()) GTEST_SKIP() << "every character takes one column here";
+  document.addText("\xCC\x81xy", KIND_OUTPUT);
+  select({0, 4}, {1, 4});
+  EXPECT_EQ(text(), "\xCC\x81x");
+}
+
 TEST_F(ConsoleSelectionTest, WideCharactersAreSelectedByTheirColumns) {
   if (!test::charactersAreUtf8()) GTEST_SKIP() << "every character takes one column here";
   document.addText("\xE6\x97\xA5\xE6\x9C\xAC x\xC3\xA4y", KIND_OUTPUT);

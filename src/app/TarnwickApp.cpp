@@ -53,6 +53,7 @@ TarnwickApp::TarnwickApp(Desktop& desktop, ConsoleFrameHost& frameHost, const st
     : desktop_(desktop),
       frameHost_(frameHost),
       program_(withWholeConfigFolder(programAt(executablePath))),
+      zipApplication_(desktop, ".ZIP"),
       log_([this] { return Filename(program_.configDirectory(), "x").directory(); }),
       context_{desktop, program_, log_},
       settings_(context_) {

@@ -6,6 +6,7 @@
 #include "dialogbase/Desktop.h"
 #include "platform/ProjectType.h"
 #include "process/ToolLog.h"
+#include "process/WinApp.h"
 #include "settings/Settings.h"
 
 #include <functional>
@@ -32,6 +33,8 @@ class TarnwickApp {
   const std::string& title() const { return title_; }
   bool debugging() const { return debugging_; }
   const Tarnwickfile& configFile() const { return configFile_; }
+  /// What opens ".ZIP" files here, as the system told at construction; its command text is empty if nothing does.
+  const WinApp& zipApplication() const { return zipApplication_; }
 
   /// Opens the user's guide at an anchor such as "#paths", or at its top for the empty text.
   void showHelp(const std::string& anchor);
@@ -52,6 +55,7 @@ class TarnwickApp {
   Desktop& desktop_;
   ConsoleFrameHost& frameHost_;
   ProgramInfo program_;
+  WinApp zipApplication_;
   ToolLog log_;
   SettingsContext context_;
   Settings settings_;

@@ -3,6 +3,7 @@
 #include "base/Filename.h"
 #include "base/Text.h"
 #include "platform/Path.h"
+#include "platform/ThreadPriority.h"
 
 #include <cstdio>
 #include <exception>
@@ -96,6 +97,8 @@ void ConsoleChild::run() {
   wake_();
   process_->wait();
   if (stopping()) return;
+  // What is left to do has time: the readers bring the last words first.
+  platform::lowerThreadPriority();
   std::fflush(nullptr);
   if (!settle()) return;
   if (totalOutputBytes_ == 0) {

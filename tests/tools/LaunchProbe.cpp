@@ -6,8 +6,10 @@
 //   showlog FOLDER EDITNOTEPAD DISPLAYNOTEPAD TARGET        shows a log that lies in FOLDER; the log's path
 //   edit EDITNOTEPAD FILE TARGET                            opens FILE for editing; the result and the working folder
 //   register PROGRAM                                        makes it the opener of project files
+//   zip PROGRAM                                             command text of what Tarnwick, as this program, has for archives
 //
 // Messages to the user follow, each behind "message: ".
+#include "app/TarnwickApp.h"
 #include "platform/Associations.h"
 #include "platform/FileSystem.h"
 #include "platform/ProjectType.h"
@@ -51,6 +53,17 @@ void edit(tarnwick::Desktop& desktop, const std::vector<std::string>& words) {
   std::cout << done << ' ' << tarnwick::platform::currentDirectory() << std::endl;
 }
 
+/// Shows no console: none is asked for.
+struct NoConsole : tarnwick::ConsoleFrameHost {
+  void runConsoleFrame(tarnwick::ConsoleFrame&) override {}
+};
+
+void printZipApplication(tarnwick::Desktop& desktop, const std::string& program) {
+  NoConsole host;
+  const tarnwick::TarnwickApp app(desktop, host, program);
+  std::cout << app.zipApplication().commandText() << '\n';
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -64,6 +77,7 @@ int main(int argc, char** argv) {
     std::cout << app.runApp(words.at(2).c_str(), words.at(3).c_str(), 0) << '\n';
   }
   if (words.at(0) == "register") tarnwick::platform::registerProjectType(words.at(1));
+  if (words.at(0) == "zip") printZipApplication(desktop, words.at(1));
   if (words.at(0) == "edit") edit(desktop, words);
   if (words.at(0) == "showlog") showLogOf(desktop, words);
   for (const auto& message : desktop.messages) std::cout << "message: " << message << '\n';

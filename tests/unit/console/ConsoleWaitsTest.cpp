@@ -2,6 +2,7 @@
 #include "console/ConsoleChild.h"
 #include "support/Children.h"
 #include "support/ConsoleFixture.h"
+#include "support/ThreadPriorities.h"
 
 #include <algorithm>
 #include <chrono>
@@ -23,7 +24,10 @@ class ConsoleWaitsTest : public testing::Test {
  protected:
   ConsoleWaitsTest() {
     program_.timing = {settle, readerWait, 8, [this](milliseconds time) { onWait(time); }};
-    program_.start = [this](const platform::ChildCommand&) { return std::make_unique<test::FakeChild>(script_); };
+    program_.start = [this](const platform::ChildCommand&) {
+      priorityAtStart_ = test::threadPriority();
+      return std::make_unique<test::FakeChild>(script_);
+    };
     child_ = std::make_unique<ConsoleChild>(screen_, desktop_, program_, [] {});
   }
   ~ConsoleWaitsTest() override { child_->close(); }
@@ -53,6 +57,8 @@ class ConsoleWaitsTest : public testing::Test {
   }
   std::ptrdiff_t waitsOf(milliseconds time) const { return std::count(waits_.begin(), waits_.end(), time); }
 
+  /// Of the child run thread when it starts the child.
+  int priorityAtStart_ = -1000;
   /// What happens within a wait.
   std::function<void(milliseconds)> during_ = [](milliseconds) {};
 
@@ -77,6 +83,17 @@ TEST_F(ConsoleWaitsTest, AQuietEndIsToldAfterOneLookAtTheOutputAndOneAtTheReader
   runToTheEnd();
   EXPECT_EQ(waitsOf(settle), 1);
   EXPECT_EQ(waitsOf(readerWait), 1);
+}
+
+TEST_F(ConsoleWaitsTest, OnceTheChildHasEndedItsRunThreadHasTheLowestPriority) {
+  std::vector<int> priorities;
+  during_ = [&](milliseconds) { priorities.push_back(test::threadPriority()); };
+  const int own = test::threadPriority();
+  runToTheEnd();
+  EXPECT_EQ(priorityAtStart_, own) << "a child may inherit it";
+  EXPECT_NE(own, test::lowestThreadPriority());
+  EXPECT_EQ(priorities, std::vector<int>(2, test::lowestThreadPriority()));
+  EXPECT_EQ(test::threadPriority(), own) << "no other thread has changed";
 }
 
 TEST_F(ConsoleWaitsTest, TheBannerWaitsUntilTheOutputHasSettled) {

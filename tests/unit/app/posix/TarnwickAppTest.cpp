@@ -1,6 +1,9 @@
 #include "../AppFixture.h"
+#include "support/Children.h"
+#include "support/posix/XdgFolders.h"
 
 #include <fcntl.h>
+#include <filesystem>
 #include <poll.h>
 #include <string>
 #include <sys/inotify.h>
@@ -71,6 +74,21 @@ TEST_F(PosixTarnwickAppTest, AConfigurationThatCannotBeReopenedForALongLineIsTol
 TEST_F(PosixTarnwickAppTest, TheExecutablesNameKeepsItsCase) {
   EXPECT_TRUE(app().parseSwitches("\\/EXEFILE=/opt/Java/bin/java\\/"));
   EXPECT_EQ(app().exeFile(), "/opt/Java/bin/java");
+}
+
+TEST_F(PosixTarnwickAppTest, TheOpenerOfArchivesIsLookedUpAtConstruction) {
+  const XdgFolders xdg(userFolder());
+  const std::string programs = userFolder() + "programs/";
+  std::filesystem::create_directory(programs);
+  std::filesystem::copy_file(StandInScript::tool("jar"), programs + "unpacker");
+  const ScopedEnvironment path("PATH", programs);
+  // Asked in a fresh process: the system keeps its answers for the life of one.
+  const auto known = [&] {
+    return outputOf(platform::resolvedPath(standInFolder() + "launch_probe"), "zip " + programFolder() + "tarnwick");
+  };
+  EXPECT_EQ(known(), "\n") << "nothing opens archives here";
+  xdg.addApplication("unpacker", "unpacker -x %f", "application/zip;");
+  EXPECT_EQ(known(), "unpacker -x %f\n");
 }
 
 }  // namespace

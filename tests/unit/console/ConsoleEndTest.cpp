@@ -1,6 +1,5 @@
 // What a person sees of a child's first and last moments.
 #include "support/ConsoleFixture.h"
-#include "support/TestProgram.h"
 
 #include <gtest/gtest.h>
 
@@ -23,17 +22,6 @@ TEST_F(ConsoleEndTest, TheWindowFollowsTheBannerAndTheCaretStandsBelowIt) {
   EXPECT_EQ(lastLine(), "");
   EXPECT_EQ(surface.sizes.y, 16 * rows);
   EXPECT_EQ(caret(), (Rect{4, 16 * (rows - 1), 6, 16 * rows}));
-}
-
-TEST_F(ConsoleEndTest, WhatWasRecordedIsInTheFileAtTheEnd) {
-  const test::ScratchFolder scratch;
-  const std::string file = scratch.file("record.txt");
-  openRunning();
-  desktop.saveAnswers = {file};
-  ASSERT_TRUE(document.startRecording());
-  endChild();
-  EXPECT_TRUE(document.recording());
-  EXPECT_EQ(test::contentOf(file).substr(0, 1), "x") << "nobody stops a recording before looking at it";
 }
 
 TEST_F(ConsoleEndTest, AVerboseRunsCommandIsMadeVisible) {

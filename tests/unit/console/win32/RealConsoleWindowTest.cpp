@@ -62,6 +62,7 @@ class RealConsoleWindowTest : public test::ConsoleFixture {
     }
     ConsoleProgram real{exeFile_, " Main", &platform::ChildProcess::start, {}};
     real.windows = shown_;
+    real.timing.closeGrace = grace_;
     openWith(real);
   }
   platform::WindowNumber window() const { return view->consoleSearch().consoleWindow(); }
@@ -81,6 +82,7 @@ class RealConsoleWindowTest : public test::ConsoleFixture {
   platform::ConsoleWindows& windows_ = platform::ConsoleWindows::ofSystem();
   TellingWindows telling_;
   platform::ConsoleWindows* shown_ = &windows_;
+  std::chrono::milliseconds grace_ = seconds(10);  ///< on a busy machine, too, enough for what ends by itself
   std::unique_ptr<test::StandInScript> standIn_;
   std::string exeFile_;
 };
@@ -142,6 +144,7 @@ TEST_F(RealConsoleWindowTest, AProgramThatIsToldOfTheEndHasTimeForItsLastWork) {
 
 TEST_F(RealConsoleWindowTest, AProgramWhoseLastWorkTakesTooLongIsEnded) {
   shown_ = &telling_;
+  grace_ = seconds(1);
   run("lastwork 60000\ngrandchild 60000\nout up\nsleep 60000");
   ASSERT_TRUE(until([this] { return shows("up"); }));
   ASSERT_TRUE(untilFound());

@@ -130,6 +130,16 @@ TEST_F(ConsoleKeysTest, SeveralReturnsOfSendKeysAreSentWithPauses) {
   EXPECT_EQ(desktop.timersOf(100), 0U);
 }
 
+TEST_F(ConsoleKeysTest, AKeyWhileLinesWaitBeginsThePauseAnew) {
+  openRunning();
+  view->sendKeys("one\\ntwo\\nthree\\n");
+  view->onCharacter(std::string(1, '\0'), 1);
+  EXPECT_EQ(desktop.timersOf(100), 1U);
+  desktop.tick(100);
+  EXPECT_EQ(desktop.timersOf(100), 0U);
+  EXPECT_TRUE(until([&] { return child->writes() == Lines{"one\n", "two\n", "three\n"}; }));
+}
+
 TEST_F(ConsoleKeysTest, FunctionKeysAreLookedUpByGroupAndIndex) {
   openIdle();
   keyText = "k";

@@ -95,6 +95,9 @@ TEST_F(ConsoleMouseTest, ADragStepInvalidatesABandOnly) {
   surface.client.y = 40;
   move(at(2, 2));
   EXPECT_EQ(surface.invalidated.back(), (Rect{0, 0, 644, 40}));
+  surface.position.y = 8;
+  move(at(1, 0));
+  EXPECT_EQ(surface.invalidated.back(), (Rect{0, 8, 644, 48}));
   EXPECT_EQ(surface.allInvalidated, 0);
 }
 

@@ -145,6 +145,11 @@ TEST_F(ConsoleSelectionTest, BeyondTheTextThereIsNoWord) {
   EXPECT_EQ(selection.state(), ConsoleSelection::STATE_NONE);
 }
 
+TEST_F(ConsoleSelectionTest, OnABlankItIsTheWordBefore) {
+  ASSERT_TRUE(selection.selectWord(document, {5, 0}));
+  EXPECT_EQ(text(), "first");
+}
+
 TEST_F(ConsoleSelectionTest, BetweenTwoBlanksThereIsNoWord) {
   document.addText("a  b", KIND_OUTPUT);
   EXPECT_FALSE(selection.selectWord(document, {2, 4}));

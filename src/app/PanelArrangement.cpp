@@ -38,6 +38,81 @@ void shift(LayoutItem& item, int x, int y) {
   item.moveTo(item.left + x, item.top + y);
 }
 
+/// Takes so much off the item's width, but leaves `least`. Gives what could not be taken.
+int shorten(LayoutItem& item, int surplus, int least) {
+  const int taken = std::clamp(surplus, 0, std::max(0, item.width() - least));
+  item.right -= taken;
+  return surplus - taken;
+}
+
+/// By how much a row made of these places is too wide for the screen.
+int surplusOf(PanelPlaces places, void (*inOneRow)(PanelPlaces&)) {
+  inOneRow(places);
+  return places.topWindow.width() - places.screenWidth;
+}
+
+/// Of all pages alike. Gives what could not be taken.
+int shortenPageFields(PanelPlaces& places, int surplus) {
+  int left = surplus;
+  for (auto& page : places.pages) left = shorten(page.field, surplus, page.left.width());
+  return left;
+}
+
+/// Shortens the project view's six buttons, and their two groups with them.
+void shortenButtons(PanelPlaces& places, int surplus) {
+  int rest = surplus;
+  for (std::size_t i = 0; i < places.own.size() && rest > 0; ++i) {
+    const int share = rest / static_cast<int>(places.own.size() - i);
+    const int taken = share - shorten(places.own[i], share, places.own[i].leastWidth);
+    rest -= taken;
+    LayoutItem& group = i < 3 ? places.firstGroup : places.secondGroup;
+    group.right -= taken;
+    // Those behind it in its group move up.
+    for (std::size_t next = i + 1; next < (i < 3 ? 3u : places.own.size()); ++next) shift(places.own[next], -taken, 0);
+  }
+}
+
+void fileViewInOneRow(PanelPlaces& places) {
+  LayoutItem& field = places.own[0];
+  LayoutItem& group = places.secondGroup;
+  const int groupAbove = places.own[1].top - group.top;
+  flattenTabs(places, field.height());
+  field.moveTo(8, places.pages[0].left.top + places.pages[0].page.top + 2);
+  int x = field.right + 4;
+  for (std::size_t i = 1; i < places.own.size(); ++i) {
+    places.own[i].moveTo(x, field.top);
+    x = places.own[i].right;
+  }
+  group.left = 4;
+  group.right = x + 4;
+  // Where the tabs are low, its title would stand out of the window.
+  group.top = std::max(0, field.top - groupAbove);
+  group.bottom = field.bottom + 4;
+  places.tabControl.moveTo(group.right + 4, 2);
+  closeFlat(places, places.firstGroup.top - field.height() + field.top);
+}
+
+void projectViewInOneRow(PanelPlaces& places) {
+  LayoutItem& first = places.firstGroup;
+  LayoutItem& second = places.secondGroup;
+  const int tabsLeft = first.left + first.width() + second.width();
+  flattenTabs(places, places.own[0].height());
+  places.tabControl.moveTo(tabsLeft, 2);
+  const int bottom = places.tabControl.bottom;
+  const LayoutItem firstBefore = first;
+  const LayoutItem secondBefore = second;
+  first.moveTo(4, bottom - first.height());
+  second.moveTo(first.right + 4, bottom - second.height());
+  for (std::size_t i = 0; i < places.own.size(); ++i) {
+    const LayoutItem& group = i < 3 ? first : second;
+    const LayoutItem& before = i < 3 ? firstBefore : secondBefore;
+    shift(places.own[i], group.left - before.left, group.top - before.top);
+  }
+  // Where the tabs are low, the titles would stand out of the window.
+  for (LayoutItem* const group : {&first, &second}) group->top = std::max(0, group->top);
+  closeFlat(places, places.own[3].top - places.own[3].height());
+}
+
 }  // namespace
 
 void clearFields(PanelPlaces& places) {
@@ -61,44 +136,16 @@ void arrangeHorizontal(PanelPlaces& places) {
 }
 
 void arrangeFlatFileView(PanelPlaces& places) {
-  LayoutItem& field = places.own[0];
-  LayoutItem& group = places.secondGroup;
-  const int groupAbove = places.own[1].top - group.top;
-  flattenTabs(places, field.height());
-  field.moveTo(8, places.pages[0].left.top + places.pages[0].page.top + 2);
-  int x = field.right + 4;
-  for (std::size_t i = 1; i < places.own.size(); ++i) {
-    places.own[i].moveTo(x, field.top);
-    x = places.own[i].right;
-  }
-  group.left = 4;
-  group.right = x + 4;
-  // Where the tabs are low, its title would stand out of the window.
-  group.top = std::max(0, field.top - groupAbove);
-  group.bottom = field.bottom + 4;
-  places.tabControl.moveTo(group.right + 4, 2);
-  closeFlat(places, places.firstGroup.top - field.height() + field.top);
+  const int surplus = surplusOf(places, fileViewInOneRow);
+  // Both fields lose the same where both can.
+  const int left = shorten(places.own[0], surplus / 2, places.pages[0].left.width());
+  shortenPageFields(places, surplus - surplus / 2 + left);
+  fileViewInOneRow(places);
 }
 
 void arrangeFlatProjectView(PanelPlaces& places) {
-  LayoutItem& first = places.firstGroup;
-  LayoutItem& second = places.secondGroup;
-  const int tabsLeft = first.left + first.width() + second.width();
-  flattenTabs(places, places.own[0].height());
-  places.tabControl.moveTo(tabsLeft, 2);
-  const int bottom = places.tabControl.bottom;
-  const LayoutItem firstBefore = first;
-  const LayoutItem secondBefore = second;
-  first.moveTo(4, bottom - first.height());
-  second.moveTo(first.right + 4, bottom - second.height());
-  for (std::size_t i = 0; i < places.own.size(); ++i) {
-    const LayoutItem& group = i < 3 ? first : second;
-    const LayoutItem& before = i < 3 ? firstBefore : secondBefore;
-    shift(places.own[i], group.left - before.left, group.top - before.top);
-  }
-  // Where the tabs are low, the titles would stand out of the window.
-  for (LayoutItem* const group : {&first, &second}) group->top = std::max(0, group->top);
-  closeFlat(places, places.own[3].top - places.own[3].height());
+  shortenButtons(places, shortenPageFields(places, surplusOf(places, projectViewInOneRow)));
+  projectViewInOneRow(places);
 }
 
 void addPlaces(PanelLayout& layout, PanelPlaces places) {

@@ -4,6 +4,7 @@
 #include "app/PanelLayout.h"
 
 #include <array>
+#include <limits>
 #include <vector>
 
 namespace tarnwick {
@@ -31,12 +32,15 @@ struct PanelPlaces {
   /// What the frame adds to the client area.
   int frameWidth = 0;
   int frameHeight = 0;
+  /// How wide a window can be on this screen.
+  int screenWidth = std::numeric_limits<int>::max();
 };
 
 /// The tab control becomes so high that the pages' fields are clear of its bottom.
 void clearFields(PanelPlaces& places);
 
-// Each of these changes the places as they stand in the resource.
+// Each of these changes the places as they stand in the resource. Where the screen is too narrow for one row, its
+// fields become shorter, and then the project view's buttons.
 void arrangeVertical(PanelPlaces& places);
 void arrangeHorizontal(PanelPlaces& places);
 /// Of the panel with one group: a field and its buttons.

@@ -102,6 +102,7 @@ PanelPlaces PanelDlg::placesNow() {
   places.topWindow = LayoutItem::of(mainWindow);
   places.frameWidth = places.topWindow.width() - mainWindow.clientRect().width();
   places.frameHeight = places.topWindow.height() - mainWindow.clientRect().height();
+  places.screenWidth = mainWindow.workArea().width();
   places.panel = LayoutItem::of(panel);
   places.tabControl = LayoutItem::of(panel, TAB_CONTROL);
   places.firstGroup = LayoutItem::of(panel, FIRST_GROUP);
@@ -113,7 +114,10 @@ PanelPlaces PanelDlg::placesNow() {
                        LayoutItem::of(page, PanelPage::LEFT), LayoutItem::of(page, PanelPage::MIDDLE),
                        LayoutItem::of(page, PanelPage::RIGHT)};
   }
-  for (const int control : ownControls()) places.own.push_back(LayoutItem::of(panel, control));
+  for (const int control : ownControls()) {
+    places.own.push_back(LayoutItem::of(panel, control));
+    places.own.back().leastWidth = panel.leastWidth(control);
+  }
   clearFields(places);
   return places;
 }

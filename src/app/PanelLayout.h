@@ -21,6 +21,7 @@ struct LayoutItem {
   int control = 0;  ///< 0 for `owner` itself
   int flags = AS_IT_IS;
   DialogWindow* owner = nullptr;  ///< not owned
+  int leastWidth = 0;             ///< to which an arrangement may shorten it
 
   int width() const { return right - left; }
   int height() const { return bottom - top; }
@@ -45,7 +46,8 @@ class PanelLayout {
   LayoutItem& findControl(int number);
   /// The last item that is this window itself, or the first item of all if there is none. Likewise.
   LayoutItem& findWindow(const DialogWindow& window);
-  /// Puts all windows to their places, from the last item to the first.
+  /// Puts all windows to their places, from the last item to the first. Their order among one another stays, which is
+  /// meant: Tab goes through every arrangement as through the resource's own.
   void apply() const;
 
  private:

@@ -47,6 +47,8 @@ class DialogWindow {
   /// In this window's client coordinates.
   virtual Rect rect(int control) const = 0;
   virtual void setRect(int control, const Rect& rect) = 0;
+  /// The width at which its label shows whole.
+  virtual int leastWidth(int control) const = 0;
   virtual void focus(int control) = 0;
   /// Scrolls a field so that a long text shows its end.
   virtual void scrollToEnd(int control) = 0;
@@ -88,6 +90,8 @@ class DialogWindow {
   /// Left and top of the top window on the screen; nothing where the window system does not tell.
   virtual std::optional<Point> position() const = 0;
   virtual void moveTo(const Point& leftTop) = 0;
+  /// The room for windows, without a window manager's frame around them, on the screen that the top window stands on.
+  virtual Rect workArea() const = 0;
 
   /// Ends the dialog with this result.
   virtual void close(int result) = 0;

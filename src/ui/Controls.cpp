@@ -282,6 +282,12 @@ wxSize naturalSize(const DialogItem& item, const Control& control) {
   return size;
 }
 
+int leastWidth(const Control& control) {
+  const wxWindow& window = *control.window;
+  // Before it shows, the toolkit knows less of a button than afterwards.
+  return std::max(window.GetBestSize().x, window.GetTextExtent(window.GetLabel()).x + 2 * window.GetCharWidth());
+}
+
 std::string textOf(const Control& control) {
   switch (control.kind) {
     case ItemKind::Edit:

@@ -45,6 +45,9 @@ int rowHeight(wxWindow& window);
 /// The least size in pixels of an item's window.
 wxSize naturalSize(const DialogItem& item, const Control& control);
 
+/// The width in pixels at which a button's label shows whole.
+int leastWidth(const Control& control);
+
 std::string textOf(const Control& control);
 void setTextOf(const Control& control, const std::string& text);
 bool isChecked(const Control& control);

@@ -5,6 +5,7 @@
 #include "ui/Toolkit.h"
 
 #include <wx/button.h>
+#include <wx/display.h>
 #include <wx/notebook.h>
 #include <wx/radiobut.h>
 #include <wx/statbox.h>
@@ -223,6 +224,12 @@ Rect WxDialogWindow::clientRect() const {
   return {0, 0, size.x, size.y};
 }
 
+Rect WxDialogWindow::workArea() const {
+  // A window manager may put its own frame around a window once that shows.
+  const int frame = surface_.FromDIP(4);
+  return toRect(wxDisplay(wxGetTopLevelParent(&surface_)).GetClientArea().Deflate(frame, 0));
+}
+
 void WxDialogWindow::detach() {
   for (auto& child : children_) child->detach();
   detached_ = true;  // the toolkit still sends this and that while it takes the windows down
@@ -325,6 +332,10 @@ Rect WxDialogWindow::rect(int control) const {
 void WxDialogWindow::setRect(int control, const Rect& rect) {
   placedByRules_ = true;
   at(control).window->SetSize(rect.left, rect.top, rect.width(), rect.height(), wxSIZE_ALLOW_MINUS_ONE);
+}
+
+int WxDialogWindow::leastWidth(int control) const {
+  return ui::leastWidth(at(control));
 }
 
 void WxDialogWindow::focus(int control) {

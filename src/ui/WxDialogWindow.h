@@ -31,6 +31,7 @@ class WxDialogWindow : public DialogWindow {
   void show(int control, bool on) override;
   Rect rect(int control) const override;
   void setRect(int control, const Rect& rect) override;
+  int leastWidth(int control) const override;
   void focus(int control) override;
   void scrollToEnd(int control) override;
   void setToolTip(int control, const std::string& text) override;
@@ -44,6 +45,7 @@ class WxDialogWindow : public DialogWindow {
   Rect windowRect() const override;
   void setWindowRect(const Rect& rect) override;
   Rect clientRect() const override;
+  Rect workArea() const override;
   void arrangeControls() override;
 
   /// The toolkit's window of a control; null if no control bears the number. For tests.

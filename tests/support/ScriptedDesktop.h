@@ -19,6 +19,10 @@ struct ScriptedPlaces {
   /// What the top window's frame takes of its height and its width.
   int frameHeight = 0;
   int frameWidth = 0;
+  /// What the screen has for windows.
+  Rect workArea{0, 0, 3840, 2100};
+  /// The width at which any label shows whole.
+  int leastWidth = 80;
   /// Slots that can't be filled.
   std::vector<int> refusedSlots;
 };
@@ -66,6 +70,7 @@ class ScriptedWindow : public DialogWindow {
   void show(int control, bool on) override;
   Rect rect(int control) const override;
   void setRect(int control, const Rect& rect) override;
+  int leastWidth(int) const override { return places_.leastWidth; }
   void focus(int control) override;
   void scrollToEnd(int control) override;
   void setToolTip(int control, const std::string& text) override;
@@ -88,6 +93,7 @@ class ScriptedWindow : public DialogWindow {
   }
   std::optional<Point> position() const override { return position_; }
   void moveTo(const Point& leftTop) override { position_ = leftTop; }
+  Rect workArea() const override { return places_.workArea; }
   void close(int result) override;
 
  private:

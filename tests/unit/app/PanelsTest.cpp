@@ -192,6 +192,94 @@ TEST_F(PanelsTest, FlatProjectViewHasItsGroupsSideBySide) {
   });
 }
 
+TEST_F(PanelsTest, WhereTheScreenIsTooNarrowTheFieldsOfTheFlatFileViewGiveWayEqually) {
+  auto narrow = places();
+  narrow.workArea = {70, 20, 70 + 1449, 900};  // 301 less than the row takes
+  desktop_.setPlaces(narrow);
+  inLayout("FLAT", false, [](ScriptedWindow& main, ScriptedWindow& panel) {
+    expectRects(main, {{0, at(40, 50, 1449, 124)}});
+    expectRects(panel, {{1239, {4, 20, 540, 80}},
+                        {1009, {8, 46, 212, 76}},
+                        {1240, {216, 46, 296, 80}},
+                        {1008, {456, 46, 536, 80}},
+                        {1231, {544, 2, 1107, 94}}});
+    expectRects(panel.child(FLAT_BAR_SLOT), {{0, {1111, 20, 1441, 84}}});
+    for (int tab = 0; tab < 3; ++tab) expectRects(panel.page(TABS, tab), {{FIELD, {354, 8, 555, 38}}});
+  });
+}
+
+TEST_F(PanelsTest, AFieldStaysAsWideAsAButton) {
+  auto narrow = places();
+  narrow.workArea = {0, 0, 800, 600};
+  desktop_.setPlaces(narrow);
+  inLayout("FLAT", false, [](ScriptedWindow&, ScriptedWindow& panel) {
+    EXPECT_EQ(panel.rect(1009).width(), 100);
+    EXPECT_EQ(panel.page(TABS, 2).rect(FIELD).width(), 100);
+  });
+}
+
+TEST_F(PanelsTest, WhatOneFieldCannotGiveTheOtherGives) {
+  auto narrow = places();
+  narrow.rects[130][1009] = {20, 80, 140, 110};  // 120 wide: 20 to give
+  narrow.workArea = {0, 0, 1750 - 234 - 100, 600};
+  desktop_.setPlaces(narrow);
+  inLayout("FLAT", false, [](ScriptedWindow& main, ScriptedWindow& panel) {
+    EXPECT_EQ(main.windowRect().width(), 1750 - 234 - 100);
+    EXPECT_EQ(panel.rect(1009).width(), 100);
+    EXPECT_EQ(panel.page(TABS, 0).rect(FIELD).width(), 352 - 80);
+  });
+}
+
+TEST_F(PanelsTest, WhereTheScreenIsTooNarrowThePagesFieldsOfTheFlatProjectViewGiveWay) {
+  auto narrow = places();
+  narrow.workArea = {0, 0, 1680, 1000};
+  desktop_.setPlaces(narrow);
+  inLayout("FLAT", true, [](ScriptedWindow& main, ScriptedWindow& panel) {
+    expectRects(main, {{0, at(40, 50, 1680, 128)}});
+    expectRects(panel, {{1239, {378, 28, 748, 98}}, {1231, {752, 2, 1338, 98}}});
+    expectRects(panel.child(FLAT_BAR_SLOT), {{0, {1342, 20, 1672, 84}}});
+    for (int tab = 0; tab < 3; ++tab) expectRects(panel.page(TABS, tab), {{FIELD, {354, 8, 578, 38}}});
+  });
+}
+
+TEST_F(PanelsTest, WhatTheFieldsCannotGiveTheButtonsOfTheFlatProjectViewGive) {
+  auto narrow = places();
+  narrow.workArea = {0, 0, 1808 - 252 - 122, 1000};
+  desktop_.setPlaces(narrow);
+  inLayout("FLAT", true, [](ScriptedWindow& main, ScriptedWindow& panel) {
+    EXPECT_EQ(main.windowRect().width(), 1808 - 252 - 122);
+    expectRects(panel, {{1238, {4, 28, 314, 98}},
+                        {1239, {318, 28, 626, 98}},
+                        {1134, {12, 54, 102, 88}},
+                        {1136, {108, 54, 198, 88}},
+                        {1135, {204, 54, 294, 88}},
+                        {1139, {326, 54, 416, 88}},
+                        {1133, {422, 54, 511, 88}},
+                        {1140, {517, 54, 606, 88}}});
+    EXPECT_EQ(panel.page(TABS, 0).rect(FIELD).width(), 100);
+  });
+}
+
+TEST_F(PanelsTest, NoButtonLosesItsLabel) {
+  auto narrow = places();
+  narrow.workArea = {0, 0, 640, 480};
+  narrow.leastWidth = 95;
+  desktop_.setPlaces(narrow);
+  inLayout("FLAT", true, [](ScriptedWindow&, ScriptedWindow& panel) {
+    for (const int button : {1134, 1136, 1135, 1139, 1133, 1140}) EXPECT_EQ(panel.rect(button).width(), 95);
+  });
+}
+
+TEST_F(PanelsTest, AScreenThatIsWideEnoughChangesNothing) {
+  auto exact = places();
+  exact.workArea = {0, 0, 1750, 1000};
+  desktop_.setPlaces(exact);
+  inLayout("FLAT", false, [](ScriptedWindow& main, ScriptedWindow& panel) {
+    expectRects(main, {{0, at(40, 50, 1750, 124)}});
+    EXPECT_EQ(panel.rect(1009).width(), 354);
+  });
+}
+
 TEST_F(PanelsTest, AWideFrameDoesNotCoverTheFlatBar) {
   auto wide = places();
   wide.frameWidth = 16;

@@ -84,6 +84,7 @@ class TarnwickView : public ConsoleSurfaceClient {
   int startTimer(int milliseconds, std::function<void()> tick);
   void stopTimer(int& timer);
   ConsoleCell cellAt(const Point& at) const;
+  ConsoleCell borderAt(const Point& at);
   int widestLine();
 
   Desktop& desktop_;

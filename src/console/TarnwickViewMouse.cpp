@@ -1,9 +1,23 @@
 // The view's mouse: selecting text and copying it straight into the input.
 #include "console/TarnwickView.h"
+#include "console/TextCells.h"
 
 #include <algorithm>
+#include <cstddef>
 
 namespace tarnwick {
+namespace {
+
+/// True for a column in the middle of a character that takes several.
+bool isWithinCharacter(const ConsoleLine& line, int column) {
+  for (const auto& segment : line.segments()) {
+    if (column < segment.columns) return characterAtColumn(segment.text, segment.columns, column).column != column;
+    column -= segment.columns;
+  }
+  return false;
+}
+
+}  // namespace
 
 ConsoleCell TarnwickView::cellAt(const Point& at) const {
   const ConsoleGrid& grid = screen_.grid;
@@ -11,6 +25,17 @@ ConsoleCell TarnwickView::cellAt(const Point& at) const {
   // The border between two columns lies half-way through a character. Outside the window's left top there is no text.
   const int column = (at.x + scroll.x + grid.charWidth / 2 - ConsoleGrid::leftMargin) / grid.charWidth;
   return {std::max(column, 0), std::max((at.y + scroll.y) / grid.charHeight, 0)};
+}
+
+/// A selection begins and ends between characters: what shows as selected is what will be copied.
+ConsoleCell TarnwickView::borderAt(const Point& at) {
+  ConsoleCell cell = cellAt(at);
+  const TextGuard guard(screen_.lock());
+  const auto& lines = screen_.document.lines();
+  const auto line = static_cast<std::size_t>(cell.line);
+  if (line >= lines.size() || !isWithinCharacter(lines[line], cell.column)) return cell;
+  cell.column += at.x + surface_->scrollPosition().x < screen_.grid.x(cell.column) ? -1 : 1;
+  return cell;
 }
 
 int TarnwickView::widestLine() {
@@ -24,7 +49,7 @@ void TarnwickView::onLeftDown(const MouseState& mouse) {
   if (!selection_.rects().empty()) surface_->invalidateAll();
   selection_.dropRects();
   if (mouse.otherButtonDown || mouse.control) return;
-  const ConsoleCell cell = cellAt(mouse.at);
+  const ConsoleCell cell = borderAt(mouse.at);
   if (mouse.shift && selection_.state() == ConsoleSelection::STATE_STANDS) {
     selection_.extend(cell, widestLine());
     surface_->invalidateAll();
@@ -40,7 +65,7 @@ void TarnwickView::onMouseMove(const MouseState& mouse) {
     selection_.finish();
     return;
   }
-  if (!selection_.drag(cellAt(mouse.at), widestLine())) return;
+  if (!selection_.drag(borderAt(mouse.at), widestLine())) return;
   const Point scroll = surface_->scrollPosition();
   const Point client = surface_->clientSize();
   const Rect band = selection_.dragBand();

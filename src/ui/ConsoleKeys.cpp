@@ -44,8 +44,10 @@ int modifiersOf(const wxKeyEvent& event) {
 std::string characterOf(const wxKeyEvent& event) {
   // Alt with a letter belongs to the menus; with Control, Alt makes characters on many keyboards.
   if (event.AltDown() && !event.ControlDown()) return {};
-  const wxChar character = event.GetUnicodeKey();
+  wxChar character = event.GetUnicodeKey();
   if (character == WXK_NONE || event.GetKeyCode() == WXK_DELETE) return {};
+  // Not every system makes control characters of these: Escape, and those of the numbers 28 to 31.
+  if (event.ControlDown() && !event.AltDown() && character >= '[' && character <= '_') character -= '@';
   return fromWx(wxString(wxUniChar(character)));
 }
 

@@ -49,6 +49,11 @@ WxConsoleFrame::WxConsoleFrame(WindowStack& stack, Desktop& desktop, ConsoleFram
     // What a button has typed is completed at the keyboard.
     surface_->SetFocus();
   });
+  frame_->Bind(wxEVT_ICONIZE, [this](wxIconizeEvent& event) {
+    event.Skip();
+    // Not every system hides it with its window.
+    if (event.IsIconized()) surface_->showHint(false);
+  });
   frame_->Bind(wxEVT_CLOSE_WINDOW, [this](wxCloseEvent& event) {
     if (event.CanVeto()) {
       event.Veto();

@@ -120,6 +120,28 @@ def test_program_without_output_leaves_no_console(scratch):
     assert [one.name for one in person.look()] == ["Tarnwick"]
 
 
+def test_a_program_that_ends_under_the_file_dialog_leaves_it_open(scratch):
+    panel, console = started(scratch, scratch.source("Patient.java"))
+    console.activate()
+    console.press("File")
+    console.press("Save current display to file")
+    dialog = person.Window(wait_until("the file dialog", lambda: next(
+        (one.name for one in person.look() if one.process == console.process and one.name != console.title), None)))
+    open(os.path.join(scratch.work, "go"), "w", encoding="ascii").close()
+    nothing_left(scratch, "java")
+    # A program that said nothing takes its console along, but not from under somebody's hands.
+    time.sleep(1)
+    assert dialog.shows() and console.shows()
+    dialog.activate()
+    person.key("Escape")
+    dialog.is_gone()
+    wait_until("the message", lambda: any("Can't open output file." in child.name for one in person.look()
+                                          for child in one.all()))
+    person.key("Return")
+    console.is_gone()
+    assert scratch.processes("tarnwick") == [panel.process]
+
+
 def test_closing_the_console_stops_the_program(scratch):
     panel, console = started(scratch, scratch.sample("Clock.java"))
     shows(scratch, console, "The clock runs")

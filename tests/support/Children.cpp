@@ -60,6 +60,11 @@ bool StandInScript::hasRecord() const {
   return platform::isFile(folder_.file("record"));
 }
 
+bool StandInScript::lastWorkDone() const {
+  const std::string file = folder_.file("record.last");
+  return platform::isFile(file) && contentOf(file).rfind("done", 0) == 0;
+}
+
 std::vector<int> StandInScript::notedGrandchildren() const {
   std::vector<int> numbers;
   std::ifstream file(folder_.file("record.pids"));

@@ -44,6 +44,8 @@ class StandInScript {
   void setScript(const std::string& script) const { writeFile(folder_.file("script"), script); }
 
   bool hasRecord() const;
+  /// The work of the command "lastwork" is done.
+  bool lastWorkDone() const;
   /// The arguments that were recorded, one a line.
   std::string record() const { return contentOf(folder_.file("record")); }
   /// Waits for `count` grandchildren and gives their process numbers.

@@ -17,6 +17,8 @@
 //   murmurer N MS        the same, but it first writes N lines "murmur" to standard output, one each MS, and then waits
 //                        for 15 seconds
 //   orphan MS            the same in a session of its own, where there are such, and with nobody between left alive
+//   lastwork MS          from here on, a request to end (TERM, or what a console tells the programs in it) is met by so
+//                        much work; then the file STANDIN_RECORD + ".last" is written, and it ends
 //   ignoreterm           ignores the signal TERM, as what it starts does
 //   exit CODE, signal N  ends
 #include "StandInSystem.h"
@@ -122,6 +124,13 @@ void startOrphan(const std::string& milliseconds) {
   std::ofstream(variable("STANDIN_RECORD") + ".pids", std::ios::app) << process << std::endl;
 }
 
+std::string lastWorkTime;
+
+void doLastWork() {
+  sleepFor(lastWorkTime);
+  std::ofstream(variable("STANDIN_RECORD") + ".last") << "done" << std::endl;
+}
+
 void keep(const std::string& file) {
   std::ofstream kept(variable("STANDIN_RECORD") + ".kept", std::ios::app | std::ios::binary);
   std::ifstream content(file, std::ios::binary);
@@ -156,6 +165,10 @@ void play(const std::string& command, const std::string& rest, const char* name)
   if (command == "murmurer")
     startGrandchild(murmurArgument + rest.substr(0, rest.find(' ')) + ',' + rest.substr(rest.find(' ') + 1));
   if (command == "orphan") startOrphan(rest);
+  if (command == "lastwork") {
+    lastWorkTime = rest;
+    tarnwick::test::onRequestToEnd(doLastWork);
+  }
   if (command == "ignoreterm") std::signal(SIGTERM, SIG_IGN);
   if (command == "exit") std::exit(std::atoi(rest.c_str()));
   if (command == "signal") endBy(std::atoi(rest.c_str()));

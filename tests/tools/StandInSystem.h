@@ -17,4 +17,7 @@ int startCopy(const std::string& argument);
 /// The same, but as a stranger to this process: in a session of its own and without a parent, where there are such.
 int startOrphan(const std::string& argument);
 
+/// From here on a request to end runs this, on a thread of its own, and then ends the process. Once.
+void onRequestToEnd(void (*work)());
+
 }  // namespace tarnwick::test

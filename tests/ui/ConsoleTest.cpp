@@ -1,5 +1,6 @@
 // The part of the console's window in which the text stands.
 #include "platform/Characters.h"
+#include "ui/ConsoleKeys.h"
 #include "ui/ConsoleWindow.h"
 #include "ui/Pixels.h"
 #include "ui/Text.h"
@@ -184,6 +185,24 @@ TEST_F(ConsoleTest, CharactersAndControlCharactersArrive) {
   play();
 }
 
+TEST(ConsoleKeys, WithControlBracketsMakeControlCharactersOnEverySystem) {
+  const auto typed = [](char character, int modifiers) {
+    wxKeyEvent event(wxEVT_CHAR);
+    event.m_keyCode = character;
+    event.m_uniChar = character;
+    event.SetControlDown((modifiers & wxMOD_CONTROL) != 0);
+    event.SetAltDown((modifiers & wxMOD_ALT) != 0);
+    return ui::characterOf(event);
+  };
+  EXPECT_EQ(typed('[', wxMOD_CONTROL), "\x1B");
+  EXPECT_EQ(typed('\\', wxMOD_CONTROL), "\x1C");
+  EXPECT_EQ(typed('_', wxMOD_CONTROL), "\x1F");
+  EXPECT_EQ(typed('\x1B', wxMOD_CONTROL), "\x1B") << "where the system has made one";
+  EXPECT_EQ(typed('[', 0), "[");
+  EXPECT_EQ(typed('[', wxMOD_CONTROL | wxMOD_ALT), "[") << "as many keyboards have it";
+  EXPECT_EQ(typed(' ', wxMOD_CONTROL), " ");
+}
+
 TEST_F(ConsoleTest, NavigationAndFunctionKeysArriveWithTheirModifiers) {
   waitForFrame();
   press(WXK_HOME);
@@ -305,12 +324,6 @@ TEST_F(ConsoleTest, AWakeThatComesAfterAnotherIsNotLost) {
 }
 
 TEST_F(ConsoleTest, TheHintShowsNearTheCornerAndLeavesTheFocus) {
-  const auto hint = [this]() -> wxWindow* {
-    for (wxWindow* child : window()->GetChildren()) {
-      if (child->IsTopLevel() || child->IsShown()) return child;
-    }
-    return nullptr;
-  };
   waitForFrame();
   steps.then("show", [&] { console.surface->showHint(true); });
   steps.settle(10);
@@ -324,6 +337,20 @@ TEST_F(ConsoleTest, TheHintShowsNearTheCornerAndLeavesTheFocus) {
   });
   steps.settle();
   steps.then("look again", [&] { EXPECT_TRUE(!hint() || !hint()->IsShown()); });
+  thenClose();
+  play();
+}
+
+TEST_F(ConsoleTest, TheHintDoesNotStayAloneWhenItsWindowIsMinimised) {
+  waitForFrame();
+  steps.then("show", [this] { console.surface->showHint(true); });
+  steps.until("the hint shows", [this] { return hint() && hint()->IsShown(); });
+  steps.then("minimise", [this] { frame()->Iconize(true); });
+  steps.until("the hint has gone", [this] { return !hint() || !hint()->IsShown(); });
+  steps.then("restore", [this] { frame()->Iconize(false); });
+  steps.until("the window is back", [this] { return !frame()->IsIconized(); });
+  steps.then("show again", [this] { console.surface->showHint(true); });
+  steps.until("the hint shows again", [this] { return hint() && hint()->IsShown(); });
   thenClose();
   play();
 }

@@ -45,6 +45,13 @@ class ConsoleTest : public WindowTest {
   }
 
   wxWindow* window() const { return dynamic_cast<ui::WxConsoleSurface*>(console.surface); }
+  /// Null before its first time.
+  wxWindow* hint() const {
+    for (wxWindow* child : window()->GetChildren()) {
+      if (child->IsTopLevel() || child->IsShown()) return child;
+    }
+    return nullptr;
+  }
   wxFrame* frame() const { return dynamic_cast<wxFrame*>(wxGetTopLevelParent(window())); }
 
   FakeConsole console;

@@ -1,9 +1,11 @@
 #include "../StandInSystem.h"
 
+#include <csignal>
 #include <fcntl.h>
 #include <filesystem>
 #include <spawn.h>
 #include <sys/wait.h>
+#include <thread>
 #include <unistd.h>
 
 namespace tarnwick::test {
@@ -37,6 +39,19 @@ int startOrphan(const std::string& argument) {
   close(ends[0]);
   waitpid(between, nullptr, 0);
   return process;
+}
+
+void onRequestToEnd(void (*work)()) {
+  sigset_t request;
+  sigemptyset(&request);
+  sigaddset(&request, SIGTERM);
+  pthread_sigmask(SIG_BLOCK, &request, nullptr);
+  std::thread([request, work] {
+    int signal = 0;
+    sigwait(&request, &signal);
+    work();
+    _exit(0);
+  }).detach();
 }
 
 }  // namespace tarnwick::test

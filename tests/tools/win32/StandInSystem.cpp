@@ -8,6 +8,17 @@
 #include <process.h>
 
 namespace tarnwick::test {
+namespace {
+
+void (*lastWork)() = nullptr;
+
+/// The system calls it on a thread of its own.
+BOOL WINAPI endAfterWork(DWORD) {
+  lastWork();
+  ExitProcess(0);
+}
+
+}  // namespace
 
 void useBinaryStreams() {
   for (std::FILE* stream : {stdin, stdout, stderr}) _setmode(_fileno(stream), _O_BINARY);
@@ -33,6 +44,11 @@ int startCopy(const std::string& argument) {
 
 int startOrphan(const std::string& argument) {
   return startCopy(argument);
+}
+
+void onRequestToEnd(void (*work)()) {
+  lastWork = work;
+  SetConsoleCtrlHandler(endAfterWork, TRUE);
 }
 
 }  // namespace tarnwick::test

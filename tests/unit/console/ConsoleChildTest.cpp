@@ -2,7 +2,6 @@
 #include "console/ConsoleChild.h"
 #include "platform/Path.h"
 #include "support/ConsoleFixture.h"
-#include "support/TestProgram.h"
 
 #include <algorithm>
 #include <atomic>
@@ -292,6 +291,9 @@ TEST_F(ConsoleChildTest, AWriteThatFailsIsTold) {
   type("y\r");
   ASSERT_TRUE(until([&] { return child->writes().size() == 2; }));
   EXPECT_EQ(view->childState(), 1);
+  child->answerWrites(-1);
+  type("z\r");
+  EXPECT_TRUE(until([&] { return desktop.messages.size() == 2; })) << "the next failure is told again";
 }
 
 TEST_F(ConsoleChildTest, AWriteThatComesShortIsTold) {
@@ -352,6 +354,7 @@ TEST_F(ConsoleChildTest, AfterTheEndNothingIsWritten) {
   ASSERT_TRUE(until([&] { return ended(); }));
   child->answerWrites(-1);
   type("y\r");
+  std::this_thread::sleep_for(milliseconds(50));  // as long as a writer would need
   pump();
   view->onClose();
   EXPECT_TRUE(child->writes().empty());
@@ -482,24 +485,6 @@ TEST_F(ConsoleChildTest, AStreamThatEndsFirstDoesNotCutALineOfTheOther) {
   child->end();
   ASSERT_TRUE(until([&] { return ended(); }));
   EXPECT_EQ(lines(), (Lines{"", "", "one line", "", "", banner, ""}));
-}
-
-TEST_F(ConsoleChildTest, ARecordingUnderFloodHoldsEveryLine) {
-  test::ScratchFolder scratch;
-  const std::string file = scratch.file("record.txt");
-  openRunning();
-  desktop.saveAnswers = {file};
-  ASSERT_TRUE(document.startRecording());
-  std::string expected;
-  for (int line = 0; line < 5000; ++line) {
-    child->out("line " + std::to_string(line) + "\n");
-    expected += "line " + std::to_string(line) + "\n";
-  }
-  ASSERT_TRUE(until([&] { return shows("line 4999"); }));
-  document.stopRecording();
-  std::string content = test::contentOf(file);
-  content.erase(std::remove(content.begin(), content.end(), '\r'), content.end());
-  EXPECT_EQ(content, expected);
 }
 
 }  // namespace

@@ -35,6 +35,19 @@ TEST_F(ConsoleKeysTest, AKeyDropsTheSelectionAndHidesTheHint) {
   EXPECT_FALSE(surface.hint);
 }
 
+TEST_F(ConsoleKeysTest, ACharacterThatDoesNothingDropsTheSelectionAndHidesTheHintToo) {
+  for (const char character : {'\0', '\b'}) {
+    openIdle();
+    view->onRightDown({});
+    view->selectAll();
+    ASSERT_TRUE(view->canCopy() && surface.hint);
+    view->onCharacter(std::string(1, character), 1);
+    EXPECT_FALSE(view->canCopy());
+    EXPECT_FALSE(surface.hint);
+    EXPECT_EQ(lastSegments(), Lines{});
+  }
+}
+
 TEST_F(ConsoleKeysTest, TypingFarRightScrolls) {
   openIdle();
   type(std::string(200, 'x'));
@@ -117,6 +130,16 @@ TEST_F(ConsoleKeysTest, SeveralReturnsOfSendKeysAreSentWithPauses) {
   EXPECT_EQ(desktop.timersOf(100), 0U);
 }
 
+TEST_F(ConsoleKeysTest, AKeyWhileLinesWaitBeginsThePauseAnew) {
+  openRunning();
+  view->sendKeys("one\\ntwo\\nthree\\n");
+  view->onCharacter(std::string(1, '\0'), 1);
+  EXPECT_EQ(desktop.timersOf(100), 1U);
+  desktop.tick(100);
+  EXPECT_EQ(desktop.timersOf(100), 0U);
+  EXPECT_TRUE(until([&] { return child->writes() == Lines{"one\n", "two\n", "three\n"}; }));
+}
+
 TEST_F(ConsoleKeysTest, FunctionKeysAreLookedUpByGroupAndIndex) {
   openIdle();
   keyText = "k";
@@ -173,6 +196,18 @@ TEST_F(ConsoleKeysTest, WithAltANavigationKeyIsOfNoUse) {
   EXPECT_FALSE(view->onKey(ConsoleKey::Other, 0));
   type("d");
   EXPECT_EQ(lastLine(), "abcd");
+}
+
+TEST_F(ConsoleKeysTest, WithControlAndAltItIsAKeyLikeAnother) {
+  openRunning();
+  type("abc");
+  EXPECT_TRUE(view->onKey(ConsoleKey::Home, CTRL_BIT | ALT_BIT));
+  type("d");
+  EXPECT_EQ(lastLine(), "dabc");
+  type("\r");
+  endChild();
+  view->onKey(ConsoleKey::Other, CTRL_BIT | ALT_BIT);
+  EXPECT_EQ(surface.closes, 1);
 }
 
 TEST_F(ConsoleKeysTest, AnyKeyAfterTheEndClosesTheWindow) {

@@ -51,6 +51,26 @@ TEST_F(ConsoleMouseTest, TheBorderLiesHalfWayThroughACharacter) {
   EXPECT_EQ(view->selectedText(), "lph");
 }
 
+TEST_F(ConsoleMouseTest, NoHalfOfAWideCharacterIsSelected) {
+  if (!test::charactersAreUtf8()) GTEST_SKIP() << "every character takes one column here";
+  document.addText("x\xE6\x97\xA5", KIND_OUTPUT);
+  document.addText("\xE6\x9C\xAC", KIND_INPUT);
+  openIdle();
+  const auto place = [](int pixels) { return Point{4 + pixels, 3 * 16 + 5}; };
+  // Left and right of the middle of the first wide character, then of the second one.
+  drag(place(15), place(31));
+  EXPECT_EQ(view->selectedText(), "\xE6\x97\xA5");
+  EXPECT_EQ(inverted(), (Rects{{4 + 8, 48, 4 + 24, 64}}));
+  drag(place(16), place(32));
+  EXPECT_EQ(view->selectedText(), "\xE6\x9C\xAC");
+  EXPECT_EQ(inverted(), (Rects{{4 + 24, 48, 4 + 40, 64}}));
+  view->onLeftDown({.at = place(15), .leftDown = true, .shift = true});
+  EXPECT_EQ(view->selectedText(), "\xE6\x97\xA5\xE6\x9C\xAC");
+  surface.position.x = 8;
+  drag(place(8), place(80));
+  EXPECT_EQ(view->selectedText(), "\xE6\x9C\xAC");
+}
+
 TEST_F(ConsoleMouseTest, TheScrollPositionCounts) {
   openIdle();
   surface.position = {16, 16};
@@ -75,6 +95,9 @@ TEST_F(ConsoleMouseTest, ADragStepInvalidatesABandOnly) {
   surface.client.y = 40;
   move(at(2, 2));
   EXPECT_EQ(surface.invalidated.back(), (Rect{0, 0, 644, 40}));
+  surface.position.y = 8;
+  move(at(1, 0));
+  EXPECT_EQ(surface.invalidated.back(), (Rect{0, 8, 644, 48}));
   EXPECT_EQ(surface.allInvalidated, 0);
 }
 
@@ -161,6 +184,14 @@ TEST_F(ConsoleMouseTest, ADoubleClickBeyondALineDoesNothing) {
   view->onDoubleClick({.at = at(20, 0)});
   view->onDoubleClick({.at = at(0, 30)});
   EXPECT_FALSE(view->canCopy());
+}
+
+TEST_F(ConsoleMouseTest, ADoubleClickBeyondALineDropsWhatWasSelected) {
+  openIdle();
+  drag(at(0, 0), at(5, 0));
+  view->onDoubleClick({.at = at(20, 0)});
+  EXPECT_FALSE(view->canCopy());
+  EXPECT_TRUE(inverted().empty());
 }
 
 TEST_F(ConsoleMouseTest, ARightClickCopiesTheSelectionIntoTheInput) {

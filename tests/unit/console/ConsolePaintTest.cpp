@@ -60,6 +60,13 @@ TEST_F(ConsolePaintTest, OnlyLinesInTheClipAreDrawn) {
   EXPECT_LE(drawn.size(), 3U);
 }
 
+TEST_F(ConsolePaintTest, ALineOfWhichOnlyTheTopShowsIsDrawn) {
+  document.addText("above", KIND_OUTPUT);
+  document.newLine();
+  document.addText("cut", KIND_OUTPUT);
+  EXPECT_EQ(paint({0, 0, 644, 17}).back().text, "cut");
+}
+
 TEST_F(ConsolePaintTest, OfALongLineOnlyWhatIsSeenIsDrawn) {
   std::string text(1000000, 'x');
   text.replace(500000, 4, "SEEN");

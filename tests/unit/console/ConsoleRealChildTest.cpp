@@ -125,6 +125,15 @@ TEST_F(ConsoleRealChildTest, ClosingEndsTheWholeTreeThoughItIgnoresTerm) {
   EXPECT_TRUE(test::waitInNaps(milliseconds(3000), [&] { return !test::processLives(grandchild); }));
 }
 
+TEST_F(ConsoleRealChildTest, ClosingLetsAProgramDoItsLastWork) {
+  if (platform::folderSeparator != '/') GTEST_SKIP() << "here the console window asks it, which has tests of its own";
+  run("lastwork 300\nout up\nsleep 60000");
+  ASSERT_TRUE(until([&] { return shows("up"); }));
+  EXPECT_FALSE(standIn->lastWorkDone());
+  view->onClose();
+  EXPECT_TRUE(test::waitInNaps(milliseconds(1900), [&] { return standIn->lastWorkDone(); }));
+}
+
 TEST_F(ConsoleRealChildTest, ClosingAProgramThatNeverReadsItsInputIsQuick) {
   withoutConsoleWindow();
   run("out up\nsleep 60000");

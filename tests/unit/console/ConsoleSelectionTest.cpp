@@ -145,6 +145,11 @@ TEST_F(ConsoleSelectionTest, BeyondTheTextThereIsNoWord) {
   EXPECT_EQ(selection.state(), ConsoleSelection::STATE_NONE);
 }
 
+TEST_F(ConsoleSelectionTest, OnABlankItIsTheWordBefore) {
+  ASSERT_TRUE(selection.selectWord(document, {5, 0}));
+  EXPECT_EQ(text(), "first");
+}
+
 TEST_F(ConsoleSelectionTest, BetweenTwoBlanksThereIsNoWord) {
   document.addText("a  b", KIND_OUTPUT);
   EXPECT_FALSE(selection.selectWord(document, {2, 4}));
@@ -157,6 +162,13 @@ TEST_F(ConsoleSelectionTest, SelectAllIsOneRectangle) {
   EXPECT_EQ(selection.rects(), (Rects{{4, 0, 4 + 23 * 8, 80}}));
   EXPECT_EQ(selection.state(), ConsoleSelection::STATE_STANDS);
   EXPECT_EQ(text(), "first line\r\ntwo\r\n\r\nthe fourth line is long\r\n");
+}
+
+TEST_F(ConsoleSelectionTest, AMarkWithNoCharacterBeforeItIsSelectedWithTheLinesStart) {
+  if (!test::charactersAreUtf8()) GTEST_SKIP() << "every character takes one column here";
+  document.addText("\xCC\x81xy", KIND_OUTPUT);
+  select({0, 4}, {1, 4});
+  EXPECT_EQ(text(), "\xCC\x81x");
 }
 
 TEST_F(ConsoleSelectionTest, WideCharactersAreSelectedByTheirColumns) {

@@ -1,7 +1,9 @@
 #include "console/InputEditor.h"
 #include "support/ConsoleFixture.h"
 
+#include <functional>
 #include <gtest/gtest.h>
+#include <utility>
 
 namespace tarnwick {
 namespace {
@@ -314,6 +316,33 @@ TEST_F(InputEditorTest, HighBytesAreClassedByTheirLowSevenBits) {
   if (test::charactersAreUtf8()) GTEST_SKIP() << "bytes from 128 up belong to characters here";
   type("a\xE4\x84");
   EXPECT_EQ(sent, (Lines{"a\xE4", "\x84"}));
+}
+
+TEST_F(InputEditorTest, EachEditAsksForTheScreenToFollow) {
+  type("sent\r");
+  output("prompt> ");
+  type("abcd");
+  const auto asked = [this](const std::function<void()>& edit) {
+    screen.changes = {};
+    edit();
+    EXPECT_TRUE(screen.changes.show);
+    EXPECT_EQ(screen.changes.rows, document.lineCount());
+    return std::pair(screen.changes.leftColumn, screen.changes.lastColumn);
+  };
+  using Columns = std::pair<int, int>;
+  EXPECT_EQ(asked([&] { type("e"); }), (Columns{12, 13}));
+  EXPECT_EQ(asked([&] { press(ConsoleKey::Home); }), (Columns{8, 8})) << "the old caret stands to the right of it";
+  EXPECT_EQ(asked([&] { press(ConsoleKey::Right); }), (Columns{8, 9}));
+  EXPECT_EQ(asked([&] { press(ConsoleKey::Delete); }), (Columns{9, 10}));
+  EXPECT_EQ(asked([&] { type("\b"); }), (Columns{7, 9}));
+  EXPECT_EQ(asked([&] { press(ConsoleKey::End); }), (Columns{8, 11}));
+  EXPECT_EQ(asked([&] { press(ConsoleKey::Left); }), (Columns{10, 11}));
+  EXPECT_EQ(asked([&] { press(ConsoleKey::Up); }), (Columns{8, 12}));
+  press(ConsoleKey::End);
+  EXPECT_EQ(asked([&] { type("\t"); }), (Columns{0, 16}));
+  EXPECT_EQ(asked([&] { type("\x04"); }), (Columns{0, 16}));
+  EXPECT_EQ(asked([&] { type("\x04"); }), (Columns{0, 16})) << "with nothing typed";
+  EXPECT_EQ(asked([&] { type("\r"); }), (Columns{0, 0}));
 }
 
 TEST_F(InputEditorTest, AMillionCharactersInTheMiddleOfALine) {

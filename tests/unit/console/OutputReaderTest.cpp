@@ -79,6 +79,11 @@ TEST_F(OutputReaderTest, ATabFillsUpToTheNextEighthColumn) {
   EXPECT_EQ(screen.caret.column(), 9);
 }
 
+TEST_F(OutputReaderTest, ATabAtABlocksEndTakesTheCaretAlong) {
+  out.handle("a\t");
+  EXPECT_EQ(screen.caret.column(), 8);
+}
+
 TEST_F(OutputReaderTest, ABlockWithoutLineEndIsOneAddition) {
   const std::string block(512, 'x');
   out.handle(block);

@@ -157,6 +157,22 @@ TEST_F(TarnwickViewTest, RefreshFollowsTheLastLine) {
   EXPECT_EQ(surface.position, (Point{0, 1200}));
 }
 
+TEST_F(TarnwickViewTest, RefreshFollowsFromBelowToo) {
+  openIdle();
+  addLines(100);
+  surface.position.y = 5000;
+  view->refresh(101, 0, 1);
+  EXPECT_EQ(surface.position.y, 101 * 16 - 400);
+}
+
+TEST_F(TarnwickViewTest, TheCaretStandsOnTheLastLineFromTheStart) {
+  addLines(3);
+  openIdle();
+  FakePainter painter;
+  view->paint(painter);
+  EXPECT_EQ(painter.inverted, (Rects{{4, 48, 6, 64}}));
+}
+
 TEST_F(TarnwickViewTest, RefreshShowsTheRightOfALongLine) {
   openIdle();
   addText(std::string(200, 'x'));

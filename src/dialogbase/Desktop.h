@@ -36,11 +36,15 @@ class Desktop {
 
   /// One existing file; nothing after Cancel.
   virtual std::optional<std::string> openFile(const FileRequest& request) = 0;
+  /// One or more existing files, in the dialog's order; none after Cancel.
+  virtual std::vector<std::string> openFiles(const FileRequest& request) = 0;
   virtual std::optional<std::string> saveFile(const FileRequest& request) = 0;
   /// The folder browser; nothing after Cancel.
   virtual std::optional<std::string> browseFolder() = 0;
 
   virtual void alert(AlertSound sound) = 0;
+  /// Shows the wait cursor, or ends what the last such call began.
+  virtual void showWaitCursor(bool on) = 0;
 
   virtual std::optional<std::string> clipboardText() = 0;
   /// False if the clipboard would not take it.

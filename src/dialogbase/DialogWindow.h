@@ -61,6 +61,10 @@ class DialogWindow {
   virtual int selection(int control) const = 0;
   /// Sends no notification.
   virtual void select(int control, int index) = 0;
+  /// Of a list whose entries may be selected each for itself.
+  virtual bool selected(int control, int index) const = 0;
+  /// Likewise. Sends no notification.
+  virtual void setSelected(int control, int index, bool on) = 0;
 
   /// Adds a tab with a page of its own; the page of the selected tab shows. The handler's `initialise` has run when
   /// this returns. The page lives as long as this window.

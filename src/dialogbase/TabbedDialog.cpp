@@ -18,6 +18,11 @@ void TabbedDialog::initialise(DialogWindow& window) {
   currentPage_ = window.selection(tabControl_);
 }
 
+void TabbedDialog::openPage(int index) {
+  window()->select(tabControl_, index);
+  currentPage_ = index;
+}
+
 void TabbedDialog::onSelectionChanged(int control) {
   if (control != tabControl_) return;
   currentPage_ = window()->selection(tabControl_);

@@ -43,6 +43,8 @@ class TabbedDialog : public ToolTipDlg {
   void addTab(const std::string& label, TabPage& page);
   /// The window of the page with this index.
   DialogWindow& pageWindow(int index) const { return *pageWindows_.at(static_cast<std::size_t>(index)); }
+  /// Opens a tab as a user would, but `onTabChanged` is not told.
+  void openPage(int index);
   /// The user has opened another tab.
   virtual void onTabChanged() {}
 

@@ -5,6 +5,7 @@
 #include <ctime>
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace tarnwick::platform {
 
@@ -28,6 +29,9 @@ std::optional<std::time_t> lastChange(const std::string& path);
 
 /// False if the file could not be deleted.
 bool deleteFile(const std::string& path);
+
+/// The names of the plain files in a folder, links to such included, in no order; none if it can't be read.
+std::vector<std::string> filesIn(const std::string& folder);
 
 /// True for what links lead to, too.
 bool isFile(const std::string& path);

@@ -47,6 +47,7 @@ struct DialogItem {
   bool equalWidths = false;          ///< a row or column whose buttons are equally wide
   std::vector<std::string> entries;  ///< of a combo box
   int lines = 0;                     ///< height of a list; 0 for the usual one
+  bool multiple = false;             ///< a list whose entries may be selected each for itself
   std::string spoken;                ///< the name for readers of the screen, where no label before it tells
   std::vector<DialogItem> children;
 
@@ -92,6 +93,10 @@ struct DialogItem {
   }
   DialogItem linesHigh(int count) && {
     lines = count;
+    return std::move(*this);
+  }
+  DialogItem selectingSeveral() && {
+    multiple = true;
     return std::move(*this);
   }
   DialogItem named(const std::string& name) && {

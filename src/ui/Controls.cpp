@@ -118,7 +118,8 @@ wxWindow* makeWindow(wxWindow& parent, const DialogItem& item) {
     case ItemKind::ComboBox:
       return makeCombo(parent, item);
     case ItemKind::ListBox:
-      return new wxListBox(&parent, wxID_ANY, wxDefaultPosition, wxDefaultSize, 0, nullptr, wxLB_SINGLE | wxLB_HSCROLL);
+      return new wxListBox(&parent, wxID_ANY, wxDefaultPosition, wxDefaultSize, 0, nullptr,
+                           (item.multiple ? wxLB_EXTENDED : wxLB_SINGLE) | wxLB_HSCROLL);
     case ItemKind::Tabs:
       return new wxNotebook(&parent, wxID_ANY);
     default:
@@ -345,6 +346,14 @@ void selectIn(const Control& control, int index) {
     const bool known = index >= 0 && static_cast<std::size_t>(index) < tabs.GetPageCount();
     if (known) tabs.ChangeSelection(static_cast<std::size_t>(index));
   }
+}
+
+bool isEntrySelected(const Control& control, int index) {
+  return control.kind == ItemKind::ListBox && as<wxListBox>(control).IsSelected(index);
+}
+
+void setEntrySelected(const Control& control, int index, bool on) {
+  if (control.kind == ItemKind::ListBox) as<wxListBox>(control).SetSelection(index, on);
 }
 
 void scrollToEndOf(const Control& control) {

@@ -56,6 +56,8 @@ std::vector<std::string> entriesOf(const Control& control);
 void setEntriesOf(const Control& control, const std::vector<std::string>& entries);
 int selectionOf(const Control& control);
 void selectIn(const Control& control, int index);
+bool isEntrySelected(const Control& control, int index);
+void setEntrySelected(const Control& control, int index, bool on);
 void scrollToEndOf(const Control& control);
 
 }  // namespace tarnwick::ui

@@ -36,17 +36,31 @@ void cancel(wxDialog& dialog) {
   if (dialog.IsModal()) dialog.EndModal(wxID_CANCEL);
 }
 
-std::optional<std::string> run(WindowStack& stack, const FileRequest& request, const char* title, long style) {
+std::vector<std::string> runForSeveral(WindowStack& stack, const FileRequest& request, const char* title, long style) {
   const std::string folder = platform::isFolder(request.startFolder) ? request.startFolder : std::string();
   const std::string filter = toolkitFilter(request.filter);
   wxFileDialog dialog(stack.parent(), title, toWx(folder), toWx(presetOf(request)),
                       filter.empty() ? wxString(wxFileSelectorDefaultWildcardStr) : toWx(filter), style);
   const WindowStack::Place place(stack, nullptr, [&dialog] { cancel(dialog); });
   const NativeLoop posted;
-  const bool chosen = dialog.ShowModal() == wxID_OK;
+  const bool confirmed = dialog.ShowModal() == wxID_OK;
   stack.goOn();
-  if (!chosen) return std::nullopt;
-  return fromWx(dialog.GetPath());
+  if (!confirmed) return {};
+  if ((style & wxFD_MULTIPLE) == 0) return {fromWx(dialog.GetPath())};
+  wxArrayString chosen;
+  dialog.GetPaths(chosen);
+  std::vector<std::string> paths;
+  for (const auto& path : chosen) paths.push_back(fromWx(path));
+  return paths;
+}
+
+std::optional<std::string> run(WindowStack& stack, const FileRequest& request, const char* title, long style) {
+  const auto chosen = runForSeveral(stack, request, title, style);
+  return chosen.empty() ? std::nullopt : std::optional(chosen.front());
+}
+
+long openStyle(const FileRequest& request) {
+  return wxFD_OPEN | (request.mustExist ? wxFD_FILE_MUST_EXIST : 0);
 }
 
 }  // namespace
@@ -67,7 +81,11 @@ std::string withExtension(const std::string& path, const std::string& extension)
 }
 
 std::optional<std::string> openFileDialog(WindowStack& stack, const FileRequest& request) {
-  return run(stack, request, "Open", wxFD_OPEN | (request.mustExist ? wxFD_FILE_MUST_EXIST : 0));
+  return run(stack, request, "Open", openStyle(request));
+}
+
+std::vector<std::string> openFilesDialog(WindowStack& stack, const FileRequest& request) {
+  return runForSeveral(stack, request, "Open", openStyle(request) | wxFD_MULTIPLE);
 }
 
 std::optional<std::string> saveFileDialog(WindowStack& stack, const FileRequest& request) {

@@ -5,10 +5,12 @@
 
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace tarnwick::ui {
 
 std::optional<std::string> openFileDialog(WindowStack& stack, const FileRequest& request);
+std::vector<std::string> openFilesDialog(WindowStack& stack, const FileRequest& request);
 std::optional<std::string> saveFileDialog(WindowStack& stack, const FileRequest& request);
 std::optional<std::string> folderDialog(WindowStack& stack);
 

@@ -43,6 +43,10 @@ std::optional<std::string> WxDesktop::openFile(const FileRequest& request) {
   return openFileDialog(stack_, request);
 }
 
+std::vector<std::string> WxDesktop::openFiles(const FileRequest& request) {
+  return openFilesDialog(stack_, request);
+}
+
 std::optional<std::string> WxDesktop::saveFile(const FileRequest& request) {
   return saveFileDialog(stack_, request);
 }
@@ -63,6 +67,13 @@ void WxDesktop::alert(AlertSound sound) {
       platform::playAlert(platform::Alert::Beep);
       break;
   }
+}
+
+void WxDesktop::showWaitCursor(bool on) {
+  if (on)
+    wxBeginBusyCursor();
+  else
+    wxEndBusyCursor();
 }
 
 std::optional<std::string> WxDesktop::clipboardText() {

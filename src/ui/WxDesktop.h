@@ -20,9 +20,11 @@ class WxDesktop : public Desktop, public ConsoleFrameHost {
   bool askOkCancel(const std::string& text) override;
   bool askYesNo(const std::string& text) override;
   std::optional<std::string> openFile(const FileRequest& request) override;
+  std::vector<std::string> openFiles(const FileRequest& request) override;
   std::optional<std::string> saveFile(const FileRequest& request) override;
   std::optional<std::string> browseFolder() override;
   void alert(AlertSound sound) override;
+  void showWaitCursor(bool on) override;
   std::optional<std::string> clipboardText() override;
   bool setClipboardText(const std::string& text) override;
   int runDialog(const DialogLayout& layout, DialogHandler& handler) override;

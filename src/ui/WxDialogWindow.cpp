@@ -378,6 +378,16 @@ void WxDialogWindow::select(int control, int index) {
   quiet_ = false;
 }
 
+bool WxDialogWindow::selected(int control, int index) const {
+  return isEntrySelected(at(control), index);
+}
+
+void WxDialogWindow::setSelected(int control, int index, bool on) {
+  quiet_ = true;
+  setEntrySelected(at(control), index, on);
+  quiet_ = false;
+}
+
 DialogWindow& WxDialogWindow::addTabPage(int tabs, const std::string& label, const DialogLayout& layout,
                                          DialogHandler& handler) {
   auto* const book = dynamic_cast<wxNotebook*>(at(tabs).window);

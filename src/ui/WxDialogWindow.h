@@ -39,6 +39,8 @@ class WxDialogWindow : public DialogWindow {
   void setEntries(int control, const std::vector<std::string>& entries) override;
   int selection(int control) const override;
   void select(int control, int index) override;
+  bool selected(int control, int index) const override;
+  void setSelected(int control, int index, bool on) override;
   DialogWindow& addTabPage(int tabs, const std::string& label, const DialogLayout& layout,
                            DialogHandler& handler) override;
   DialogWindow& addChild(int slot, const DialogLayout& layout, DialogHandler& handler) override;

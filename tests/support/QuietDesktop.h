@@ -18,9 +18,11 @@ class QuietDesktop : public Desktop {
   bool askOkCancel(const std::string& /*text*/) override { return false; }
   bool askYesNo(const std::string& /*text*/) override { return false; }
   std::optional<std::string> openFile(const FileRequest& /*request*/) override { return {}; }
+  std::vector<std::string> openFiles(const FileRequest& /*request*/) override { return {}; }
   std::optional<std::string> saveFile(const FileRequest& /*request*/) override { return {}; }
   std::optional<std::string> browseFolder() override { return {}; }
   void alert(AlertSound /*sound*/) override {}
+  void showWaitCursor(bool /*on*/) override {}
   std::optional<std::string> clipboardText() override { return {}; }
   bool setClipboardText(const std::string& /*text*/) override { return false; }
   int runDialog(const DialogLayout& /*layout*/, DialogHandler& /*handler*/) override { return 0; }

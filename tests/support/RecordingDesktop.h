@@ -65,6 +65,10 @@ class RecordingDesktop : public Desktop {
     unexpected("openFile");
     return std::nullopt;
   }
+  std::vector<std::string> openFiles(const FileRequest& /*request*/) override {
+    unexpected("openFiles");
+    return {};
+  }
   std::optional<std::string> saveFile(const FileRequest& request) override {
     saveRequests.push_back(request);
     if (saveAnswers.empty()) {
@@ -80,6 +84,7 @@ class RecordingDesktop : public Desktop {
     return std::nullopt;
   }
   void alert(AlertSound sound) override { alerts.push_back(sound); }
+  void showWaitCursor(bool /*on*/) override {}
   std::optional<std::string> clipboardText() override { return clipboard; }
   bool setClipboardText(const std::string& text) override {
     if (clipboardTakes) clipboard = text;

@@ -90,6 +90,13 @@ void ScriptedWindow::choose(int control, int index) {
   handler_.onSelectionChanged(control);
 }
 
+void ScriptedWindow::doubleClick(int control, int index) {
+  Control* pressed = usable(control, "press twice in");
+  if (!pressed) return;
+  select(control, index);
+  handler_.onDoubleClick(control);
+}
+
 std::string ScriptedWindow::toolTip(int control) const {
   return at(control).toolTip;
 }
@@ -175,12 +182,20 @@ std::vector<std::string> ScriptedWindow::entries(int control) const {
 }
 void ScriptedWindow::setEntries(int control, const std::vector<std::string>& entries) {
   at(control).entries = entries;
+  at(control).chosen.assign(entries.size(), false);
 }
 int ScriptedWindow::selection(int control) const {
   return at(control).selection;
 }
 void ScriptedWindow::select(int control, int index) {
   at(control).selection = index;
+}
+
+bool ScriptedWindow::selected(int control, int index) const {
+  return at(control).chosen.at(static_cast<std::size_t>(index));
+}
+void ScriptedWindow::setSelected(int control, int index, bool on) {
+  at(control).chosen.at(static_cast<std::size_t>(index)) = on;
 }
 
 DialogWindow& ScriptedWindow::addTabPage(int tabs, const std::string& label, const DialogLayout& layout,
@@ -213,6 +228,7 @@ void ScriptedWindow::close(int result) {
 
 ScriptedDesktop::~ScriptedDesktop() {
   for (const auto& step : steps_) ADD_FAILURE() << "never came: " << step.kind << " \"" << step.text << "\"";
+  EXPECT_EQ(waiting_, 0) << "the wait cursor was left";
 }
 
 void ScriptedDesktop::expectMessage(const std::string& text) {
@@ -223,6 +239,9 @@ void ScriptedDesktop::expectQuestion(const std::string& text, bool answer) {
 }
 void ScriptedDesktop::expectOpenFile(std::optional<std::string> answer) {
   steps_.push_back({"open", "", std::move(answer), false, {}});
+}
+void ScriptedDesktop::expectOpenFiles(std::vector<std::string> answer) {
+  steps_.push_back({"several", "", {}, false, {}, std::move(answer)});
 }
 void ScriptedDesktop::expectSaveFile(std::optional<std::string> answer) {
   steps_.push_back({"save", "", std::move(answer), false, {}});
@@ -262,6 +281,17 @@ std::optional<std::string> ScriptedDesktop::openFile(const FileRequest& request)
   lastRequest_ = request;
   const auto step = take("open", "");
   return step ? step->answer : std::nullopt;
+}
+
+std::vector<std::string> ScriptedDesktop::openFiles(const FileRequest& request) {
+  lastRequest_ = request;
+  const auto step = take("several", "");
+  return step ? step->answers : std::vector<std::string>();
+}
+
+void ScriptedDesktop::showWaitCursor(bool on) {
+  waits_ += on ? 1 : 0;
+  waiting_ += on ? 1 : -1;
 }
 
 std::optional<std::string> ScriptedDesktop::saveFile(const FileRequest& request) {

@@ -38,6 +38,7 @@ class ScriptedWindow : public DialogWindow {
   void press(int control);
   void type(int control, const std::string& text);
   void choose(int control, int index);
+  void doubleClick(int control, int index);
   void closeBox() { handler_.onCloseRequest(); }
   /// Chooses an entry of the window's system menu.
   void chooseSystemCommand(const std::string& label);
@@ -78,6 +79,8 @@ class ScriptedWindow : public DialogWindow {
   void setEntries(int control, const std::vector<std::string>& entries) override;
   int selection(int control) const override;
   void select(int control, int index) override;
+  bool selected(int control, int index) const override;
+  void setSelected(int control, int index, bool on) override;
   DialogWindow& addTabPage(int tabs, const std::string& label, const DialogLayout& layout,
                            DialogHandler& handler) override;
   DialogWindow& addChild(int slot, const DialogLayout& layout, DialogHandler& handler) override;
@@ -109,6 +112,7 @@ class ScriptedWindow : public DialogWindow {
     Rect rect;
     std::vector<std::string> entries;
     int selection = -1;
+    std::vector<bool> chosen;  ///< by entry, of a list that selects several
     int radioGroup = 0;
   };
 
@@ -146,6 +150,8 @@ class ScriptedDesktop : public Desktop {
   void expectMessage(const std::string& text);
   void expectQuestion(const std::string& text, bool answer);
   void expectOpenFile(std::optional<std::string> answer);
+  /// For several; none stands for Cancel.
+  void expectOpenFiles(std::vector<std::string> answer);
   void expectSaveFile(std::optional<std::string> answer);
   void expectBrowseFolder(std::optional<std::string> answer);
   /// The next modal dialog bears this title; `script` plays its user and closes it.
@@ -155,6 +161,8 @@ class ScriptedDesktop : public Desktop {
   /// What the last file dialog was asked for.
   const FileRequest& lastRequest() const { return lastRequest_; }
   const std::vector<AlertSound>& alerts() const { return alerts_; }
+  /// How often the wait cursor has shown. It must have gone again each time.
+  int waits() const { return waits_; }
   /// The position that the main window gets from the window system.
   void setWindowPosition(std::optional<Point> position) { windowPosition_ = position; }
   /// Where the controls of the next windows stand.
@@ -170,9 +178,11 @@ class ScriptedDesktop : public Desktop {
   bool askOkCancel(const std::string& text) override { return ask(text); }
   bool askYesNo(const std::string& text) override { return ask(text); }
   std::optional<std::string> openFile(const FileRequest& request) override;
+  std::vector<std::string> openFiles(const FileRequest& request) override;
   std::optional<std::string> saveFile(const FileRequest& request) override;
   std::optional<std::string> browseFolder() override;
   void alert(AlertSound sound) override { alerts_.push_back(sound); }
+  void showWaitCursor(bool on) override;
   std::optional<std::string> clipboardText() override { return clipboard_; }
   bool setClipboardText(const std::string& text) override;
   int runDialog(const DialogLayout& layout, DialogHandler& handler) override;
@@ -184,11 +194,12 @@ class ScriptedDesktop : public Desktop {
 
  private:
   struct Step {
-    std::string kind;  ///< "message", "question", "open", "save", "folder", "dialog", "main"
+    std::string kind;  ///< "message", "question", "open", "several", "save", "folder", "dialog", "main"
     std::string text;
     std::optional<std::string> answer;
     bool yes = false;
     DialogScript script;
+    std::vector<std::string> answers = {};
   };
 
   std::optional<Step> take(const std::string& kind, const std::string& text);
@@ -203,6 +214,8 @@ class ScriptedDesktop : public Desktop {
   std::optional<std::string> clipboard_;
   std::map<int, std::function<void()>> timers_;
   int lastTimer_ = 0;
+  int waits_ = 0;
+  int waiting_ = 0;
   std::mutex postLock_;
   std::deque<std::function<void()>> posted_;
 };

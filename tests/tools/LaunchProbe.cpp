@@ -6,7 +6,7 @@
 //   showlog FOLDER EDITNOTEPAD DISPLAYNOTEPAD TARGET        shows a log that lies in FOLDER; the log's path
 //   edit EDITNOTEPAD FILE TARGET                            opens FILE for editing; the result and the working folder
 //   register PROGRAM                                        makes it the opener of project files
-//   zip PROGRAM                                             command text of what Tarnwick, as this program, has for archives
+//   zip PROGRAM                                             command text of what Tarnwick, as PROGRAM, has for archives
 //
 // Messages to the user follow, each behind "message: ".
 #include "app/TarnwickApp.h"

@@ -81,6 +81,17 @@ bool isFile(const std::string& path) {
   return status && S_ISREG(status->st_mode);
 }
 
+std::vector<std::string> filesIn(const std::string& folder) {
+  namespace fs = std::filesystem;
+  std::vector<std::string> names;
+  std::error_code failure;
+  for (fs::directory_iterator entry(folder, failure), end; !failure && entry != end; entry.increment(failure)) {
+    std::error_code unknown;
+    if (entry->is_regular_file(unknown)) names.push_back(entry->path().filename().string());
+  }
+  return names;
+}
+
 bool isFolder(const std::string& path) {
   const auto status = statusOf(path);
   return status && S_ISDIR(status->st_mode);

@@ -64,5 +64,40 @@ TEST(TabbedDialogTest, TheSelectionOfAnotherControlIsNoTabChange) {
   EXPECT_EQ(dialog.currentPage(), 0);
 }
 
+/// Counts what it hears of its tabs.
+class CountingTabs : public TabbedDialog {
+ public:
+  explicit CountingTabs(Desktop& desktop) : TabbedDialog(desktop, 7, TABS) {
+    addTab("One", one_);
+    addTab("Two", two_);
+  }
+  using TabbedDialog::openPage;
+  int changes = 0;
+
+ private:
+  void onTabChanged() override { ++changes; }
+
+  DialogLayout oneLayout_{8, "", false, column({edit(10, 20)}), 0};
+  DialogLayout twoLayout_{9, "", false, column({edit(10, 20)}), 0};
+  TabPage one_{desktop_, 8, 7, oneLayout_};
+  TabPage two_{desktop_, 9, 7, twoLayout_};
+};
+
+TEST(TabbedDialogTest, APageIsOpenedWithoutATabChangeBeingTold) {
+  ScriptedDesktop desktop;
+  CountingTabs dialog(desktop);
+  const DialogLayout layout{7, "Dialog", false, column({tabs(TABS)}), 0};
+  ScriptedWindow window(layout, dialog);
+  dialog.initialise(window);
+  for (const int index : {1, 1, 0}) {
+    dialog.openPage(index);
+    EXPECT_EQ(window.selection(TABS), index);
+    EXPECT_EQ(dialog.currentPage(), index);
+  }
+  EXPECT_EQ(dialog.changes, 0);
+  window.choose(TABS, 1);
+  EXPECT_EQ(dialog.changes, 1);
+}
+
 }  // namespace
 }  // namespace tarnwick::test

@@ -2,11 +2,13 @@
 #include "platform/Path.h"
 #include "support/TestProgram.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <cstring>
 #include <ctime>
 #include <gtest/gtest.h>
 #include <string>
+#include <vector>
 
 namespace tarnwick::platform {
 namespace {
@@ -192,6 +194,34 @@ TEST(FileSystem, FilesAndFoldersAreToldApart) {
   EXPECT_FALSE(isFile(folder.file("missing")));
   EXPECT_FALSE(isFolder(folder.file("missing")));
   EXPECT_FALSE(isFolder(""));
+}
+
+TEST(FileSystem, FilesInAFolderAreThePlainOnes) {
+  const ScratchFolder folder;
+  writeFile(folder.file("b c.java"), "x");
+  writeFile(folder.file(".hidden"), "");
+  writeFile(folder.file("plain"), "x");
+  ASSERT_TRUE(makeFolders(folder.file("inner")));
+  writeFile(folder.file("inner") + folderSeparator + "deeper", "x");
+  const std::vector<std::string> expected = {".hidden", "b c.java", "plain"};
+  std::string withoutSeparator = folder.path();
+  withoutSeparator.pop_back();
+  for (const std::string& path : {folder.path(), withoutSeparator}) {
+    auto found = filesIn(path);
+    std::sort(found.begin(), found.end());
+    EXPECT_EQ(found, expected) << path;
+  }
+  EXPECT_EQ(filesIn(folder.file("inner")), std::vector<std::string>{"deeper"});
+}
+
+TEST(FileSystem, AFolderThatCantBeReadHasNoFiles) {
+  const ScratchFolder folder;
+  writeFile(folder.file("x"), "x");
+  ASSERT_TRUE(makeFolders(folder.file("empty")));
+  ASSERT_TRUE(changeDirectory(folder.path()));
+  for (const std::string& path : {folder.file("empty"), folder.file("missing"), folder.file("x"), std::string()}) {
+    EXPECT_TRUE(filesIn(path).empty()) << path;
+  }
 }
 
 TEST(FileSystem, MakeFoldersMakesThoseAboveToo) {

@@ -23,6 +23,8 @@ struct SettingsContext {
   std::function<void(const std::string& anchor)> showHelp = [](const std::string&) {};
   /// Runs the About dialog. The application sets it.
   std::function<void()> showAbout = [] {};
+  /// Makes this program the opener of project files. The application sets it.
+  std::function<void()> registerProjectType = [] {};
   /// The warning before a source is split; stands in no file, so each run of the program begins with it.
   bool warnAboutSplitting = true;
   /// The JDKs of this machine, the newest first.

@@ -1,0 +1,384 @@
+#include "ProjectFixture.h"
+#include "project/ProjectFilesDlg.h"
+#include "resources/ProjectLayouts.h"
+#include "resources/TemplateLayouts.h"
+
+#include <algorithm>
+
+namespace tarnwick::test {
+namespace {
+
+using Names = std::vector<std::string>;
+
+class ProjectFilesDlgTest : public ProjectFixture {
+ protected:
+  int run(ProjectContext& project, const ScriptedDesktop::DialogScript& script) {
+    desktop_.expectDialog("Define which files belong to the project", script);
+    return ProjectFilesDlg(settings(), project).runModal();
+  }
+  /// What the two lists show, left and right.
+  static void expectLists(const ScriptedWindow& window, const Names& members, const Names& others) {
+    EXPECT_EQ(window.entries(PROJECT_FILES), members);
+    EXPECT_EQ(window.entries(OTHER_FILES), others);
+  }
+  static void select(ScriptedWindow& window, int list, const Names& names) {
+    const auto entries = window.entries(list);
+    for (const auto& name : names) {
+      const auto found = std::find(entries.begin(), entries.end(), name);
+      ASSERT_NE(found, entries.end()) << name;
+      window.setSelected(list, static_cast<int>(found - entries.begin()), true);
+    }
+  }
+  static int selectedCount(const ScriptedWindow& window, int list) {
+    int count = 0;
+    for (std::size_t i = 0; i < window.entries(list).size(); ++i) count += window.selected(list, static_cast<int>(i));
+    return count;
+  }
+  /// Presses "Create new file ....", and types this name there.
+  void create(ScriptedWindow& window, const std::string& name) {
+    desktop_.expectDialog("Create new sourcefile in project", [&name](ScriptedWindow& dialog) {
+      dialog.type(NEW_NAME, name);
+      dialog.press(IDOK_CONTROL);
+    });
+    window.press(CREATE_FILE);
+  }
+};
+
+void collectLabels(const DialogItem& item, Names& labels) {
+  if (item.kind == ItemKind::Label) labels.push_back(item.text);
+  for (const auto& child : item.children) collectLabels(child, labels);
+}
+
+const DialogItem* itemOf(const DialogItem& item, int control) {
+  if (item.control == control) return &item;
+  for (const auto& child : item.children)
+    if (const auto* found = itemOf(child, control)) return found;
+  return nullptr;
+}
+
+TEST_F(ProjectFilesDlgTest, ShowsItsLabelsAndToolTips) {
+  const struct {
+    int control;
+    const char* text;
+    const char* toolTip;
+  } table[] = {
+      {PROJECT_FILES, "", "Files belonging to the current project"},
+      {OTHER_FILES, "", "Files found in the current project directory that do not belong to the project"},
+      {ADD_FILES, "<--", "Add selected files to project context"},
+      {REMOVE_FILES, "-->", "Remove selected files from project context"},
+      {SELECT_ALL_FILES, "Select all", "Select all files in both list boxes"},
+      {SELECT_NO_FILES, "Select none", "Deselect all files in both list boxes"},
+      {CREATE_FILE, "Create new file ....",
+       "Create a new source file in the project directory, add it to the project."},
+      {ALLOW_MULTIPLE_MAIN, "Allow 'public static void main' in multiple classes",
+       "[Checked: Manual] [Unchecked: Automatic] selection of class containing public static void main() method for "
+       "execution."},
+      {PROJECT_FILES_HELP, "Help", "Start HTML browser to display the Tarnwick user's guide"},
+      {IDOK_CONTROL, "OK", "Update project context to include the files from the current selection"},
+      {IDCANCEL_CONTROL, "Cancel", "Close without modifying the current project context"},
+  };
+  run(open(""), [&](ScriptedWindow& window) {
+    for (const auto& row : table) {
+      EXPECT_EQ(window.text(row.control), row.text);
+      EXPECT_EQ(window.toolTip(row.control), row.toolTip);
+    }
+    window.press(IDCANCEL_CONTROL);
+  });
+  Names labels;
+  collectLabels(projectFilesLayout().content, labels);
+  EXPECT_EQ(labels, (Names{"Project files", "Other java/html files in directory"}));
+  for (const int list : {PROJECT_FILES, OTHER_FILES}) EXPECT_TRUE(itemOf(projectFilesLayout().content, list)->multiple);
+}
+
+TEST_F(ProjectFilesDlgTest, ListsMembersAndTheOtherFilesOfTheFolderSorted) {
+  for (const char* name : {"B.java", "a.java", "C.java", "x.htm", "Y.HTML", "my page.html", "k.JAVA", "notes.txt",
+                           "B.class", "javasource", "d.htm.bak"})
+    makeSource(name);
+  platform::makeFolders(folder() + "sub.java");
+  run(open("PROJECT_SOURCES  C.java;a.java\nPROJECT_HTMLFILE  \"my page.html\"\n"), [&](ScriptedWindow& window) {
+    expectLists(window, {"a.java", "C.java", "my page.html"}, {"B.java", "d.htm.bak", "k.JAVA", "x.htm", "Y.HTML"});
+    EXPECT_FALSE(window.checked(ALLOW_MULTIPLE_MAIN));
+    window.press(IDCANCEL_CONTROL);
+  });
+}
+
+TEST_F(ProjectFilesDlgTest, TheCheckBoxShowsWhoSelectsTheMainClass) {
+  run(open("PROJECT_MULTIMAIN  ON\n"), [](ScriptedWindow& window) {
+    EXPECT_TRUE(window.checked(ALLOW_MULTIPLE_MAIN));
+    window.press(IDCANCEL_CONTROL);
+  });
+}
+
+TEST_F(ProjectFilesDlgTest, AMemberThatIsGoneIsCountedAndLeavesWithOk) {
+  for (const char* name : {"A.java", "B.java", "C.java"}) makeSource(name);
+  ProjectContext& project = openWith("A.java;B.java;C.java");
+  for (const char* gone : {"A.java", "C.java"}) {
+    platform::deleteFile(folder() + gone);
+    desktop_.expectMessage((gone[0] == 'A' ? "1" : "2") +
+                           std::string(" files belonging to the project could not be opened."));
+    run(project, [](ScriptedWindow& window) { window.press(IDCANCEL_CONTROL); });
+  }
+  EXPECT_EQ(namesOf(project), (Names{"A.java", "B.java", "C.java"})) << "Cancel keeps it";
+  desktop_.expectMessage("2 files belonging to the project could not be opened.");
+  run(project, [](ScriptedWindow& window) {
+    expectLists(window, {"B.java"}, {});
+    window.press(IDOK_CONTROL);
+  });
+  EXPECT_EQ(namesOf(project), Names{"B.java"});
+}
+
+TEST_F(ProjectFilesDlgTest, SelectedFilesMoveToTheLeft) {
+  for (const char* name : {"A.java", "B.java", "C.java", "D.java"}) makeSource(name);
+  run(openWith("B.java"), [](ScriptedWindow& window) {
+    select(window, PROJECT_FILES, {"B.java"});
+    select(window, OTHER_FILES, {"A.java", "D.java"});
+    window.press(ADD_FILES);
+    expectLists(window, {"A.java", "B.java", "D.java"}, {"C.java"});
+    EXPECT_EQ(selectedCount(window, PROJECT_FILES), 0) << "all are deselected in the target";
+    EXPECT_EQ(selectedCount(window, OTHER_FILES), 0);
+    window.press(ADD_FILES);
+    expectLists(window, {"A.java", "B.java", "D.java"}, {"C.java"});
+    window.press(IDCANCEL_CONTROL);
+  });
+}
+
+TEST_F(ProjectFilesDlgTest, SelectedFilesMoveToTheRight) {
+  for (const char* name : {"A.java", "B.java", "C.java", "x.html"}) makeSource(name);
+  run(open("PROJECT_SOURCES  A.java;B.java\nPROJECT_HTMLFILE  x.html\n"), [](ScriptedWindow& window) {
+    select(window, PROJECT_FILES, {"A.java", "x.html"});
+    select(window, OTHER_FILES, {"C.java"});
+    window.press(REMOVE_FILES);
+    expectLists(window, {"B.java"}, {"A.java", "C.java", "x.html"});
+    EXPECT_EQ(selectedCount(window, OTHER_FILES), 0);
+    window.press(IDCANCEL_CONTROL);
+  });
+}
+
+TEST_F(ProjectFilesDlgTest, SelectAllAndNoneConcernBothLists) {
+  for (const char* name : {"A.java", "B.java", "C.java"}) makeSource(name);
+  run(openWith("A.java"), [](ScriptedWindow& window) {
+    window.press(SELECT_ALL_FILES);
+    EXPECT_EQ(selectedCount(window, PROJECT_FILES), 1);
+    EXPECT_EQ(selectedCount(window, OTHER_FILES), 2);
+    window.press(SELECT_NO_FILES);
+    EXPECT_EQ(selectedCount(window, PROJECT_FILES), 0);
+    EXPECT_EQ(selectedCount(window, OTHER_FILES), 0);
+    window.press(SELECT_ALL_FILES);
+    window.press(ADD_FILES);
+    expectLists(window, {"A.java", "B.java", "C.java"}, {});
+    window.press(IDCANCEL_CONTROL);
+  });
+}
+
+TEST_F(ProjectFilesDlgTest, OkMakesTheProjectWhatTheListSays) {
+  for (const char* name : {"b.java", "A.JAVA", "C.java", "my page.html"}) makeSource(name, "class X { }");
+  ProjectContext& project = openWith("C.java");
+  project.update();
+  const int waits = desktop_.waits();
+  const int result = run(project, [](ScriptedWindow& window) {
+    window.press(SELECT_ALL_FILES);
+    window.press(ADD_FILES);
+    window.press(ALLOW_MULTIPLE_MAIN);
+    window.press(IDOK_CONTROL);
+  });
+  EXPECT_EQ(result, DIALOG_OK);
+  EXPECT_EQ(desktop_.waits(), waits + 1);
+  EXPECT_EQ(namesOf(project), (Names{"A.JAVA", "b.java", "C.java"})) << "the list's order is alphabetical";
+  EXPECT_EQ(project.htmlFile, "\"my page.html\"");
+  EXPECT_EQ(project.multiMain, 1);
+  EXPECT_TRUE(project.sources[2].types().empty()) << "all are fresh, so that the next look reads them";
+  EXPECT_FALSE(project.sources[2].isCurrent());
+  for (std::size_t i = 0; i < project.sources.size(); ++i) EXPECT_FALSE(project.sources[i].isOpen());
+  EXPECT_EQ(linesOf(projectFile()), "PROJECT_SOURCES  C.java\n") << "the caller saves";
+}
+
+TEST_F(ProjectFilesDlgTest, OkOnAnEmptyListLeavesNoSourceAndNoHtmlFile) {
+  makeSource("A.java");
+  makeSource("x.html");
+  ProjectContext& project = open("PROJECT_SOURCES  A.java\nPROJECT_HTMLFILE  x.html\nPROJECT_MULTIMAIN  ON\n");
+  EXPECT_EQ(run(project,
+                [](ScriptedWindow& window) {
+                  window.press(SELECT_ALL_FILES);
+                  window.press(REMOVE_FILES);
+                  window.press(ALLOW_MULTIPLE_MAIN);
+                  window.press(IDOK_CONTROL);
+                }),
+            DIALOG_OK);
+  EXPECT_TRUE(project.sources.empty());
+  EXPECT_EQ(project.htmlFile, "");
+  EXPECT_EQ(project.multiMain, 0);
+}
+
+TEST_F(ProjectFilesDlgTest, ASecondHtmlFileIsRefusedAndTheDialogStaysOpen) {
+  for (const char* name : {"A.java", "m.html", "x.html", "Z.java"}) makeSource(name);
+  ProjectContext& project = open("PROJECT_SOURCES  A.java\nPROJECT_HTMLFILE  x.html\n");
+  run(project, [&](ScriptedWindow& window) {
+    window.press(ALLOW_MULTIPLE_MAIN);
+    window.press(SELECT_ALL_FILES);
+    window.press(ADD_FILES);
+    desktop_.expectMessage("You can include only 1 html file in the project!");
+    window.press(IDOK_CONTROL);
+    EXPECT_FALSE(window.closed());
+    EXPECT_EQ(project.htmlFile, "m.html") << "as far as it got";
+    EXPECT_EQ(namesOf(project), Names{"A.java"});
+    window.press(IDCANCEL_CONTROL);
+  });
+  EXPECT_EQ(project.htmlFile, "m.html") << "Cancel does not bring the former one back";
+  EXPECT_EQ(namesOf(project), Names{"A.java"});
+  EXPECT_EQ(project.multiMain, 0);
+}
+
+TEST_F(ProjectFilesDlgTest, AFileThatGoesWhileTheDialogIsOpenIsToldAtOk) {
+  for (const char* name : {"A.java", "B b.java", "x.html"}) makeSource(name);
+  ProjectContext& project = open("PROJECT_SOURCES  A.java;B b.java\nPROJECT_HTMLFILE  x.html\n");
+  run(project, [&](ScriptedWindow& window) {
+    platform::deleteFile(folder() + "B b.java");
+    const std::string path = folder() + "B b.java";
+    desktop_.expectMessage(refusal(path, FileMode::Read) + "\nCan't open " + path);
+    window.press(IDOK_CONTROL);
+    EXPECT_FALSE(window.closed());
+    EXPECT_EQ(namesOf(project), (Names{"A.java", "B b.java"}));
+    EXPECT_EQ(project.htmlFile, "") << "emptied, and not yet set again";
+    select(window, PROJECT_FILES, {"B b.java"});
+    window.press(REMOVE_FILES);
+    window.press(IDOK_CONTROL);
+  });
+  EXPECT_EQ(namesOf(project), Names{"A.java"});
+  EXPECT_EQ(project.htmlFile, "x.html");
+}
+
+TEST_F(ProjectFilesDlgTest, CancelKeepsAll) {
+  for (const char* name : {"A.java", "B.java", "x.html"}) makeSource(name);
+  ProjectContext& project = openWith("A.java");
+  const auto change = [](ScriptedWindow& window) {
+    window.press(SELECT_ALL_FILES);
+    window.press(ADD_FILES);
+    window.press(ALLOW_MULTIPLE_MAIN);
+  };
+  for (const bool byBox : {false, true}) {
+    EXPECT_EQ(run(project,
+                  [&](ScriptedWindow& window) {
+                    change(window);
+                    byBox ? window.closeBox() : window.press(IDCANCEL_CONTROL);
+                  }),
+              DIALOG_CANCEL);
+    EXPECT_EQ(namesOf(project), Names{"A.java"});
+    EXPECT_EQ(project.htmlFile, "");
+    EXPECT_EQ(project.multiMain, 0);
+  }
+}
+
+TEST_F(ProjectFilesDlgTest, ANewFileIsAMemberAtOnce) {
+  makeSource("B.java");
+  makeSource("C.java");
+  ProjectContext& project = openWith("B.java");
+  EXPECT_EQ(run(project,
+                [&](ScriptedWindow& window) {
+                  select(window, OTHER_FILES, {"C.java"});
+                  window.press(ADD_FILES);
+                  create(window, "A.java");
+                  EXPECT_EQ(namesOf(project), (Names{"B.java", "A.java"}));
+                  expectLists(window, {"A.java", "B.java"}, {"C.java"});
+                  window.press(IDOK_CONTROL);
+                }),
+            DIALOG_OK)
+      << "moves that were not confirmed are lost, and no message comes";
+  EXPECT_EQ(namesOf(project), (Names{"A.java", "B.java"}));
+  EXPECT_TRUE(platform::isFile(folder() + "A.java"));
+}
+
+TEST_F(ProjectFilesDlgTest, ANewHtmlFileIsSortedOutByOk) {
+  makeSource("B.java");
+  ProjectContext& project = openWith("B.java");
+  run(project, [&](ScriptedWindow& window) {
+    create(window, "my page.HTML");
+    EXPECT_EQ(namesOf(project), (Names{"B.java", "my page.HTML"})) << "held as a source until then";
+    EXPECT_FALSE(project.sources[1].isOpen());
+    expectLists(window, {"B.java", "my page.HTML"}, {});
+    window.press(IDOK_CONTROL);
+  });
+  EXPECT_EQ(namesOf(project), Names{"B.java"});
+  EXPECT_EQ(project.htmlFile, "\"my page.HTML\"");
+}
+
+TEST_F(ProjectFilesDlgTest, GivingUpANewFileChangesNothing) {
+  makeSource("B.java");
+  makeSource("C.java");
+  ProjectContext& project = openWith("B.java");
+  run(project, [&](ScriptedWindow& window) {
+    select(window, OTHER_FILES, {"C.java"});
+    window.press(ADD_FILES);
+    desktop_.expectDialog("Create new sourcefile in project",
+                          [](ScriptedWindow& dialog) { dialog.press(IDCANCEL_CONTROL); });
+    window.press(CREATE_FILE);
+    expectLists(window, {"B.java", "C.java"}, {});
+    window.press(IDCANCEL_CONTROL);
+  });
+  EXPECT_EQ(namesOf(project), Names{"B.java"});
+}
+
+TEST_F(ProjectFilesDlgTest, OneNewFileThenCancel) {
+  makeSource("B.java");
+  ProjectContext& project = openWith("B.java");
+  run(project, [&](ScriptedWindow& window) {
+    create(window, "A.java");
+    desktop_.expectMessage(
+        "You have created 1 new project file. \nIt will remain in your project folder,\nalthough not as part of your "
+        "project.");
+    window.press(IDCANCEL_CONTROL);
+  });
+  EXPECT_EQ(namesOf(project), Names{"B.java"});
+  EXPECT_TRUE(platform::isFile(folder() + "A.java"));
+  run(project, [](ScriptedWindow& window) {
+    expectLists(window, {"B.java"}, {"A.java"});
+    window.press(IDCANCEL_CONTROL);
+  });
+}
+
+TEST_F(ProjectFilesDlgTest, TwoNewFilesThenCancel) {
+  ProjectContext& project = open("");
+  run(project, [&](ScriptedWindow& window) {
+    create(window, "A.java");
+    create(window, "x.html");
+    desktop_.expectMessage(
+        "You have created 2 new project files.\nThey will remain in your project folder,\nalthough not as part of your "
+        "project.");
+    window.closeBox();
+  });
+  EXPECT_TRUE(project.sources.empty());
+  EXPECT_TRUE(platform::isFile(folder() + "A.java"));
+  EXPECT_TRUE(platform::isFile(folder() + "x.html"));
+}
+
+TEST_F(ProjectFilesDlgTest, AFileWithTheNameOfAMemberAddsNothingAndDoesNotCount) {
+  makeSource("B.java", "old");
+  makeSource("C.java");
+  ProjectContext& project = openWith("B.java");
+  run(project, [&](ScriptedWindow& window) {
+    select(window, OTHER_FILES, {"C.java"});
+    window.press(ADD_FILES);
+    desktop_.expectDialog("Create new sourcefile in project", [&](ScriptedWindow& dialog) {
+      dialog.type(NEW_NAME, "B.java");
+      desktop_.expectQuestion("The file " + quoted(folder() + "B.java") + " already exists. Overwrite?", true);
+      dialog.press(IDOK_CONTROL);
+    });
+    window.press(CREATE_FILE);
+    expectLists(window, {"B.java"}, {"C.java"});
+    window.press(IDCANCEL_CONTROL);
+  });
+  EXPECT_EQ(namesOf(project), Names{"B.java"});
+}
+
+TEST_F(ProjectFilesDlgTest, HelpOpensTheGuideAtItsPlace) {
+  Names anchors;
+  context_.showHelp = [&anchors](const std::string& anchor) { anchors.push_back(anchor); };
+  run(open(""), [](ScriptedWindow& window) {
+    window.press(PROJECT_FILES_HELP);
+    EXPECT_FALSE(window.closed());
+    window.press(IDCANCEL_CONTROL);
+  });
+  EXPECT_EQ(anchors, Names{"#projectfiles"});
+}
+
+}  // namespace
+}  // namespace tarnwick::test

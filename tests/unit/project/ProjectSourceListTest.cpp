@@ -1,0 +1,130 @@
+#include "ProjectFixture.h"
+
+namespace tarnwick::test {
+namespace {
+
+class ProjectSourceListTest : public ProjectFixture {
+ protected:
+  std::vector<std::string> names() const {
+    std::vector<std::string> found;
+    for (std::size_t i = 0; i < list_.size(); ++i) found.push_back(list_[i].name().nameWithExtension());
+    return found;
+  }
+
+  Tarnwickfile file_{projectFile(), FileMode::Write};
+  ProjectSourceList list_{desktop_, file_};
+};
+
+using Names = std::vector<std::string>;
+
+TEST_F(ProjectSourceListTest, AnEmptyTextIsAnEmptyListWithoutAMessage) {
+  makeSource("A.java");
+  list_.fromString("A.java");
+  EXPECT_FALSE(list_.empty());
+  list_.fromString("");
+  EXPECT_TRUE(list_.empty());
+  EXPECT_EQ(list_.toString(), "");
+}
+
+TEST_F(ProjectSourceListTest, KeepsTheOrderOfTheText) {
+  for (const char* name : {"C.java", "A b.java", "B.html"}) makeSource(name);
+  list_.fromString("C.java;A b.java;B.html");
+  EXPECT_EQ(names(), (Names{"C.java", "A b.java", "B.html"}));
+  EXPECT_EQ(list_.toString(), "C.java;A b.java;B.html") << "names only, without folder and without quotes";
+}
+
+TEST_F(ProjectSourceListTest, SourcesLieInTheProjectsFolderAndAreClosed) {
+  makeSource("A.java", "class A { }");
+  list_.fromString("A.java");
+  ASSERT_EQ(list_.size(), 1U);
+  EXPECT_EQ(list_[0].name().fullName(), folder() + "A.java");
+  EXPECT_FALSE(list_[0].isOpen());
+  EXPECT_TRUE(list_[0].types().empty()) << "nothing is analysed here";
+  EXPECT_FALSE(list_[0].isCurrent()) << "so the first look reads it";
+}
+
+TEST_F(ProjectSourceListTest, ASeparatorOrAnEscapeInANameIsEscaped) {
+  for (const char* name : {"A;1.java", "B].java"}) makeSource(name);
+  list_.fromString("A];1.java;B]].java");
+  EXPECT_EQ(names(), (Names{"A;1.java", "B].java"}));
+  EXPECT_EQ(list_.toString(), "A];1.java;B]].java");
+}
+
+TEST_F(ProjectSourceListTest, WhiteSpaceBeforeANameGoesAndEmptyItemsAreSkipped) {
+  for (const char* name : {"A.java", "B.java"}) makeSource(name);
+  list_.fromString(";  ; \tA.java;;  B.java; ");
+  EXPECT_EQ(names(), (Names{"A.java", "B.java"}));
+}
+
+TEST_F(ProjectSourceListTest, MissingSourcesAreCountedAndDropped) {
+  makeSource("B.java");
+  desktop_.expectMessage("1 source files belonging to the project could not be opened.");
+  list_.fromString("A.java;B.java");
+  EXPECT_EQ(list_.toString(), "B.java");
+  desktop_.expectMessage("2 source files belonging to the project could not be opened.");
+  list_.fromString("A.java;B.java;C.java");
+  EXPECT_EQ(list_.toString(), "B.java");
+}
+
+TEST_F(ProjectSourceListTest, MalformedTextIsToldAndNothingIsThrown) {
+  makeSource("A.java");
+  for (const char* text : {"A.java;B]x.java", "A.java]"}) {
+    list_.fromString("A.java");
+    desktop_.expectMessage("Can't open project files:\nInvalid project context data");
+    EXPECT_NO_THROW(list_.fromString(text));
+    EXPECT_TRUE(list_.empty()) << "as it stood at that moment";
+  }
+}
+
+TEST_F(ProjectSourceListTest, ANameIsHeldAsFileNamesCompareHere) {
+  makeSource("Some.java");
+  list_.fromString("Some.java");
+  EXPECT_TRUE(list_.holds("Some.java"));
+  EXPECT_FALSE(list_.holds("Other.java"));
+  EXPECT_EQ(list_.holds("sOME.JAVA"), platform::sameFileName("Some.java", "sOME.JAVA"));
+}
+
+TEST_F(ProjectSourceListTest, AddingWhatIsNotThereThrowsAndAddsNothing) {
+  makeSource("A.java");
+  list_.add("A.java");
+  EXPECT_EQ(messageOf<Tarnwickfile::FileNotOpenE>([&] { list_.add("Gone.java"); }),
+            refusal(folder() + "Gone.java", FileMode::Read));
+  EXPECT_EQ(names(), Names{"A.java"});
+  EXPECT_FALSE(list_[0].isOpen());
+}
+
+class SourcesOfProjectTest : public ProjectFixture {};
+
+TEST_F(SourcesOfProjectTest, ADeletedSourceVanishesWithTheNextSave) {
+  makeSource("A.java");
+  makeSource("B.java");
+  openWith("A.java;B.java");
+  platform::deleteFile(folder() + "A.java");
+  desktop_.expectMessage("1 source files belonging to the project could not be opened.");
+  ProjectContext& project = openAgain();
+  EXPECT_EQ(linesOf(projectFile()), "PROJECT_SOURCES  A.java;B.java\n");
+  project.save();
+  EXPECT_EQ(valueIn(projectFile(), "PROJECT_SOURCES"), "B.java");
+}
+
+TEST_F(SourcesOfProjectTest, AMalformedListOpensTheProjectWithWhatElseIsThere) {
+  makeSource("A.java");
+  desktop_.expectMessage("Can't open project files:\nInvalid project context data");
+  const ProjectContext& project = open("PROJECT_SOURCES  A.java;]x\nPROJECT_HTMLFILE  a.html\n");
+  EXPECT_TRUE(project.sources.empty());
+  EXPECT_EQ(project.htmlFile, "a.html");
+}
+
+TEST_F(SourcesOfProjectTest, AProjectMovedWithItsSourcesStaysValid) {
+  makeSource("A.java");
+  const std::string moved = userFolder() + "moved.twp";
+  openWith("A.java").save();
+  writeFile(moved, contentOf(projectFile()));
+  writeFile(userFolder() + "A.java", "");
+  const ProjectContext& project = take(moved, false);
+  ASSERT_EQ(project.sources.size(), 1U);
+  EXPECT_EQ(project.sources[0].name().fullName(), userFolder() + "A.java");
+}
+
+}  // namespace
+}  // namespace tarnwick::test

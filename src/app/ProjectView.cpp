@@ -1,6 +1,18 @@
 #include "app/ProjectView.h"
 
+#include "platform/FileSystem.h"
+#include "platform/Path.h"
+#include "project/ProjMainClassDlg.h"
+#include "project/ProjectBuild.h"
+#include "project/ProjectFilesDlg.h"
+#include "project/RecentProjects.h"
+#include "project/SelectProjectDlg.h"
 #include "resources/PanelLayouts.h"
+#include "tools/AppletviewerLauncher.h"
+#include "tools/JavaLauncher.h"
+
+#include <chrono>
+#include <thread>
 
 namespace tarnwick {
 
@@ -20,6 +32,9 @@ std::array<PageWords, 3> pageWords() {
         {{PanelPage::MIDDLE, "Start appletviewer under debugger control"}, {PanelPage::RIGHT, "Start appletviewer"}}},
        {{"jar", "javadoc", "WinShortcut"}, {}}}};
 }
+
+const char noProject[] = "You have not opened a project yet.";
+const char notCompiled[] = "Not all classes are up-to-date. Compile!";
 
 }  // namespace
 
@@ -41,33 +56,286 @@ void ProjectView::initialise(DialogWindow& window) {
   PanelDlg::initialise(window);
   pageWindow(APPLET).show(PanelPage::LEFT, false);
   for (const int page : {APPLET, UTILITIES}) pageWindow(page).show(PanelPage::FIELD, false);
+  // The utilities are not there yet.
+  for (const int control : {PanelPage::LEFT, PanelPage::MIDDLE, PanelPage::RIGHT}) {
+    pageWindow(UTILITIES).enable(control, false);
+  }
   refreshButtons();
 }
 
+ProjectContext* ProjectView::project() const {
+  return dynamic_cast<ProjectContext*>(settings_.currentProject.get());
+}
+
 void ProjectView::refreshButtons() {
-  // No project can be made or opened yet: so "New" and "Open" are disabled too, and all that needs a project is.
-  for (const int control : ownControls()) window()->enable(control, false);
-  for (const int page : {MAIN_PROGRAM, APPLET, UTILITIES}) {
-    for (const int control : {PanelPage::FIELD, PanelPage::LEFT, PanelPage::MIDDLE, PanelPage::RIGHT}) {
-      pageWindow(page).enable(control, false);
-    }
-  }
+  const ProjectContext* const open = project();
+  const bool sources = open && !open->sources.empty();
+  const bool upToDate = sources && open->upToDate();
+  const bool runs = upToDate && !open->mainClass.empty();
+  const bool showsApplet = upToDate && !open->htmlFile.empty();
   for (const auto* bar : {&verticalBar_, &horizontalBar_, &flatBar_}) {
     bar->window()->enable(ButtonBar::SETTINGS, settings_.currentProject != nullptr);
   }
+  for (const int control : {JAVAC_ALL, JAVAC, EDIT}) window()->enable(control, sources);
+  window()->enable(FILES, open != nullptr);
+  DialogWindow& mainPage = pageWindow(MAIN_PROGRAM);
+  for (const int control : {PanelPage::MIDDLE, PanelPage::RIGHT, PanelPage::FIELD}) mainPage.enable(control, runs);
+  mainPage.enable(PanelPage::LEFT, sources && open->multiMain);
+  for (const int control : {PanelPage::MIDDLE, PanelPage::RIGHT}) pageWindow(APPLET).enable(control, showsApplet);
+  // Meant: arguments that were typed behind the class stay only until now.
+  if (open && !open->mainClass.empty()) leftPage_.setFieldText(PanelPage::FIELD, open->mainClass);
 }
 
 std::vector<int> ProjectView::ownControls() const {
   return {NEW, OPEN, FILES, EDIT, JAVAC_ALL, JAVAC};
 }
 
-void ProjectView::onPageButton(int, int) {}
+void ProjectView::onCommand(int control) {
+  switch (control) {
+    case NEW:
+      return newProject();
+    case OPEN:
+      return openProject();
+    case FILES:
+      return chooseFiles();
+    case EDIT:
+      return editSources();
+    case JAVAC_ALL:
+      return compile(true);
+    case JAVAC:
+      return compile(false);
+    default:
+      return PanelDlg::onCommand(control);
+  }
+}
+
+void ProjectView::onPageButton(int page, int control) {
+  if (page == MAIN_PROGRAM && control == PanelPage::LEFT) selectMainClass();
+  if (page == MAIN_PROGRAM && control == PanelPage::MIDDLE) runProject(true);
+  if (page == MAIN_PROGRAM && control == PanelPage::RIGHT) runProject(false);
+  if (page == APPLET && control == PanelPage::MIDDLE) runApplet(true);
+  if (page == APPLET && control == PanelPage::RIGHT) runApplet(false);
+}
 
 void ProjectView::updateTitle() {
   std::string text = title();
-  const auto& project = settings_.currentProject;
-  if (project && settings_.panelLayout.value != LayoutValue::VERTICAL) text += " - project " + project->quotedPath();
+  const auto& open = settings_.currentProject;
+  if (open && settings_.panelLayout.value != LayoutValue::VERTICAL) text += " - project " + open->quotedPath();
   settings_.context().mainWindow->setTitle(text);
+}
+
+void ProjectView::take(const std::string& path, bool create) {
+  settings_.currentProject = std::make_unique<ProjectContext>(settings_, path, create);
+}
+
+void ProjectView::welcomeProject() {
+  leftPage_.setFieldText(PanelPage::FIELD, "");
+  updateRecentProjects(settings_.context(), project()->file.name().fullName());
+}
+
+void ProjectView::pointFileView() {
+  for (auto* file : {&settings_.fileviewSource, &settings_.fileviewClass, &settings_.fileviewHtml}) {
+    file->reset(false);
+    file->setLastFolder(project()->folder());
+    file->writeToControl("");
+  }
+}
+
+void ProjectView::selectTab() {
+  const bool applet = project()->mainClass.empty() && !project()->htmlFile.empty();
+  openPage(applet ? APPLET : MAIN_PROGRAM);
+}
+
+void ProjectView::showProject() {
+  refreshButtons();
+  settings_.windowPosition.applyToWindow();
+  applyLayout();
+}
+
+void ProjectView::openAtStart(const std::string& path) {
+  take(path, false);
+  project()->update();
+  updateRecentProjects(settings_.context(), project()->file.name().fullName());
+  pointFileView();
+  selectTab();
+  refreshButtons();
+}
+
+void ProjectView::keepOrClose(const std::string& question, const std::string& none) {
+  if (!settings_.currentProject) {
+    desktop_.message(none);
+  } else if (!desktop_.askYesNo(question + settings_.currentProject->quotedPath() + " ?")) {
+    settings_.currentProject.reset();
+    int status = 0;
+    settings_.readDefaultConfiguration(status);
+  }
+}
+
+void ProjectView::newProject() {
+  settings_.saveIfWindowMoved();
+  if (makeProject()) {
+    chooseFiles();
+    welcomeProject();
+    pointFileView();
+  } else {
+    keepOrClose("No new project created. Continue with ", "No project created.");
+  }
+  showProject();
+}
+
+bool ProjectView::makeProject() {
+  FileRequest request;
+  request.filter = projectFileFilter;
+  request.extension = ".twp";
+  request.confirmOverwrite = true;
+  if (!settings_.lastProjectFile.empty()) request.startFolder = Filename(settings_.lastProjectFile).directory();
+  const auto chosen = desktop_.saveFile(request);
+  if (!chosen) return false;
+  try {
+    take(*chosen, true);
+  } catch (const Tarnwickfile::FileNotOpenE& failure) {
+    desktop_.message(failure.message + "\nCan't create project file.");
+    return false;
+  }
+  project()->save();
+  return true;
+}
+
+void ProjectView::openProject() {
+  settings_.saveIfWindowMoved();
+  if (takeExisting()) {
+    welcomeProject();
+  } else {
+    keepOrClose("No new project opened. Continue with ", "No project opened.");
+  }
+  if (auto* const open = project()) {
+    try {
+      if (open->sources.empty()) {
+        desktop_.message(
+            "This project doesn't have any Java source files!\nClick on the Files button to add files to this "
+            "project's context.");
+      }
+      open->update();
+      pointFileView();
+      selectTab();
+    } catch (const Tarnwickexception& failure) {
+      desktop_.message(failure.message);
+    }
+  }
+  showProject();
+}
+
+bool ProjectView::takeExisting() {
+  SelectProjectDlg dialog(settings_);
+  if (dialog.runModal() != DIALOG_OK || dialog.path().empty()) return false;
+  try {
+    take(dialog.path(), false);
+    return true;
+  } catch (const Tarnwickfile::FileNotOpenE& failure) {
+    desktop_.message(failure.message + "\nCan't open project file.");
+    return false;
+  }
+}
+
+void ProjectView::chooseFiles() {
+  ProjectContext* const open = project();
+  if (!open) {
+    desktop_.message(noProject);
+    return;
+  }
+  if (ProjectFilesDlg(settings_, *open).runModal() == DIALOG_OK) open->save();
+  try {
+    open->update();
+  } catch (const Tarnwickexception& failure) {
+    desktop_.message(failure.message);
+  }
+  selectTab();
+  refreshButtons();
+  settings_.saveIfWindowMoved();
+}
+
+void ProjectView::editSources() {
+  settings_.saveIfWindowMoved();
+  if (!project()) {
+    desktop_.message(noProject);
+    return;
+  }
+  using std::chrono::milliseconds;
+  const auto names = sourcesToEdit();
+  for (std::size_t i = 0; i < names.size(); ++i) {
+    // An editor that collects its files in one window needs a moment to stand.
+    if (i > 0) std::this_thread::sleep_for(milliseconds(i == 1 ? 800 : 200));
+    if (!openEditor(names[i])) return;
+  }
+}
+
+std::vector<std::string> ProjectView::sourcesToEdit() {
+  if (!settings_.editorOpenAll) {
+    FileRequest request;
+    request.filter = "java source files (*.java)|*.java|All files (*.*)|*.*||";
+    request.name = "*.java";
+    request.startFolder = project()->folder();
+    return desktop_.openFiles(request);
+  }
+  std::vector<std::string> names;
+  const auto& sources = project()->sources;
+  for (std::size_t i = sources.size(); i-- > 0;) names.push_back(sources[i].name().fullName());
+  return names;
+}
+
+void ProjectView::compile(bool all) {
+  settings_.saveIfWindowMoved();
+  if (auto* const open = project()) compileProject(settings_, *open, all);
+  refreshButtons();
+}
+
+void ProjectView::selectMainClass() {
+  settings_.saveIfWindowMoved();
+  if (ProjMainClassDlg(desktop_, project()).runModal() == DIALOG_OK) project()->save();
+  refreshButtons();
+}
+
+bool ProjectView::readyToRun() {
+  project()->update();
+  if (project()->upToDate()) return true;
+  refreshButtons();
+  return false;
+}
+
+void ProjectView::runProject(bool debugging) {
+  try {
+    if (!readyToRun()) {
+      desktop_.message(notCompiled);
+      return;
+    }
+    FileForSubprocess target;
+    target.bind(&pageWindow(MAIN_PROGRAM), PanelPage::FIELD);
+    target.readFromControl();
+    target.bind(nullptr, 0);
+    completeRunTarget(settings_, *project(), target);
+    const std::string classpath = quotedPaths(project()->runClasspath());
+    if (debugging)
+      runJdb(settings_, target, classpath.c_str(), quotedPaths(project()->derivedSourcepath()).c_str());
+    else
+      runJava(settings_, target, classpath.c_str());
+  } catch (const Tarnwickexception& failure) {
+    desktop_.message(failure.message);
+  }
+  settings_.saveIfWindowMoved();
+}
+
+void ProjectView::runApplet(bool debugging) {
+  settings_.saveIfWindowMoved();
+  try {
+    if (project()->htmlFile.empty()) throw Tarnwickexception("No html file defined for this project.");
+    if (!readyToRun()) throw Tarnwickexception(notCompiled);
+    if (!platform::changeDirectory(project()->folderNoSlash()))
+      throw Tarnwickexception("Can't access project directory.");
+    FileForSubprocess html(project()->quotedFolder(), project()->htmlFile);
+    runAppletviewer(settings_, html, debugging);
+  } catch (const Tarnwickexception& failure) {
+    desktop_.message(failure.message);
+  }
 }
 
 }  // namespace tarnwick

@@ -1,18 +1,26 @@
 #pragma once
 
 #include "app/PanelDlg.h"
+#include "project/ProjectContext.h"
+
+#include <string>
 
 namespace tarnwick {
 
-/// The panel that works on a project.
+/// The panel that works on a project. It holds nothing of the project: all is asked of the settings' open project when
+/// a button is pressed.
 class ProjectView : public PanelDlg {
  public:
   ProjectView(Settings& settings, std::function<void()> endMainDialog);
 
   void initialise(DialogWindow& window) override;
+  void onCommand(int control) override;
   void updateTitle() override;
-  /// Enables what can be used now.
+  /// Enables what can be used now, and names the class that would run.
   void refreshButtons();
+  /// Opens the project that the program was started with, which becomes the open one, and looks at it. Throws
+  /// Tarnwickfile::FileNotOpenE if it can't be opened, and what `ProjectContext::update` throws.
+  void openAtStart(const std::string& path);
 
  protected:
   std::vector<int> ownControls() const override;
@@ -20,6 +28,38 @@ class ProjectView : public PanelDlg {
   void onTabChanged() override { refreshButtons(); }
   using PanelDlg::onPageButton;
   void onPageButton(int page, int control) override;
+
+ private:
+  void newProject();
+  void openProject();
+  void chooseFiles();
+  void editSources();
+  void compile(bool all);
+  void selectMainClass();
+  void runProject(bool debugging);
+  void runApplet(bool debugging);
+
+  /// The open project; null if there is none.
+  ProjectContext* project() const;
+  /// Makes a project the open one. Throws Tarnwickfile::FileNotOpenE, and then the one before stays open.
+  void take(const std::string& path, bool create);
+  /// Asks for the new project's file, and makes it. False after Cancel and after a failure, which is shown.
+  bool makeProject();
+  /// Asks for a project, and opens it. Likewise.
+  bool takeExisting();
+  /// A new project has been taken: no class stands in the field any longer, and the project is noted as recent.
+  void welcomeProject();
+  /// No other project has been taken: asks whether to go on with the one that is open, or tells that there is none.
+  void keepOrClose(const std::string& question, const std::string& none);
+  /// The tabs of the file view begin empty, in the project's folder.
+  void pointFileView();
+  /// The tab of what the project would run.
+  void selectTab();
+  /// What every change of the open project ends with.
+  void showProject();
+  std::vector<std::string> sourcesToEdit();
+  /// Looks at the project. False, after showing why, if it can't run now.
+  bool readyToRun();
 };
 
 }  // namespace tarnwick

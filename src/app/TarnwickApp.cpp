@@ -59,6 +59,7 @@ TarnwickApp::TarnwickApp(Desktop& desktop, ConsoleFrameHost& frameHost, const st
       settings_(context_) {
   context_.showHelp = [this](const std::string& anchor) { showHelp(anchor); };
   context_.showAbout = [this] { showAbout(); };
+  context_.registerProjectType = [this] { registerProjectType(); };
 }
 
 void TarnwickApp::showHelp(const std::string& anchor) {
@@ -70,12 +71,12 @@ void TarnwickApp::showAbout() {
 }
 
 int TarnwickApp::run(const std::string& commandLine) {
-  if (commandLine.empty() || namesProject(commandLine)) return runPanel();
+  if (commandLine.empty() || namesProject(commandLine)) return runPanel(commandLine);
   return runConsole(commandLine);
 }
 
-int TarnwickApp::runPanel() {
-  TarnwickDlg(settings_).runModal();
+int TarnwickApp::runPanel(const std::string& commandLine) {
+  TarnwickDlg(settings_, commandLine).runModal();
   return 0;
 }
 

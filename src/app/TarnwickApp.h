@@ -53,7 +53,7 @@ class TarnwickApp {
   bool parseSwitches(const std::string& line);
 
  private:
-  int runPanel();
+  int runPanel(const std::string& commandLine);
   int runConsole(const std::string& commandLine);
   /// Reads what CFG named; shows why not.
   bool readConsoleConfiguration(const std::string& commandLine);

@@ -7,9 +7,10 @@
 
 namespace tarnwick {
 
-TarnwickDlg::TarnwickDlg(Settings& settings)
+TarnwickDlg::TarnwickDlg(Settings& settings, std::string projectArgument)
     : ToolTipDlg(settings.context().desktop, mainLayout().resource, 0),
       settings_(settings),
+      projectArgument_(std::move(projectArgument)),
       fileView_(settings, [this] { close(DIALOG_OK); }),
       projectView_(settings, [this] { close(DIALOG_OK); }) {}
 
@@ -30,6 +31,18 @@ void TarnwickDlg::initialise(DialogWindow& window) {
   createPanel(FILE_VIEW_SLOT, fileViewLayout(), fileView_, "Error creating fileview");
   createPanel(PROJECT_VIEW_SLOT, projectViewLayout(), projectView_, "Error creating projectview");
   arrangePanels();
+  if (!projectArgument_.empty() && projectView_.initialised()) openProject();
+}
+
+void TarnwickDlg::openProject() {
+  try {
+    projectView_.openAtStart(projectArgument_);
+    fileView_.switchView();
+  } catch (const Tarnwickfile::FileNotOpenE& failure) {
+    desktop_.message(failure.message + "\nCan't open project file.");
+  } catch (const Tarnwickexception& failure) {
+    desktop_.message(failure.message);
+  }
 }
 
 void TarnwickDlg::createPanel(int slot, const DialogLayout& layout, PanelDlg& panel, const char* failed) {

@@ -13,7 +13,9 @@ namespace tarnwick {
 /// The small main window of panel mode; the whole run lives in it.
 class TarnwickDlg : public ToolTipDlg {
  public:
-  explicit TarnwickDlg(Settings& settings);
+  /// `projectArgument` is the command line that the program was started with: empty, or a project file's path, perhaps
+  /// in double quotes.
+  explicit TarnwickDlg(Settings& settings, std::string projectArgument = "");
   ~TarnwickDlg() override;
 
   void runModal();
@@ -29,6 +31,9 @@ class TarnwickDlg : public ToolTipDlg {
   /// Makes the panel's window; on failure the message says so, and the start goes on.
   void createPanel(int slot, const DialogLayout& layout, PanelDlg& panel, const char* failed);
   void arrangePanels();
+  /// Opens the project of the command line and switches to the project view. On a failure, which is shown, the file
+  /// view stays.
+  void openProject();
   void readSettings();
   void welcomeFirstUse(int status);
   /// Switches off what the JDK of the settings does not take any more.
@@ -36,6 +41,7 @@ class TarnwickDlg : public ToolTipDlg {
   void welcomeUpgrade();
 
   Settings& settings_;
+  std::string projectArgument_;
   FileView fileView_;
   ProjectView projectView_;
 };

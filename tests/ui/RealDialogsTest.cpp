@@ -3,6 +3,10 @@
 #include "app/HelpFileDlg.h"
 #include "app/TarnwickDlg.h"
 #include "dialogbase/AddPathDlg.h"
+#include "project/ProjMainClassDlg.h"
+#include "project/ProjectFilesDlg.h"
+#include "project/RecentProjects.h"
+#include "project/SelectProjectDlg.h"
 #include "settings/AlternateLocationDlg.h"
 #include "source/PortabilityWarningDlg.h"
 #include "templates/AddTemplateDlg.h"
@@ -53,6 +57,19 @@ RealDialog newSource(const std::string& name, NewSourceMode mode) {
           IDOK_CONTROL};
 }
 
+/// A project with a source, a page and another source beside it.
+std::unique_ptr<ProjectContext> makeProject(ProgramWorld& world) {
+  world.settings.javaPath = standInFolder();
+  world.settings.saveDefaultConfiguration(nullptr);
+  for (const char* name : {"Main", "AnotherSourceWithALongName"})
+    writeFile(world.scratch.file(name + std::string(".java")), "public class " + std::string(name) + " {}\n");
+  writeFile(world.scratch.file("page.html"), "");
+  const std::string path = world.scratch.file("demo.twp");
+  writeFile(path, "PROJECT_SOURCES  Main.java\nPROJECT_HTMLFILE  page.html\n");
+  updateRecentProjects(world.context, path);
+  return std::make_unique<ProjectContext>(world.settings, path, false);
+}
+
 /// A path as long as they come.
 std::string longPath(const ProgramWorld& world) {
   std::string path = world.scratch.path();
@@ -77,6 +94,24 @@ std::vector<RealDialog> allDialogs() {
       newSource("newInProject", NewSourceMode::InProject),
       {"addTemplate", [](ProgramWorld& world) { return AddTemplateDlg(world.context).runModal(); }, IDOK_CONTROL},
       {"portabilityWarning", [](ProgramWorld&) { return PortabilityWarningDlg(desktop()).runModal(); }, IDOK_CONTROL},
+      {"selectProject",
+       [](ProgramWorld& world) {
+         const auto project = makeProject(world);
+         return SelectProjectDlg(world.settings).runModal();
+       },
+       IDOK_CONTROL},
+      {"projectFiles",
+       [](ProgramWorld& world) {
+         const auto project = makeProject(world);
+         return ProjectFilesDlg(world.settings, *project).runModal();
+       },
+       IDOK_CONTROL},
+      {"mainClass",
+       [](ProgramWorld& world) {
+         const auto project = makeProject(world);
+         return ProjMainClassDlg(desktop(), project.get()).runModal();
+       },
+       IDOK_CONTROL},
       {"addPath",
        [](ProgramWorld& world) {
          AddPathDlg(desktop(), "Classpath (option -classpath)", longPath(world)).runModal();

@@ -3,6 +3,7 @@
 #include "resources/HelpLayouts.h"
 #include "resources/Menu.h"
 #include "resources/PanelLayouts.h"
+#include "resources/ProjectLayouts.h"
 #include "resources/SettingsLayouts.h"
 #include "resources/SettingsPageLayouts.h"
 #include "resources/SourceLayouts.h"
@@ -41,6 +42,8 @@ std::string inGuide(std::string label) {
   label.erase(std::min(label.find('\t'), label.size()));
   std::erase(label, '&');
   std::replace(label.begin(), label.end(), '\n', ' ');
+  // A browser shows one blank for several.
+  for (auto at = label.find("  "); at != std::string::npos; at = label.find("  ")) label.erase(at, 1);
   return label;
 }
 
@@ -60,6 +63,10 @@ void expectExplained(const DialogItem& item, const std::string& guide) {
 TEST(GuideWordsTest, ItNamesEveryButtonAndMark) {
   const std::string guide = wordsOfGuide();
   for (const auto* layout : {&fileViewLayout(),
+                             &projectViewLayout(),
+                             &selectProjectLayout(),
+                             &projectFilesLayout(),
+                             &mainClassLayout(),
                              &verticalBarLayout(),
                              &horizontalBarLayout(),
                              &flatBarLayout(),

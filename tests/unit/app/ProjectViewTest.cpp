@@ -1,26 +1,33 @@
-#include "PanelFixture.h"
-#include "resources/PanelLayouts.h"
+#include "ProjectViewFixture.h"
 
 namespace tarnwick::test {
 namespace {
 
-enum ProjectControl { PROJECT_NEW = 1134, OPEN = 1136, FILES = 1135, PROJECT_EDIT = 1139, ALL = 1133, CHANGED = 1140 };
-
-class ProjectViewTest : public PanelFixture {
+class ProjectViewTest : public ProjectViewFixture {
  protected:
-  void inProjectView(const std::function<void(ScriptedWindow& panel)>& look) {
+  /// Looks at the view and leaves it.
+  void look(const std::function<void(ScriptedWindow& panel)>& script) {
     saveEarlierRun();
-    runPanel([&](ScriptedWindow& main, ScriptedWindow& file) {
-      bar(file).press(SWITCH_VIEW);
-      ScriptedWindow& panel = main.child(PROJECT_VIEW_SLOT);
-      look(panel);
+    inProjectView([&](ScriptedWindow& panel) {
+      script(panel);
       exit(panel);
     });
+  }
+  void lookAt(const std::string& project, const std::function<void(ScriptedWindow& panel)>& script) {
+    saveEarlierRun();
+    startWith(project, [&](ScriptedWindow& panel) {
+      script(panel);
+      exit(panel);
+    });
+    settings().currentProject.reset();
+  }
+  static void expectEnabled(ScriptedWindow& panel, const std::vector<int>& controls, bool on) {
+    for (const int control : controls) EXPECT_EQ(panel.enabled(control), on) << control;
   }
 };
 
 TEST_F(ProjectViewTest, ShowsItsLabels) {
-  inProjectView([](ScriptedWindow& panel) {
+  look([](ScriptedWindow& panel) {
     EXPECT_EQ(panel.text(1238), " Project ");
     EXPECT_EQ(panel.text(1239), " Source (.java) ");
     EXPECT_EQ(panel.text(PROJECT_NEW), "New");
@@ -42,7 +49,7 @@ TEST_F(ProjectViewTest, ShowsItsLabels) {
 }
 
 TEST_F(ProjectViewTest, ShowsItsToolTips) {
-  inProjectView([](ScriptedWindow& panel) {
+  look([](ScriptedWindow& panel) {
     EXPECT_EQ(panel.toolTip(PROJECT_NEW), "Create new Tarnwick project");
     EXPECT_EQ(panel.toolTip(OPEN), "Open existing Tarnwick project");
     EXPECT_EQ(panel.toolTip(FILES), "Select files to be included in the project context");
@@ -65,7 +72,7 @@ TEST_F(ProjectViewTest, ShowsItsToolTips) {
 }
 
 TEST_F(ProjectViewTest, OnTheAppletTabLeftButtonAndFieldAreHidden) {
-  inProjectView([](ScriptedWindow& panel) {
+  look([](ScriptedWindow& panel) {
     EXPECT_TRUE(panel.page(TABS, 0).visible(LEFT));
     EXPECT_TRUE(panel.page(TABS, 0).visible(FIELD));
     EXPECT_FALSE(panel.page(TABS, 1).visible(LEFT));
@@ -75,14 +82,16 @@ TEST_F(ProjectViewTest, OnTheAppletTabLeftButtonAndFieldAreHidden) {
   });
 }
 
-TEST_F(ProjectViewTest, WithoutAProjectOnlyTheBarIsOfUse) {
-  inProjectView([](ScriptedWindow& panel) {
+TEST_F(ProjectViewTest, WithoutAProjectOneCanBeMadeOrOpened) {
+  look([](ScriptedWindow& panel) {
     for (int tab = 0; tab < 3; ++tab) {
       panel.choose(TABS, tab);
       for (const int control : {PROJECT_EDIT, ALL, CHANGED, FILES}) EXPECT_FALSE(panel.enabled(control));
-      // What these two do is not there yet.
-      for (const int control : {PROJECT_NEW, OPEN}) EXPECT_FALSE(panel.enabled(control));
-      for (const int control : {LEFT, MIDDLE, RIGHT, FIELD}) EXPECT_FALSE(panel.page(TABS, tab).enabled(control));
+      for (const int control : {PROJECT_NEW, OPEN}) EXPECT_TRUE(panel.enabled(control)) << "always";
+      for (const int control : {LEFT, MIDDLE, RIGHT, FIELD}) {
+        const auto& page = panel.page(TABS, tab);
+        EXPECT_FALSE(page.enabled(control) && page.visible(control)) << tab << ' ' << control;
+      }
     }
     for (const int slot : {VERTICAL_BAR_SLOT, HORIZONTAL_BAR_SLOT, FLAT_BAR_SLOT}) {
       EXPECT_FALSE(panel.child(slot).enabled(SETTINGS));
@@ -105,6 +114,86 @@ TEST_F(ProjectViewTest, ItsTabsLeaveTheFileViewsTabAlone) {
     EXPECT_EQ(file.selection(TABS), 1);
     exit(file);
   });
+}
+
+TEST_F(ProjectViewTest, AnEmptyProjectHasSettingsAndFiles) {
+  lookAt(makeProject("PROJECT_SOURCES  \n"), [](ScriptedWindow& panel) {
+    for (const int slot : {VERTICAL_BAR_SLOT, HORIZONTAL_BAR_SLOT, FLAT_BAR_SLOT})
+      EXPECT_TRUE(panel.child(slot).enabled(SETTINGS));
+    expectEnabled(panel, {PROJECT_NEW, OPEN, FILES}, true);
+    expectEnabled(panel, {ALL, CHANGED, PROJECT_EDIT}, false);
+    expectEnabled(panel.page(TABS, 0), {LEFT, MIDDLE, RIGHT, FIELD}, false);
+    expectEnabled(panel.page(TABS, 1), {MIDDLE, RIGHT}, false);
+  });
+}
+
+TEST_F(ProjectViewTest, AProjectThatIsNotCompiledCanBeEditedAndCompiled) {
+  makeSource("Main", mainMethod());
+  lookAt(makeProject("PROJECT_SOURCES  Main.java\nPROJECT_HTMLFILE  a.html\n"), [](ScriptedWindow& panel) {
+    expectEnabled(panel, {ALL, CHANGED, PROJECT_EDIT, FILES}, true);
+    expectEnabled(panel.page(TABS, 0), {LEFT, MIDDLE, RIGHT, FIELD}, false);
+    expectEnabled(panel.page(TABS, 1), {MIDDLE, RIGHT}, false);
+    EXPECT_EQ(panel.page(TABS, 0).text(FIELD), "Main");
+  });
+}
+
+TEST_F(ProjectViewTest, ACompiledProjectWithAMainClassRuns) {
+  lookAt(makeRunnable(), [](ScriptedWindow& panel) {
+    expectEnabled(panel.page(TABS, 0), {MIDDLE, RIGHT, FIELD}, true);
+    expectEnabled(panel.page(TABS, 0), {LEFT}, false);
+    expectEnabled(panel.page(TABS, 1), {MIDDLE, RIGHT}, false);
+    EXPECT_EQ(panel.page(TABS, 0).text(FIELD), "Main");
+    EXPECT_TRUE(panel.page(TABS, 0).showsEnd(FIELD));
+  });
+}
+
+TEST_F(ProjectViewTest, ACompiledProjectWithoutAMainClassDoesNot) {
+  makeSource("A");
+  makeCurrent("A");
+  lookAt(makeProject("PROJECT_SOURCES  A.java\n"), [](ScriptedWindow& panel) {
+    expectEnabled(panel.page(TABS, 0), {LEFT, MIDDLE, RIGHT, FIELD}, false);
+    EXPECT_EQ(panel.page(TABS, 0).text(FIELD), "");
+  });
+}
+
+TEST_F(ProjectViewTest, ACompiledProjectWithAnHtmlFileShowsItsApplet) {
+  makeSource("A");
+  makeCurrent("A");
+  lookAt(makeProject("PROJECT_SOURCES  A.java\nPROJECT_HTMLFILE  a.html\n"), [](ScriptedWindow& panel) {
+    expectEnabled(panel.page(TABS, 1), {MIDDLE, RIGHT}, true);
+    EXPECT_EQ(panel.selection(TABS), 1) << "without a main class, that is what runs";
+  });
+}
+
+TEST_F(ProjectViewTest, WhereSeveralMainMethodsAreAllowedTheClassIsSelected) {
+  makeSource("A", mainMethod());
+  lookAt(makeProject("PROJECT_SOURCES  A.java\nPROJECT_MULTIMAIN  ON\n"),
+         [](ScriptedWindow& panel) { EXPECT_TRUE(panel.page(TABS, 0).enabled(LEFT)); });
+  lookAt(makeProject("PROJECT_SOURCES  \nPROJECT_MULTIMAIN  ON\n"),
+         [](ScriptedWindow& panel) { EXPECT_FALSE(panel.page(TABS, 0).enabled(LEFT)) << "there is none"; });
+}
+
+TEST_F(ProjectViewTest, ArgumentsBehindTheClassStayUntilTheNextRefresh) {
+  lookAt(makeRunnable(), [](ScriptedWindow& panel) {
+    panel.page(TABS, 0).type(FIELD, "Main first second");
+    panel.choose(TABS, 1);
+    EXPECT_EQ(panel.page(TABS, 0).text(FIELD), "Main");
+  });
+}
+
+TEST_F(ProjectViewTest, TheTitleShowsTheProjectOutsideVerticalOnly) {
+  const std::string file = makeRunnable();
+  for (const char* layout : {"VERTICAL", "HORIZONTAL", "FLAT"}) {
+    saveEarlierRun([layout](Settings& settings) { settings.panelLayout.fromString(layout); });
+    desktop_.expectMainDialog([&](ScriptedWindow& main) {
+      EXPECT_EQ(main.title(), layout == std::string("VERTICAL") ? "Tarnwick" : "Tarnwick - project " + quoted(file));
+      bar(main.child(PROJECT_VIEW_SLOT)).press(SWITCH_VIEW);
+      EXPECT_EQ(main.title(), "Tarnwick");
+      exit(main.child(FILE_VIEW_SLOT));
+    });
+    TarnwickDlg(settings(), file).runModal();
+    settings().currentProject.reset();
+  }
 }
 
 }  // namespace

@@ -28,6 +28,7 @@ TEST_F(TarnwickAppTest, NothingIsReadBeforeTheCommandLineIsLookedAt) {
 }
 
 TEST_F(TarnwickAppTest, AProjectsExtensionIgnoresCaseAndQuotes) {
+  useStandIns();
   settings().tarnwickVersion = program_.version;
   settings().saveDefaultConfiguration(nullptr);
   writeFile(userFolder() + "a.twp", "REM\n");
@@ -197,6 +198,7 @@ TEST_F(TarnwickAppTest, AConfigurationFolderWithoutItsWholePathStaysTheSameFolde
 }
 
 TEST_F(TarnwickAppTest, NoArgumentOrAProjectOpensThePanel) {
+  useStandIns();
   settings().tarnwickVersion = program_.version;
   settings().saveDefaultConfiguration(nullptr);
   writeFile(userFolder() + "my.TWP", "REM\n");

@@ -12,6 +12,7 @@ import tempfile
 import time
 
 import person
+import test_projects
 import world
 from person import Window, wait_until
 
@@ -100,6 +101,25 @@ def take_debugger(scratch, camera, panel):
     console.is_gone()
 
 
+def take_project(scratch, camera, panel):
+    for name in ("Shop.java", "Till.java", "Receipt.java"):
+        with open(os.path.join(scratch.work, name), "w", encoding="utf-8") as out:
+            main = " public static void main(String[] words) { } " if name == "Shop.java" else ""
+            out.write(f"public class {name.removesuffix('.java')} {{{main}}}\n")
+    panel.press("Projectview")
+    panel.press("New")
+    test_projects.choose_file(os.path.join(scratch.work, "Shop.twp"))
+    files = Window(test_projects.FILES)
+    for name in ("Shop.java", "Till.java"):
+        files.control(name).click()
+        files.press("Add selected files to project")
+    camera.take(files, "files")
+    files.press("OK")
+    files.is_gone()
+    test_projects.compile_changed(scratch, panel, "Shop.class", "Till.class")
+    camera.take(panel, "project")
+
+
 def walk(scratch, camera):
     scratch.start()
     Window("Welcome to Tarnwick").press("OK")
@@ -115,6 +135,7 @@ def walk(scratch, camera):
     take_new_file(camera, panel)
     take_console(scratch, camera, panel)
     take_debugger(scratch, camera, panel)
+    take_project(scratch, camera, panel)
     panel.press("Exit")
     panel.is_gone()
 

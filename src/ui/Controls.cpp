@@ -94,6 +94,33 @@ wxWindow* makeEdit(wxWindow& parent, const DialogItem& item) {
   return edit;
 }
 
+/// Whether something in the window can take the focus now.
+bool holdsStop(const wxWindow& window) {
+  const auto& children = window.GetChildren();
+  return std::any_of(children.begin(), children.end(), [](const wxWindow* child) {
+    return child->IsShown() && child->IsEnabled() && (child->AcceptsFocusFromKeyboard() || holdsStop(*child));
+  });
+}
+
+/// Where the toolkit itself leads Tab through a tab control, it would go round in a page that has no use for the focus.
+void passByEmptyPages(wxNotebook& tabs) {
+  tabs.Bind(wxEVT_NAVIGATION_KEY, [&tabs](wxNavigationKeyEvent& event) {
+    const wxWindow* const page = tabs.GetCurrentPage();
+    const bool down = event.GetEventObject() == &tabs && event.GetDirection() && !event.IsWindowChange();
+    if (down && page && !holdsStop(*page)) {
+      event.SetCurrentFocus(&tabs);
+      if (tabs.GetParent()->HandleWindowEvent(event)) return;
+    }
+    event.Skip();
+  });
+}
+
+wxWindow* makeTabs(wxWindow& parent) {
+  auto* const tabs = new wxNotebook(&parent, wxID_ANY);
+  passByEmptyPages(*tabs);
+  return tabs;
+}
+
 wxWindow* makeWindow(wxWindow& parent, const DialogItem& item) {
   switch (item.kind) {
     case ItemKind::Group:
@@ -121,7 +148,7 @@ wxWindow* makeWindow(wxWindow& parent, const DialogItem& item) {
       return new wxListBox(&parent, wxID_ANY, wxDefaultPosition, wxDefaultSize, 0, nullptr,
                            (item.multiple ? wxLB_EXTENDED : wxLB_SINGLE) | wxLB_HSCROLL);
     case ItemKind::Tabs:
-      return new wxNotebook(&parent, wxID_ANY);
+      return makeTabs(parent);
     default:
       return makePanel(parent);
   }
@@ -180,14 +207,6 @@ int widthOfCharacters(const wxWindow& window, int characters) {
 int rowHeight(wxWindow& window) {
   // The toolkit's usual height of a button does not follow the size of the letters.
   return std::max(wxButton::GetDefaultSize(&window).y, leastFieldHeight(window));
-}
-
-/// Whether something in the window can take the focus now.
-bool holdsStop(const wxWindow& window) {
-  const auto& children = window.GetChildren();
-  return std::any_of(children.begin(), children.end(), [](const wxWindow* child) {
-    return child->IsShown() && child->IsEnabled() && (child->AcceptsFocusFromKeyboard() || holdsStop(*child));
-  });
 }
 
 wxPanel* makePanel(wxWindow& parent) {
@@ -252,6 +271,10 @@ wxSize naturalSize(const DialogItem& item, const Control& control) {
     size.y = std::max(size.y, rowHeight(window));
   } else if (item.kind == ItemKind::Button && bearsSigns(item.text)) {
     size.x = window.GetTextExtent(window.GetLabel()).x + 3 * window.GetCharWidth();
+  }
+  const auto lines = 1 + std::count(item.text.begin(), item.text.end(), '\n');
+  if (item.kind == ItemKind::Button && lines > 1) {
+    size.y = std::max(size.y, static_cast<int>(lines - 1) * window.GetCharHeight() + rowHeight(window));
   }
   size.x = std::max(size.x, widthOfCharacters(window, item.width));
   return size;

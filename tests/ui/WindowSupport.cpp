@@ -273,6 +273,13 @@ bool mustShowWhole(const wxWindow& window) {
          !dynamic_cast<const wxStaticBox*>(&window);
 }
 
+int widthOfLongestLine(const wxButton& button) {
+  int width = 0;
+  for (const auto& line : wxSplit(button.GetLabelText(), '\n', '\0'))
+    width = std::max(width, button.GetTextExtent(line).x);
+  return width;
+}
+
 void expectWhole(const wxWindow& surface) {
   for (const wxWindow* window : shownOn(surface)) {
     const wxSize size = window->GetSize();
@@ -280,7 +287,7 @@ void expectWhole(const wxWindow& surface) {
       wxSize best = window->GetBestSize();
       // A button's best size is never less than the toolkit's usual width, though its text may need less.
       if (const auto* button = dynamic_cast<const wxButton*>(window)) {
-        best.x = button->GetTextExtent(button->GetLabelText()).x + 2 * button->GetCharWidth();
+        best.x = 2 * button->GetCharWidth() + widthOfLongestLine(*button);
       }
       EXPECT_TRUE(best.x <= size.x && best.y <= size.y)
           << nameOf(*window) << " is cut: " << size.x << "x" << size.y << " of " << best.x << "x" << best.y;

@@ -20,6 +20,13 @@ class ProjectRunTest : public ProjectViewFixture {
     program_.programPath = standInFolder() + platform::toolFileName("jdb");
   }
 
+  /// Whether programs get their arguments one by one here, or one command line, in which quotes are taken for what they
+  /// are.
+  static bool oneByOne() { return platform::folderSeparator == '/'; }
+  /// An option with a list of paths, the last of which holds a blank, as the second copy of the program gets it.
+  static std::string received(const std::string& option, const std::string& before, const std::string& path) {
+    return oneByOne() ? option + ' ' + before + quoted(path) + '\n' : option + '\n' + before + path + '\n';
+  }
   const std::string listSeparator = platform::commandLineList(";");
 
   /// A main class that is up to date when the panel stands, and no longer when a button is pressed.
@@ -102,14 +109,14 @@ TEST_F(ProjectRunTest, JavaRunsTheClassOfTheFieldWithItsArguments) {
     exit(panel);
   });
   std::string recorded = recordedUpTo("second");
+  const std::string classpath = received("-classpath", "." + listSeparator, Filename(userFolder()).directoryNoSlash());
+  EXPECT_NE(recorded.find(classpath), std::string::npos) << "a folder with a blank stays together: " << recorded;
   std::replace(recorded.begin(), recorded.end(), '\n', ' ');
   EXPECT_NE(recorded.find("\\/TITLE=pkg.Main\\/"), std::string::npos) << recorded;
   EXPECT_NE(recorded.find("pkg.Main first second"), std::string::npos) << recorded;
-  EXPECT_NE(recorded.find("\\/CFG=" + quoted(path("my demo.twp"))), std::string::npos)
+  const std::string file = oneByOne() ? quoted(path("my demo.twp")) : path("my demo.twp");
+  EXPECT_NE(recorded.find("\\/CFG=" + file + "\\/"), std::string::npos)
       << "the second copy reads the project's settings: " << recorded;
-  EXPECT_NE(recorded.find("-classpath ." + listSeparator + Filename(userFolder()).quotedDirectoryNoSlash() + " "),
-            std::string::npos)
-      << "a folder with a blank stands in quotes: " << recorded;
 }
 
 TEST_F(ProjectRunTest, ANameInDoubleQuotesIsTheTargetAndTheRestItsArguments) {
@@ -129,7 +136,7 @@ TEST_F(ProjectRunTest, JdbGetsTheSourcePathToo) {
   });
   const std::string recorded = recordedUpTo("Main\n");
   EXPECT_NE(recorded.find("\\/JDEBUG\\/"), std::string::npos) << recorded;
-  EXPECT_NE(recorded.find("-sourcepath " + Filename(userFolder()).quotedDirectoryNoSlash() + "\n"), std::string::npos)
+  EXPECT_NE(recorded.find(received("-sourcepath", "", Filename(userFolder()).directoryNoSlash())), std::string::npos)
       << recorded;
 }
 

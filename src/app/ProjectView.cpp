@@ -1,7 +1,6 @@
 #include "app/ProjectView.h"
 
 #include "platform/FileSystem.h"
-#include "platform/Path.h"
 #include "project/ProjMainClassDlg.h"
 #include "project/ProjectBuild.h"
 #include "project/ProjectFilesDlg.h"

@@ -108,7 +108,7 @@ def take_project(scratch, camera, panel):
             out.write(f"public class {name.removesuffix('.java')} {{{main}}}\n")
     panel.press("Projectview")
     panel.press("New")
-    test_projects.choose_file(os.path.join(scratch.work, "Shop.twp"))
+    world.answer_file_dialog(os.path.join(scratch.work, "Shop.twp"), panel)
     files = Window(test_projects.FILES)
     for name in ("Shop.java", "Till.java"):
         files.control(name).click()

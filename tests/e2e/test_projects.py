@@ -4,6 +4,7 @@ import os
 import time
 
 import person
+import world
 from person import Window, wait_until
 
 FILES = "Define which files belong to the project"
@@ -22,21 +23,6 @@ def write_source(scratch, name, text):
     return path
 
 
-def choose_file(path):
-    """Answers a file dialog with this path."""
-    chooser = wait_until("the file dialog", lambda: next(
-        (one for one in person.look() if one.role == "file chooser"), None))
-    dialog = Window(chooser.name)
-    dialog.activate()
-    person.key("ctrl+a" if chooser.name == "Save as" else "slash")
-    person.key("ctrl+a")
-    person.put_on_clipboard(path)
-    person.key("ctrl+v")
-    time.sleep(0.3)
-    person.key("Return")
-    dialog.is_gone()
-
-
 def message(part):
     """The box that says this; the words of all of it."""
     def found():
@@ -53,7 +39,7 @@ def new_project(scratch, panel, *names):
     path = os.path.join(scratch.work, "mein Projekt 日本.twp")
     panel.press("Projectview")
     panel.press("New")
-    choose_file(path)
+    world.answer_file_dialog(path, panel)
     files = Window(FILES)
     for name in names:
         files.control(name).click()

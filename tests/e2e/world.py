@@ -260,21 +260,26 @@ class World:
         console.activate()
         console.press("File")
         console.press(entry)
-        chooser = wait_until("the file dialog", lambda: next(
-            (one for one in person.look() if one.role in ("file chooser", "dialog") and one.name != console.title), None))
-        dialog = Window(chooser.name)
-        dialog.activate()
-        person.key("ctrl+a")
-        person.put_on_clipboard(path)
-        person.key("ctrl+v")
-        time.sleep(0.3)
-        person.key("Return")
-        dialog.is_gone()
+        answer_file_dialog(path, console)
 
     def peak_memory(self, process):
         """The most memory that the process has had so far, in MB."""
         with open(f"/proc/{process}/status", encoding="utf-8") as lines:
             return next(int(line.split()[1]) for line in lines if line.startswith("VmHWM")) / 1024
+
+
+def answer_file_dialog(path, owner):
+    """Gives a path to the file dialog that a window has opened."""
+    chooser = wait_until("the file dialog", lambda: next(
+        (one for one in person.look() if one.role in ("file chooser", "dialog") and one.name != owner.title), None))
+    dialog = Window(chooser.name)
+    dialog.activate()
+    person.key("ctrl+a")
+    person.put_on_clipboard(path)
+    person.key("ctrl+v")
+    time.sleep(0.3)
+    person.key("Return")
+    dialog.is_gone()
 
 
 def quoted(path):

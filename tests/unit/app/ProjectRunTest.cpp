@@ -29,6 +29,18 @@ class ProjectRunTest : public ProjectViewFixture {
   }
   const std::string listSeparator = platform::commandLineList(";");
 
+  /// A project of two sources, with a stand-in as the editor.
+  std::string withAnEditor(int openAll) {
+    saveEarlierRun([openAll](Settings& earlier) {
+      earlier.editWithNotepad = 0;
+      earlier.editorOpenAll = openAll;
+      earlier.editorTarget = standInFolder() + platform::toolFileName("javadoc");
+    });
+    makeSource("A");
+    makeSource("B");
+    return makeProject("PROJECT_SOURCES  A.java;B.java\n");
+  }
+
   /// A main class that is up to date when the panel stands, and no longer when a button is pressed.
   void runStale(int tab, int button, const std::function<void()>& expect) {
     makeSource("Main", mainMethod());
@@ -89,11 +101,7 @@ TEST_F(ProjectRunTest, AConflictIsToldAndNothingIsCompiled) {
   makeSource("B");
   startWith(makeProject("PROJECT_SOURCES  A.java;B.java\n"), [&](ScriptedWindow& panel) {
     writeFile(path("B.java"), "public class B {" + mainMethod() + "}\n");
-    desktop_.expectMessage(
-        "Files B.java\nand A.java\nboth have \"public static void main\" methods."
-        "\n\nEdit source files to resolve conflict"
-        "\nor switch to Tarnwick's fileview"
-        "\nor press Files button and allow multiple classes with a main method.");
+    desktop_.expectMessage(conflict("B.java", "A.java"));
     panel.press(CHANGED);
     EXPECT_FALSE(panel.page(TABS, 0).enabled(RIGHT));
     exit(panel);
@@ -155,11 +163,7 @@ TEST_F(ProjectRunTest, ASecondMainMethodIsToldWhenJavaIsPressed) {
   makeCurrent("B");
   startWith(makeProject("PROJECT_SOURCES  A.java;B.java\n"), [&](ScriptedWindow& panel) {
     writeFile(path("B.java"), "public class B {" + mainMethod() + "}\n");
-    desktop_.expectMessage(
-        "Files B.java\nand A.java\nboth have \"public static void main\" methods."
-        "\n\nEdit source files to resolve conflict"
-        "\nor switch to Tarnwick's fileview"
-        "\nor press Files button and allow multiple classes with a main method.");
+    desktop_.expectMessage(conflict("B.java", "A.java"));
     panel.page(TABS, 0).press(RIGHT);
     exit(panel);
   });
@@ -178,14 +182,7 @@ TEST_F(ProjectRunTest, TheAppletviewerShowsTheProjectsHtmlFile) {
 }
 
 TEST_F(ProjectRunTest, EditOpensAllSourcesFromTheLastToTheFirst) {
-  saveEarlierRun([](Settings& earlier) {
-    earlier.editWithNotepad = 0;
-    earlier.editorOpenAll = 1;
-    earlier.editorTarget = standInFolder() + platform::toolFileName("javadoc");
-  });
-  makeSource("A");
-  makeSource("B");
-  startWith(makeProject("PROJECT_SOURCES  A.java;B.java\n"), [&](ScriptedWindow& panel) {
+  startWith(withAnEditor(1), [&](ScriptedWindow& panel) {
     const auto before = std::chrono::steady_clock::now();
     panel.press(PROJECT_EDIT);
     EXPECT_GE(std::chrono::steady_clock::now() - before, std::chrono::milliseconds(800)) << "between the two";
@@ -196,14 +193,7 @@ TEST_F(ProjectRunTest, EditOpensAllSourcesFromTheLastToTheFirst) {
 }
 
 TEST_F(ProjectRunTest, EditOpensWhatTheUserChooses) {
-  saveEarlierRun([](Settings& earlier) {
-    earlier.editWithNotepad = 0;
-    earlier.editorOpenAll = 0;
-    earlier.editorTarget = standInFolder() + platform::toolFileName("javadoc");
-  });
-  makeSource("A");
-  makeSource("B");
-  startWith(makeProject("PROJECT_SOURCES  A.java;B.java\n"), [&](ScriptedWindow& panel) {
+  startWith(withAnEditor(0), [&](ScriptedWindow& panel) {
     desktop_.expectOpenFiles({path("A.java")});
     panel.press(PROJECT_EDIT);
     EXPECT_EQ(desktop_.lastRequest().filter, "java source files (*.java)|*.java|All files (*.*)|*.*||");

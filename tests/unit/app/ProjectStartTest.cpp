@@ -81,11 +81,7 @@ TEST_F(ProjectStartTest, AConflictOfMainMethodsIsToldAndTheProjectIsOpen) {
   makeSource("A", mainMethod());
   makeSource("B", mainMethod());
   const std::string file = makeProject("PROJECT_SOURCES  A.java;B.java\n");
-  desktop_.expectMessage(
-      "Files B.java\nand A.java\nboth have \"public static void main\" methods."
-      "\n\nEdit source files to resolve conflict"
-      "\nor switch to Tarnwick's fileview"
-      "\nor press Files button and allow multiple classes with a main method.");
+  desktop_.expectMessage(conflict("B.java", "A.java"));
   start(file, [](ScriptedWindow& main) { expectFileView(main); });
   ASSERT_NE(settings().currentProject, nullptr);
   EXPECT_EQ(project().file.name().fullName(), file);

@@ -61,6 +61,15 @@ class ProjectViewFixture : public PanelFixture {
     });
   }
 
+  /// What is told of main methods in two sources: the later one of the list comes first.
+  static std::string conflict(const std::string& later, const std::string& earlier) {
+    return "Files " + later + "\nand " + earlier +
+           "\nboth have \"public static void main\" methods."
+           "\n\nEdit source files to resolve conflict"
+           "\nor switch to Tarnwick's fileview"
+           "\nor press Files button and allow multiple classes with a main method.";
+  }
+
   ProjectContext& project() { return dynamic_cast<ProjectContext&>(*settings().currentProject); }
 
   /// What a tool, or the second copy of the program, was started with, once `last` is among it.

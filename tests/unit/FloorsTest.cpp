@@ -1,6 +1,7 @@
 // The floors of the house, read from the includes of its sources.
 #include "platform/FileSystem.h"
 #include "platform/Path.h"
+#include "support/CheckoutFolder.h"
 #include "support/Floors.h"
 #include "support/TestProgram.h"
 
@@ -39,7 +40,7 @@ class FloorsTest : public testing::Test {
 
 /// The sources of the checkout that this program was built from. Under Wine they are on drive Z:.
 fs::path sourceFolder() {
-  const std::string checkout = TARNWICK_SOURCE_FOLDER;  // UTF-8, whatever this process's own set is
+  const std::string checkout = checkoutFolder();  // UTF-8, whatever this process's own set is
   const auto folder = fs::path(std::u8string(checkout.begin(), checkout.end())) / "src";
   return platform::folderSeparator == '\\' && !folder.has_root_name() ? fs::path("Z:") / folder : folder;
 }

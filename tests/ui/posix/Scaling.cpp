@@ -1,5 +1,6 @@
 #include "ui/Scaling.h"
 
+#include "support/CheckoutFolder.h"
 #include "support/TestProgram.h"
 
 #include <filesystem>
@@ -21,7 +22,7 @@ std::string whyNoScaling() {
 
 // Window managers cut large windows to the screen's size.
 std::string largeScreen() {
-  const std::string folder = TARNWICK_SOURCE_FOLDER;
+  const std::string folder = checkoutFolder();
   return "TARNWICK_DISPLAY_SIZE=3840x2160x24 \"" + folder + "/scripts/with-display.sh\" ";
 }
 

@@ -9,6 +9,7 @@
 #include "resources/SourceLayouts.h"
 #include "resources/TemplateLayouts.h"
 #include "resources/Toolbar.h"
+#include "support/CheckoutFolder.h"
 #include "support/TestProgram.h"
 
 #include <algorithm>
@@ -20,7 +21,7 @@ namespace {
 
 /// The page's words alone: no tags, no style, one blank between two words.
 std::string wordsOfGuide() {
-  std::string page = contentOf(TARNWICK_SOURCE_FOLDER "/guide/usersguide.htm");
+  std::string page = contentOf(checkoutFolder() + "/guide/usersguide.htm");
   page.erase(0, page.find("<body>"));
   std::string words;
   bool inTag = false;

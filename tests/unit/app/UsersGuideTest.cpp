@@ -1,5 +1,6 @@
 #include "app/UsersGuide.h"
 #include "platform/Path.h"
+#include "support/CheckoutFolder.h"
 #include "support/SettingsFixture.h"
 
 namespace tarnwick::test {
@@ -152,7 +153,7 @@ TEST_F(UsersGuideTest, WhereTheConfigurationCantBeSavedTheGuideThatWasFoundStill
 }
 
 TEST(UsersGuidePageTest, HoldsEveryMarkThatTheProgramOpensItAt) {
-  const std::string page = contentOf(TARNWICK_SOURCE_FOLDER "/guide/usersguide.htm");
+  const std::string page = contentOf(checkoutFolder() + "/guide/usersguide.htm");
   for (const char* anchor :
        {"configTab1", "javacparameters", "javaparameters", "jdbparams", "appletviewerparameters", "editorparameters",
         "paths", "jdb", "newfile", "usertemplate", "projectfiles", "jarmenu", "javadocmenu", "shortcut"}) {
@@ -161,8 +162,7 @@ TEST(UsersGuidePageTest, HoldsEveryMarkThatTheProgramOpensItAt) {
 }
 
 TEST(UsersGuidePageTest, EveryMarkAndPictureThatItRefersToIsThere) {
-  std::string folder = TARNWICK_SOURCE_FOLDER;
-  folder += "/guide/";
+  const std::string folder = checkoutFolder() + "/guide/";
   const std::string page = contentOf(folder + "usersguide.htm");
   const auto each = [&page](const std::string& opening, const std::function<void(const std::string&)>& check) {
     for (auto at = page.find(opening); at != std::string::npos; at = page.find(opening, at + 1)) {

@@ -3,7 +3,6 @@
 
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 cores=$(nproc 2>/dev/null || echo 2)
-export CCACHE_BASEDIR=$root CCACHE_NOHASHDIR=1
 
 # An inherited closed standard input would hand its number to the next file that somebody opens.
 { true <&0; } 2>/dev/null || exec </dev/null

@@ -4,7 +4,8 @@
 #   ./test.sh windows    cross-builds for 64-bit and 32-bit Windows; the 64-bit tests run under Wine
 #   ./test.sh sanitize   unit tests under the address, undefined-behaviour and thread sanitizers
 #   ./test.sh fuzz       the fuzz targets: the saved inputs, then 30 seconds of new ones for each (./fuzz.sh does more)
-#   ./test.sh ci         Linux and Windows, and the fuzz targets
+#   ./test.sh lint       the form of the code: all of it, and more closely what the last thirty commits touched
+#   ./test.sh ci         Linux, Windows, the fuzz targets and the form of the code
 # The last line sums up: "N passed, N failed, N skipped". Logs are in build/test-logs/.
 set -uo pipefail
 . "$(dirname "${BASH_SOURCE[0]}")/scripts/common.sh"
@@ -153,6 +154,16 @@ testFuzz() {
   judge fuzz
 }
 
+testForm() {
+  if "$root/scripts/lint.sh" --recent >"$logs/lint.log" 2>&1; then
+    say "lint: $(tail -n 1 "$logs/lint.log")"
+    passed=$((passed + 1))
+  else
+    tail -n 60 "$logs/lint.log" >&2
+    fail "the form of the code"
+  fi
+}
+
 mkdir -p "$logs"
 SECONDS=0
 case ${1:-} in
@@ -160,8 +171,9 @@ case ${1:-} in
   windows) testWindows ;;
   sanitize) testSanitized ;;
   fuzz) testFuzz ;;
-  ci) testLinux; testWindows; testFuzz ;;
-  *) say "usage: test.sh [windows|sanitize|fuzz|ci]"; exit 2 ;;
+  lint) testForm ;;
+  ci) testLinux; testWindows; testFuzz; testForm ;;
+  *) say "usage: test.sh [windows|sanitize|fuzz|lint|ci]"; exit 2 ;;
 esac
 say "$((SECONDS / 60)) min $((SECONDS % 60)) s"
 echo "$passed passed, $failed failed, $skipped skipped"

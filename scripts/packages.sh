@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Installs the Debian packages that a job needs, and only those that are missing.
-# usage: scripts/packages.sh [--list] GROUP...     groups: run, test, windows, fuzz, bench
+# usage: scripts/packages.sh [--list] GROUP...     groups: run, test, windows, lint, fuzz, bench
 # --list prints what is missing, one package a line, and installs nothing.
 set -euo pipefail
 
@@ -28,6 +28,12 @@ windowsPackages() {
 benchPackages() {
   echo g++ cmake ninja-build ccache pkgconf libcanberra-dev libglib2.0-dev libbenchmark-dev python3 make universal-ctags
   echo openjdk-17-source stterm xterm xdotool xvfb openbox
+}
+
+# clang-tidy reads all that is compiled, so it wants what the tests want.
+lintPackages() {
+  testPackages
+  echo clang clang-format clang-tidy
 }
 
 # llvm names the lines in a sanitizer's report.
@@ -76,12 +82,12 @@ install() {
 
 onlyList=
 [ "${1:-}" = --list ] && { onlyList=yes; shift; }
-[ $# -gt 0 ] || { echo "usage: packages.sh [--list] run|test|windows|fuzz|bench..." >&2; exit 2; }
+[ $# -gt 0 ] || { echo "usage: packages.sh [--list] run|test|windows|lint|fuzz|bench..." >&2; exit 2; }
 
 wanted=()
 for group in "$@"; do
   case $group in
-    run | test | windows | fuzz | bench) mapfile -t -O "${#wanted[@]}" wanted < <("${group}Packages" | tr ' ' '\n') ;;
+    run | test | windows | lint | fuzz | bench) mapfile -t -O "${#wanted[@]}" wanted < <("${group}Packages" | tr ' ' '\n') ;;
     *) echo "packages.sh: unknown group $group" >&2; exit 2 ;;
   esac
 done

@@ -60,9 +60,10 @@ bool ReplacingFile::openFresh(const char* letters) {
 }
 
 bool ReplacingFile::openFreshAs(const std::string& base, const char* letters, bool ownerOnly) {
-  // The first free number: a file that a killed process has left is used again, so that such files do not pile up.
+  // The first free number: a file that a killed process has left is used again, so that such files do not pile up. The
+  // name is one that nobody else gives to a file, and what bears it all the same and can't be ours is passed over.
   for (int i = 1; i <= mostAtOnce; ++i) {
-    fresh_ = base + '.' + std::to_string(i) + ".tmp";
+    fresh_ = base + ".tarnwick-" + std::to_string(i) + ".tmp";
     if (std::FILE* stream = platform::openReplacement(fresh_, letters, ownerOnly)) {
       setStream(stream);
       return true;

@@ -6,9 +6,9 @@
 
 namespace tarnwick {
 
-/// A file that is being saved. What is written goes to a fresh file beside the target, "TARGET.1.tmp" or the next free
-/// number, and only `commit` puts it in the target's place: a save that fails or is killed on the way leaves the target
-/// as it was. A fresh file that a killed process has left is used by the next save. The name is the target's
+/// A file that is being saved. What is written goes to a fresh file beside the target, "TARGET.tarnwick-1.tmp" or the
+/// next free number, and only `commit` puts it in the target's place: a save that fails or is killed on the way leaves
+/// the target as it was. A fresh file that a killed process has left is used by the next save. The name is the target's
 /// throughout.
 class ReplacingFile : public Tarnwickfile {
  public:

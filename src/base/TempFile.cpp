@@ -1,6 +1,7 @@
 #include "base/TempFile.h"
 
 #include "platform/FileSystem.h"
+#include "platform/OwnFiles.h"
 #include "platform/Path.h"
 
 #include <cerrno>
@@ -14,8 +15,10 @@ namespace {
 constexpr int lastNumber = 9998;
 constexpr std::time_t secondsOfDay = 86400;
 
-/// A file that cannot be examined counts as fresh.
+/// A file that cannot be examined counts as fresh. What is a link, has a second name, or belongs to another user was
+/// not made by us, however old it is.
 bool isLeftover(const std::string& path) {
+  if (!platform::isOwnFile(path)) return false;
   const auto changed = platform::lastChange(path);
   return changed && (std::time(nullptr) - *changed) / secondsOfDay > 0;
 }
@@ -39,7 +42,9 @@ TempFile::~TempFile() {
 }
 
 void TempFile::openTemp(FileMode mode) {
-  if (!name().fullName().empty()) {
+  const std::string& path = name().fullName();
+  // Somebody may have put a link in its place meanwhile.
+  if (!path.empty() && (platform::isPlainFile(path) || !platform::isTaken(path))) {
     try {
       open(mode);
       return;

@@ -9,7 +9,7 @@ namespace tarnwick::platform {
 /// Opens an empty file for writing, with "w" as text, with "wb" as bytes. As long as the stream is open no other
 /// process gets the file in this way; a file that a killed process has left is used again. `ownerOnly` keeps its
 /// content from other users, where the system can. Null on failure, with the reason in `errno`: EBUSY if another
-/// process has it.
+/// process has it, EACCES if it is a file with a second name or another user's, which no process of ours has left.
 std::FILE* openReplacement(const std::string& path, const char* mode, bool ownerOnly);
 
 /// False with `errno` if the file refuses to be written. A program that holds it for a moment is waited for.

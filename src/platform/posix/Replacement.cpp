@@ -23,10 +23,11 @@ bool isStillAt(int descriptor, const std::string& path) {
          own.st_ino == there.st_ino;
 }
 
-/// Folders for temporary files are open to all: a file that another user has laid there is not taken.
+/// Folders for temporary files are open to all: a file that another user has laid there is not taken, and none that has
+/// a second name somewhere.
 bool isOwnFile(int descriptor) {
   struct stat own {};
-  return ::fstat(descriptor, &own) == 0 && S_ISREG(own.st_mode) && own.st_uid == ::geteuid();
+  return ::fstat(descriptor, &own) == 0 && S_ISREG(own.st_mode) && own.st_uid == ::geteuid() && own.st_nlink == 1;
 }
 
 /// True with the lock, and where the file system knows no locks; false with EBUSY in `errno`.

@@ -126,14 +126,31 @@ bool writeOver(HANDLE from, const std::string& target) {
          FlushFileBuffers(to.get()) != 0;
 }
 
+/// A link, or a file with a second name, is nothing that a process of ours has left.
+bool isOwnFile(HANDLE file) {
+  BY_HANDLE_FILE_INFORMATION info{};
+  return GetFileInformationByHandle(file, &info) != 0 && info.nNumberOfLinks == 1 &&
+         (info.dwFileAttributes & (FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_REPARSE_POINT)) == 0;
+}
+
 }  // namespace
 
 std::FILE* openReplacement(const std::string& path, const char* mode, bool /*ownerOnly*/) {
   // Others may read, so that the file can be read from the moment that it is in its target's place.
   const HANDLE file = CreateFileA(path.c_str(), GENERIC_READ | GENERIC_WRITE | DELETE, FILE_SHARE_READ, nullptr,
-                                  CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr);
+                                  OPEN_ALWAYS, FILE_ATTRIBUTE_NORMAL | FILE_FLAG_OPEN_REPARSE_POINT, nullptr);
   if (file == INVALID_HANDLE_VALUE) {
     errno = GetLastError() == ERROR_SHARING_VIOLATION ? EBUSY : errnoOfLastError();
+    return nullptr;
+  }
+  if (!isOwnFile(file)) {
+    CloseHandle(file);
+    errno = EACCES;
+    return nullptr;
+  }
+  if (!cutAt(file, 0)) {
+    errno = errnoOfLastError();
+    CloseHandle(file);
     return nullptr;
   }
   const int kind = std::strchr(mode, 'b') ? _O_BINARY : _O_TEXT;

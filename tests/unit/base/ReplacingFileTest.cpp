@@ -113,13 +113,13 @@ TEST(ReplacingFile, SavesAtTheSameTimeHaveNumbersOfTheirOwn) {
   const ReplacingFile second(folder.file("x.cfg"));
   Names names = namesIn(folder);
   std::sort(names.begin(), names.end());
-  EXPECT_EQ(names, (Names{"x.cfg.1.tmp", "x.cfg.2.tmp"}));
+  EXPECT_EQ(names, (Names{"x.cfg.tarnwick-1.tmp", "x.cfg.tarnwick-2.tmp"}));
 }
 
 TEST(ReplacingFile, WhatAKilledSaveHasLeftIsUsedByTheNext) {
   const ScratchFolder folder;
   writeFile(folder.file("x.cfg"), "old");
-  writeFile(folder.file("x.cfg.1.tmp"), "half of a longer conte");
+  writeFile(folder.file("x.cfg.tarnwick-1.tmp"), "half of a longer conte");
   ReplacingFile file(folder.file("x.cfg"));
   EXPECT_EQ(namesIn(folder).size(), 2U);
   std::fputs("new", file.stream());
@@ -128,19 +128,51 @@ TEST(ReplacingFile, WhatAKilledSaveHasLeftIsUsedByTheNext) {
   EXPECT_EQ(namesIn(folder), Names{"x.cfg"});
 }
 
+TEST(ReplacingFile, AFileOfTheUsersWithANumberIsNeitherUsedNorRemoved) {
+  for (const bool thereBefore : {false, true}) {
+    const ScratchFolder folder;
+    if (thereBefore) writeFile(folder.file("x.cfg"), "old");
+    writeFile(folder.file("x.cfg.1.tmp"), "mine");
+    ReplacingFile file(folder.file("x.cfg"));
+    std::fputs("new", file.stream());
+    file.commit();
+    EXPECT_EQ(contentOf(folder.file("x.cfg")), "new");
+    EXPECT_EQ(contentOf(folder.file("x.cfg.1.tmp")), "mine");
+    EXPECT_EQ(namesIn(folder).size(), 2U);
+  }
+}
+
+TEST(ReplacingFile, AFileWithASecondNameIsNoLeftover) {
+  const ScratchFolder folder;
+  writeFile(folder.file("x.cfg"), "old");
+  writeFile(folder.file("precious"), "mine");
+  std::error_code failure;
+  std::filesystem::create_hard_link(folder.file("precious"), folder.file("x.cfg.tarnwick-1.tmp"), failure);
+  if (failure) GTEST_SKIP() << "no hard links here: " << failure.message();
+  {
+    ReplacingFile file(folder.file("x.cfg"));
+    EXPECT_TRUE(platform::isFile(folder.file("x.cfg.tarnwick-2.tmp"))) << "the next number";
+    std::fputs("new", file.stream());
+    file.commit();
+  }
+  EXPECT_EQ(contentOf(folder.file("x.cfg")), "new");
+  EXPECT_EQ(contentOf(folder.file("precious")), "mine");
+  EXPECT_EQ(contentOf(folder.file("x.cfg.tarnwick-1.tmp")), "mine");
+}
+
 TEST(ReplacingFile, AFolderUnderTheFreshFilesNameIsPassedOver) {
   for (const bool thereBefore : {false, true}) {
     const ScratchFolder folder;
     if (thereBefore) writeFile(folder.file("x.cfg"), "old");
-    ASSERT_TRUE(platform::makeFolders(folder.file("x.cfg.1.tmp")));
+    ASSERT_TRUE(platform::makeFolders(folder.file("x.cfg.tarnwick-1.tmp")));
     ReplacingFile file(folder.file("x.cfg"));
-    EXPECT_TRUE(platform::isFile(folder.file("x.cfg.2.tmp")));
+    EXPECT_TRUE(platform::isFile(folder.file("x.cfg.tarnwick-2.tmp")));
     EXPECT_EQ(platform::isFile(folder.file("x.cfg")), thereBefore);
     std::fputs("new", file.stream());
     file.commit();
     EXPECT_EQ(contentOf(folder.file("x.cfg")), "new");
-    EXPECT_TRUE(platform::isFolder(folder.file("x.cfg.1.tmp")));
-    EXPECT_FALSE(platform::isFile(folder.file("x.cfg.2.tmp")));
+    EXPECT_TRUE(platform::isFolder(folder.file("x.cfg.tarnwick-1.tmp")));
+    EXPECT_FALSE(platform::isFile(folder.file("x.cfg.tarnwick-2.tmp")));
   }
 }
 

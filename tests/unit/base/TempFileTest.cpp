@@ -5,6 +5,7 @@
 
 #include <cstdio>
 #include <ctime>
+#include <filesystem>
 #include <gtest/gtest.h>
 #include <memory>
 #include <string>
@@ -194,6 +195,22 @@ TEST(TempFile, ALeftoverIsNotDeletedBeforeItIsTakenOver) {
   file.openTemp(FileMode::Append);
   file.close();
   EXPECT_EQ(contentOf(tempName(folder, 1)), "leftover") << "appending finds the old content";
+}
+
+TEST(TempFile, AnOldFileWithASecondNameIsNoLeftover) {
+  const ScratchFolder folder;
+  writeFile(folder.file("precious"), "mine");
+  std::error_code failure;
+  std::filesystem::create_hard_link(folder.file("precious"), tempName(folder, 1), failure);
+  if (failure) GTEST_SKIP() << "no hard links here: " << failure.message();
+  makeOlder(folder.file("precious"), 2 * day);
+  {
+    TempFile file("Tarnwick_LOG", folder.path());
+    file.openTemp(FileMode::Write);
+    EXPECT_EQ(file.name().fullName(), tempName(folder, 2));
+  }
+  EXPECT_EQ(contentOf(folder.file("precious")), "mine");
+  EXPECT_EQ(contentOf(tempName(folder, 1)), "mine");
 }
 
 TEST(TempFile, AMissingFolderFailsWithTheFirstCandidatesName) {

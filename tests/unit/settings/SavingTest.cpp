@@ -65,7 +65,7 @@ class SavingTest : public testing::Test {
   const ScratchFolder folder_;
   const std::string saver_ = platform::resolvedPath(standInFolder() + platform::toolFileName("saver"));
   const std::string file_ = folder_.file(defaultConfigurationName);
-  const std::string leftOver_ = std::string(defaultConfigurationName) + ".1.tmp";
+  const std::string leftOver_ = std::string(defaultConfigurationName) + ".tarnwick-1.tmp";
   std::string a_;
   std::string b_;
 };

@@ -117,7 +117,7 @@ TEST(PosixReplacingFile, WhatIsToReplaceAFileIsItsOwnersAloneUntilItDoes) {
   writeFile(folder.file("x.cfg"), "old");
   ASSERT_EQ(::chmod(folder.file("x.cfg").c_str(), 0644), 0);
   ReplacingFile file(folder.file("x.cfg"));
-  EXPECT_EQ(permissionsOf(folder.file("x.cfg.1.tmp")), 0600u);
+  EXPECT_EQ(permissionsOf(folder.file("x.cfg.tarnwick-1.tmp")), 0600u);
   file.commit();
   EXPECT_EQ(permissionsOf(folder.file("x.cfg")), 0644u);
 }
@@ -126,11 +126,11 @@ TEST(PosixReplacingFile, AFreshFileOfAnotherUserIsPassedOver) {
   if (::geteuid() != 0) GTEST_SKIP() << "only root can make another user's file";
   const ScratchFolder folder;
   writeFile(folder.file("x.cfg"), "old");
-  writeFile(folder.file("x.cfg.1.tmp"), "theirs");
-  ASSERT_EQ(::chown(folder.file("x.cfg.1.tmp").c_str(), 65534, 65534), 0);
+  writeFile(folder.file("x.cfg.tarnwick-1.tmp"), "theirs");
+  ASSERT_EQ(::chown(folder.file("x.cfg.tarnwick-1.tmp").c_str(), 65534, 65534), 0);
   EXPECT_EQ(failureOfSave(folder.file("x.cfg")), "");
   EXPECT_EQ(contentOf(folder.file("x.cfg")), "new");
-  EXPECT_EQ(contentOf(folder.file("x.cfg.1.tmp")), "theirs");
+  EXPECT_EQ(contentOf(folder.file("x.cfg.tarnwick-1.tmp")), "theirs");
   EXPECT_EQ(countIn(folder), 2);
 }
 
@@ -138,7 +138,7 @@ TEST(PosixReplacingFile, ALinkUnderTheFreshFilesNameIsPassedOver) {
   const ScratchFolder folder;
   writeFile(folder.file("x.cfg"), "old");
   writeFile(folder.file("precious"), "content");
-  std::filesystem::create_symlink("precious", folder.file("x.cfg.1.tmp"));
+  std::filesystem::create_symlink("precious", folder.file("x.cfg.tarnwick-1.tmp"));
   EXPECT_EQ(failureOfSave(folder.file("x.cfg")), "");
   EXPECT_EQ(contentOf(folder.file("x.cfg")), "new");
   EXPECT_EQ(contentOf(folder.file("precious")), "content");
@@ -147,10 +147,10 @@ TEST(PosixReplacingFile, ALinkUnderTheFreshFilesNameIsPassedOver) {
 TEST(PosixReplacingFile, APipeUnderTheFreshFilesNameIsPassedOver) {
   const ScratchFolder folder;
   writeFile(folder.file("x.cfg"), "old");
-  ASSERT_EQ(::mkfifo(folder.file("x.cfg.1.tmp").c_str(), 0600), 0);
+  ASSERT_EQ(::mkfifo(folder.file("x.cfg.tarnwick-1.tmp").c_str(), 0600), 0);
   EXPECT_EQ(failureOfSave(folder.file("x.cfg")), "");
   EXPECT_EQ(contentOf(folder.file("x.cfg")), "new");
-  EXPECT_TRUE(std::filesystem::is_fifo(folder.file("x.cfg.1.tmp")));
+  EXPECT_TRUE(std::filesystem::is_fifo(folder.file("x.cfg.tarnwick-1.tmp")));
 }
 
 TEST(PosixReplacingFile, ATargetThatIsALinkStaysOne) {
@@ -243,7 +243,7 @@ TEST(PosixReplacingFile, AFailedSaveInAFolderThatTakesNoNewFileLeavesTheTargetWh
     std::fflush(file.stream());
     EXPECT_EQ(contentOf(target), "old") << "nothing happens before the commit";
     EXPECT_EQ(countIn(temporary), 1);
-    EXPECT_EQ(permissionsOf(temporary.file("tarnwick-save.1.tmp")), 0600u) << "anybody may look in there";
+    EXPECT_EQ(permissionsOf(temporary.file("tarnwick-save.tarnwick-1.tmp")), 0600u) << "anybody may look in there";
   }
   EXPECT_EQ(contentOf(target), "old");
   {

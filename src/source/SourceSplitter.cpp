@@ -33,10 +33,12 @@ void SourceSplitter::run() {
 }
 
 void SourceSplitter::runPasses() {
+  pieces_.putBackLeftOvers();
   check();
   throwComplaints();
   collect();
   throwComplaints();
+  pieces_.publish();
 }
 
 void SourceSplitter::check() {

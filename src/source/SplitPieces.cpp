@@ -9,29 +9,30 @@ namespace tarnwick {
 
 namespace {
 
-/// A name that leads out of the source's folder, or to the source itself, must not be written.
+[[noreturn]] void refuseToOpen(int reason, const Filename& piece) {
+  throw Tarnwickfile::FileNotOpenE(std::strerror(reason), piece.fullName());
+}
+
+/// A name that leads out of the source's folder, or to the source itself, must not be taken.
 void expectSafe(const Filename& piece, const Filename& source) {
-  if (piece.directory() != source.directory())
-    throw Tarnwickfile::FileNotOpenE(std::strerror(ENOENT), piece.fullName());
+  if (piece.directory() != source.directory()) refuseToOpen(ENOENT, piece);
   if (platform::resolvedPath(piece.fullName()) == platform::resolvedPath(source.fullName()))
-    throw Tarnwickfile::FileNotOpenE(std::strerror(EEXIST), piece.fullName());
+    refuseToOpen(EEXIST, piece);
 }
 
 }  // namespace
 
-SplitPieces::SplitPieces(const Filename& source) : source_(source) {}
-
-SplitPieces::~SplitPieces() {
-  output_.reset();
-  for (const auto& path : made_) platform::deleteFile(path);
-}
+SplitPieces::SplitPieces(const Filename& source)
+    : source_(source), place_(Filename(platform::absolutePath(source.fullName())).directory()), folder_(place_) {}
 
 void SplitPieces::begin(const std::string& fileName, std::string head) {
   end();
-  const Filename path(source_.directory(), fileName);
-  expectSafe(path, source_);
-  output_.emplace(path.fullName(), FileMode::Write);
-  made_.push_back(platform::absolutePath(path.fullName()));
+  const Filename piece(source_.directory(), fileName);
+  expectSafe(piece, source_);
+  const std::string path = folder_.make(piece.nameWithExtension());
+  if (path.empty()) refuseToOpen(errno, piece);
+  pieces_.push_back(piece);
+  output_.emplace(path, FileMode::Write);
   std::erase(head, '\0');
   if (std::fputs(head.c_str(), output_->stream()) == EOF) refuse();
 }
@@ -46,10 +47,20 @@ void SplitPieces::end() {
   if (!writing()) return;
   if (std::fflush(output_->stream()) != 0) refuse();
   output_.reset();
+  if (!folder_.finish(pieces_.back().nameWithExtension())) refuse();
+}
+
+void SplitPieces::publish() {
+  for (const auto& piece : pieces_)
+    if (!folder_.publish(piece.nameWithExtension())) refuseToOpen(errno, piece);
+}
+
+void SplitPieces::putBackLeftOvers() const {
+  PieceFolder::putBackLeftOvers(place_);
 }
 
 void SplitPieces::refuse() {
-  throw CannotWriteE(std::strerror(errno) + std::string("\nCan't write to file ") + output_->name().quoted());
+  throw CannotWriteE(std::strerror(errno) + std::string("\nCan't write to file ") + pieces_.back().quoted());
 }
 
 }  // namespace tarnwick

@@ -60,6 +60,35 @@ def test_from_outside_in_the_middle_of_a_run_it_leaves_nothing(scratch):
     expect_an_end_without_traces(scratch, signal.SIGTERM)
 
 
+def test_in_the_middle_of_a_run_the_users_file_comes_back(scratch):
+    """A file that bears the name of a piece."""
+    mine = os.path.join(scratch.work, "Circle.java")
+    with open(mine, "w", encoding="utf-8") as file:
+        file.write("mine")
+    split_under_way(scratch)
+    assert content(mine) != "mine", "the piece has the name"
+    expect_the_end(scratch, signal.SIGTERM)
+    assert content(mine) == "mine"
+    assert sorted(os.listdir(scratch.work)) == ["Circle.java", "Shapes.java"], os.listdir(scratch.work)
+
+
+def test_after_a_kill_the_next_compile_puts_the_users_file_back(scratch):
+    mine = os.path.join(scratch.work, "Circle.java")
+    with open(mine, "w", encoding="utf-8") as file:
+        file.write("class Circle { }\n")
+    split_under_way(scratch)
+    scratch.running[-1].kill()
+    scratch.running[-1].wait(20)
+    for tool in scratch.processes("javac"):
+        with contextlib.suppress(ProcessLookupError):
+            os.kill(tool, signal.SIGKILL)
+    scratch.change_settings(JAVA_PATH=os.path.dirname(world.real_javac()) + os.sep)
+    scratch.start()
+    scratch.compile(Window("Tarnwick"), mine)
+    assert content(mine) == "class Circle { }\n"
+    assert sorted(os.listdir(scratch.work)) == ["Circle.class", "Circle.java", "Shapes.java"], os.listdir(scratch.work)
+
+
 def test_by_ctrl_c_in_the_middle_of_a_run_it_leaves_nothing(scratch):
     with started_with(signal.SIGINT, signal.SIG_DFL):
         split_under_way(scratch)

@@ -295,13 +295,6 @@ TEST_F(SourceSplitterTest, ComplaintsOfTheFirstPassStopBeforeAnyFileIsWritten) {
   EXPECT_EQ(contentOf(path("A.java")), "mine");
 }
 
-TEST_F(SourceSplitterTest, AFileOfAPiecesNameIsOverwrittenAndDeleted) {
-  writeFile(path("A.java"), "mine, and much longer than what comes in its place ...............................");
-  const Outcome outcome = split("X.java", "public class A {} public class B {}");
-  EXPECT_EQ(outcome.pieces.at(0), "public class A {}");
-  EXPECT_FALSE(isThere("A.java"));
-}
-
 TEST_F(SourceSplitterTest, ASourceThatIsNotThere) {
   EXPECT_EQ(split("X.java").fault, "No such file or directory\nCan't process file " + path("X.java"));
 }
@@ -338,8 +331,7 @@ TEST_F(SourceSplitterTest, ABadConstantInABodyIsNoMatterInTheSecondPass) {
 TEST_F(SourceSplitterTest, ANameThatIsTakenByAFolder) {
   platform::makeFolders(path("B.java"));
   const std::string fault = faultOf("X.java", "public class A {} public class B {} public class C {}");
-  EXPECT_TRUE(fault.ends_with("\nCan't process file " + path("B.java"))) << fault;
-  EXPECT_TRUE(fault.starts_with("Is a directory\n") || fault.starts_with("Permission denied\n")) << fault;
+  EXPECT_EQ(fault, "Is a directory\nCan't process file " + path("B.java"));
   EXPECT_FALSE(isThere("A.java"));
   EXPECT_TRUE(platform::isFolder(path("B.java"))) << "what was there before stays";
   EXPECT_FALSE(isThere("C.java"));

@@ -6,7 +6,7 @@ namespace {
 
 using SplitPiecesTest = SplitterFixture;
 
-TEST_F(SplitPiecesTest, APieceLivesAsLongAsTheObject) {
+TEST_F(SplitPiecesTest, PiecesStandTogetherAndLiveAsLongAsTheObject) {
   {
     SplitPieces pieces{Filename(path("X.java"))};
     EXPECT_FALSE(pieces.writing());
@@ -14,16 +14,26 @@ TEST_F(SplitPiecesTest, APieceLivesAsLongAsTheObject) {
     EXPECT_TRUE(pieces.writing());
     pieces.put('{');
     pieces.begin("B.java", "");
-    EXPECT_EQ(textOf("A.java"), "head\n{") << "closed when the next one begins";
     pieces.put('}');
     pieces.end();
     EXPECT_FALSE(pieces.writing());
+    EXPECT_FALSE(isThere("A.java")) << "none before all are whole";
+    pieces.publish();
+    EXPECT_EQ(textOf("A.java"), "head\n{");
     EXPECT_EQ(textOf("B.java"), "}");
-    pieces.begin("C.java", "open");
   }
   EXPECT_FALSE(isThere("A.java"));
   EXPECT_FALSE(isThere("B.java"));
+  EXPECT_FALSE(isThere("Tarnwick_split1.tmp"));
+}
+
+TEST_F(SplitPiecesTest, APieceThatIsNotWholeGoesWithTheObject) {
+  {
+    SplitPieces pieces{Filename(path("X.java"))};
+    pieces.begin("C.java", "open");
+  }
   EXPECT_FALSE(isThere("C.java"));
+  EXPECT_FALSE(isThere("Tarnwick_split1.tmp"));
 }
 
 TEST_F(SplitPiecesTest, ANameThatLeadsOutOfTheFolderIsRefused) {

@@ -41,24 +41,6 @@ TEST_F(SourceSplitterPosixTest, ASourceThatCantBeReadBetweenThePasses) {
   EXPECT_FALSE(isThere("A.java"));
 }
 
-TEST_F(SourceSplitterPosixTest, AFullDisk) {
-  if (::access("/dev/full", W_OK) != 0) GTEST_SKIP() << "no /dev/full to write to";
-  ASSERT_EQ(::symlink("/dev/full", path("B.java").c_str()), 0);
-  EXPECT_EQ(faultOf("X.java", "public class A {} public class B {}"),
-            "No space left on device\nCan't write to file \"" + path("B.java") + "\"");
-  EXPECT_FALSE(isThere("A.java"));
-  EXPECT_NE(::access(path("B.java").c_str(), F_OK), 0) << "what bore a piece's name has gone";
-  EXPECT_EQ(::access("/dev/full", W_OK), 0);
-}
-
-TEST_F(SourceSplitterPosixTest, APipeOfAPiecesNameThatNobodyReadsIsNotWaitedFor) {
-  ASSERT_EQ(::mkfifo(path("B.java").c_str(), 0600), 0);
-  EXPECT_EQ(faultOf("X.java", "public class A {} public class B {}"),
-            "No such device or address\nCan't process file " + path("B.java"));
-  EXPECT_FALSE(isThere("A.java"));
-  EXPECT_EQ(::access(path("B.java").c_str(), F_OK), 0) << "what was there before stays";
-}
-
 TEST_F(SourceSplitterPosixTest, ALinkToTheSourceItselfIsNoPlaceForAPiece) {
   const std::string text = "public class A {} public class B {}";
   ASSERT_EQ(::symlink("X.java", path("B.java").c_str()), 0);

@@ -5,6 +5,7 @@
 #include "platform/Associations.h"
 #include "platform/Path.h"
 #include "platform/Process.h"
+#include "process/FileArgument.h"
 #include "process/Subprocess.h"
 #include "process/WinApp.h"
 
@@ -31,7 +32,7 @@ Words vectorOf(const Words& editor, const std::string& title, const std::string&
   const std::string name = Filename(editor.front()).nameWithExtension();
   Words arguments = {name.empty() ? title : platform::detachedArgument(name)};
   arguments.insert(arguments.end(), editor.begin() + 1, editor.end());
-  arguments.push_back(platform::detachedArgument(file));
+  arguments.push_back(platform::detachedArgument(fileArgument(file)));
   return arguments;
 }
 
@@ -92,7 +93,7 @@ bool openEditor(Desktop& desktop, const EditorSource& source, const std::string&
     return false;
   }
   if (!choice.editWithNotepad && isJarEditor(choice.target)) {
-    if (WinApp(desktop, ".jar").runApp(editor.c_str(), platform::commandWord(name).c_str(), 0) <= 0) {
+    if (WinApp(desktop, ".jar").runApp(editor.c_str(), platform::commandWord(fileArgument(name)).c_str(), 0) <= 0) {
       desktop.message("Unable to activate " + editor + ' ' + name);
     }
     return true;
@@ -107,7 +108,8 @@ void showLog(Desktop& desktop, const ToolLog& log, const EditorChoice& choice) {
   const std::string editor = useNotepad ? "Notepad" : choice.target;
 
   if (!useNotepad && isJarEditor(choice.target)) {
-    if (WinApp(desktop, ".jar").runApp(editor.c_str(), platform::commandWord(logFile.fullName()).c_str(), 0) > 0)
+    if (WinApp(desktop, ".jar")
+            .runApp(editor.c_str(), platform::commandWord(fileArgument(logFile.fullName())).c_str(), 0) > 0)
       return;
     desktop.message("Unable to activate jar: " + editor + ' ' + logFile.quoted());
   }

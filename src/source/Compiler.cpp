@@ -2,6 +2,7 @@
 
 #include "platform/Path.h"
 #include "platform/Process.h"
+#include "process/FileArgument.h"
 #include "settings/OptionList.h"
 #include "source/PortabilityWarningDlg.h"
 
@@ -38,6 +39,11 @@ std::string warningOptions(const Settings& settings) {
   if (version == 1) add(settings.javacXswitchcheck, "-Xswitchcheck ");
   add(settings.javacNowarn, "-nowarn ");
   return options;
+}
+
+/// Adds a file to what the compiler is given.
+void addFile(FileForSubprocess& source, const std::string& name) {
+  source.args().push_back(platform::commandWord(fileArgument(name)));
 }
 
 }  // namespace
@@ -110,8 +116,8 @@ bool Compiler::compile(FileForSubprocess& source, FileMode logMode) {
   source.args().clear();
   SourceSplitter splitter(source, [this] { return maySplit(); });
   splitter.run();
-  for (const auto& name : splitter.fileNames()) source.args().push_back(platform::commandWord(name));
-  if (source.args().empty()) source.args().push_back(platform::commandWord(source.name().fullName()));
+  for (const auto& name : splitter.fileNames()) addFile(source, name);
+  if (source.args().empty()) addFile(source, source.name().fullName());
   // The pieces live until the tool has ended.
   return tool_.run(&source, logMode);
 }

@@ -2,6 +2,7 @@
 
 #include "platform/Process.h"
 #include "process/EditorLaunch.h"
+#include "process/FileArgument.h"
 #include "process/Subprocess.h"
 #include "tools/Relaunch.h"
 
@@ -31,7 +32,7 @@ std::vector<std::string> appletviewerArguments(const Settings& settings, const F
   if (!settings.appletviewerEncoding.empty()) arguments.push_back("-encoding " + settings.appletviewerEncoding);
   if (!settings.appletviewerJOption.empty()) arguments.push_back(settings.appletviewerJOption);
   // The bare name: either way the run begins in the file's folder.
-  arguments.push_back(platform::commandWord(file.name().nameWithExtension()));
+  arguments.push_back(platform::commandWord(fileArgument(file.name().nameWithExtension())));
   return arguments;
 }
 

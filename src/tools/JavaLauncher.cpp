@@ -35,6 +35,18 @@ void addPaths(ArgumentList& list, const Settings& settings, const JavaRun& run) 
   list.addValue("-Xbootclasspath:", commandLineList(settings.bootpath));
 }
 
+/// A class's name that `java`, which `jdb` hands it on to, would take for an option or for a file of options. "@@"
+/// stands for a name that begins with "@". For one that begins with "-" there is no form that finds the class, but none
+/// that is taken for an option either.
+std::string classArgument(const std::string& name) {
+  std::string argument = name;
+  // What the command line swallows in front of the name.
+  const auto first = name.find_first_not_of(" \t\"");
+  if (first == std::string::npos) return argument;
+  if (name[first] == '@') return argument.insert(first, 1, '@');
+  return name[first] == '-' ? "./" + name : argument;
+}
+
 void addAssertions(ArgumentList& list, const Settings& settings) {
   list.addValue("", assertionOptions(settings.javaAssertEnable, "-ea:"));
   list.addValue("", assertionOptions(settings.javaAssertDisable, "-da:"));
@@ -61,7 +73,7 @@ std::vector<std::string> relaunchArguments(const Settings& settings, const FileF
   list.addValue("", OptionList(garbageCollectorOptions, settings.javaGarbageCollector).option());
   if (!run.debugging) addAssertions(list, settings);
   if (run.extraOption) list.add(run.extraOption);
-  list.add(className);
+  list.add(classArgument(className));
   return list.take();
 }
 

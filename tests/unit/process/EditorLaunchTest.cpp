@@ -151,6 +151,17 @@ TEST_F(OpenEditorTest, TheEditorGetsTheFileAsOneArgumentInTheFilesFolder) {
   EXPECT_TRUE(recordIs(file + '\n'));
 }
 
+TEST_F(OpenEditorTest, AFileThatLooksLikeAnOptionIsNone) {
+  const std::string editor = makeProgram(programName("myeditor"));
+  const std::string here = std::string(".") + platform::folderSeparator;
+  const std::string before = platform::currentDirectory();
+  for (const char* file : {"-x.java", "@x.java", "+!x.java"}) {
+    platform::deleteFile(script_.folder().file("record"));
+    EXPECT_EQ(edit("0", file, editor), "1 " + before + '\n');
+    EXPECT_TRUE(recordIs(here + file + '\n')) << file;
+  }
+}
+
 TEST_F(OpenEditorTest, NotepadIsUsedOnlyWhereItsOwnSettingSaysSo) {
   makeProgram(programName(platform::folderSeparator == '/' ? "gedit" : "Notepad"));
   const std::string file = script_.folder().file("A.java");

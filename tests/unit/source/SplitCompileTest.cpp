@@ -110,6 +110,48 @@ TEST_F(SplitCompileTest, WhatTheUserTypedBehindTheSourceIsNoneOfTheCompilersBusi
   EXPECT_EQ(source.args(), std::vector<std::string>{"A.java"});
 }
 
+TEST_F(SplitCompileTest, ATypesNameChoosesNoOption) {
+  const std::string argument = std::string(".") + platform::folderSeparator + "@args.java";
+  writeFile(userFolder() + "args.java", "-version");
+  FileForSubprocess source(userFolder() + "@args.java");
+  EXPECT_FALSE(compile(source, "public class @args {}\n"));
+  EXPECT_EQ(source.args(), std::vector<std::string>{argument});
+  EXPECT_TRUE(recorded().ends_with("\n" + argument + "\n")) << recorded();
+}
+
+TEST_F(SplitCompileTest, PiecesChooseNoOptionEither) {
+  const std::string here = std::string(".") + platform::folderSeparator;
+  writeFile(scratch_.file("script"), "keep @a.java\nkeep @b.java\n");
+  expectCompile();
+  EXPECT_FALSE(compile(source_, "public class @a {}\npublic class @b {}\n"));
+  EXPECT_EQ(source_.args(), (std::vector<std::string>{here + "@a.java", here + "@b.java"}));
+  EXPECT_EQ(kept(), "@a.java:public class @a {}\n@b.java:\npublic class @b {}\n");
+}
+
+TEST_F(SplitCompileTest, ASourceThatIsTypedWithoutAFolderChoosesNone) {
+  ASSERT_TRUE(platform::changeDirectory(userFolder()));
+  const std::string here = std::string(".") + platform::folderSeparator;
+  for (const char* name : {"@x.java", "-x.java"}) {
+    FileForSubprocess source(name);
+    EXPECT_FALSE(compile(source, "class A {}\n"));
+    EXPECT_EQ(source.args(), std::vector<std::string>{here + name});
+  }
+}
+
+TEST_F(SplitCompileTest, AFileOfAPiecesNameIsThereAgainHoweverTheCompileEnds) {
+  writeFile(userFolder() + "A.java", "mine");
+  writeFile(userFolder() + "A.class", "compiled");
+  for (const char* script : {"keep A.java\n", "err A.java:2: error\nexit 1\n"}) {
+    writeFile(scratch_.file("script"), script);
+    expectCompile();
+    compile(source_, twoPublic);
+    EXPECT_EQ(contentOf(userFolder() + "A.java"), "mine");
+    EXPECT_EQ(contentOf(userFolder() + "A.class"), "compiled");
+  }
+  EXPECT_EQ(kept(), "A.java:public class A {\n  int a;\n}\n") << "the compiler has seen the piece";
+  EXPECT_FALSE(platform::isFile(userFolder() + "B.java"));
+}
+
 TEST_F(SplitCompileTest, CancelRunsNothing) {
   writeFile(userFolder() + "A.java", "mine");
   expectCancel();

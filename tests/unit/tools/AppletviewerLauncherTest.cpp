@@ -40,6 +40,22 @@ TEST_F(AppletviewerLauncherTest, ANameWithABlankIsQuoted) {
   EXPECT_EQ(appletviewerArguments(settings(), file_, false), (Words{"appletviewer", "\"my page.html\""}));
 }
 
+TEST_F(AppletviewerLauncherTest, ANameThatLooksLikeAnOptionIsNone) {
+  const std::string here = std::string(".") + platform::folderSeparator;
+  const struct {
+    const char* name;
+    std::string argument;
+  } table[] = {{"@page.html", here + "@page.html"},
+               {"-J-version.html", here + "-J-version.html"},
+               {"-my page.html", "\"" + here + "-my page.html\""},
+               {"a@-page.html", "a@-page.html"}};
+  for (const auto& row : table) {
+    file_.setName(userFolder() + row.name);
+    EXPECT_EQ(appletviewerArguments(settings(), file_, false).back(), row.argument);
+    EXPECT_EQ(appletviewerArguments(settings(), file_, true).back(), row.argument);
+  }
+}
+
 TEST_F(AppletviewerLauncherTest, DebuggingTravelsBetweenMarks) {
   settings().javaPath = "jdk" + std::string(1, platform::folderSeparator);
   settings().appletviewerEncoding = "UTF-8";

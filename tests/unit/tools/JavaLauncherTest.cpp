@@ -43,6 +43,30 @@ TEST_F(JavaLauncherTest, TheSwitchesOfThePlainestRun) {
                    "\\/CFG=" + configFile() + "\\/", "\\/RUN=", "-classpath .", "My Class"}));
 }
 
+TEST_F(JavaLauncherTest, AClassThatLooksLikeAnOptionIsNone) {
+  JavaRun debugger;
+  debugger.tool = "jdb";
+  debugger.debugging = true;
+  const struct {
+    const char* file;
+    const char* argument;
+  } table[] = {{"@args.class", "@@args"},
+               {"@@args.class", "@@@args"},
+               {"-version.class", "./-version"},
+               {"--x.class", "./--x"},
+               {" -version.class", "./ -version"},
+               {" @args.class", " @@args"},
+               {"A-@.class", "A-@"},
+               {"\"-version\".class", "./\"-version\""}};
+  for (const auto& row : table) {
+    const std::string name = row.file;
+    if (platform::folderSeparator == '\\' && name.find('"') != std::string::npos) continue;  // no name there
+    file_.setName(userFolder() + name);
+    EXPECT_EQ(behindRun().back(), row.argument);
+    EXPECT_EQ(behindRun(debugger).back(), row.argument);
+  }
+}
+
 TEST_F(JavaLauncherTest, AnOpenProjectIsTheConfiguration) {
   settings().currentProject = std::make_unique<Project>();
   EXPECT_EQ(arguments()[4], "\\/CFG=\"a b/p.twp\"\\/");

@@ -18,7 +18,8 @@ std::string noToolsFolder() {
   return platform::localText("No path to javac.exe and other tools available from settings");
 }
 
-/// The declared JDK version decides which warning options exist. Each has a blank behind it.
+/// The declared JDK version decides which warning options exist; of a version that is none of those known, none. Each
+/// has a blank behind it.
 std::string warningOptions(const Settings& settings) {
   const int version = OptionList(javacVersionOptions, settings.javacMyJdkVersion).currentIndex();
   std::string options;
@@ -37,7 +38,7 @@ std::string warningOptions(const Settings& settings) {
     return options;
   }
   if (version == 1) add(settings.javacXswitchcheck, "-Xswitchcheck ");
-  add(settings.javacNowarn, "-nowarn ");
+  if (version == 0 || version == 1) add(settings.javacNowarn, "-nowarn ");
   return options;
 }
 

@@ -113,6 +113,23 @@ TEST_F(CompilerTest, EachWarningOfVersion15GivesItsOwnOption) {
   }
 }
 
+TEST_F(CompilerTest, NoWarningsIsSaidToTheVersionsThatKnowIt) {
+  settings().javacNowarn = 1;
+  settings().javacXswitchcheck = 0;
+  const struct {
+    const char* version;
+    const char* options;
+  } table[] = {{"", "-nowarn "},      {"Pre-1.4", "-nowarn "}, {"1.4", "-nowarn "},
+               {" 1.4 ", "-nowarn "}, {"1.5", "-Xlint:path "}, {"1.6", ""},
+               {"pre-1.4", ""},       {"JDK 1.5", ""}};
+  for (const auto& row : table) {
+    settings().javacWarnConversion = settings().javacWarnSerialize = 0;
+    settings().javacWarnFinally = settings().javacWarnSwitch = 0;
+    settings().javacMyJdkVersion = row.version;
+    EXPECT_EQ(arguments(nullptr)[1], row.options) << "'" << row.version << "'";
+  }
+}
+
 TEST_F(CompilerTest, DestinationOfClasses) {
   settings().javacDestination = "classes";
   EXPECT_EQ(command(), "javac -d classes -g -classpath .");

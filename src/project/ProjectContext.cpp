@@ -35,6 +35,13 @@ std::string packageRoot(const std::string& qualifiedName, std::string folder, bo
   return folder.empty() ? std::string(1, platform::folderSeparator) : folder;
 }
 
+bool allUpToDate(const ProjectSourceList& sources, const TypeIndex& index, const std::string& destination,
+                 const std::string& projectFolder) {
+  for (std::size_t i = sources.size(); i-- > 0;)
+    if (!sources[i].isUpToDate(index, destination, projectFolder)) return false;
+  return true;
+}
+
 std::string addToPathList(const std::string& list, const std::string& entry) {
   TokenString paths;
   try {
@@ -143,11 +150,8 @@ void ProjectContext::findMainClass() {
 }
 
 void ProjectContext::findWhetherUpToDate() {
-  upToDate_ = !sources.empty();
   const TypeIndex index(collectClasses(ALL_TYPES));
-  for (std::size_t i = sources.size(); upToDate_ && i-- > 0;) {
-    upToDate_ = sources[i].isUpToDate(index, settings_.javacDestination, folderNoSlash());
-  }
+  upToDate_ = !sources.empty() && allUpToDate(sources, index, settings_.javacDestination, folderNoSlash());
 }
 
 std::vector<ClassRef> ProjectContext::collectClasses(int types) const {

@@ -71,6 +71,11 @@ class ProjectContext : public OpenProject, public ProjectValues, public TagTable
   bool upToDate_ = false;
 };
 
+/// True if the classes of all sources are current. Asks from the last source on, and no further than the first that has
+/// a stale class.
+bool allUpToDate(const ProjectSourceList& sources, const TypeIndex& index, const std::string& destination,
+                 const std::string& projectFolder);
+
 /// The list of paths with the entry behind it, unless it is among them. A list that can't be read stays as it is.
 std::string addToPathList(const std::string& list, const std::string& entry);
 

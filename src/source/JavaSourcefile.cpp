@@ -119,8 +119,7 @@ bool JavaSourcefile::isUpToDate(const TypeIndex& typeIndex, const std::string& d
 
 bool JavaSourcefile::isUpToDate(const SourceType& type, const TypeIndex& typeIndex,
                                 const std::string& targetFolder) const {
-  // Asked anew for each source: compiling one may have renewed the classes of others.
-  const auto classTime = platform::lastChange(Filename(targetFolder, type.name + ".class").fullName());
+  const auto classTime = typeIndex.timeOfClass(Filename(targetFolder, type.name + ".class").fullName());
   if (typeIndex.first(type.name)) {
     const auto sourceTime = typeIndex.timeOf(*this);
     // A class of the same second counts as out of date.

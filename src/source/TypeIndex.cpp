@@ -8,7 +8,10 @@
 
 namespace tarnwick {
 
-TypeIndex::TypeIndex(std::vector<ClassRef> entries) : entries_(std::move(entries)), ancestries_(entries_.size()) {
+TypeIndex::TypeIndex(std::vector<ClassRef> entries) : TypeIndex(std::move(entries), platform::lastChange) {}
+
+TypeIndex::TypeIndex(std::vector<ClassRef> entries, Clock clock)
+    : entries_(std::move(entries)), clock_(std::move(clock)), ancestries_(entries_.size()) {
   places_.reserve(entries_.size());
   for (std::size_t i = 0; i < entries_.size(); ++i) {
     const auto [place, isNew] = places_.try_emplace(entries_[i].type.name, Places{i, i});
@@ -28,7 +31,7 @@ const ClassRef* TypeIndex::last(std::string_view name) const {
 
 std::optional<std::time_t> TypeIndex::timeOf(const JavaSourcefile& source) const {
   const auto [place, isNew] = times_.try_emplace(&source);
-  if (isNew) place->second = platform::lastChange(source.name().fullName());
+  if (isNew) place->second = clock_(source.name().fullName());
   return place->second;
 }
 

@@ -5,6 +5,7 @@
 #include <ctime>
 #include <functional>
 #include <optional>
+#include <string>
 #include <string_view>
 #include <unordered_map>
 #include <vector>
@@ -23,7 +24,11 @@ struct ClassRef {
 /// asks for the time of each source once.
 class TypeIndex {
  public:
+  /// Tells when a file was changed last; nothing if that cannot be had.
+  using Clock = std::function<std::optional<std::time_t>(const std::string& path)>;
+
   explicit TypeIndex(std::vector<ClassRef> entries);
+  TypeIndex(std::vector<ClassRef> entries, Clock clock);
 
   const std::vector<ClassRef>& entries() const { return entries_; }
   /// The first entry of that name; null if there is none.
@@ -33,6 +38,8 @@ class TypeIndex {
 
   /// The time of the last change of a source; nothing if it cannot be had.
   std::optional<std::time_t> timeOf(const JavaSourcefile& source) const;
+  /// The same of a class file, asked anew each time: compiling one source may have renewed the classes of others.
+  std::optional<std::time_t> timeOfClass(const std::string& path) const { return clock_(path); }
 
   /// True if a class of the time `classTime` is newer than the source of `supertype` and than those of all that this is
   /// built on. Names that are not in the index do not count; circular inheritance is never older.
@@ -69,6 +76,7 @@ class TypeIndex {
   const SourceType* recordIn(const JavaSourcefile& source, const std::string& name) const;
 
   std::vector<ClassRef> entries_;
+  Clock clock_;
   std::unordered_map<std::string_view, Places> places_;
   // What has been found out in this run.
   mutable std::unordered_map<const JavaSourcefile*, std::optional<std::time_t>> times_;

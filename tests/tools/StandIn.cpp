@@ -10,6 +10,7 @@
 //   environment NAME     writes the variable's value
 //   keep FILE            adds the file's name and its bytes to the file STANDIN_RECORD + ".kept"
 //   sleep MS             waits
+//   given WORD           ends unless one of its arguments holds the word
 //   await WORD FILE      waits until the file holds the word, 15 seconds at most
 //   readline             reads a line and writes "got: " and the line, or "end of input"
 //   grandchild MS        starts a copy of itself that keeps the standard streams and waits so long; its process number
@@ -148,6 +149,8 @@ void await(const std::string& what) {
   }
 }
 
+std::string allArguments;
+
 void play(const std::string& command, const std::string& rest, const char* name) {
   if (command == "out") write(stdout, rest + '\n');
   if (command == "err") write(stderr, rest + '\n');
@@ -160,6 +163,7 @@ void play(const std::string& command, const std::string& rest, const char* name)
   if (command == "keep") keep(rest);
   if (command == "sleep") sleepFor(rest);
   if (command == "await") await(rest);
+  if (command == "given" && allArguments.find(rest) == std::string::npos) std::exit(0);
   if (command == "readline") echoLine();
   if (command == "grandchild") startGrandchild(sleepArgument + rest);
   if (command == "murmurer")
@@ -187,9 +191,10 @@ int main(int argc, char** argv) {
     murmur(first.substr(murmurArgument.size()));
     return 0;
   }
+  for (int i = 1; i < argc; ++i) allArguments += std::string(argv[i]) + '\n';
   if (const auto path = variable("STANDIN_RECORD"); !path.empty()) {
     std::ofstream record(path, std::ios::app | std::ios::binary);
-    for (int i = 1; i < argc; ++i) record << argv[i] << '\n';
+    record << allArguments;
   }
   std::ifstream script(variable("STANDIN_SCRIPT"));
   for (std::string line; std::getline(script, line);) {

@@ -110,8 +110,12 @@ TEST_F(FileViewTest, TheOpenTabIsSavedAtOnceAndOpensAtTheNextStart) {
   });
 }
 
-TEST_F(FileViewTest, ACleanCompileSoundsTheAsterisk) {
-  saveEarlierRun();
+TEST_F(FileViewTest, ACleanCompileSoundsTheAsteriskAndShowsNoLog) {
+  // An editor that can't be started would be told.
+  saveEarlierRun([this](Settings& settings) {
+    settings.displayWithNotepad = settings.editWithNotepad = 0;
+    settings.editorTarget = scratch_.file("no editor");
+  });
   const std::string source = makeFile("A.java");
   runPanel([&](ScriptedWindow&, ScriptedWindow& panel) {
     panel.type(SOURCE, quoted(source));

@@ -40,6 +40,24 @@ TEST_F(ProjectUpdateTest, WithoutAMainMethodThereIsNoMainClass) {
   EXPECT_TRUE(project.upToDate()) << "although all is";
 }
 
+TEST_F(ProjectUpdateTest, NobodyIsAskedBehindTheFirstStaleSource) {
+  for (const char* name : {"A", "B", "C"}) {
+    makeSource(std::string(name) + ".java", std::string("class ") + name + " { }");
+    makeClassFile(name, name == std::string("B") ? start : start + 1);
+  }
+  ProjectContext& project = openWith("A.java;B.java;C.java");
+  project.update();
+  EXPECT_FALSE(project.upToDate());
+  Names asked;
+  const auto clock = [&asked](const std::string& path) {
+    asked.push_back(Filename(path).nameWithExtension());
+    return platform::lastChange(path);
+  };
+  const TypeIndex index(project.collectClasses(ProjectContext::ALL_TYPES), clock);
+  EXPECT_FALSE(allUpToDate(project.sources, index, "", project.folderNoSlash()));
+  EXPECT_EQ(asked, (Names{"C.class", "C.java", "B.class", "B.java"}));
+}
+
 TEST_F(ProjectUpdateTest, TheMainClassIsNamedWithItsPackage) {
   makeSource("A.java", "class A { }");
   makeSource("Main.java", "package pkg.sub;\nclass Main " + mainMethod());

@@ -4,6 +4,7 @@
 #include "platform/Path.h"
 #include "resources/PanelLayouts.h"
 #include "settings/JdkDiscovery.h"
+#include "source/PieceFolder.h"
 
 namespace tarnwick {
 
@@ -78,6 +79,8 @@ void TarnwickDlg::readSettings() {
     welcomeFirstUse(status);
   else if (settings_.tarnwickVersion != settings_.context().program.version)
     welcomeUpgrade();
+  // The source of the last run is where that may have been killed in the middle of a compile.
+  if (!settings_.fileviewSource.isEmpty()) PieceFolder::putBackLeftOvers(settings_.fileviewSource.name().directory());
 }
 
 void TarnwickDlg::welcomeFirstUse(int status) {

@@ -7,6 +7,7 @@
 #include "platform/FileSystem.h"
 #include "platform/Path.h"
 #include "source/Compiler.h"
+#include "source/PieceFolder.h"
 
 namespace tarnwick {
 
@@ -94,6 +95,8 @@ ProjectContext::ProjectContext(Settings& settings, const std::string& path, bool
 
 void ProjectContext::load() {
   Desktop& desktop = settings_.context().desktop;
+  // A source that is set aside would otherwise count as one that has gone.
+  PieceFolder::putBackLeftOvers(folder());
   try {
     file.open(FileMode::Read);
     // Each table meets the other's tags as unknown ones.

@@ -1,5 +1,6 @@
 #include "PanelFixture.h"
 #include "app/FileView.h"
+#include "support/KilledSplit.h"
 
 namespace tarnwick::test {
 namespace {
@@ -51,6 +52,17 @@ TEST_F(SplitFileViewTest, AComplaintIsShownWithoutASound) {
   });
   EXPECT_TRUE(desktop_.alerts().empty());
   EXPECT_FALSE(platform::isFile(scratch_.file("record")));
+}
+
+TEST_F(SplitFileViewTest, WhatAKilledRunHasLeftBesideItsSourceIsClearedByTheNextStart) {
+  saveEarlierRun([this](Settings& settings) { settings.fileviewSource.setName(source()); });
+  leaveKilledSplit(userFolder());
+  runPanel([&](ScriptedWindow&, ScriptedWindow& panel) {
+    EXPECT_EQ(contentOf(userFolder() + "A.java"), "mine");
+    EXPECT_FALSE(platform::isFile(userFolder() + "B.java"));
+    EXPECT_FALSE(platform::isFolder(userFolder() + "Tarnwick_split1.tmp"));
+    exit(panel);
+  });
 }
 
 TEST_F(SplitFileViewTest, TheCheckBoxHoldsForTheRunOfTheProgram) {

@@ -1,4 +1,5 @@
 #include "ProjectFixture.h"
+#include "support/KilledSplit.h"
 
 namespace tarnwick::test {
 namespace {
@@ -30,6 +31,15 @@ TEST_F(ProjectContextTest, TheRowsOfItsTable) {
     EXPECT_EQ(row->control, 0) << wanted.tag;
     ++row;
   }
+}
+
+TEST_F(ProjectContextTest, ASourceThatAKilledSplitHasSetAsideIsThereAgain) {
+  leaveKilledSplit(folder());
+  platform::deleteFile(folder() + "A.java");
+  const ProjectContext& project = openWith("A.java");
+  EXPECT_EQ(namesOf(project), std::vector<std::string>{"A.java"}) << "it has not gone";
+  EXPECT_EQ(contentOf(folder() + "A.java"), "mine");
+  EXPECT_FALSE(platform::isFile(folder() + "B.java"));
 }
 
 TEST_F(ProjectContextTest, ANewOneIsEmptyAndItsFileToo) {

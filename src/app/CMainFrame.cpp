@@ -19,16 +19,11 @@ ConsoleProgram programOf(const ConsoleStart& start) {
 }  // namespace
 
 CMainFrame::CMainFrame(Desktop& desktop, Settings& settings, const ConsoleStart& start)
-    : desktop_(desktop),
-      settings_(settings),
+    : settings_(settings),
       debugging_(start.debugging),
       document_(desktop, start.title),
       view_(document_, desktop, programOf(start),
             [&settings](int group, int index) { return settings.functionKeys.key(group, index); }) {}
-
-void CMainFrame::onPictureFailure() {
-  desktop_.message("LoadBitmap error");
-}
 
 bool CMainFrame::commandEnabled(int command) const {
   switch (command) {

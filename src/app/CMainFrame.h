@@ -27,14 +27,12 @@ class CMainFrame : public ConsoleFrame {
   const MenuBar& menuBar() const override { return consoleMenuBar(); }
   const std::vector<Accelerator>& accelerators() const override { return consoleAccelerators(); }
   const Toolbar* toolbar() const override { return debugging_ ? &debuggerToolbar() : nullptr; }
-  void onPictureFailure() override;
   std::string title() const override { return document_.title(); }
   bool commandEnabled(int command) const override;
   void onCommand(int command) override;
   ConsoleSurfaceClient& view() override { return view_; }
 
  private:
-  Desktop& desktop_;
   Settings& settings_;
   bool debugging_;
   TarnwickDoc document_;

@@ -16,8 +16,6 @@ class ConsoleFrame {
   virtual const std::vector<Accelerator>& accelerators() const = 0;
   /// Null for a frame without one.
   virtual const Toolbar* toolbar() const { return nullptr; }
-  /// One or more of the toolbar's pictures could not be had. Comes once, before the frame shows.
-  virtual void onPictureFailure() = 0;
   virtual std::string title() const = 0;
   virtual bool commandEnabled(int command) const = 0;
   virtual void onCommand(int command) = 0;

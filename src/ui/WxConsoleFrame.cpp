@@ -102,11 +102,8 @@ void WxConsoleFrame::buildToolbar() {
     }
     const wxString tip = toWx(button.toolTip);
     wxBitmap picture = toolbarBitmap(button.command, scale, dark);
-    if (!picture.IsOk()) {
-      // The button works all the same, by its tip.
-      picturesFailed_ = true;
-      picture = wxBitmap(size);
-    }
+    // The button works all the same, by its tip.
+    if (!picture.IsOk()) picture = wxBitmap(size);
     bar->AddTool(++id, tip, picture, wxNullBitmap, wxITEM_NORMAL, tip, tip);
     commandOfId_[id] = button.command;
   }
@@ -156,7 +153,6 @@ void WxConsoleFrame::run() {
     if (auto* loop = wxTheApp->GetMainLoop()) loop->ScheduleExit();
   });
   place_ = &place;
-  if (picturesFailed_) guarded(stack_, [this] { rules_.onPictureFailure(); });
   surface_->start();
   updateMenus();
   if (!ended) {

@@ -42,7 +42,6 @@ class WxConsoleFrame {
   WxConsoleSurface* surface_;
   std::map<int, int> commandOfId_;
   WindowStack::Place* place_ = nullptr;
-  bool picturesFailed_ = false;
   bool stopped_ = false;
 };
 

@@ -98,18 +98,16 @@ TEST_F(ConsoleFrameTest, TheDebuggersToolbarShowsAllButtonsWithTheirTips) {
       EXPECT_TRUE(tool->GetNormalBitmap().IsOk()) << described.toolTip;
     }
     EXPECT_GE(frame()->GetClientSize().x, bar->GetBestSize().x) << "no button is cut off";
-    EXPECT_EQ(console.pictureFailures, 0);
   });
   thenClose();
   play();
 }
 
-TEST_F(ConsoleFrameTest, AButtonWithoutAPictureIsToldOnceAndWorks) {
+TEST_F(ConsoleFrameTest, AButtonWithoutAPictureWorksAllTheSame) {
   const Toolbar unknown = {{1, "one"}, {2, "two"}, {COMMAND_RUN, "run"}};
   console.buttons = &unknown;
   waitForFrame();
   steps.then("press", [this] {
-    EXPECT_EQ(console.pictureFailures, 1);
     wxToolBar* const bar = frame()->GetToolBar();
     ASSERT_EQ(bar->GetToolsCount(), 3U);
     wxCommandEvent pressed(wxEVT_TOOL, bar->GetToolByPos(1)->GetId());

@@ -19,7 +19,6 @@ class FakeConsole : public ConsoleFrame, public ConsoleSurfaceClient {
   const MenuBar& menuBar() const override { return consoleMenuBar(); }
   const std::vector<Accelerator>& accelerators() const override { return consoleAccelerators(); }
   const Toolbar* toolbar() const override { return buttons; }
-  void onPictureFailure() override { ++pictureFailures; }
   std::string title() const override { return "Console under test"; }
   bool commandEnabled(int command) const override { return disabled.count(command) == 0; }
   void onCommand(int command) override { heard.push_back("command " + std::to_string(command)); }
@@ -70,7 +69,6 @@ class FakeConsole : public ConsoleFrame, public ConsoleSurfaceClient {
   Point sizeAtStart;
   int paints = 0;
   int resized = 0;
-  int pictureFailures = 0;
   std::set<int> disabled;
   std::vector<std::chrono::steady_clock::time_point> wakes;
   Heard heard;

@@ -109,12 +109,6 @@ TEST_F(CMainFrameTest, WhatADebuggerHasStartedEndsWithItWhatAProgramHasStartedDo
   }
 }
 
-TEST_F(CMainFrameTest, AButtonWithoutItsPictureIsTold) {
-  CMainFrame frame(desktop_, settings(), {"Main", "", "", true});
-  desktop_.expectMessage("LoadBitmap error");
-  frame.onPictureFailure();
-}
-
 TEST_F(CMainFrameTest, TheFramesTitleIsTheDocuments) {
   CMainFrame frame(desktop_, settings(), {"Größe of x", "", "", false});
   EXPECT_EQ(frame.title(), "Größe of x");

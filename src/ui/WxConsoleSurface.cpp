@@ -12,6 +12,7 @@
 #include <wx/toplevel.h>
 
 #include <algorithm>
+#include <utility>
 
 namespace tarnwick::ui {
 
@@ -19,6 +20,10 @@ namespace {
 
 constexpr int wheelLines = 3;
 constexpr int leastSide = 100;
+
+bool isFunctionKey(ConsoleKey key) {
+  return key >= ConsoleKey::F5 && key <= ConsoleKey::F12;
+}
 
 wxFont consoleFont() {
   constexpr int leastPoints = 10;
@@ -71,6 +76,7 @@ void WxConsoleSurface::bindEvents() {
   Bind(wxEVT_PAINT, &WxConsoleSurface::onPaint, this);
   Bind(wxEVT_SIZE, &WxConsoleSurface::onSize, this);
   Bind(wxEVT_KEY_DOWN, &WxConsoleSurface::onKeyDown, this);
+  Bind(wxEVT_KEY_UP, &WxConsoleSurface::onKeyUp, this);
   Bind(wxEVT_CHAR, &WxConsoleSurface::onCharacter, this);
   Bind(wxEVT_MOUSEWHEEL, &WxConsoleSurface::onWheel, this);
   const auto scroll = [this](const wxEventTypeTag<wxScrollWinEvent>& type, int lines, bool pages) {
@@ -244,6 +250,15 @@ void WxConsoleSurface::onWheel(wxMouseEvent& event) {
 void WxConsoleSurface::onKeyDown(wxKeyEvent& event) {
   bool used = false;
   tell([&] { used = client_.onKey(consoleKeyOf(event.GetKeyCode()), modifiersOf(event)); });
+  const bool withAlt = used && event.AltDown();
+  altServed_ = withAlt || (altServed_ && event.GetKeyCode() != WXK_ALT);
+  // With Alt, the system hears of the key all the same: an Alt that it believes to be pressed alone leads to the menus.
+  if (!used || withAlt) event.Skip();
+}
+
+void WxConsoleSurface::onKeyUp(wxKeyEvent& event) {
+  const bool used = event.GetKeyCode() == WXK_ALT ? std::exchange(altServed_, false)
+                                                  : isFunctionKey(consoleKeyOf(event.GetKeyCode()));
   if (!used) event.Skip();
 }
 

@@ -54,6 +54,7 @@ class WxConsoleSurface : public wxWindow, public ConsoleSurface {
   void onScrollTo(wxScrollWinEvent& event);
   void onWheel(wxMouseEvent& event);
   void onKeyDown(wxKeyEvent& event);
+  void onKeyUp(wxKeyEvent& event);
   void onCharacter(wxKeyEvent& event);
   void bindMouse(const wxEventTypeTag<wxMouseEvent>& type, void (ConsoleSurfaceClient::*operation)(const MouseState&));
   void updateBars();
@@ -71,6 +72,7 @@ class WxConsoleSurface : public wxWindow, public ConsoleSurface {
   Point document_;
   Point scroll_;
   bool alive_ = false;
+  bool altServed_ = false;  ///< the Alt that is held was pressed for a key of ours
 };
 
 }  // namespace tarnwick::ui

@@ -266,6 +266,44 @@ TEST_F(ConsoleTest, AltIsHeardAsAltFromItsFirstPress) {
   play();
 }
 
+TEST_F(ConsoleTest, WhatIsTypedBehindAltWithAFunctionKeyIsHeard) {
+  const std::string withAlt = "key " + std::to_string(static_cast<int>(ConsoleKey::F7)) + " " + std::to_string(ALT_BIT);
+  waitForFrame();
+  for (int round = 0; round < 2; ++round) {
+    press(WXK_F7, wxMOD_ALT);
+    press('5');
+  }
+  thenExpect({withAlt, "char 5", withAlt, "char 5"});
+  thenClose();
+  play();
+}
+
+// Some systems open their menus when Alt goes up.
+TEST_F(ConsoleTest, AnAltThatServedAFunctionKeyIsKeptFromTheMenus) {
+  waitForFrame();
+  steps.then("press and release", [this] {
+    const auto goesOn = [this](const wxEventTypeTag<wxKeyEvent>& type, int code, bool alt, bool control = false) {
+      wxKeyEvent event(type);
+      event.m_keyCode = code;
+      event.SetAltDown(alt);
+      event.SetControlDown(control);
+      return !window()->ProcessWindowEvent(event);
+    };
+    EXPECT_TRUE(goesOn(wxEVT_KEY_UP, WXK_ALT, false)) << "Alt alone is for the menus";
+    EXPECT_TRUE(goesOn(wxEVT_KEY_DOWN, WXK_F7, true)) << "the system learns that Alt was not pressed alone";
+    EXPECT_FALSE(goesOn(wxEVT_KEY_UP, WXK_F7, true));
+    EXPECT_FALSE(goesOn(wxEVT_KEY_UP, WXK_ALT, false));
+    EXPECT_TRUE(goesOn(wxEVT_KEY_UP, WXK_ALT, false)) << "just once";
+    EXPECT_FALSE(goesOn(wxEVT_KEY_DOWN, WXK_F7, false));
+    EXPECT_FALSE(goesOn(wxEVT_KEY_UP, WXK_F7, false));
+    EXPECT_TRUE(goesOn(wxEVT_KEY_UP, WXK_ALT, false)) << "a key without Alt keeps nothing";
+    EXPECT_TRUE(goesOn(wxEVT_KEY_DOWN, WXK_F8, true, true));
+    EXPECT_FALSE(goesOn(wxEVT_KEY_UP, WXK_ALT, false, true)) << "with Control too";
+  });
+  thenClose();
+  play();
+}
+
 TEST_F(ConsoleTest, TheMouseSpeaksInTheWindowsCoordinates) {
   waitForFrame();
   steps.then("click", [this] {

@@ -1,6 +1,7 @@
 #include "console/TarnwickView.h"
 
 #include "console/ConsolePaint.h"
+#include "platform/FileSystem.h"
 #include "platform/Process.h"
 
 #include <algorithm>
@@ -19,6 +20,18 @@ constexpr std::size_t longestReason = 512;
 std::optional<int> functionKeyIndex(ConsoleKey key) {
   if (key < ConsoleKey::F5 || key > ConsoleKey::F12) return std::nullopt;
   return static_cast<int>(key) - static_cast<int>(ConsoleKey::F5);
+}
+
+/// The text, whose lines end in CR LF, as the programs of this system exchange it.
+std::string withSystemLineEnds(const std::string& text) {
+  std::string converted;
+  for (std::size_t start = 0;;) {
+    const std::size_t end = text.find("\r\n", start);
+    converted.append(text, start, end - start);
+    if (end == std::string::npos) return converted;
+    converted += platform::lineEnd;
+    start = end + 2;
+  }
 }
 
 }  // namespace
@@ -254,18 +267,23 @@ void TarnwickView::selectAll() {
 }
 
 void TarnwickView::copy() {
-  if (desktop_.setClipboardText(selectedText())) return;
+  if (desktop_.setClipboardText(withSystemLineEnds(selectedText()))) return;
   desktop_.message("Unable to set clipboard data.\n" + platform::lastSystemError("").reason.substr(0, longestReason));
 }
 
 void TarnwickView::paste() {
   const auto text = desktop_.clipboardText();
   if (!text) return;
-  // A line feed alone ends a line where the system writes lines so; it acts as the key that ends a line here.
+  // However a line ends on the clipboard, that is one press of the key that ends a line here.
   std::string keys;
+  char before = '\0';
   for (const char character : *text) {
-    const bool alone = character == '\n' && (keys.empty() || keys.back() != '\r');
-    keys += alone ? '\r' : character;
+    if (character != '\n') {
+      keys += character;
+    } else if (before != '\r') {
+      keys += '\r';
+    }
+    before = character;
   }
   appendInput(keys);
 }

@@ -62,8 +62,7 @@ TEST_F(ConsoleKeysTest, PastedLinesReachTheChildOneByOneWithPausesOf100Milliseco
   ASSERT_TRUE(until([&] { return child->writes() == Lines{"one\n"}; }));
   ASSERT_EQ(desktop.timersOf(100), 1U);
   desktop.tick(100);
-  // The line feed behind the Return is a control character of its own.
-  ASSERT_TRUE(until([&] { return child->writes() == Lines{"one\n", "\n", "two\n"}; }));
+  ASSERT_TRUE(until([&] { return child->writes() == Lines{"one\n", "two\n"}; }));
   desktop.tick(100);
   EXPECT_EQ(desktop.timersOf(100), 0U);
   EXPECT_EQ(lastLine(), "three");
@@ -76,6 +75,19 @@ TEST_F(ConsoleKeysTest, APastedLineFeedAloneIsAReturn) {
   desktop.tick(100);
   EXPECT_EQ(desktop.timersOf(100), 0U);
   ASSERT_TRUE(until([&] { return child->writes() == Lines{"one\n", "two\n"}; }));
+}
+
+TEST_F(ConsoleKeysTest, EachPastedLineEndIsOneReturnHoweverItIsWritten) {
+  openRunning();
+  desktop.clipboard = "1\r\n2\r3\n\r\n\r\r\n4\n\n";
+  view->paste();
+  const Lines wanted = {"1\n", "2\n", "3\n", "\n", "\n", "\n", "4\n", "\n"};
+  ASSERT_TRUE(until([&] {
+    if (desktop.timersOf(100) > 0) desktop.tick(100);
+    return child->writes().size() >= wanted.size();
+  }));
+  EXPECT_EQ(child->writes(), wanted);
+  EXPECT_EQ(desktop.timersOf(100), 0U);
 }
 
 TEST_F(ConsoleKeysTest, PastingNothingDoesNothing) {

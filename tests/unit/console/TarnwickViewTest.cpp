@@ -1,5 +1,6 @@
 // The view on its window: following the text, timers, painting, clipboard.
 #include "console/TarnwickView.h"
+#include "platform/FileSystem.h"
 #include "support/ConsoleFixture.h"
 
 #include <algorithm>
@@ -255,8 +256,9 @@ TEST_F(TarnwickViewTest, CopyPutsTheSelectionOnTheClipboard) {
   EXPECT_FALSE(view->canCopy());
   view->selectAll();
   EXPECT_TRUE(view->canCopy());
+  EXPECT_EQ(view->selectedText(), "one\r\ntwo");
   view->copy();
-  EXPECT_EQ(desktop.clipboard, "one\r\ntwo");
+  EXPECT_EQ(desktop.clipboard, std::string("one") + platform::lineEnd + "two") << "as the system writes lines";
   EXPECT_TRUE(view->canCopy());
 }
 

@@ -16,6 +16,14 @@ int columnsOf(std::string_view text) {
   return static_cast<int>(platform::columnsOf(text));
 }
 
+/// True for what becomes part of the line. Only their exact codes are the keys that edit it: a byte that the console
+/// merely classes as one of them is a letter.
+bool isCharacter(char byte) {
+  const unsigned char code = platform::consoleClass(byte);
+  const bool classedAsKey = code == '\b' || code == '\t' || code == '\r';
+  return code >= firstPrintable || (classedAsKey && code != static_cast<unsigned char>(byte));
+}
+
 }  // namespace
 
 InputEditor::InputEditor(ConsoleScreen& screen, std::function<void(std::string)> send)
@@ -32,22 +40,21 @@ InputEditor::Input InputEditor::input() const {
 bool InputEditor::drain() {
   while (handled_ < pendingInput_.size()) {
     const char character = pendingInput_[handled_];
-    const unsigned char code = platform::consoleClass(character);
-    if (code >= firstPrintable) {
+    if (isCharacter(character)) {
       // Neighbours together: one by one a pasted text would be moved about for each of its characters.
       typeText(takeCharacters());
       continue;
     }
     ++handled_;
-    if (code == '\r') {
+    if (character == '\r') {
       typeReturn();
       pendingInput_.erase(0, handled_);
       handled_ = 0;
       return !pendingInput_.empty();
     }
-    if (code == '\t') {
+    if (character == '\t') {
       typeTab();
-    } else if (code == '\b') {
+    } else if (character == '\b') {
       typeBackspace();
     } else {
       typeControl(character);
@@ -60,24 +67,22 @@ bool InputEditor::drain() {
 
 std::string InputEditor::takeCharacters() {
   const std::size_t start = handled_;
-  while (handled_ < pendingInput_.size() && platform::consoleClass(pendingInput_[handled_]) >= firstPrintable) {
-    ++handled_;
-  }
+  while (handled_ < pendingInput_.size() && isCharacter(pendingInput_[handled_])) ++handled_;
   return pendingInput_.substr(start, handled_ - start);
 }
 
 void InputEditor::typeText(const std::string& text) {
   const Input before = input();
-  const int columns = columnsOf(text);
   if (before.caretOnCharacter()) {
     std::string edited = before.text;
     edited.insert(byteAtColumn(before.text, before.columns, before.place), text);
     screen_.document.replaceInput(edited);
-  } else {
-    // A caret that Home has put on output does not make it input.
-    screen_.document.addText(text, KIND_INPUT);
+    screen_.caret.forward(columnsOf(text));
+    return;
   }
-  screen_.caret.forward(columns);
+  // A caret that Home has put on output does not make it input, and goes where the text goes.
+  screen_.document.addText(text, KIND_INPUT);
+  screen_.caret.forward(screen_.document.lastLineLength() - screen_.caret.column());
 }
 
 void InputEditor::typeTab() {

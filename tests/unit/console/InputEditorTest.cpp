@@ -200,9 +200,32 @@ TEST_F(InputEditorTest, HomeOnOutputGoesToItsStartAndTypingAppends) {
   EXPECT_EQ(caret(), 2);
   type("x");
   EXPECT_EQ(segments(), (Lines{"1:in", "2:out", "1:x"}));
-  // The caret stands outside of what is typed now; typing goes on at the end.
+  EXPECT_EQ(caret(), 6) << "at the line's end, with what was appended";
   type("y");
   EXPECT_EQ(segments(), (Lines{"1:in", "2:out", "1:xy"}));
+}
+
+TEST_F(InputEditorTest, WhatIsTypedBehindOutputAfterHomeArrivesInItsOrder) {
+  for (const std::string prompt : {">", "> ", "main[1] ", "a very long prompt of a debugger: "}) {
+    output(prompt);
+    press(ConsoleKey::Home);
+    for (const char* key : {"l", "i", "s", "t"}) type(key);
+    EXPECT_EQ(segments(), (Lines{"2:" + prompt, "1:list"}));
+    EXPECT_EQ(caret(), document.lastLineLength());
+    type("\r");
+    EXPECT_EQ(sent, (Lines{"list\n"})) << prompt;
+    sent.clear();
+  }
+}
+
+TEST_F(InputEditorTest, AnAppendedCharacterLeavesNoCaretBehind) {
+  output("prompt> ");
+  press(ConsoleKey::Home);
+  screen.changes = {};
+  type("x");
+  EXPECT_TRUE(screen.changes.show);
+  EXPECT_EQ(screen.changes.leftColumn, 0) << "where the caret stood";
+  EXPECT_EQ(screen.changes.lastColumn, 9);
 }
 
 TEST_F(InputEditorTest, LeftAndRightStayWithinTheTypedText) {
@@ -316,6 +339,20 @@ TEST_F(InputEditorTest, HighBytesAreClassedByTheirLowSevenBits) {
   if (test::charactersAreUtf8()) GTEST_SKIP() << "bytes from 128 up belong to characters here";
   type("a\xE4\x84");
   EXPECT_EQ(sent, (Lines{"a\xE4", "\x84"}));
+}
+
+TEST_F(InputEditorTest, OnlyTheExactCodesAreBackspaceTabAndReturn) {
+  // The euro sign of code page 1251 and its neighbours.
+  type("ab\x88\x89\x8D");
+  EXPECT_TRUE(sent.empty());
+  EXPECT_EQ(document.lineCount(), 1);
+  EXPECT_EQ(document.lastLine().currentKind(), KIND_INPUT);
+  EXPECT_EQ(document.lastLineLength(), 5);
+  EXPECT_EQ(caret(), 5);
+  type("\b");
+  EXPECT_EQ(document.lastLineLength(), 4);
+  type("\r");
+  EXPECT_EQ(sent, (Lines{"ab\x88\x89\n"}));
 }
 
 TEST_F(InputEditorTest, EachEditAsksForTheScreenToFollow) {

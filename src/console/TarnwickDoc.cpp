@@ -1,9 +1,11 @@
 #include "console/TarnwickDoc.h"
 
 #include "base/Filename.h"
+#include "base/ReplacingFile.h"
 #include "console/TextCells.h"
 #include "platform/Characters.h"
 #include "platform/FileSystem.h"
+#include "platform/OutputFile.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -15,6 +17,8 @@ namespace {
 
 constexpr int tabWidth = 8;
 const char cantOpen[] = "\nCan't open output file.";
+const char cantWrite[] = "\nCan't write output file.";
+const char recordEnds[] = "\nThe recording has ended.";
 
 /// The text with blanks in place of its tabs, as it stands from this column on.
 std::string withoutTabs(std::string_view text, int column) {
@@ -39,11 +43,7 @@ TarnwickDoc::TarnwickDoc(Desktop& desktop, std::string title) : desktop_(desktop
 }
 
 void TarnwickDoc::newLine() {
-  if (recordStream_) {
-    writeLine(recordStream_, lines_.back());
-    // The line is in the file now: for whoever follows the record, and even if nobody gets to close it.
-    std::fflush(recordStream_.get());
-  }
+  if (record_) record(lines_.back());
   lines_.emplace_back();
   if (lineCount() <= maxLines) return;
   lines_.pop_front();
@@ -88,45 +88,94 @@ void TarnwickDoc::noteWidth() {
   widestLine_ = std::max(widestLine_, lines_.back().length());
 }
 
-void TarnwickDoc::writeLine(const Stream& stream, const ConsoleLine& line) {
-  for (const auto& segment : line.segments()) std::fwrite(segment.text.data(), 1, segment.text.size(), stream.get());
-  std::fputc('\n', stream.get());
+void TarnwickDoc::record(const ConsoleLine& line) {
+  try {
+    record_->add(line);
+  } catch (const Tarnwickfile::FileNotOpenE& failure) {
+    recordFailure_ = failure.message + cantWrite + recordEnds;
+    record_.reset();
+  }
 }
 
-TarnwickDoc::Stream TarnwickDoc::openChosenFile() {
+std::string TarnwickDoc::takeRecordFailure() {
+  return std::exchange(recordFailure_, {});
+}
+
+bool TarnwickDoc::recording() const {
+  const TextGuard guard(textLock_);
+  return record_ != nullptr;
+}
+
+std::optional<std::string> TarnwickDoc::chosenFile() {
   stopRecording();
   FileRequest request;
   request.startFolder = Filename(recordFileName_).directory();
   request.confirmOverwrite = true;
-  const auto chosen = desktop_.saveFile(request);
-  if (!chosen) {
-    // Meant: a dialog that was cancelled says so too.
+  auto chosen = desktop_.saveFile(request);
+  if (chosen) {
+    recordFileName_ = *chosen;
+  } else {
+    // Deliberate: a dialog that was cancelled says so too.
     desktop_.message(cantOpen);
-    return nullptr;
   }
-  recordFileName_ = *chosen;
-  Stream stream(platform::openFile(recordFileName_, "w"));
-  if (!stream) desktop_.message(std::strerror(errno) + std::string(cantOpen));
-  return stream;
+  return chosen;
 }
 
 bool TarnwickDoc::startRecording() {
-  Stream stream = openChosenFile();
-  const TextGuard guard(textLock_);
-  recordStream_ = std::move(stream);
-  return recording();
+  const auto chosen = chosenFile();
+  if (!chosen) return false;
+  try {
+    auto record = std::make_unique<LineRecord>(*chosen);
+    const TextGuard guard(textLock_);
+    record_ = std::move(record);
+    return true;
+  } catch (const Tarnwickfile::FileNotOpenE& failure) {
+    desktop_.message(failure.message + cantOpen);
+    return false;
+  }
 }
 
 void TarnwickDoc::stopRecording() {
-  const TextGuard guard(textLock_);
-  recordStream_.reset();
+  std::unique_ptr<LineRecord> ended;
+  std::string fault;
+  {
+    const TextGuard guard(textLock_);
+    ended = std::move(record_);
+    fault = takeRecordFailure();
+  }
+  try {
+    if (ended) ended->close();
+  } catch (const Tarnwickfile::FileNotOpenE& failure) {
+    fault = failure.message + cantWrite;
+  }
+  if (!fault.empty()) desktop_.message(fault);
 }
 
 void TarnwickDoc::saveDisplay() {
-  const Stream stream = openChosenFile();
-  if (!stream) return;
+  const auto chosen = chosenFile();
+  if (!chosen) return;
+  const char* fault = cantOpen;
+  try {
+    const std::string folder = Filename(*chosen).directory();
+    // What is saved lies where the user has seen a folder, never in one that is made for it.
+    if (!folder.empty() && !platform::isFolder(folder))
+      throw Tarnwickfile::FileNotOpenE(std::strerror(ENOENT), *chosen);
+    ReplacingFile file(*chosen);
+    fault = cantWrite;
+    platform::neverWait(file.stream());
+    writeAll(file.stream());
+    file.commit();
+  } catch (const Tarnwickfile::FileNotOpenE& failure) {
+    desktop_.message(failure.message + fault);
+  }
+}
+
+void TarnwickDoc::writeAll(std::FILE* stream) {
   const TextGuard guard(textLock_);
-  for (const auto& line : lines_) writeLine(stream, line);
+  for (const auto& line : lines_) {
+    // The stream keeps in mind that it has failed.
+    if (!writeLine(stream, line)) return;
+  }
 }
 
 }  // namespace tarnwick

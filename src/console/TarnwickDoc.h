@@ -1,12 +1,14 @@
 #pragma once
 
 #include "console/ConsoleLine.h"
+#include "console/LineRecord.h"
 #include "console/TextLock.h"
 #include "dialogbase/Desktop.h"
 
 #include <cstdio>
 #include <deque>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -54,36 +56,36 @@ class TarnwickDoc {
   int widestLine() const { return widestLine_; }
   /// True once a line has fallen off the top.
   bool linesDropped() const { return linesDropped_; }
+  /// Why a recording has ended by itself, as a message; empty if none has since the last call.
+  std::string takeRecordFailure();
 
   // The file operations. They belong to the user-interface thread and take the text lock themselves.
 
   /// Asks for a file and records every line to it that is completed from now on. True if the file is open.
   bool startRecording();
+  /// Closes the file, and tells what has gone wrong with it.
   void stopRecording();
-  /// Asks for a file and writes all that is there to it, the unfinished last line too. Ends a recording.
+  /// Asks for a file and puts all that is there in it, the unfinished last line too; a file that was there stays as it
+  /// is until the new one is whole. Ends a recording.
   void saveDisplay();
-  bool recording() const { return recordStream_ != nullptr; }
+  bool recording() const;
 
  private:
-  struct Closer {
-    void operator()(std::FILE* stream) const { std::fclose(stream); }
-  };
-
-  using Stream = std::unique_ptr<std::FILE, Closer>;
-
-  /// Ends a recording, asks for a file and opens it; null after the message.
-  Stream openChosenFile();
-  static void writeLine(const Stream& stream, const ConsoleLine& line);
+  /// Ends a recording and asks for a file; nothing after the message.
+  std::optional<std::string> chosenFile();
+  void record(const ConsoleLine& line);
+  void writeAll(std::FILE* stream);
   ColumnRange takeBack(int kind);
   void noteWidth();
 
   Desktop& desktop_;
   std::string title_;
-  TextLock textLock_;
+  mutable TextLock textLock_;
   std::deque<ConsoleLine> lines_;
   int widestLine_ = 0;
   bool linesDropped_ = false;
-  Stream recordStream_;
+  std::unique_ptr<LineRecord> record_;
+  std::string recordFailure_;
   std::string recordFileName_;
 };
 

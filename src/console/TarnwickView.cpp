@@ -69,6 +69,7 @@ void TarnwickView::onClose() {
   consoleSearch_.stop();
   child_.close([this] { return consoleSearch_.close(); });
   surface_ = nullptr;
+  screen_.document.stopRecording();
 }
 
 bool TarnwickView::measure() {
@@ -117,7 +118,9 @@ void TarnwickView::onResized() {
 
 TarnwickView::Snapshot TarnwickView::takeChanges() {
   const TextGuard guard(screen_.lock());
-  return {std::exchange(screen_.changes, {}), screen_.document.widestLine(), screen_.document.linesDropped()};
+  TarnwickDoc& document = screen_.document;
+  return {std::exchange(screen_.changes, {}), document.widestLine(), document.linesDropped(),
+          document.takeRecordFailure()};
 }
 
 void TarnwickView::refresh(int rows, int firstColumn, int lastColumn) {
@@ -131,6 +134,10 @@ void TarnwickView::refresh(int rows, int firstColumn, int lastColumn) {
 
 void TarnwickView::apply(const Snapshot& snapshot) {
   const ConsoleChanges& changes = snapshot.changes;
+  if (!snapshot.recordFailure.empty()) {
+    // Later: the text goes on being shown under the message.
+    desktop_.post([&desktop = desktop_, text = snapshot.recordFailure] { desktop.message(text); });
+  }
   if (changes.beep) desktop_.alert(AlertSound::Beep);
   if (changes.show) {
     // Any new output or key drops the selection.

@@ -65,6 +65,7 @@ class TarnwickView : public ConsoleSurfaceClient {
     ConsoleChanges changes;
     int widestLine = 0;
     bool linesDropped = false;
+    std::string recordFailure;
   };
 
   /// Called by any thread.

@@ -210,15 +210,43 @@ TEST_F(TarnwickDocTest, TheDocumentsEndLeavesTheUnfinishedLineUnrecorded) {
   EXPECT_EQ(test::contentOf(file), asText("done\n"));
 }
 
-TEST_F(TarnwickDocTest, ARecordThatCantBeWrittenGoesUnnoticed) {
-  if (platform::folderSeparator != '/') GTEST_SKIP() << "there is no device here that is always full";
-  desktop.saveAnswers = {"/dev/full"};
+TEST_F(TarnwickDocTest, TwoConsolesThatRecordToOneFileLeaveEachLineWhole) {
+  const std::string file = scratch.file("record.txt");
+  TarnwickDoc other(desktop, "");
+  desktop.saveAnswers = {file, file};
   EXPECT_TRUE(document.startRecording());
-  addLine(std::string(100000, 'x'));
-  EXPECT_TRUE(document.recording());
+  addLine("what is over when the other one begins");
+  EXPECT_TRUE(other.startRecording());
+  for (int line = 0; line < 3; ++line) {
+    addLine("mine");
+    other.addText("theirs", KIND_OUTPUT);
+    other.newLine();
+  }
+  other.stopRecording();
   document.stopRecording();
-  EXPECT_FALSE(document.recording());
-  EXPECT_TRUE(desktop.messages.empty());
+  EXPECT_EQ(test::contentOf(file), asText("mine\ntheirs\nmine\ntheirs\nmine\ntheirs\n"));
+}
+
+TEST_F(TarnwickDocTest, ARecordOntoTheSameFileBeginsAnew) {
+  const std::string file = scratch.file("record.txt");
+  desktop.saveAnswers = {file, file};
+  EXPECT_TRUE(document.startRecording());
+  addLine("first");
+  EXPECT_TRUE(document.startRecording());
+  addLine("second");
+  document.stopRecording();
+  EXPECT_EQ(test::contentOf(file), asText("second\n"));
+}
+
+TEST_F(TarnwickDocTest, ASaveOverTheRecordEndsItAndHoldsTheDisplay) {
+  const std::string file = scratch.file("record.txt");
+  desktop.saveAnswers = {file, file};
+  EXPECT_TRUE(document.startRecording());
+  addLine("one");
+  document.saveDisplay();
+  addLine("two");
+  EXPECT_EQ(test::contentOf(file), asText("one\n\n"));
+  EXPECT_EQ(desktop.messages, Lines{});
 }
 
 TEST_F(TarnwickDocTest, TheDialogAsksForAFileToSaveWithoutFilterOrName) {
@@ -248,6 +276,11 @@ TEST_F(TarnwickDocTest, AFileThatCantBeOpenedIsReportedWithItsReason) {
   EXPECT_FALSE(document.startRecording());
   EXPECT_FALSE(document.recording());
   EXPECT_EQ(desktop.messages, (Lines{std::strerror(ENOENT) + std::string("\nCan't open output file.")}));
+  desktop.messages.clear();
+  desktop.saveAnswers = {scratch.file("no folder") + platform::folderSeparator + "x.txt"};
+  document.saveDisplay();
+  EXPECT_EQ(desktop.messages, (Lines{std::strerror(ENOENT) + std::string("\nCan't open output file.")}));
+  EXPECT_FALSE(platform::isFolder(scratch.file("no folder"))) << "a save makes no folders";
 }
 
 TEST_F(TarnwickDocTest, SaveDisplayWritesEverythingTheUnfinishedLineToo) {

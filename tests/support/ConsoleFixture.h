@@ -91,10 +91,10 @@ class ConsoleFixture : public testing::Test {
     pump();
   }
 
-  /// Does what the window's event loop does until the condition holds. False after ten seconds.
+  /// Does what the window's event loop does until the condition holds. False after a minute.
   template <typename Condition>
   bool until(Condition holds) {
-    const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(10);
+    const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(60);
     for (;;) {
       pump();
       if (holds()) return true;

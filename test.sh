@@ -89,7 +89,8 @@ testLinux() {
   buildFor linux Tarnwick tarnwick_unit_tests tarnwick_window_tests -- TARNWICK_TESTS=ON || return
   inShards linux-unit 300 "$root/build/linux/tests/tarnwick_unit_tests"
   runTests linux-windows 900 "$root/scripts/with-display.sh" "$root/build/linux/tests/tarnwick_window_tests"
-  runTests linux-end-to-end 1800 "$root/scripts/with-display.sh" /usr/bin/python3 "$root/tests/e2e/run.py" "$root"
+  # Each test has limits of its own; this is for a machine with ten times too much to do.
+  runTests linux-end-to-end 9000 "$root/scripts/with-display.sh" /usr/bin/python3 "$root/tests/e2e/run.py" "$root"
 }
 
 testWindows() {

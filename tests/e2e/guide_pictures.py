@@ -71,9 +71,9 @@ def take_console(scratch, camera, panel):
     console = scratch.run_class(panel, scratch.compile(panel, scratch.sample("Greeter.java")))
     for expected, line in (("What is your name? ", "Ada Lovelace"), ("Hello, Ada Lovelace!", "Ça va, Zoë από Αθήνα?"),
                            ("backwards", "bye")):
-        wait_until(expected, lambda words=expected: words in scratch.saved_display(console), 30)
+        wait_until(expected, lambda words=expected: words in scratch.saved_display(console))
         world.type_line(console, line)
-    wait_until("the banner", lambda: "E n d   o f   j a v a" in scratch.saved_display(console), 30)
+    wait_until("the banner", lambda: "E n d   o f   j a v a" in scratch.saved_display(console))
     camera.take(console, "console")
     console.close()
     console.is_gone()
@@ -83,10 +83,10 @@ def take_debugger(scratch, camera, panel):
     path = scratch.compile(panel, scratch.source("Countdown.java"))
     panel.write(world.quoted(path), index=1)
     panel.press("jdb debug")
-    console = Window("Countdown", seconds=40)
+    console = Window("Countdown")
 
     def shows(words, times=1):
-        wait_until(words, lambda: scratch.saved_display(console).count(words) >= times, 40)
+        wait_until(words, lambda: scratch.saved_display(console).count(words) >= times)
     shows("main[1] ")
     world.type_line(console, "stop in Countdown.tell")
     shows("breakpoint Countdown.tell")

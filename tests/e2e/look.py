@@ -37,7 +37,8 @@ def described(accessible, depth=0):
 
 
 def main():
-    Atspi.set_timeout(1000, 3000)
+    # A busy machine takes its time to answer.
+    Atspi.set_timeout(10000, 15000)
     desktop = Atspi.get_desktop(0)
     result = []
     for index in range(desktop.get_child_count()):

@@ -12,11 +12,16 @@ import sys
 import time
 
 
+# Far above what anything takes, on a machine with ten times too much to do as well: it ends what would wait for ever.
+# How long something may take is not for these tests to say.
+LIMIT = 240.0
+
+
 class NotSeen(AssertionError):
     """What was waited for did not come."""
 
 
-def wait_until(what, condition, seconds=20.0):
+def wait_until(what, condition, seconds=LIMIT):
     """The first true value of the condition."""
     end = time.monotonic() + seconds
     while True:
@@ -29,7 +34,7 @@ def wait_until(what, condition, seconds=20.0):
 
 
 def xdotool(*arguments):
-    return subprocess.run(["xdotool", *map(str, arguments)], check=True, timeout=30, stdin=subprocess.DEVNULL,
+    return subprocess.run(["xdotool", *map(str, arguments)], check=True, timeout=LIMIT, stdin=subprocess.DEVNULL,
                           stdout=subprocess.PIPE, text=True).stdout.strip()
 
 
@@ -46,21 +51,21 @@ def type_text(text):
 
 def put_on_clipboard(text):
     # xclip stays behind to serve the clipboard: its output must not be anybody's pipe.
-    subprocess.run(["xclip", "-selection", "clipboard", "-in"], input=text.encode(), check=True, timeout=30,
+    subprocess.run(["xclip", "-selection", "clipboard", "-in"], input=text.encode(), check=True, timeout=LIMIT,
                    stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
 
 
 def screenshot(path):
-    subprocess.run(["import", "-silent", "-window", "root", path], check=True, timeout=60, stdin=subprocess.DEVNULL)
+    subprocess.run(["import", "-silent", "-window", "root", path], check=True, timeout=LIMIT, stdin=subprocess.DEVNULL)
 
 
 def look():
     """All windows that show."""
     program = os.path.join(os.path.dirname(os.path.abspath(__file__)), "look.py")
     command = [os.environ["WINE"], os.environ["TARNWICK_LOOK"]] if "TARNWICK_LOOK" in os.environ else [sys.executable, program]
-    for _ in range(4):
+    for _ in range(6):
         try:
-            done = subprocess.run(command, timeout=10, stdin=subprocess.DEVNULL,
+            done = subprocess.run(command, timeout=LIMIT / 4, stdin=subprocess.DEVNULL,
                                   stdout=subprocess.PIPE, stderr=subprocess.DEVNULL)
         except subprocess.TimeoutExpired:
             continue
@@ -113,7 +118,7 @@ def standing(what, find):
 class Window:
     """A window by its title. Each question looks at the screen anew."""
 
-    def __init__(self, title, seconds=30):
+    def __init__(self, title, seconds=LIMIT):
         self.title = title
         self.process = None
         self._wait_until_it_stands(seconds)
@@ -134,7 +139,7 @@ class Window:
     def shows(self):
         return self._now() is not None
 
-    def is_gone(self, seconds=20):
+    def is_gone(self, seconds=LIMIT):
         wait_until(f"the end of the window {self.title!r}", lambda: not self.shows(), seconds)
 
     def controls(self):
@@ -145,7 +150,7 @@ class Window:
         return wait_until(f"{what} in the window {self.title!r}",
                           lambda: next((one for one in self.controls() if fits(one)), None), seconds)
 
-    def control(self, label, role=None, seconds=10):
+    def control(self, label, role=None, seconds=LIMIT):
         """The control of this label. Mnemonics and blanks around do not count."""
         return self._find(f"the control {label!r}", lambda one: one.label == label and role in (None, one.role), seconds)
 
@@ -155,7 +160,7 @@ class Window:
 
     def press(self, label):
         """Clicks a button, once it can be pressed."""
-        self._find(f"the enabled control {label!r}", lambda one: one.label == label and one.enabled, 10).click()
+        self._find(f"the enabled control {label!r}", lambda one: one.label == label and one.enabled, LIMIT).click()
 
     def fields(self):
         return [one for one in self.controls() if one.role in ("text", "entry")]
@@ -169,11 +174,11 @@ class Window:
 
     def write(self, text, index=0):
         """Replaces what stands in a field; letters of every kind."""
-        self.field(index).click()
         put_on_clipboard(text)
 
         def pasted():
-            # Wine may take a moment to notice a new clipboard.
+            # Again and again: a window that is busy takes no click, and Wine may take a moment to notice a new clipboard.
+            self.field(index).click()
             key("ctrl+a", "ctrl+v")
             time.sleep(0.1)
             return self.field(index).text == text
@@ -196,5 +201,5 @@ def x_windows(title, visible=True):
     """Numbers of the X windows of this exact title; with `visible` off also of those that are minimised."""
     which = ["--onlyvisible"] if visible else []
     found = subprocess.run(["xdotool", "search", *which, "--name", f"^{re.escape(title)}$"], stdin=subprocess.DEVNULL,
-                           stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True, timeout=30)
+                           stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True, timeout=LIMIT)
     return found.stdout.split()

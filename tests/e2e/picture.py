@@ -2,6 +2,8 @@
 
 import subprocess
 
+import person
+
 WHITE, BLACK = (255, 255, 255), (0, 0, 0)
 
 
@@ -12,7 +14,7 @@ class Picture:
         left, top, self.width, self.height = area
         self.bytes = subprocess.run(["import", "-silent", "-window", "root", "-crop",
                                      f"{self.width}x{self.height}+{left}+{top}", "+repage", "-depth", "8", "rgb:-"],
-                                    stdin=subprocess.DEVNULL, stdout=subprocess.PIPE, check=True, timeout=60).stdout
+                                    stdin=subprocess.DEVNULL, stdout=subprocess.PIPE, check=True, timeout=person.LIMIT).stdout
         assert len(self.bytes) == 3 * self.width * self.height, (len(self.bytes), area)
 
     def pixel(self, x, y):

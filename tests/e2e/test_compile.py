@@ -27,7 +27,7 @@ def test_error_opens_the_log_with_the_compilers_message(scratch):
     _, panel = scratch.first_start()
     panel.write(world.quoted(source))
     panel.press("javac")
-    (_, log), = wait_until("the log in the editor", scratch.editor_notes, 60)
+    (_, log), = wait_until("the log in the editor", scratch.editor_notes)
     assert "Broken.java:6: error: incompatible types: int cannot be converted to String" in log, log
     assert "1 error" in log, log
     assert not os.path.exists(class_of(source))
@@ -42,7 +42,7 @@ def test_a_verbose_compiler_counts_as_one_that_has_something_to_say(scratch):
     panel.activate()
     panel.write(world.quoted(source))
     panel.press("javac")
-    (_, log), = wait_until("the log in the editor", scratch.editor_notes, 60)
+    (_, log), = wait_until("the log in the editor", scratch.editor_notes)
     assert log.startswith("\n\njavac ") and " -verbose " in log.split("\n")[2], log[:300]
     # Some of what it says, from its beginning to its end, with the folder's letters as they are.
     assert "\n[parsing started " in log and source in log, log[:300]
@@ -57,7 +57,7 @@ def test_an_old_class_survives_a_failed_compilation(scratch):
     _, panel = scratch.first_start()
     panel.write(world.quoted(source))
     panel.press("javac")
-    wait_until("the log in the editor", scratch.editor_notes, 60)
+    wait_until("the log in the editor", scratch.editor_notes)
     with open(class_of(source), "rb") as kept:
         assert kept.read() == b"old"
     assert "int cannot be converted" in scratch.editor_notes()[0][1]
@@ -70,7 +70,7 @@ def test_the_panel_is_used_without_a_utf8_locale(scratch):
     scratch.environment.pop("LANG", None)
     _, panel = scratch.first_start()
     console = scratch.run_class(panel, scratch.compile(panel, source))
-    wait_until("the question", lambda: "What is your name? " in scratch.saved_display(console), 30)
+    wait_until("the question", lambda: "What is your name? " in scratch.saved_display(console))
 
 
 def test_the_panel_is_used_with_a_language_that_is_not_installed(scratch):
@@ -80,7 +80,7 @@ def test_the_panel_is_used_with_a_language_that_is_not_installed(scratch):
     scratch.environment["LANG"] = "xx_XX.UTF-8"
     _, panel = scratch.first_start()
     console = scratch.run_class(panel, scratch.compile(panel, source))
-    wait_until("the question", lambda: "What is your name? " in scratch.saved_display(console), 30)
+    wait_until("the question", lambda: "What is your name? " in scratch.saved_display(console))
 
 
 def test_a_folder_that_a_shell_would_touch(scratch):
@@ -88,7 +88,7 @@ def test_a_folder_that_a_shell_would_touch(scratch):
     source = scratch.sample("Greeter.java")
     _, panel = scratch.first_start()
     console = scratch.run_class(panel, scratch.compile(panel, source))
-    wait_until("the question", lambda: "What is your name? " in scratch.saved_display(console), 30)
+    wait_until("the question", lambda: "What is your name? " in scratch.saved_display(console))
 
 
 def test_source_stays_in_the_field_for_the_next_start(scratch):
@@ -97,6 +97,6 @@ def test_source_stays_in_the_field_for_the_next_start(scratch):
     scratch.compile(panel, source)
     assert source in scratch.settings()["FILEVIEW_SOURCE"]
     panel.press("Exit")
-    program.wait(20)
+    program.wait(person.LIMIT)
     scratch.start()
     assert Window("Tarnwick").field().text == world.quoted(source)

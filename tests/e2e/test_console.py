@@ -14,7 +14,7 @@ from world import type_line
 BANNER = "****  Tarnwick:  E n d   o f   j a v a   e x e c u t i o n   ****"
 
 
-def shows(scratch, console, text, seconds=30):
+def shows(scratch, console, text):
     """Waits until the console's saved display holds the text; gives all of it."""
     display = ""
 
@@ -23,7 +23,7 @@ def shows(scratch, console, text, seconds=30):
         display = scratch.saved_display(console)
         return display if text in display else None
     try:
-        return wait_until(f"{text!r} in the console", saved, seconds)
+        return wait_until(f"{text!r} in the console", saved)
     except NotSeen as e:
         raise NotSeen(f"{e}; the console shows:\n{display}") from None
 
@@ -35,17 +35,21 @@ def started(scratch, path):
 
 def nothing_left(scratch, *names):
     for name in names:
-        wait_until(f"the end of {name}", lambda name=name: not scratch.processes(name), 10)
+        wait_until(f"the end of {name}", lambda name=name: not scratch.processes(name))
 
 
-def nothing_left_three_seconds_later(scratch, *others):
-    """Nothing that runs in this world but the others. Counted in naps: a busy machine gets longer by the clock."""
-    for _ in range(30):
+def nothing_left_but(scratch, *others):
+    """Waits until nothing runs in this world but the others. What would be left behind never ends by itself."""
+    left = set()
+
+    def gone():
+        nonlocal left
         left = set(scratch.processes()).difference(others)
-        if not left:
-            return
-        time.sleep(0.1)
-    raise AssertionError(f"left behind: {[command_line(process) for process in left]}")
+        return not left
+    try:
+        wait_until("the end of all that was started", gone)
+    except NotSeen as e:
+        raise NotSeen(f"{e}; left behind: {[command_line(process) for process in left]}") from None
 
 
 def command_line(process):
@@ -85,7 +89,7 @@ def test_arguments_behind_the_class_reach_the_program(scratch):
     _, panel = scratch.first_start()
     panel.write(f'{world.quoted(path)} one "two words"', index=1)
     panel.press("java")
-    console = person.Window("Arguments", seconds=40)
+    console = person.Window("Arguments")
     display = shows(scratch, console, BANNER)
     assert "Arguments: 2\n1: one\n2: two words\n" in display, display
 
@@ -116,7 +120,7 @@ def test_program_without_output_leaves_no_console(scratch):
     panel.write(world.quoted(path), index=1)
     panel.press("java")
     wait_until("the program's run", lambda: os.path.exists(os.path.join(scratch.work, "silent-was-here")))
-    wait_until("the end of the console", lambda: scratch.processes("tarnwick") == [program.pid], 30)
+    wait_until("the end of the console", lambda: scratch.processes("tarnwick") == [program.pid])
     assert [one.name for one in person.look()] == ["Tarnwick"]
 
 
@@ -148,7 +152,7 @@ def test_closing_the_console_stops_the_program(scratch):
     assert len(scratch.processes("java")) == 1
     console.close()
     console.is_gone()
-    nothing_left_three_seconds_later(scratch, panel.process)
+    nothing_left_but(scratch, panel.process)
     assert panel.shows()
 
 
@@ -158,7 +162,7 @@ def test_exit_in_the_menu_stops_the_program(scratch):
     console.press("File")
     console.press("Exit")
     console.is_gone()
-    nothing_left_three_seconds_later(scratch, panel.process)
+    nothing_left_but(scratch, panel.process)
 
 
 def test_closing_the_console_stops_what_the_program_started(scratch):
@@ -167,7 +171,7 @@ def test_closing_the_console_stops_what_the_program_started(scratch):
     assert len(scratch.processes("java")) == 1 and len(scratch.processes("sleep")) == 1
     console.close()
     console.is_gone()
-    nothing_left_three_seconds_later(scratch, panel.process)
+    nothing_left_but(scratch, panel.process)
 
 
 def test_killed_console_leaves_nothing(scratch):
@@ -176,7 +180,7 @@ def test_killed_console_leaves_nothing(scratch):
     shows(scratch, console, "child ")
     assert console.process != program.pid
     os.kill(console.process, signal.SIGKILL)
-    nothing_left_three_seconds_later(scratch, program.pid)
+    nothing_left_but(scratch, program.pid)
     console.is_gone()
     assert panel.control("java").enabled
 
@@ -198,36 +202,47 @@ def test_closing_the_console_lets_hooks_run_and_leaves_nothing_in_other_sessions
     panel, console = stubborn(scratch)
     console.close()
     console.is_gone()
-    nothing_left_three_seconds_later(scratch, panel.process)
+    nothing_left_but(scratch, panel.process)
     assert hook_was_here(scratch)
 
 
 def test_killing_the_console_lets_hooks_run_and_leaves_nothing_in_other_sessions(scratch):
     panel, console = stubborn(scratch)
     os.kill(console.process, signal.SIGKILL)
-    nothing_left_three_seconds_later(scratch, panel.process)
+    nothing_left_but(scratch, panel.process)
     assert hook_was_here(scratch)
 
 
 def test_killing_the_console_after_the_panel_lets_hooks_run_and_leaves_nothing(scratch):
     panel, console = stubborn(scratch)
     os.kill(panel.process, signal.SIGKILL)
-    scratch.running[0].wait(10)
+    scratch.running[0].wait(person.LIMIT)
     panel.is_gone()
     assert len(scratch.processes("java")) == 1, "a console needs no panel"
     os.kill(console.process, signal.SIGKILL)
-    nothing_left_three_seconds_later(scratch)
+    nothing_left_but(scratch)
     assert hook_was_here(scratch)
 
 
 def test_a_console_of_a_few_pixels_does_no_harm(scratch):
     _, console = started(scratch, scratch.sample("Clock.java"))
     shows(scratch, console, "The clock runs")
-    for size in [(300, 40), (60, 30), (1, 1), (3, 200), (200, 3), (600, 400)]:
-        person.xdotool("windowsize", console.x_number(), *size)
-        time.sleep(0.4)
+    # What GTK says of the windows that have gone is another matter.
+    before = len(scratch.messages())
+    for step, size in enumerate([(300, 40), (60, 30), (1, 1), (3, 200), (200, 3), (600, 400)]):
+        resize(scratch, console, size, 50 + 20 * step)
+    written = scratch.messages()[before:]
+    assert "CRITICAL" not in written, written
     shows(scratch, console, "The clock runs")
-    assert "CRITICAL" not in scratch.messages(), scratch.messages()
+
+
+def resize(scratch, window, size, left):
+    """Gives the window a size, as far as it takes it, and a place where it has not stood; waits until its program knows."""
+    number = window.x_number()
+    person.xdotool("windowsize", number, *size)
+    # The window manager takes one request behind the other: when the window has moved, its size has changed.
+    person.xdotool("windowmove", "--sync", number, left, 100)
+    scratch.listens(window)
 
 
 def test_console_outlives_the_panel(scratch):
@@ -236,12 +251,12 @@ def test_console_outlives_the_panel(scratch):
     shows(scratch, console, "What is your name? ")
     panel.activate()
     panel.press("Exit")
-    assert program.wait(20) == 0
+    assert program.wait(person.LIMIT) == 0
     type_line(console, "Ada")
     shows(scratch, console, "Hello, Ada!")
     console.close()
     console.is_gone()
-    nothing_left_three_seconds_later(scratch)
+    nothing_left_but(scratch)
 
 
 def test_two_consoles_run_side_by_side(scratch):

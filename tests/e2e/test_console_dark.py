@@ -1,6 +1,5 @@
 """The console on a desktop with a dark theme: it keeps its own paper and colours, and everything around can be read."""
 
-import time
 
 import person
 from person import wait_until
@@ -59,11 +58,9 @@ def test_the_hint_and_the_menus_can_be_read(scratch):
     view.point(*view.middle(60, 20))
     person.xdotool("click", 1)
     before = view.settled()
-    person.xdotool("click", 3)
-    wait_until("the hint", lambda: view.now().bytes != before.bytes)
-    time.sleep(0.3)
+    left, top, right, bottom = frame_of(before.changes(view.hint(before)))
     picture(scratch, "dark-hint")
-    left, top, right, bottom = frame_of(before.changes(view.now()))
+    view.hint(before)
     # Its letters begin to the right of the icon.
     letters = 100
     stands_out("hint", (view.area[0] + left + letters, view.area[1] + top, right - left - letters, bottom - top), READABLE)
@@ -78,13 +75,12 @@ def test_the_hint_and_the_menus_can_be_read(scratch):
         areas = {entry: console.control(entry).area for entry in entries}
         # Whatever is under the pointer has another ground.
         person.xdotool("mousemove", 5, 5)
-        time.sleep(0.3)
+        view.settled()
         picture(scratch, f"dark-menu-{menu}")
         for entry, area in areas.items():
             stands_out(entry, area, READABLE)
         person.key("Escape")
-        time.sleep(0.3)
-    assert view.settled().bytes == before.bytes, "nothing but the menus has changed"
+    wait_until("the console as it was", lambda: view.settled().bytes == before.bytes)
 
 
 def test_the_toolbars_pictures_stand_out(scratch):
@@ -93,7 +89,7 @@ def test_the_toolbars_pictures_stand_out(scratch):
     shows(scratch, console, "> ")
     console.activate()
     person.xdotool("mousemove", 5, 5)
-    time.sleep(0.5)
+    View(console).settled()
     picture(scratch, "dark-toolbar")
     seen = []
     for one in console.controls():

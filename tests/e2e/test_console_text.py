@@ -8,7 +8,7 @@ import time
 import person
 from person import wait_until
 from picture import BLACK, WHITE, Picture
-from test_console import BANNER, nothing_left, nothing_left_three_seconds_later, shows, started
+from test_console import BANNER, nothing_left, nothing_left_but, shows, started
 from test_console_pictures import MARGIN, View
 from world import type_line
 
@@ -59,7 +59,7 @@ def test_letters_of_every_width_stand_in_their_columns(scratch):
 def test_a_line_of_a_million_characters_neither_freezes_nor_breaks_the_console(scratch):
     _, console = started(scratch, scratch.source("LongLine.java"))
     line = "0123456789" * 100000 + "MMMM"
-    display = shows(scratch, console, "MMMM", 60)
+    display = shows(scratch, console, "MMMM")
     assert "\n" + line + "\n" in display
     console.activate()
     area = view_area(console)
@@ -80,15 +80,15 @@ def test_a_line_of_a_million_characters_neither_freezes_nor_breaks_the_console(s
     begin = time.monotonic()
     person.type_text("typed")
     # It stands where the end of the line stood, which has moved to the left.
-    wait_until("what was typed", lambda: letters(Picture(area), x - 40, top, "black") > 40, 5)
+    wait_until("what was typed", lambda: letters(Picture(area), x - 40, top, "black") > 40)
     assert letters(Picture(area), x - 100, top, "blue") > 100
     person.key("Left", "Left", "BackSpace", "End")
     # A busy machine has its time; a console that goes through its whole text at each key takes minutes.
-    assert time.monotonic() - begin < 30, "the console hardly answers"
+    assert time.monotonic() - begin < person.LIMIT / 2, "the console hardly answers"
     person.key("ctrl+a", "ctrl+c")
     copied = subprocess.run(["xclip", "-selection", "clipboard", "-out"], stdin=subprocess.DEVNULL,
-                            stdout=subprocess.PIPE, check=True, timeout=30).stdout.decode()
-    assert copied.replace("\r\n", "\n").strip("\n") == line + "tyed", len(copied)
+                            stdout=subprocess.PIPE, check=True, timeout=person.LIMIT).stdout.decode()
+    assert "\r" not in copied and copied.strip("\n") == line + "tyed", len(copied)
     person.key("KP_Enter")
     display = shows(scratch, console, "got: tyed\n")
     assert "\n" + line + "tyed\n" in display
@@ -115,9 +115,9 @@ def test_a_recording_holds_every_line_of_a_flood(scratch):
     person.key("Escape")
     console.activate()
     person.key("Return")
-    # What is recorded reaches the disk in blocks: the last line is there when the recording has been stopped.
-    wait_until("the flood in the record", lambda: os.path.getsize(path) > len("\n".join(wanted)) - 8192, 60)
-    time.sleep(1)
+    # The line that the key was pressed on, and the last one of the program.
+    whole = len("\n".join(["", *wanted, "last", ""]))
+    wait_until("the flood in the record", lambda: os.path.getsize(path) >= whole)
     console.press("File")
     console.press("Stop recording lines")
     with open(path, encoding="utf-8") as text:
@@ -154,13 +154,13 @@ def test_a_program_that_ignores_the_request_to_end_goes_with_its_console(scratch
     panel, console = deaf(scratch)
     console.close()
     console.is_gone()
-    nothing_left_three_seconds_later(scratch, panel.process)
+    nothing_left_but(scratch, panel.process)
 
 
 def test_a_program_that_ignores_the_request_to_end_goes_with_a_killed_console(scratch):
     panel, console = deaf(scratch)
     os.kill(console.process, signal.SIGKILL)
-    nothing_left_three_seconds_later(scratch, panel.process)
+    nothing_left_but(scratch, panel.process)
 
 
 def test_letters_beyond_ascii_come_from_the_keyboard_too(scratch):
@@ -173,10 +173,15 @@ def test_letters_beyond_ascii_come_from_the_keyboard_too(scratch):
 
 
 def type_slowly(console, text):
-    """Letters that the keyboard does not have get a key of their own for a moment, which takes its time."""
+    """Letters that the keyboard does not have get keys of their own first: for a moment only, as the tool would do it by
+    itself, a busy machine might not notice them."""
+    listed = subprocess.run(["xmodmap", "-pke"], stdin=subprocess.DEVNULL, stdout=subprocess.PIPE, text=True, check=True)
+    free = [line.split()[1] for line in listed.stdout.splitlines() if line.endswith("=")]
+    for letter in sorted(set(text)):
+        if not letter.isascii():
+            subprocess.run(["xmodmap", "-e", f"keycode {free.pop()} = U{ord(letter):04X}"], stdin=subprocess.DEVNULL, check=True)
     console.activate()
-    person.xdotool("type", "--delay", 300, text)
-    time.sleep(0.5)
+    person.xdotool("type", "--delay", 100, text)
 
 
 def test_what_is_typed_ahead_is_answered_line_by_line(scratch):

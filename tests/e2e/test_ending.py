@@ -29,7 +29,7 @@ def leftovers(scratch):
 def split_under_way(scratch):
     """The panel in the middle of a compilation for which it has split the source."""
     source = scratch.sample("Shapes.java")
-    panel, record = panel_with_stand_ins(scratch, "sleep 60000\n")
+    panel, record = panel_with_stand_ins(scratch, "sleep 3600000\n")
     panel.activate()
     panel.write(world.quoted(source))
     panel.press("javac")
@@ -43,14 +43,14 @@ def expect_the_end(scratch, number):
     """Tells the program to end. It does so without a complaint; what GTK said while it was looked at is no matter."""
     program, said = scratch.running[-1], scratch.messages()
     program.send_signal(number)
-    assert program.wait(20) == 0
+    assert program.wait(person.LIMIT) == 0
     assert scratch.messages() == said, scratch.messages()
     assert not leftovers(scratch), leftovers(scratch)
 
 
 def expect_an_end_without_traces(scratch, number):
     expect_the_end(scratch, number)
-    wait_until("the end of the tool", lambda: not scratch.processes("javac"), 5)
+    wait_until("the end of the tool", lambda: not scratch.processes("javac"))
     assert os.listdir(scratch.work) == ["Shapes.java"], os.listdir(scratch.work)
     assert not scratch.editor_notes(), "nobody is shown what the tool has said"
 
@@ -108,7 +108,7 @@ def test_behind_a_nohup_it_outlives_its_terminal(scratch):
     time.sleep(2)
     assert program.poll() is None
     panel.press("Exit")
-    assert program.wait(20) == 0
+    assert program.wait(person.LIMIT) == 0
 
 
 def after_a_run(scratch):
@@ -151,7 +151,7 @@ def test_at_the_welcome_it_ends_as_if_it_had_not_been_started(scratch):
     program = scratch.start()
     Window("Welcome to Tarnwick")
     program.terminate()
-    program.wait(20)
+    program.wait(person.LIMIT)
     assert not os.path.exists(scratch.configuration)
     scratch.start()
     Window("Welcome to Tarnwick")

@@ -5,6 +5,7 @@ import shutil
 import urllib.parse
 
 import person
+import world
 from person import Window, wait_until
 
 
@@ -85,9 +86,7 @@ def test_a_lost_guide_is_asked_for_and_remembered(scratch):
     dialog = Window(chooser.name)
     dialog.activate()
     person.key("ctrl+l")
-    person.put_on_clipboard(found)
-    person.key("ctrl+a", "ctrl+v")
-    person.key("Return")
+    world.enter_path(dialog, found)
     question.is_gone()
     address, = opened(scratch)
     assert address.endswith("F%C3%BChrer%20%231.htm"), address

@@ -7,7 +7,7 @@ import signal
 import person
 import world
 from person import NotSeen, wait_until
-from test_console import BANNER, hook_was_here, nothing_left, nothing_left_three_seconds_later, shows
+from test_console import BANNER, hook_was_here, nothing_left, nothing_left_but, shows
 from world import type_line
 
 TIPS = ["run", "Step in", "Step over", "Step out", "Continue", "Show local variables", "Show current object (dump this)",
@@ -21,14 +21,14 @@ def debugged(scratch, *arguments, launch=True, source="Countdown"):
     program, panel = scratch.first_start()
     if not launch:
         panel.press("Exit")
-        program.wait(20)
+        program.wait(person.LIMIT)
         scratch.change_settings(JDB_LAUNCH="OFF")
         scratch.start()
         panel = person.Window("Tarnwick")
     path = scratch.compile(panel, scratch.source(source + ".java"))
     panel.write(" ".join([world.quoted(path), *arguments]), index=1)
     panel.press("jdb debug")
-    return panel, person.Window(source, seconds=40)
+    return panel, person.Window(source)
 
 
 # The debugger hands on its program's output character by character, with its own words in between as they come.
@@ -45,7 +45,7 @@ def said(scratch, console, words):
         display = scratch.saved_display(console)
         return display if pattern.search(display) else None
     try:
-        return wait_until(f"{words!r} from the program", heard, 30)
+        return wait_until(f"{words!r} from the program", heard)
     except NotSeen as e:
         raise NotSeen(f"{e}; the console shows:\n{display}") from None
 
@@ -70,7 +70,7 @@ def count(scratch, console, text, wanted):
         display = scratch.saved_display(console)
         return display if display.count(text) >= wanted else None
     try:
-        return wait_until(f"{wanted} times {text!r} in the console", enough, 30)
+        return wait_until(f"{wanted} times {text!r} in the console", enough)
     except NotSeen as e:
         raise NotSeen(f"{e}; the console shows:\n{display}") from None
 
@@ -193,7 +193,7 @@ def test_the_help_entry_of_the_menu_asks_the_debugger(scratch):
 def test_the_function_keys_of_every_group_type_their_texts(scratch):
     program, panel = scratch.first_start()
     panel.press("Exit")
-    program.wait(20)
+    program.wait(person.LIMIT)
     # Each key tells its group and itself; a blank at the end leaves the text in the line.
     groups = "!".join(";".join(f"g{group}f{key} " for key in range(5, 13)) for group in range(8))
     scratch.change_settings(FUNCTIONKEYS=groups, JDB_LAUNCH="OFF")
@@ -202,7 +202,7 @@ def test_the_function_keys_of_every_group_type_their_texts(scratch):
     path = scratch.compile(panel, scratch.source("Countdown.java"))
     panel.write(world.quoted(path), index=1)
     panel.press("jdb debug")
-    console = person.Window("Countdown", seconds=40)
+    console = person.Window("Countdown")
     shows(scratch, console, "> ")
     console.activate()
     wanted = "> "
@@ -226,14 +226,14 @@ def test_closing_the_console_ends_the_debugger_and_its_program(scratch):
     both_run(scratch, console)
     console.close()
     console.is_gone()
-    nothing_left_three_seconds_later(scratch, panel.process)
+    nothing_left_but(scratch, panel.process)
 
 
 def test_a_killed_console_leaves_no_debugger(scratch):
     panel, console = debugged(scratch)
     both_run(scratch, console)
     os.kill(console.process, signal.SIGKILL)
-    nothing_left_three_seconds_later(scratch, panel.process)
+    nothing_left_but(scratch, panel.process)
 
 
 def without_panel(scratch):
@@ -241,7 +241,7 @@ def without_panel(scratch):
     panel, console = debugged(scratch)
     both_run(scratch, console)
     os.kill(panel.process, signal.SIGKILL)
-    scratch.running[0].wait(10)
+    scratch.running[0].wait(person.LIMIT)
     panel.is_gone()
     type_line(console, "stop in Countdown.tell")
     shows(scratch, console, "Deferring breakpoint Countdown.tell")
@@ -252,12 +252,12 @@ def test_the_debugger_outlives_the_panel_and_ends_with_its_console(scratch):
     console = without_panel(scratch)
     console.close()
     console.is_gone()
-    nothing_left_three_seconds_later(scratch)
+    nothing_left_but(scratch)
 
 
 def test_a_killed_console_whose_panel_is_gone_leaves_no_debugger(scratch):
     os.kill(without_panel(scratch).process, signal.SIGKILL)
-    nothing_left_three_seconds_later(scratch)
+    nothing_left_but(scratch)
 
 
 def running_with_a_hook(scratch):
@@ -274,14 +274,14 @@ def test_closing_the_console_lets_the_hooks_of_a_debugged_program_run(scratch):
     panel, console = running_with_a_hook(scratch)
     console.close()
     console.is_gone()
-    nothing_left_three_seconds_later(scratch, panel.process)
+    nothing_left_but(scratch, panel.process)
     assert hook_was_here(scratch)
 
 
 def test_killing_the_console_lets_the_hooks_of_a_debugged_program_run(scratch):
     panel, console = running_with_a_hook(scratch)
     os.kill(console.process, signal.SIGKILL)
-    nothing_left_three_seconds_later(scratch, panel.process)
+    nothing_left_but(scratch, panel.process)
     assert hook_was_here(scratch)
 
 
@@ -291,7 +291,7 @@ def test_a_debugger_that_is_killed_does_not_leave_a_program_that_runs(scratch):
     shows(scratch, console, BANNER)
     console.close()
     console.is_gone()
-    nothing_left_three_seconds_later(scratch, panel.process)
+    nothing_left_but(scratch, panel.process)
 
 
 def test_a_debugger_that_is_killed_leaves_no_program(scratch):
@@ -302,4 +302,4 @@ def test_a_debugger_that_is_killed_leaves_no_program(scratch):
     shows(scratch, console, BANNER)
     console.close()
     console.is_gone()
-    nothing_left_three_seconds_later(scratch, panel.process)
+    nothing_left_but(scratch, panel.process)

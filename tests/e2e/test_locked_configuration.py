@@ -92,11 +92,10 @@ def choose_folder(question, folder):
     question.press("Browse")
     chooser = wait_until("the folder browser", lambda: next(
         (one for one in person.look() if one.role == "file chooser"), None))
-    Window(chooser.name).activate()
+    dialog = Window(chooser.name)
+    dialog.activate()
     person.key("ctrl+l")
-    person.put_on_clipboard(folder)
-    person.key("ctrl+a", "ctrl+v")
-    person.key("Return")
+    world.enter_path(dialog, folder)
     question.is_gone()
 
 
@@ -122,7 +121,7 @@ def test_configuration_that_may_only_be_read(scratch):
     words = message()
     assert f'The following environment variable definition has been created:\n\nTARNWICK_CFGDIR="{other}"' in words, words
     press_ok()
-    (arguments, content), *_ = wait_until("the compiler's messages in the editor", scratch.editor_notes, 60)
+    (arguments, content), *_ = wait_until("the compiler's messages in the editor", scratch.editor_notes)
     assert arguments == [os.path.join(other, "Tarnwick_LOG1.tmp")], arguments
     assert "Broken.java" in content, content
     listens(panel)
@@ -161,7 +160,7 @@ def test_configuration_of_another_user(scratch):
     console.close()
     console.is_gone()
     panel.press("Exit")
-    assert scratch.running[-1].wait(20) == 0
+    assert scratch.running[-1].wait(person.LIMIT) == 0
 
 
 def test_configuration_on_a_full_disk(scratch):
@@ -170,7 +169,7 @@ def test_configuration_on_a_full_disk(scratch):
     panel = first_use(scratch, FULL)
     compile_and_decline(scratch, panel, source, FULL)
     panel.press("Exit")
-    assert scratch.running[-1].wait(20) == 0
+    assert scratch.running[-1].wait(person.LIMIT) == 0
 
 
 def test_damaged_configuration(scratch):
@@ -184,7 +183,7 @@ def test_damaged_configuration(scratch):
     assert len(scratch.settings()) == 111
     assert scratch.settings()["JAVA_XMS"] == "64m"
     panel.press("Exit")
-    assert program.wait(20) == 0
+    assert program.wait(person.LIMIT) == 0
 
 
 def test_configuration_that_is_a_link_stays_one(scratch):
@@ -193,7 +192,7 @@ def test_configuration_that_is_a_link_stays_one(scratch):
     os.symlink(real, scratch.configuration)
     program, panel = scratch.first_start()
     panel.press("Exit")
-    assert program.wait(20) == 0
+    assert program.wait(person.LIMIT) == 0
     assert os.path.islink(scratch.configuration)
     assert len(scratch.settings()) == 111
     assert os.listdir(scratch.config) == ["Tarnwickdefault.CFG"] and os.listdir(os.path.dirname(real)) == ["meine.cfg"]
@@ -210,7 +209,7 @@ def test_configuration_that_is_a_pipe_holds_nobody_up(scratch):
     panel = Window("Tarnwick")
     listens(panel)
     panel.press("Exit")
-    assert program.wait(20) == 0
+    assert program.wait(person.LIMIT) == 0
     assert stat.S_ISFIFO(os.stat(scratch.configuration).st_mode)
 
 
@@ -222,7 +221,7 @@ def test_configuration_folder_that_is_missing_is_made(scratch):
     program, panel = scratch.first_start()
     assert len(scratch.settings()) == 111
     panel.press("Exit")
-    assert program.wait(20) == 0
+    assert program.wait(person.LIMIT) == 0
     assert os.listdir(scratch.config) == ["Tarnwickdefault.CFG"]
 
 
@@ -235,7 +234,7 @@ def test_huge_configuration(scratch):
     panel = Window("Tarnwick")
     listens(panel)
     panel.press("Exit")
-    assert program.wait(20) == 0
+    assert program.wait(person.LIMIT) == 0
     with open(scratch.configuration, "w", encoding="utf-8") as out:
         out.write("JAVA_XMS  64m\n" + "SOMEBODY  else's\n" * 100000)
     program = scratch.start()

@@ -1,5 +1,6 @@
 """The panel's three layouts and its two views."""
 
+import person
 from person import Window, key, wait_until, xdotool
 from test_start import settled_area
 
@@ -13,7 +14,8 @@ def size(panel):
 
 def is_laid_out(scratch, panel, layout, fits):
     wait_until(f"the layout {layout}", lambda: fits(*size(panel)))
-    assert scratch.settings()["PANEL_LAYOUT"] == layout
+    wait_until("the saved layout", lambda: scratch.settings()["PANEL_LAYOUT"] == layout)
+    scratch.listens(panel)
     return size(panel)
 
 
@@ -31,7 +33,7 @@ def is_flat(width, height):
 
 def restarted(program, scratch, panel):
     panel.press("Exit")
-    assert program.wait(20) == 0
+    assert program.wait(person.LIMIT) == 0
     return scratch.start(), Window("Tarnwick")
 
 
@@ -45,7 +47,7 @@ def test_layout_buttons_change_the_layout_and_the_next_start_finds_it_again(scra
     panel.press(FLAT)
     flat = is_laid_out(scratch, panel, "FLAT", is_flat)
     panel.close()
-    assert program.wait(20) == 0
+    assert program.wait(person.LIMIT) == 0
     program, panel = scratch.start(), Window("Tarnwick")
     assert size(panel) == flat
     # Each layout's own button leads on, by mouse and by keyboard; the one that took its place has the focus.
@@ -54,7 +56,7 @@ def test_layout_buttons_change_the_layout_and_the_next_start_finds_it_again(scra
     key("space")
     assert is_laid_out(scratch, panel, "FLAT", is_flat) == flat
     panel.close()
-    assert program.wait(20) == 0
+    assert program.wait(person.LIMIT) == 0
 
 
 def test_flat_layout_is_no_wider_than_the_screen(scratch):
@@ -65,9 +67,10 @@ def test_flat_layout_is_no_wider_than_the_screen(scratch):
     assert size(panel)[0] <= screen
     panel.press("Projectview")
     assert panel.control("Fileview")
+    scratch.listens(panel)
     assert size(panel)[0] <= screen
     panel.close()
-    assert program.wait(20) == 0
+    assert program.wait(person.LIMIT) == 0
 
 
 def test_open_tab_is_remembered(scratch):
@@ -75,7 +78,7 @@ def test_open_tab_is_remembered(scratch):
     panel.control("Utilities", "page tab").click()
     wait_until("the saved tab", lambda: scratch.settings()["FILEVIEW_TAB"] == "2")
     panel.close()
-    assert program.wait(20) == 0
+    assert program.wait(person.LIMIT) == 0
     scratch.start()
     assert Window("Tarnwick").control("Utilities", "page tab").selected
 
@@ -86,6 +89,7 @@ def test_views_switch_and_share_the_layout(scratch):
     assert "Browse" in panel.labels()
     panel.press("Projectview")
     assert panel.control("Fileview")
+    scratch.listens(panel)
     assert "Project" in panel.labels() and "Browse" not in panel.labels()
     assert size(panel) == tall
     for label in ("Files", "Edit", "javac  all", "javac", "Select", "jdb debug", "java", "Settings"):
@@ -96,13 +100,14 @@ def test_views_switch_and_share_the_layout(scratch):
     is_laid_out(scratch, panel, "HORIZONTAL", is_wide)
     panel.press("Fileview")
     assert panel.control("Projectview")
+    scratch.listens(panel)
     assert is_wide(*size(panel)) and "Browse" in panel.labels()
     program, panel = restarted(program, scratch, panel)
     assert panel.control("Projectview") and is_wide(*size(panel))
     panel.press(TALL)
     is_laid_out(scratch, panel, "VERTICAL", is_tall)
     panel.press("Exit")
-    assert program.wait(20) == 0
+    assert program.wait(person.LIMIT) == 0
 
 
 def test_escape_leaves_either_view_and_notes_where_the_window_stood(scratch):
@@ -112,15 +117,15 @@ def test_escape_leaves_either_view_and_notes_where_the_window_stood(scratch):
         if view == "Projectview":
             panel.press(view)
             assert panel.control("Fileview")
-        xdotool("windowmove", panel.x_number(), left, top)
+        xdotool("windowmove", "--sync", panel.x_number(), left, top)
         place = settled_area(panel)
         panel.activate()
         key("Escape")
-        assert program.wait(20) == 0
+        assert program.wait(person.LIMIT) == 0
         program, panel = scratch.start(), Window("Tarnwick")
         assert settled_area(panel)[:2] == place[:2], view
         panel.close()
-        assert program.wait(20) == 0
+        assert program.wait(person.LIMIT) == 0
 
 
 def test_window_of_a_screen_that_is_gone_shows_whole(scratch):
@@ -131,6 +136,6 @@ def test_window_of_a_screen_that_is_gone_shows_whole(scratch):
         left, top, width, height = settled_area(panel)
         assert 0 <= left and left + width <= 1280 and 0 <= top and top + height <= 1024, (place, left, top)
         panel.press("Exit")
-        assert program.wait(20) == 0
+        assert program.wait(person.LIMIT) == 0
         kept = [int(one) for one in scratch.settings()["WINDOW_POSITION"].split(";")]
         assert kept[0] < 1280 and kept[1] < 1024, (place, kept)

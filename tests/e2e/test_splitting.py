@@ -32,7 +32,7 @@ def remove_classes(scratch):
 
 def wait_for_classes(scratch):
     """The pieces go after the compiler, so what is left are the source and its classes."""
-    wait_until("the classes and no pieces", lambda: folder(scratch) == sorted(CLASSES + ["Shapes.java"]), 60)
+    wait_until("the classes and no pieces", lambda: folder(scratch) == sorted(CLASSES + ["Shapes.java"]))
 
 
 def test_shapes_are_split_compiled_and_run(scratch):
@@ -54,7 +54,7 @@ def test_shapes_are_split_compiled_and_run(scratch):
     wait_until("the panel", lambda: panel.control("javac").enabled)
     assert scratch.editor_notes() == []
     console = scratch.run_class(panel, os.path.join(scratch.work, "Gallery.class"))
-    wait_until("the areas", lambda: "Circle: area 3.14\nRectangle: area 6.00" in scratch.saved_display(console), 30)
+    wait_until("the areas", lambda: "Circle: area 3.14\nRectangle: area 6.00" in scratch.saved_display(console))
 
 
 def test_cancel_compiles_nothing(scratch):
@@ -98,7 +98,7 @@ def test_the_box_keeps_the_warning_away_until_the_next_start(scratch):
     press_javac(scratch, source)
     wait_for_classes(scratch)
     panel.press("Exit")
-    program.wait(20)
+    program.wait(person.LIMIT)
     remove_classes(scratch)
     scratch.start()
     press_javac(scratch, source)
@@ -114,7 +114,7 @@ def test_a_mistake_in_one_of_the_types_is_told_and_leaves_no_pieces(scratch):
     scratch.first_start()
     press_javac(scratch, source)
     Window(WARNING).press("Compile")
-    (_, log), = wait_until("the log in the editor", scratch.editor_notes, 60)
+    (_, log), = wait_until("the log in the editor", scratch.editor_notes)
     assert "javac -d . -g -classpath . Shape.java Circle.java Rectangle.java Gallery.java" in log, log
     assert "Rectangle.java:" in log and "error: cannot find symbol" in log, log
     assert [name for name in folder(scratch) if name.endswith(".java")] == ["Shapes.java"]

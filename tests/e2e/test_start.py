@@ -30,7 +30,7 @@ def test_first_start_welcomes_asks_for_the_jdk_and_saves_all_settings(scratch):
     assert scratch.settings()["JAVA_PATH"] == folder
     assert scratch.settings()["TARNWICK_VERSION"] == world.VERSION
     panel.press("Exit")
-    assert program.wait(20) == 0
+    assert program.wait(person.LIMIT) == 0
 
 
 def test_cancel_at_the_first_start_still_saves_and_opens_the_panel(scratch):
@@ -40,7 +40,7 @@ def test_cancel_at_the_first_start_still_saves_and_opens_the_panel(scratch):
     panel = Window("Tarnwick")
     assert len(scratch.settings()) == 111
     panel.press("Exit")
-    assert program.wait(20) == 0
+    assert program.wait(person.LIMIT) == 0
 
 
 def test_second_start_goes_straight_to_the_panel(scratch):
@@ -50,7 +50,7 @@ def test_second_start_goes_straight_to_the_panel(scratch):
     assert [one.name for one in person.look()] == ["Tarnwick"]
     assert [panel.control(label).label for label in ("Main program", "Applet", "Utilities")]
     panel.press("Exit")
-    assert program.wait(20) == 0
+    assert program.wait(person.LIMIT) == 0
 
 
 def test_what_this_program_cannot_do_yet_is_disabled(scratch):
@@ -75,10 +75,10 @@ def test_another_version_is_told_of_the_upgrade(scratch):
 
 def test_position_is_remembered(scratch):
     program, panel = scratch.first_start()
-    person.xdotool("windowmove", panel.x_number(), 340, 210)
+    person.xdotool("windowmove", "--sync", panel.x_number(), 340, 210)
     before = settled_area(panel)
     panel.press("Exit")
-    program.wait(20)
+    program.wait(person.LIMIT)
     scratch.start()
     assert settled_area(Window("Tarnwick")) == before
     assert scratch.settings()["WINDOW_POSITION"] != ""
@@ -100,6 +100,7 @@ def test_keyboard_alone_reaches_and_presses_every_button(scratch):
     met = set()
     for _ in range(40):
         person.key("Tab")
+        scratch.listens(panel)
         met |= {one.label for one in panel.controls() if one.focused and one.role == "push button"}
         if met >= wanted:
             break
@@ -108,14 +109,15 @@ def test_keyboard_alone_reaches_and_presses_every_button(scratch):
         if any(one.focused and one.label == "Exit" for one in panel.controls()):
             break
         person.key("Tab")
+        scratch.listens(panel)
     person.key("space")
-    assert program.wait(20) == 0
+    assert program.wait(person.LIMIT) == 0
 
 
 def test_close_box_ends_the_program(scratch):
     program, panel = scratch.first_start()
     panel.close()
-    assert program.wait(20) == 0
+    assert program.wait(person.LIMIT) == 0
 
 
 def test_nothing_is_written_outside_the_configuration_folder_and_the_users_files(scratch):
@@ -126,7 +128,7 @@ def test_nothing_is_written_outside_the_configuration_folder_and_the_users_files
     console.close()
     console.is_gone()
     panel.press("Exit")
-    program.wait(20)
+    program.wait(person.LIMIT)
     after = scratch.listing()
     changed = {name for name in after if before.get(name) != after[name]} | (before.keys() - after.keys())
     own = (os.path.relpath(scratch.config, scratch.root) + os.sep, os.path.relpath(scratch.work, scratch.root) + os.sep)

@@ -66,7 +66,7 @@ def is_refused(scratch, words, *arguments):
     before = scratch.listing()
     program = scratch.start(*arguments)
     press_ok(box_that_says(words))
-    assert program.wait(20) == 1
+    assert program.wait(person.LIMIT) == 1
     assert person.look() == []
     assert scratch.listing() == before
 
@@ -76,7 +76,7 @@ def opens_the_panel(scratch, *arguments):
     panel = Window("Tarnwick")
     assert [one.name for one in person.look()] == ["Tarnwick"]
     panel.press("Exit")
-    assert program.wait(20) == 0
+    assert program.wait(person.LIMIT) == 0
 
 
 def shows(scratch, console, text):
@@ -90,7 +90,7 @@ def ends(console, program):
     """The close box ends console and child."""
     console.close()
     console.is_gone()
-    assert program.wait(20) == 0
+    assert program.wait(person.LIMIT) == 0
 
 
 def test_no_argument_and_an_empty_one_open_the_panel(scratch):

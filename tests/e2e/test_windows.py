@@ -35,18 +35,18 @@ def test_first_start_welcomes_asks_for_the_jdk_and_saves_all_settings(scratch):
     assert rows[-1] == "" and len(rows) == 2 + 111 + 1 and "\n" not in "".join(rows), len(rows)
     assert scratch.settings()["JAVA_PATH"] == windows_path(scratch.jdk) + "\\"
     panel.press("Exit")
-    assert program.wait(20) == 0
+    assert program.wait(person.LIMIT) == 0
 
 
 def test_second_start_goes_straight_to_the_panel(scratch):
     program, panel = scratch.first_start()
     panel.press("Exit")
-    assert program.wait(20) == 0
+    assert program.wait(person.LIMIT) == 0
     program = scratch.start()
     panel = Window("Tarnwick")
     assert [one.name for one in person.look()] == ["Tarnwick"]
     panel.press("Exit")
-    assert program.wait(20) == 0
+    assert program.wait(person.LIMIT) == 0
 
 
 def test_compiler_gets_its_arguments_and_its_errors_are_shown(scratch):

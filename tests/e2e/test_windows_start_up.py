@@ -43,7 +43,7 @@ def test_default_folder_that_cannot_be_entered_is_refused(scratch):
 def test_no_argument_and_a_project_file_open_the_panel(scratch):
     program, panel = scratch.first_start()
     panel.press("Exit")
-    assert program.wait(20) == 0
+    assert program.wait(person.LIMIT) == 0
     opens_the_panel(scratch)
     opens_the_panel(scratch, scratch.made("my dir a.TWP", b"REM\r\n"))
     opens_the_panel(scratch, scratch.made("b.twp", b"REM\r\n"))

@@ -11,9 +11,9 @@ import shutil
 import signal
 import subprocess
 import tempfile
-import time
 
 import person
+import window_manager
 from person import Window, wait_until
 
 VERSION = "Tarnwick V4.7a"
@@ -43,7 +43,7 @@ def start_bus(folder):
 
     def end():
         bus.terminate()
-        bus.wait(10)
+        bus.wait(person.LIMIT)
     atexit.register(end)
     # Ended from outside, the process still has to end what it started.
     signal.signal(signal.SIGTERM, lambda *_: os.sys.exit(143))
@@ -109,7 +109,7 @@ class World:
             except ProcessLookupError:
                 pass
         for program in self.running:
-            program.wait(10)
+            program.wait(person.LIMIT)
         for folder, _folders, _files in os.walk(self.root):
             os.chmod(folder, 0o700)
         shutil.rmtree(self.root)
@@ -126,7 +126,7 @@ class World:
 
     def compiled(self, path, *options):
         """Compiles a source without the program; gives the class file."""
-        subprocess.run([real_javac(), "-encoding", "UTF-8", *options, path], check=True, timeout=120, env=self.environment)
+        subprocess.run([real_javac(), "-encoding", "UTF-8", *options, path], check=True, timeout=person.LIMIT, env=self.environment)
         return path.removesuffix(".java") + ".class"
 
     def messages(self):
@@ -223,7 +223,7 @@ class World:
         """A configuration as the first start leaves it, without walking through the windows for each test."""
         program, panel = self.first_start()
         panel.press("Exit")
-        program.wait(20)
+        program.wait(person.LIMIT)
 
     def compile(self, panel, source):
         """Types a source into the panel and presses "javac"; waits until the class is there and the panel listens again."""
@@ -231,19 +231,25 @@ class World:
         panel.activate()
         panel.write(quoted(source))
         panel.press("javac")
-        wait_until("the class", lambda: os.path.exists(compiled), 60)
+        wait_until("the class", lambda: os.path.exists(compiled))
         # While the compiler runs the panel takes no input. The settings are saved last of all.
         wait_until("the end of the compilation", lambda: not self.processes("javac") and
-                   os.stat(self.configuration).st_mtime_ns > os.stat(compiled).st_mtime_ns, 60)
-        time.sleep(0.5)
+                   os.stat(self.configuration).st_mtime_ns > os.stat(compiled).st_mtime_ns)
+        wait_until("the panel", lambda: panel.control("javac").enabled)
         return compiled
+
+    @staticmethod
+    def listens(window):
+        """Waits until the window's program has worked off what happened to the window so far."""
+        with window_manager.Asker() as asker:
+            wait_until(f"an answer of {window.title!r}", lambda: asker.answers(int(window.x_number())))
 
     def run_class(self, panel, path):
         """Types a class file into the panel and presses "java"; gives the console's window."""
         panel.activate()
         panel.write(quoted(path), index=1)
         panel.press("java")
-        return Window(os.path.basename(path).removesuffix(".class"), seconds=40)
+        return Window(os.path.basename(path).removesuffix(".class"))
 
     def saved_display(self, console, name="display.txt"):
         """What the console shows, by way of its menu."""
@@ -274,12 +280,20 @@ def answer_file_dialog(path, owner):
         (one for one in person.look() if one.role in ("file chooser", "dialog") and one.name != owner.title), None))
     dialog = Window(chooser.name)
     dialog.activate()
-    person.key("ctrl+a")
-    person.put_on_clipboard(path)
-    person.key("ctrl+v")
-    time.sleep(0.3)
-    person.key("Return")
+    enter_path(dialog, path)
     dialog.is_gone()
+
+
+def enter_path(dialog, path):
+    """Types a path into the field of a file dialog that has the focus, and presses Return."""
+    person.put_on_clipboard(path)
+
+    def entered():
+        person.key("ctrl+a", "ctrl+v")
+        # A folder may be completed by its separator.
+        return any(field.text in (path, path + "/") for field in dialog.fields())
+    wait_until("the path in the file dialog", entered)
+    person.key("Return")
 
 
 def quoted(path):

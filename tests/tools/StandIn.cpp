@@ -11,7 +11,7 @@
 //   keep FILE            adds the file's name and its bytes to the file STANDIN_RECORD + ".kept"
 //   sleep MS             waits
 //   given WORD           ends unless one of its arguments holds the word
-//   await WORD FILE      waits until the file holds the word, 15 seconds at most
+//   await WORD FILE      waits until the file holds the word, ten minutes at most
 //   readline             reads a line and writes "got: " and the line, or "end of input"
 //   grandchild MS        starts a copy of itself that keeps the standard streams and waits so long; its process number
 //                        is added, on a line of its own, to the file STANDIN_RECORD + ".pids"
@@ -141,7 +141,7 @@ void keep(const std::string& file) {
 /// `what` is a word and, behind a blank, a file.
 void await(const std::string& what) {
   const auto blank = what.find(' ');
-  for (int tries = 0; tries < 1500; ++tries) {
+  for (int tries = 0; tries < 60000; ++tries) {
     std::ostringstream content;
     content << std::ifstream(what.substr(blank + 1), std::ios::binary).rdbuf();
     if (content.str().find(what.substr(0, blank)) != std::string::npos) return;

@@ -6,6 +6,7 @@
 //   showlog FOLDER EDITNOTEPAD DISPLAYNOTEPAD TARGET        shows a log that lies in FOLDER; the log's path
 //   edit EDITNOTEPAD FILE TARGET                            opens FILE for editing; the result and the working folder
 //   register PROGRAM                                        makes it the opener of project files
+//   trash FILE                                              puts a copy into the trash; the result
 //   zip PROGRAM                                             command text of what Tarnwick, as PROGRAM, has for archives
 //
 // Messages to the user follow, each behind "message: ".
@@ -13,6 +14,7 @@
 #include "platform/Associations.h"
 #include "platform/FileSystem.h"
 #include "platform/ProjectType.h"
+#include "platform/Trash.h"
 #include "process/EditorLaunch.h"
 #include "process/ToolLog.h"
 #include "process/WinApp.h"
@@ -76,6 +78,7 @@ int main(int argc, char** argv) {
     const tarnwick::WinApp app(desktop, words.at(1));
     std::cout << app.runApp(words.at(2).c_str(), words.at(3).c_str(), 0) << '\n';
   }
+  if (words.at(0) == "trash") std::cout << tarnwick::platform::copyToTrash(words.at(1)) << '\n';
   if (words.at(0) == "register") tarnwick::platform::registerProjectType(words.at(1));
   if (words.at(0) == "zip") printZipApplication(desktop, words.at(1));
   if (words.at(0) == "edit") edit(desktop, words);

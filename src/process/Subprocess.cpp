@@ -2,6 +2,7 @@
 
 #include "base/Text.h"
 #include "platform/FileSystem.h"
+#include "platform/Folders.h"
 
 #include <chrono>
 #include <condition_variable>
@@ -177,7 +178,7 @@ bool Subprocess::run(FileForSubprocess* file, FileMode logOpenMode) {
   // The first word is the tool's own name, in whose place the system gets the executable.
   const auto blank = command.find(' ');
   const std::string tail = blank == std::string::npos ? "" : command.substr(blank);
-  const auto child = startChild(tail, command);
+  const auto child = startChild(fillsInNames_ ? platform::withNamesFilledIn(tail) : tail, command);
   if (!child) return false;
 
   std::optional<Tarnwickfile::FileNotOpenE> logFault;

@@ -34,6 +34,10 @@ class Subprocess {
   void addArg(const std::string& text);
   void addArg(const std::string& prefix, const std::string& tail);
 
+  /// The marks "*" and "?" among the arguments stand for names, as the tool itself fills them in on Windows; the log
+  /// shows them as they are.
+  void fillInNames() { fillsInNames_ = true; }
+
   /// Takes another executable and drops all arguments.
   void reset(const std::string& executable);
 
@@ -61,6 +65,7 @@ class Subprocess {
   ToolLog& log_;
   std::string executable_;
   std::vector<std::string> arguments_;
+  bool fillsInNames_ = false;
   std::atomic<std::size_t> outputBytes_{0};
 };
 

@@ -101,6 +101,24 @@ TEST_F(PosixSubprocessTest, WithoutPipesNothingIsStartedAndItIsTold) {
   EXPECT_EQ(log_.path(), "");
 }
 
+TEST_F(PosixSubprocessTest, NamesAreFilledInForTheToolAndNotInTheLog) {
+  const std::string before = platform::currentDirectory();
+  const test::ScratchFolder work;
+  for (const char* name : {"b", "a b", ".c"}) test::writeFile(work.file(name), "");
+  platform::changeDirectory(work.path());
+  script_.setScript("out x");
+  for (const bool filled : {false, true}) {
+    Subprocess tool(desktop_, log_, StandInScript::tool("jar"));
+    tool.addArg("jar");
+    tool.addArg("*");
+    if (filled) tool.fillInNames();
+    EXPECT_TRUE(tool.run(nullptr, FileMode::Write));
+    EXPECT_EQ(test::contentOf(log_.path()), "\n\njar *\n\nx\n");
+    EXPECT_EQ(script_.record(), filled ? "*\na b\nb\n" : "*\n");
+  }
+  platform::changeDirectory(before);
+}
+
 TEST_F(PosixSubprocessTest, NamesOfEveryKindReachTheToolAsTheyAre) {
   for (const std::string name : {"two words",  "100%",      "a & b", "$HOME",      "`id`",
                                  "say \"hi\"", "\"",        "end\\", "a\\\"b c\\", "it's",

@@ -13,9 +13,9 @@ namespace {
 namespace fs = std::filesystem;
 
 const std::map<std::string, int> floorOfFolder = {
-    {"platform", 0}, {"base", 1},   {"resources", 1}, {"dialogbase", 2}, {"process", 3},
-    {"settings", 4}, {"source", 5}, {"console", 5},   {"templates", 5},  {"project", 6},
-    {"dialogs", 7},  {"tools", 8},  {"app", 9},       {"ui", 10}};
+    {"platform", 0}, {"base", 1},    {"resources", 1}, {"dialogbase", 2}, {"process", 3},
+    {"settings", 4}, {"source", 5},  {"console", 5},   {"templates", 5},  {"project", 6},
+    {"tools", 7},    {"dialogs", 8}, {"app", 9},       {"ui", 10}};
 const int floorOfMain = 11;
 
 struct Include {

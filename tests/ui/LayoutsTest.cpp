@@ -1,3 +1,4 @@
+#include "dialogs/JarLayout.h"
 #include "resources/AddPathLayout.h"
 #include "resources/HelpLayouts.h"
 #include "resources/HintLayout.h"
@@ -51,6 +52,8 @@ std::vector<NamedLayout> allLayouts() {
           {"addPath", addPathLayout()},
           {"alternateLocation", alternateLocationLayout()},
           {"portabilityWarning", portabilityWarningLayout()},
+          {"jar", jarLayout()},
+          {"selectSubdirectory", selectSubdirectoryLayout()},
           {"hint", hintLayout()}};
 }
 
@@ -66,7 +69,9 @@ std::vector<NamedLayout> allDialogLayouts() {
           {"settings", settingsLayout()},
           {"addPath", addPathLayout()},
           {"alternateLocation", alternateLocationLayout()},
-          {"portabilityWarning", portabilityWarningLayout()}};
+          {"portabilityWarning", portabilityWarningLayout()},
+          {"jar", jarLayout()},
+          {"selectSubdirectory", selectSubdirectoryLayout()}};
 }
 
 void collect(const DialogItem& item, std::vector<DialogItem>& all) {

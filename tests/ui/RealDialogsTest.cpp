@@ -3,6 +3,10 @@
 #include "app/HelpFileDlg.h"
 #include "app/TarnwickDlg.h"
 #include "dialogbase/AddPathDlg.h"
+#include "dialogs/JarDlg.h"
+#include "dialogs/JarLayout.h"
+#include "dialogs/SelectSubdirectoryDlg.h"
+#include "platform/FileSystem.h"
 #include "project/ProjMainClassDlg.h"
 #include "project/ProjectFilesDlg.h"
 #include "project/RecentProjects.h"
@@ -123,6 +127,29 @@ std::vector<RealDialog> allDialogs() {
          return AlternateLocationDlg(desktop(), world.program, failure).runModal();
        },
        1164},
+      {"jarAtFirst",
+       [](ProgramWorld& world) {
+         const JarSession session;
+         return JarDlg(world.settings, session).runModal();
+       },
+       Jar::RUN},
+      {"jarWithAProject",
+       [](ProgramWorld& world) {
+         world.settings.currentProject = makeProject(world);
+         world.settings.lastJarArchive = longPath(world) + "demo.jar";
+         const JarSession session;
+         const int result = JarDlg(world.settings, session).runModal();
+         world.settings.currentProject.reset();
+         return result;
+       },
+       Jar::RUN},
+      {"selectSubdirectory",
+       [](ProgramWorld& world) {
+         for (const char* name : {"classes", "a folder with a long name"})
+           platform::makeFolders(world.scratch.file(name));
+         return SelectSubdirectoryDlg(desktop(), world.scratch.path()).runModal();
+       },
+       IDOK_CONTROL},
   };
 }
 

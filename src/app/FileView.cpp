@@ -58,10 +58,8 @@ void FileView::initialise(DialogWindow& window) {
   initialPage_ = settings_.fileviewTab;
   PanelDlg::initialise(window);
   bindFields(window);
-  // The utilities are not there yet.
-  for (const int control : {PanelPage::LEFT, PanelPage::MIDDLE, PanelPage::RIGHT}) {
-    pageWindow(UTILITIES).enable(control, false);
-  }
+  // Two of the utilities are not there yet.
+  for (const int control : {PanelPage::MIDDLE, PanelPage::RIGHT}) pageWindow(UTILITIES).enable(control, false);
 }
 
 void FileView::bindFields(DialogWindow& window) {
@@ -110,6 +108,7 @@ void FileView::onPageButton(int page, int control) {
   if (page == APPLET && control == PanelPage::LEFT) browse(htmlFilter, htmlFile_);
   if (page == APPLET && control == PanelPage::MIDDLE) runApplet(true);
   if (page == APPLET && control == PanelPage::RIGHT) runApplet(false);
+  if (page == UTILITIES && control == PanelPage::LEFT) runJar();
 }
 
 bool FileView::prepareFile(const char* filter, FileForSubprocess& file) {

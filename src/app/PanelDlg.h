@@ -2,6 +2,7 @@
 
 #include "app/PanelArrangement.h"
 #include "dialogbase/TabbedDialog.h"
+#include "dialogs/RunJar.h"
 #include "settings/Settings.h"
 
 #include <array>
@@ -71,6 +72,8 @@ class PanelDlg : public TabbedDialog {
   void setPartner(PanelDlg* partner, const std::string& switchLabel);
   /// Makes the three arrangements from the places where the controls stand now; once, when both panels stand.
   virtual void buildLayouts();
+  /// What opens ".ZIP" files here; outlives the panel.
+  void setZipApplication(const WinApp& application) { jarSession_.zipApplication = &application; }
   /// Arranges the panel as the settings say, puts the main window to its stored place and names it.
   virtual void applyLayout();
   virtual void updateTitle() = 0;
@@ -86,6 +89,8 @@ class PanelDlg : public TabbedDialog {
  protected:
   /// Starts the user's editor on a file, or on none with the empty text. False when no editor could be chosen.
   bool openEditor(const std::string& name);
+  /// The dialog "jar" and its run.
+  void runJar() { tarnwick::runJar(settings_, jarSession_); }
 
   /// The panel's own controls, in the order in which they stand side by side.
   virtual std::vector<int> ownControls() const = 0;
@@ -113,6 +118,7 @@ class PanelDlg : public TabbedDialog {
   PanelDlg* partner_ = nullptr;
   std::string title_;
   std::function<void()> endMainDialog_;
+  JarSession jarSession_;
 };
 
 }  // namespace tarnwick

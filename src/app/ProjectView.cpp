@@ -55,10 +55,8 @@ void ProjectView::initialise(DialogWindow& window) {
   PanelDlg::initialise(window);
   pageWindow(APPLET).show(PanelPage::LEFT, false);
   for (const int page : {APPLET, UTILITIES}) pageWindow(page).show(PanelPage::FIELD, false);
-  // The utilities are not there yet.
-  for (const int control : {PanelPage::LEFT, PanelPage::MIDDLE, PanelPage::RIGHT}) {
-    pageWindow(UTILITIES).enable(control, false);
-  }
+  // Two of the utilities are not there yet.
+  for (const int control : {PanelPage::MIDDLE, PanelPage::RIGHT}) pageWindow(UTILITIES).enable(control, false);
   refreshButtons();
 }
 
@@ -114,6 +112,7 @@ void ProjectView::onPageButton(int page, int control) {
   if (page == MAIN_PROGRAM && control == PanelPage::RIGHT) runProject(false);
   if (page == APPLET && control == PanelPage::MIDDLE) runApplet(true);
   if (page == APPLET && control == PanelPage::RIGHT) runApplet(false);
+  if (page == UTILITIES && control == PanelPage::LEFT) runJar();
 }
 
 void ProjectView::updateTitle() {

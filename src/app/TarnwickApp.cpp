@@ -76,7 +76,9 @@ int TarnwickApp::run(const std::string& commandLine) {
 }
 
 int TarnwickApp::runPanel(const std::string& commandLine) {
-  TarnwickDlg(settings_, commandLine).runModal();
+  TarnwickDlg dialog(settings_, commandLine);
+  dialog.setZipApplication(zipApplication_);
+  dialog.runModal();
   return 0;
 }
 

@@ -19,6 +19,11 @@ TarnwickDlg::~TarnwickDlg() {
   settings_.context().mainWindow = nullptr;
 }
 
+void TarnwickDlg::setZipApplication(const WinApp& application) {
+  fileView_.setZipApplication(application);
+  projectView_.setZipApplication(application);
+}
+
 void TarnwickDlg::runModal() {
   desktop_.runMainDialog(mainLayout(), *this);
 }

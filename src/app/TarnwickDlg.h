@@ -18,6 +18,9 @@ class TarnwickDlg : public ToolTipDlg {
   explicit TarnwickDlg(Settings& settings, std::string projectArgument = "");
   ~TarnwickDlg() override;
 
+  /// What opens ".ZIP" files here; outlives the dialog.
+  void setZipApplication(const WinApp& application);
+
   void runModal();
   void initialise(DialogWindow& window) override;
   void detached() override;

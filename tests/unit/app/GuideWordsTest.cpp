@@ -1,4 +1,5 @@
 // The user's guide explains whatever can be pressed, marked or chosen.
+#include "dialogs/JarLayout.h"
 #include "resources/AddPathLayout.h"
 #include "resources/HelpLayouts.h"
 #include "resources/Menu.h"
@@ -84,6 +85,8 @@ TEST(GuideWordsTest, ItNamesEveryButtonAndMark) {
                              &addTemplateLayout(),
                              &newSourceLayout(NewSourceMode::NothingToEdit),
                              &portabilityWarningLayout(),
+                             &jarLayout(),
+                             &selectSubdirectoryLayout(),
                              &helpFileLayout(),
                              &welcomeLayout(),
                              &aboutLayout()}) {

@@ -12,6 +12,7 @@ import tempfile
 import time
 
 import person
+import test_jar
 import test_projects
 import world
 from person import Window, wait_until
@@ -120,6 +121,18 @@ def take_project(scratch, camera, panel):
     camera.take(panel, "project")
 
 
+def take_jar(scratch, camera, panel):
+    turn_to(panel, "Utilities")
+    panel.press("jar")
+    dialog = Window("jar")
+    dialog.press("Create new archive")
+    world.answer_file_dialog(os.path.join(scratch.work, "Shop.jar"), dialog)
+    dialog.press(test_jar.ALL_FILES)
+    camera.take(dialog, "jar")
+    dialog.press("Cancel")
+    dialog.is_gone()
+
+
 def walk(scratch, camera):
     scratch.start()
     Window("Welcome to Tarnwick").press("OK")
@@ -136,6 +149,7 @@ def walk(scratch, camera):
     take_console(scratch, camera, panel)
     take_debugger(scratch, camera, panel)
     take_project(scratch, camera, panel)
+    take_jar(scratch, camera, panel)
     panel.press("Exit")
     panel.is_gone()
 

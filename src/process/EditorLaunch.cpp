@@ -55,16 +55,17 @@ std::vector<Words> editorsFor(const std::string& editor, bool useNotepad) {
   return editors;
 }
 
-/// Starts the first of the editors that can be started. A failure is that of the best one.
-void startOn(Desktop& desktop, const std::string& editor, bool useNotepad, const std::string& name) {
-  if (!enterFolderOf(desktop, Filename(name))) return;
+/// Starts the first of the editors that can be started. A failure, which is shown, is that of the best one.
+bool startOn(Desktop& desktop, const std::string& editor, bool useNotepad, const std::string& name) {
+  if (!enterFolderOf(desktop, Filename(name))) return false;
   std::optional<platform::SystemError> failure;
   for (const auto& command : editorsFor(editor, useNotepad)) {
     const auto reason = startFailure(command.front(), vectorOf(command, "", name));
-    if (!reason) return;
+    if (!reason) return true;
     if (!failure) failure = reason;
   }
   desktop.message(detachedStartFailure(editor, *failure));
+  return false;
 }
 
 }  // namespace
@@ -93,13 +94,12 @@ bool openEditor(Desktop& desktop, const EditorSource& source, const std::string&
     return false;
   }
   if (!choice.editWithNotepad && isJarEditor(choice.target)) {
-    if (WinApp(desktop, ".jar").runApp(editor.c_str(), platform::commandWord(fileArgument(name)).c_str(), 0) <= 0) {
-      desktop.message("Unable to activate " + editor + ' ' + name);
-    }
-    return true;
+    if (WinApp(desktop, ".jar").runApp(editor.c_str(), platform::commandWord(fileArgument(name)).c_str(), 0) > 0)
+      return true;
+    desktop.message("Unable to activate " + editor + ' ' + name);
+    return false;
   }
-  startOn(desktop, editor, choice.editWithNotepad, name);
-  return true;
+  return startOn(desktop, editor, choice.editWithNotepad, name);
 }
 
 void showLog(Desktop& desktop, const ToolLog& log, const EditorChoice& choice) {

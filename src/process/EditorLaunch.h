@@ -25,7 +25,7 @@ struct EditorSource {
 };
 
 /// Starts the user's editor on a file, or on none with the empty text; the file's folder becomes the current one. False
-/// when no editor could be chosen. Shows failures itself.
+/// when no editor could be chosen or started. Shows failures itself.
 bool openEditor(Desktop& desktop, const EditorSource& source, const std::string& name);
 
 /// Shows the tool log in Notepad or the user's editor. Shows failures itself.

@@ -76,6 +76,8 @@ class EditorLaunchTest : public testing::Test {
 
   /// What `edit` gives when all went well.
   static std::string doneIn(const std::string& folder) { return "1 " + folder.substr(0, folder.size() - 1) + '\n'; }
+  /// And where the editor could not be started.
+  static std::string failedIn(const std::string& folder) { return "0" + doneIn(folder).substr(1); }
 
   /// The log's path, then messages. `switches` are the two for Notepad, for editing and display.
   std::string show(const std::string& switches, const std::string& target) const {
@@ -179,21 +181,22 @@ TEST_F(OpenEditorTest, WithoutAFileTheEditorOpensWithNothing) {
 
 TEST_F(OpenEditorTest, AnEditorThatCannotBeStartedIsTold) {
   const std::string missing = programs() + "nothing.exe";
-  EXPECT_EQ(edit("0", script_.folder().file("A.java"), missing), doneIn(script_.folder().path()) +
+  EXPECT_EQ(edit("0", script_.folder().file("A.java"), missing), failedIn(script_.folder().path()) +
                                                                      "message: Unable to start " + missing +
                                                                      ".\n\nNo such file or directory  (2)\n");
 }
 
 TEST_F(OpenEditorTest, WithoutAnyNotepadTheUserIsToldSo) {
-  EXPECT_EQ(edit("1", script_.folder().file("A.java"), "never tried"),
-            doneIn(script_.folder().path()) + "message: Unable to start Notepad.\n\nNo such file or directory  (2)\n");
+  EXPECT_EQ(
+      edit("1", script_.folder().file("A.java"), "never tried"),
+      failedIn(script_.folder().path()) + "message: Unable to start Notepad.\n\nNo such file or directory  (2)\n");
 }
 
 TEST_F(OpenEditorTest, AFolderThatCannotBeEnteredIsTold) {
   const std::string editor = makeProgram(programName("my editor"));
   const std::string file = script_.folder().file("nothing") + platform::folderSeparator + "A.java";
   const std::string before = platform::currentDirectory();
-  EXPECT_EQ(edit("0", file, editor), "1 " + before + "\nmessage: Subprocess::run(): _chdir error\n");
+  EXPECT_EQ(edit("0", file, editor), "0 " + before + "\nmessage: Subprocess::run(): _chdir error\n");
   EXPECT_FALSE(script_.hasRecord());
 }
 
@@ -202,7 +205,7 @@ TEST_F(OpenEditorTest, AJarThatCannotBeActivatedIsTold) {
   const std::string jar = programs() + "my editor.jar";
   const std::string file = script_.folder().file("A.java");
   const std::string before = platform::currentDirectory();
-  EXPECT_EQ(edit("0", file, jar), "1 " + before + "\nmessage: Unable to activate " + jar + ' ' + file + '\n');
+  EXPECT_EQ(edit("0", file, jar), "0 " + before + "\nmessage: Unable to activate " + jar + ' ' + file + '\n');
 }
 
 TEST_F(ShowLogTest, TheUsersEditorGetsTheLogsPathAsOneArgument) {

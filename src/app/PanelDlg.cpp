@@ -164,7 +164,10 @@ void PanelDlg::switchView() {
 
 bool PanelDlg::openEditor(const std::string& name) {
   const EditorSource source{[this] { return settings_.editorChoice(); },
-                            [this] { return settings_.runModal(EDITOR_PAGE_INDEX) == DIALOG_OK; }};
+                            [this] {
+                              return settings_.runModal(EDITOR_PAGE_INDEX, "Choose the editor for your sources") ==
+                                     DIALOG_OK;
+                            }};
   return tarnwick::openEditor(desktop_, source, name);
 }
 

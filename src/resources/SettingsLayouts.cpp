@@ -11,6 +11,7 @@ const DialogLayout& settingsLayout() {
   static const DialogLayout dialog = {
       148, "Tarnwick settings", false,
       column({
+          label("", 2003).collapsing(),
           tabs(1092),
           row({
               group(0, " individual configurations ", {row({button(1036, "Save ..."), button(1037, "Load ...")})}),

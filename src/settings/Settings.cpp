@@ -9,7 +9,7 @@ namespace tarnwick {
 
 namespace {
 
-enum Control { TAB_CONTROL = 1092, SAVE_FILE = 1036, LOAD_FILE = 1037, ABOUT = 1038, HELP = 1168 };
+enum Control { REASON = 2003, TAB_CONTROL = 1092, SAVE_FILE = 1036, LOAD_FILE = 1037, ABOUT = 1038, HELP = 1168 };
 
 /// Where the user's guide tells of each page, in the order of the tabs.
 constexpr const char* helpAnchors[] = {"#configTab1", "#javacparameters",        "#javaparameters",
@@ -152,13 +152,16 @@ void Settings::normaliseClasspath() {
   classpath = normalisedClasspath(classpath);
 }
 
-int Settings::runModal(int page) {
+int Settings::runModal(int page, const std::string& reason) {
   initialPage_ = page;
+  reason_ = reason;
   return desktop_.runDialog(settingsLayout(), *this);
 }
 
 void Settings::initialise(DialogWindow& window) {
   TabbedDialog::initialise(window);
+  window.setText(REASON, reason_);
+  window.show(REASON, !reason_.empty());
   if (currentProject) window.setTitle(window.title() + " for project " + currentProject->name());
 }
 

@@ -47,8 +47,9 @@ class Settings : public SettingsValues, public TabbedDialog, public TagTable {
   /// Puts the user's class path into the form that keeps the current folder on it.
   void normaliseClasspath();
 
-  /// Runs the settings dialog, opened on this page. Gives the dialog's result.
-  int runModal(int page);
+  /// Runs the settings dialog, opened on this page. Gives the dialog's result. Where it opens unasked, `reason` stands
+  /// above the pages.
+  int runModal(int page, const std::string& reason = "");
   /// Takes all values from the open pages.
   void collectPages();
 
@@ -81,6 +82,7 @@ class Settings : public SettingsValues, public TabbedDialog, public TagTable {
   static const char* debugWithFastcodeWarning();
 
   SettingsContext& context_;
+  std::string reason_;
   ToolsPage toolsPage_;
   JavacPage javacPage_;
   JavaPage javaPage_;

@@ -40,6 +40,28 @@ std::string entered(const std::string& folder) {
   return !whole.empty() && platform::changeDirectory(whole) ? whole : "";
 }
 
+/// The nearest folder above a file whose own folder has gone, with its whole path; empty where only a root is left.
+std::string enteredAbove(const Filename& file) {
+  Filename folder(Filename(platform::absolutePath(file.fullName())).directoryNoSlash());
+  while (!folder.nameWithExtension().empty()) {
+    folder = Filename(folder.directoryNoSlash());
+    const bool isRoot = folder.nameWithExtension().empty();
+    if (!isRoot && !entered(folder.fullName()).empty()) return folder.fullName();
+  }
+  return "";
+}
+
+/// Where the dialog for a file opens that can't be found. The name itself may be a folder's.
+std::string folderToAskIn(const FileForSubprocess& file) {
+  const Filename& name = file.name();
+  for (const auto& candidate : {name.fullName(), name.directory(), file.lastFolder(), file.previousName()}) {
+    const std::string folder = entered(candidate);
+    if (!folder.empty()) return folder;
+  }
+  const std::string above = enteredAbove(name);
+  return above.empty() ? platform::startFolder("C:\\") : above;
+}
+
 /// What stands between the first and the second "|".
 std::string patternOf(const std::string& filter) {
   const auto begin = filter.find('|') + 1;
@@ -123,14 +145,7 @@ bool FileView::prepareFile(const char* filter, FileForSubprocess& file) {
       // The user is asked for one that is there.
     }
   }
-  std::string startFolder = platform::startFolder("C:\\");
-  for (const auto& candidate : {file.name().fullName(), file.lastFolder(), file.previousName()}) {
-    const std::string folder = entered(candidate);
-    if (folder.empty()) continue;
-    startFolder = folder;
-    break;
-  }
-  return askForFile(filter, startFolder, file);
+  return askForFile(filter, folderToAskIn(file), file);
 }
 
 void FileView::complete(FileForSubprocess& file) {
@@ -145,13 +160,12 @@ void FileView::complete(FileForSubprocess& file) {
 
 void FileView::browse(const char* filter, FileForSubprocess& file) {
   file.readFromControl();
-  std::string startFolder = platform::startFolder("C:\\");
-  const std::string lastFolder = entered(file.lastFolder());
-  if (!lastFolder.empty()) {
-    startFolder = lastFolder;
-  } else if (!file.isEmpty() && canBeRead(file.name().fullName())) {
-    startFolder = Filename(platform::absolutePath(file.name().fullName())).directory();
-  }
+  const std::string& name = file.name().fullName();
+  // Only a file that is there makes the current folder the one of a bare name.
+  const std::string own = Filename(canBeRead(name) ? platform::absolutePath(name) : name).directory();
+  std::string startFolder = entered(file.lastFolder());
+  if (startFolder.empty()) startFolder = entered(own);
+  if (startFolder.empty()) startFolder = platform::startFolder("C:\\");
   askForFile(filter, startFolder, file);
   settings_.saveIfWindowMoved();
 }

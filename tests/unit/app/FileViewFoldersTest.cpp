@@ -38,6 +38,51 @@ TEST_F(FileViewFoldersTest, TheNameItselfMayBeTheFolderToAskIn) {
   EXPECT_EQ(askedIn(quoted(userFolder()), JAVAC), userFolder());
 }
 
+TEST_F(FileViewFoldersTest, TheFolderOfAMissingFileComesBeforeTheLastOne) {
+  saveEarlierRun([&](Settings& earlier) {
+    earlier.fileviewSource.setName(scratch_.file("x.java"));
+    earlier.fileviewSource.setLastFolder(other());
+  });
+  EXPECT_EQ(askedIn(quoted(userFolder() + "Gone.java") + " one", JAVAC), userFolder());
+  platform::changeDirectory(scratch_.path());
+  const std::string relative = std::string("us er") + platform::folderSeparator;
+  const std::string whole = Filename(platform::currentDirectory(), relative).fullName();
+  EXPECT_EQ(askedIn(quoted(relative + "Gone.java"), JAVAC), whole);
+}
+
+TEST_F(FileViewFoldersTest, ABareNameDoesNotMakeTheCurrentFolderTheOneToAskIn) {
+  saveEarlierRun([&](Settings& earlier) { earlier.fileviewSource.setLastFolder(other()); });
+  platform::changeDirectory(userFolder());
+  EXPECT_EQ(askedIn("Gone.java", JAVAC), other());
+}
+
+TEST_F(FileViewFoldersTest, EditAndJavaAskThereToo) {
+  saveEarlierRun([&](Settings& earlier) {
+    earlier.editorTarget = standInFolder() + platform::toolFileName("javadoc");
+    earlier.fileviewClass.setLastFolder(other());
+    earlier.fileviewHtml.setLastFolder(other());
+  });
+  EXPECT_EQ(askedIn(quoted(userFolder() + "Gone.java"), EDIT), userFolder());
+  for (const int tab : {0, 1}) {
+    runPanel([&](ScriptedWindow&, ScriptedWindow& panel) {
+      panel.choose(TABS, tab);
+      panel.page(TABS, tab).type(FIELD, quoted(userFolder() + "Gone"));
+      desktop_.expectOpenFile(std::nullopt);
+      desktop_.expectMessage(tab == 0 ? "No known .class file" : "no htm* file known");
+      panel.page(TABS, tab).press(RIGHT);
+      exit(panel);
+    });
+    EXPECT_EQ(desktop_.lastRequest().startFolder, userFolder()) << tab;
+  }
+}
+
+TEST_F(FileViewFoldersTest, WhereTheFilesFolderHasGoneTheNearestOneAboveItIsTheLastToTry) {
+  saveEarlierRun([&](Settings& earlier) { earlier.fileviewSource.setLastFolder(gone()); });
+  const std::string slash(1, platform::folderSeparator);
+  EXPECT_EQ(askedIn(quoted(userFolder() + "a" + slash + "b" + slash + "Gone.java"), JAVAC),
+            Filename(userFolder()).directoryNoSlash());
+}
+
 TEST_F(FileViewFoldersTest, TheLastFolderComesBeforeThePreviousName) {
   saveEarlierRun([&](Settings& earlier) {
     earlier.fileviewSource.setName(userFolder());
@@ -56,7 +101,8 @@ TEST_F(FileViewFoldersTest, ThePreviousNameIsTheLastFolderToTry) {
 
 TEST_F(FileViewFoldersTest, WhereNoFolderCanBeEnteredTheDialogStartsAsOnAFreshMachine) {
   saveEarlierRun([&](Settings& earlier) { earlier.fileviewSource.setLastFolder(gone()); });
-  EXPECT_EQ(askedIn(quoted(gone() + "A.java"), JAVAC), platform::startFolder("C:\\"));
+  const std::string slash(1, platform::folderSeparator);
+  EXPECT_EQ(askedIn(quoted(slash + "no such folder" + slash + "A.java"), JAVAC), platform::startFolder("C:\\"));
 }
 
 TEST_F(FileViewFoldersTest, BrowsePrefersTheLastFolderToTheFilesOwn) {
@@ -67,7 +113,10 @@ TEST_F(FileViewFoldersTest, BrowsePrefersTheLastFolderToTheFilesOwn) {
 
 TEST_F(FileViewFoldersTest, BrowseWithAFileThatCannotBeOpenedTellsNothing) {
   saveEarlierRun([&](Settings& earlier) { earlier.fileviewSource.setLastFolder(gone()); });
-  EXPECT_EQ(askedIn(quoted(userFolder() + "Gone.java"), BROWSE), platform::startFolder("C:\\"));
+  EXPECT_EQ(askedIn(quoted(userFolder() + "Gone.java"), BROWSE), userFolder()) << "its folder is there";
+  EXPECT_EQ(askedIn(quoted(gone() + "Gone.java"), BROWSE), platform::startFolder("C:\\"));
+  platform::changeDirectory(userFolder());
+  EXPECT_EQ(askedIn("Gone.java", BROWSE), platform::startFolder("C:\\"));
 }
 
 TEST_F(FileViewFoldersTest, BrowseKeepsTheArgumentsOfTheField) {
@@ -172,18 +221,27 @@ TEST_F(FileViewFoldersTest, TheSettingsOpenOnTheirFirstPageAndForAMissingEditorO
   saveEarlierRun();
   const std::string source = makeFile("A.java");
   constexpr int settingsTabs = 1092;
+  constexpr int reason = 2003;
   runPanel([&](ScriptedWindow&, ScriptedWindow& panel) {
     desktop_.expectDialog("Tarnwick settings", [](ScriptedWindow& window) {
       EXPECT_EQ(window.selection(settingsTabs), 0);
+      EXPECT_FALSE(window.visible(reason)) << "the user has asked for it";
       window.press(IDCANCEL_CONTROL);
     });
     bar(panel).press(SETTINGS);
     panel.type(SOURCE, quoted(source));
     desktop_.expectDialog("Tarnwick settings", [](ScriptedWindow& window) {
       EXPECT_EQ(window.selection(settingsTabs), 5);
+      EXPECT_TRUE(window.visible(reason));
+      EXPECT_EQ(window.text(reason), "Choose the editor for your sources");
       window.press(IDCANCEL_CONTROL);
     });
     panel.press(EDIT);
+    desktop_.expectDialog("Tarnwick settings", [](ScriptedWindow& window) {
+      EXPECT_FALSE(window.visible(reason)) << "nor does it stay";
+      window.press(IDCANCEL_CONTROL);
+    });
+    bar(panel).press(SETTINGS);
     exit(panel);
   });
 }

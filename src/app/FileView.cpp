@@ -70,8 +70,8 @@ std::string patternOf(const std::string& filter) {
 
 }  // namespace
 
-FileView::FileView(Settings& settings, std::function<void()> endMainDialog)
-    : PanelDlg(settings, fileViewLayout().resource, pageWords(), std::move(endMainDialog)),
+FileView::FileView(Settings& settings, MainDialogEnd mainDialog)
+    : PanelDlg(settings, fileViewLayout().resource, pageWords(), std::move(mainDialog)),
       sourceFile_(settings.fileviewSource),
       classFile_(settings.fileviewClass),
       htmlFile_(settings.fileviewHtml) {}
@@ -92,7 +92,23 @@ void FileView::bindFields(DialogWindow& window) {
   pageWindow(UTILITIES).show(PanelPage::FIELD, false);
 }
 
+void FileView::readFields() {
+  for (auto* file : {&sourceFile_, &classFile_, &htmlFile_}) file->readFromControl();
+}
+
+bool FileView::fieldsHaveChanged() {
+  readFields();
+  if (settings_.currentProject) return false;
+  Settings stored(settings_.context());
+  int status = 0;
+  stored.readDefaultConfiguration(status);
+  return status != READ_FILE_LOST && (sourceFile_.toString() != stored.fileviewSource.toString() ||
+                                      classFile_.toString() != stored.fileviewClass.toString() ||
+                                      htmlFile_.toString() != stored.fileviewHtml.toString());
+}
+
 void FileView::detached() {
+  readFields();
   for (auto* file : {&sourceFile_, &classFile_, &htmlFile_}) file->bind(nullptr, 0);
   PanelDlg::detached();
 }

@@ -11,12 +11,15 @@ namespace tarnwick {
 /// The panel that works on single files: one source, one class, one HTML file.
 class FileView : public PanelDlg {
  public:
-  FileView(Settings& settings, std::function<void()> endMainDialog);
+  FileView(Settings& settings, MainDialogEnd mainDialog);
 
   void initialise(DialogWindow& window) override;
   void detached() override;
   void onCommand(int control) override;
   void updateTitle() override;
+  /// Takes what stands in the fields. True if the next start would show something else, as nothing has saved it yet.
+  /// With an open project they are never shown again, and it is false.
+  bool fieldsHaveChanged();
 
  protected:
   std::vector<int> ownControls() const override;
@@ -27,6 +30,7 @@ class FileView : public PanelDlg {
 
  private:
   void bindFields(DialogWindow& window);
+  void readFields();
   /// Makes sure that `file` names an existing file, or gets one from the user. False if the user gave none.
   bool prepareFile(const char* filter, FileForSubprocess& file);
   void browse(const char* filter, FileForSubprocess& file);

@@ -38,8 +38,7 @@ void ButtonBar::onCommand(int control) {
   panel_.onCommand(control);
 }
 
-PanelDlg::PanelDlg(Settings& settings, int resource, std::array<PageWords, 3> words,
-                   std::function<void()> endMainDialog)
+PanelDlg::PanelDlg(Settings& settings, int resource, std::array<PageWords, 3> words, MainDialogEnd mainDialog)
     : TabbedDialog(settings.context().desktop, resource, TAB_CONTROL),
       settings_(settings),
       leftPage_(desktop_, *this, std::move(words[0].labels), std::move(words[0].tips)),
@@ -50,7 +49,7 @@ PanelDlg::PanelDlg(Settings& settings, int resource, std::array<PageWords, 3> wo
       flatBar_(desktop_, *this, flatBarLayout()),
       bars_{&verticalBar_, &horizontalBar_, &flatBar_},
       pages_{&leftPage_, &middlePage_, &rightPage_},
-      endMainDialog_(std::move(endMainDialog)) {
+      mainDialog_(std::move(mainDialog)) {
   addTab(" Main program ", leftPage_);
   addTab("  Applet  ", middlePage_);
   addTab("  Utilities  ", rightPage_);
@@ -163,17 +162,15 @@ void PanelDlg::switchView() {
 }
 
 bool PanelDlg::openEditor(const std::string& name) {
-  const EditorSource source{[this] { return settings_.editorChoice(); },
-                            [this] {
-                              return settings_.runModal(EDITOR_PAGE_INDEX, "Choose the editor for your sources") ==
-                                     DIALOG_OK;
-                            }};
+  const EditorSource source{
+      [this] { return settings_.editorChoice(); },
+      [this] { return settings_.runModal(EDITOR_PAGE_INDEX, "Choose the editor for your sources") == DIALOG_OK; }};
   return tarnwick::openEditor(desktop_, source, name);
 }
 
 void PanelDlg::exitProgram() {
-  settings_.saveIfWindowMoved();
-  endMainDialog_();
+  mainDialog_.save();
+  mainDialog_.end();
 }
 
 }  // namespace tarnwick

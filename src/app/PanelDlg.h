@@ -57,16 +57,23 @@ class ButtonBar : public ToolTipDlg {
   const DialogLayout& layout_;
 };
 
+/// What a panel asks of the main dialog.
+struct MainDialogEnd {
+  /// Saves what every end saves. Once: what fails has been told.
+  std::function<void()> save;
+  /// Ends the dialog as with OK.
+  std::function<void()> end;
+};
+
 /// The common base of the panels of the main window.
 class PanelDlg : public TabbedDialog {
  public:
-  /// `endMainDialog` ends the program's main dialog as with OK.
-  PanelDlg(Settings& settings, int resource, std::array<PageWords, 3> words, std::function<void()> endMainDialog);
+  PanelDlg(Settings& settings, int resource, std::array<PageWords, 3> words, MainDialogEnd mainDialog);
 
   void initialise(DialogWindow& window) override;
   void onCommand(int control) override;
   /// Escape; the main window then ends.
-  void onCloseRequest() override { settings_.saveIfWindowMoved(); }
+  void onCloseRequest() override { mainDialog_.save(); }
 
   /// Tells the panel the other one and the label of its button that switches to it.
   void setPartner(PanelDlg* partner, const std::string& switchLabel);
@@ -87,7 +94,8 @@ class PanelDlg : public TabbedDialog {
   void onPageButton(int control) { onPageButton(currentPage(), control); }
 
  protected:
-  /// Starts the user's editor on a file, or on none with the empty text. False when no editor could be chosen.
+  /// Starts the user's editor on a file, or on none with the empty text. False when no editor could be chosen or
+  /// started.
   bool openEditor(const std::string& name);
   /// The dialog "jar" and its run.
   void runJar() { tarnwick::runJar(settings_, jarSession_); }
@@ -117,7 +125,7 @@ class PanelDlg : public TabbedDialog {
   std::array<std::unique_ptr<PanelLayout>, 3> layouts_;
   PanelDlg* partner_ = nullptr;
   std::string title_;
-  std::function<void()> endMainDialog_;
+  MainDialogEnd mainDialog_;
   JarSession jarSession_;
 };
 

@@ -37,8 +37,8 @@ const char notCompiled[] = "Not all classes are up-to-date. Compile!";
 
 }  // namespace
 
-ProjectView::ProjectView(Settings& settings, std::function<void()> endMainDialog)
-    : PanelDlg(settings, projectViewLayout().resource, pageWords(), std::move(endMainDialog)) {
+ProjectView::ProjectView(Settings& settings, MainDialogEnd mainDialog)
+    : PanelDlg(settings, projectViewLayout().resource, pageWords(), std::move(mainDialog)) {
   toolTips_ = {
       {NEW, "Create new Tarnwick project"},
       {OPEN, "Open existing Tarnwick project"},

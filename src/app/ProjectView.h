@@ -11,7 +11,7 @@ namespace tarnwick {
 /// a button is pressed.
 class ProjectView : public PanelDlg {
  public:
-  ProjectView(Settings& settings, std::function<void()> endMainDialog);
+  ProjectView(Settings& settings, MainDialogEnd mainDialog);
 
   void initialise(DialogWindow& window) override;
   void onCommand(int control) override;

@@ -6,14 +6,16 @@
 #include "settings/JdkDiscovery.h"
 #include "source/PieceFolder.h"
 
+#include <utility>
+
 namespace tarnwick {
 
 TarnwickDlg::TarnwickDlg(Settings& settings, std::string projectArgument)
     : ToolTipDlg(settings.context().desktop, mainLayout().resource, 0),
       settings_(settings),
       projectArgument_(std::move(projectArgument)),
-      fileView_(settings, [this] { close(DIALOG_OK); }),
-      projectView_(settings, [this] { close(DIALOG_OK); }) {}
+      fileView_(settings, end()),
+      projectView_(settings, end()) {}
 
 TarnwickDlg::~TarnwickDlg() {
   settings_.context().mainWindow = nullptr;
@@ -38,17 +40,42 @@ void TarnwickDlg::initialise(DialogWindow& window) {
   createPanel(PROJECT_VIEW_SLOT, projectViewLayout(), projectView_, "Error creating projectview");
   arrangePanels();
   if (!projectArgument_.empty() && projectView_.initialised()) openProject();
+  unsaved_ = true;
 }
 
 void TarnwickDlg::openProject() {
+  std::string failed;
   try {
     projectView_.openAtStart(projectArgument_);
     fileView_.switchView();
+    return;
   } catch (const Tarnwickfile::FileNotOpenE& failure) {
-    desktop_.message(failure.message + "\nCan't open project file.");
+    failed = failure.message + "\nCan't open project file.";
   } catch (const Tarnwickexception& failure) {
-    desktop_.message(failure.message);
+    failed = failure.message;
   }
+  // The project may be open all the same, and brings its own arrangement.
+  if (fileView_.initialised()) fileView_.applyLayout();
+  desktop_.message(failed);
+}
+
+void TarnwickDlg::onCloseRequest() {
+  saveWhatStands();
+  ToolTipDlg::onCloseRequest();
+}
+
+MainDialogEnd TarnwickDlg::end() {
+  return {[this] { saveWhatStands(); }, [this] { close(DIALOG_OK); }};
+}
+
+void TarnwickDlg::saveWhatStands() {
+  // Once, as a save that failed has been told; and not where the program was told to end while it still welcomed its
+  // user: a first use is to be one at the next start, too.
+  if (!std::exchange(unsaved_, false)) return;
+  if (fileView_.fieldsHaveChanged())
+    settings_.saveCurrent();
+  else
+    settings_.saveIfWindowMoved();
 }
 
 void TarnwickDlg::createPanel(int slot, const DialogLayout& layout, PanelDlg& panel, const char* failed) {
@@ -72,6 +99,8 @@ void TarnwickDlg::arrangePanels() {
 }
 
 void TarnwickDlg::detached() {
+  // Where the session ends, or the program is told to, nobody has pressed anything before.
+  saveWhatStands();
   settings_.context().mainWindow = nullptr;
   ToolTipDlg::detached();
 }

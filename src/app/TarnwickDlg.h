@@ -23,11 +23,11 @@ class TarnwickDlg : public ToolTipDlg {
 
   void runModal();
   void initialise(DialogWindow& window) override;
+  void onCloseRequest() override;
   void detached() override;
 
  protected:
-  // Return ends nothing here. The close box ends the dialog without the save of a moved window, which is meant: that
-  // is done by Exit, and by Escape through the panel that shows.
+  // Return ends nothing here.
   void onOk() override {}
 
  private:
@@ -37,6 +37,9 @@ class TarnwickDlg : public ToolTipDlg {
   /// Opens the project of the command line and switches to the project view. On a failure, which is shown, the file
   /// view stays.
   void openProject();
+  MainDialogEnd end();
+  /// What every end of the panel saves: a moved window, and what stands in the fields.
+  void saveWhatStands();
   void readSettings();
   void welcomeFirstUse(int status);
   /// Switches off what the JDK of the settings does not take any more.
@@ -45,6 +48,8 @@ class TarnwickDlg : public ToolTipDlg {
 
   Settings& settings_;
   std::string projectArgument_;
+  /// The panel stands, and its end has saved nothing yet.
+  bool unsaved_ = false;
   FileView fileView_;
   ProjectView projectView_;
 };

@@ -1,6 +1,7 @@
 """The first start, and what is remembered of it."""
 
 import os
+import signal
 
 import person
 import world
@@ -82,6 +83,28 @@ def test_position_is_remembered(scratch):
     scratch.start()
     assert settled_area(Window("Tarnwick")) == before
     assert scratch.settings()["WINDOW_POSITION"] != ""
+
+
+def test_however_it_is_closed_place_and_fields_are_remembered(scratch):
+    scratch.configured()
+    ends = {
+        "its close box": lambda program, panel: panel.close(),
+        "Escape": lambda program, panel: (panel.activate(), person.key("Escape")),
+        "the end of the session": lambda program, panel: program.send_signal(signal.SIGTERM),
+        "Exit": lambda program, panel: panel.press("Exit"),
+    }
+    for number, (name, end) in enumerate(ends.items()):
+        program, panel = scratch.start(), Window("Tarnwick")
+        person.xdotool("windowmove", panel.x_number(), 240 + 30 * number, 210)
+        before = settled_area(panel)
+        panel.write(f"Source{number}.java")
+        end(program, panel)
+        assert program.wait(20) == 0, name
+        program, panel = scratch.start(), Window("Tarnwick")
+        assert settled_area(panel) == before, name
+        assert panel.field().text == f"Source{number}.java", name
+        panel.press("Exit")
+        assert program.wait(20) == 0, name
 
 
 def settled_area(window):

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <gtest/gtest.h>
 #include <stdexcept>
+#include <utility>
 
 namespace tarnwick::test {
 
@@ -15,8 +16,15 @@ ScriptedWindow::ScriptedWindow(const DialogLayout& layout, DialogHandler& handle
 }
 
 ScriptedWindow::~ScriptedWindow() {
-  pages_.clear();
-  children_.clear();
+  detach();
+}
+
+void ScriptedWindow::detach() {
+  if (std::exchange(detached_, true)) return;
+  for (const auto& [tabs, pages] : pages_) {
+    for (const auto& page : pages) page->detach();
+  }
+  for (const auto& [slot, child] : children_) child->detach();
   handler_.detached();
 }
 

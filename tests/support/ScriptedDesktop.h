@@ -116,6 +116,8 @@ class ScriptedWindow : public DialogWindow {
     int radioGroup = 0;
   };
 
+  /// Tells that the window goes, to its children first. All of them still stand by then.
+  void detach();
   void collect(const DialogItem& item, int radioGroup);
   Control& at(int control);
   const Control& at(int control) const;
@@ -133,6 +135,7 @@ class ScriptedWindow : public DialogWindow {
   int focused_ = 0;
   std::string title_;
   bool shown_ = true;
+  bool detached_ = false;
   bool closed_ = false;
   int result_ = 0;
   int nextRadioGroup_ = 1;

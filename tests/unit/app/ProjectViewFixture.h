@@ -70,6 +70,32 @@ class ProjectViewFixture : public PanelFixture {
            "\nor press Files button and allow multiple classes with a main method.";
   }
 
+  /// The system's reason why a file can't be opened so.
+  static std::string refusal(const std::string& path, FileMode mode) {
+    try {
+      const Tarnwickfile file(path, mode);
+    } catch (const Tarnwickfile::FileNotOpenE& failure) {
+      return failure.message;
+    }
+    ADD_FAILURE() << path << " could be opened";
+    return "";
+  }
+  /// A setting's value in a project's file.
+  static std::string savedIn(const std::string& file, const std::string& tag) {
+    const std::string content = contentOf(file);
+    const auto begin = content.find("\n" + tag + "  ");
+    if (begin == std::string::npos) return "(none)";
+    const auto value = begin + tag.size() + 3;
+    return content.substr(value, content.find_first_of("\r\n", value) - value);
+  }
+
+  /// What is told where no compiler is in this folder.
+  static std::string noCompilerIn(const std::string& folder) {
+    return "Can't access compiler " + folder + platform::toolFileName("javac") +
+           "\nNo such file or directory"
+           "\nIs the JDK installed? Is the tools directory (Settings!) set correctly?";
+  }
+
   ProjectContext& project() { return dynamic_cast<ProjectContext&>(*settings().currentProject); }
 
   /// What a tool, or the second copy of the program, was started with, once `last` is among it.

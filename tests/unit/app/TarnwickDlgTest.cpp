@@ -226,14 +226,5 @@ TEST_F(TarnwickDlgTest, ThePositionIsRememberedByExit) {
   });
 }
 
-TEST_F(TarnwickDlgTest, TheCloseBoxEndsWithoutThatSave) {
-  saveEarlierRun([](Settings& settings) { settings.windowPosition.fromString("5;6"); });
-  runPanel([](ScriptedWindow& main, ScriptedWindow&) {
-    main.moveByHand({120, 88});
-    main.closeBox();
-  });
-  EXPECT_EQ(contentOf(configFile()).find("120;88"), std::string::npos);
-}
-
 }  // namespace
 }  // namespace tarnwick::test

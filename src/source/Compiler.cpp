@@ -6,6 +6,8 @@
 #include "settings/OptionList.h"
 #include "source/PortabilityWarningDlg.h"
 
+#include <utility>
+
 namespace tarnwick {
 
 namespace {
@@ -113,7 +115,8 @@ bool Compiler::maySplit() {
 
 bool Compiler::compile(FileForSubprocess& source, FileMode logMode) {
   if (settings_.javaPath.empty()) throw CannotCompileE(noToolsFolder());
-  settings_.saveCurrent();
+  // Once for a batch: its sources share them, and a failure need not be told for each.
+  if (!std::exchange(saved_, true)) settings_.saveCurrent();
   source.args().clear();
   SourceSplitter splitter(source, [this] { return maySplit(); });
   splitter.run();

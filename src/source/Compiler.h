@@ -20,7 +20,7 @@ std::optional<std::string> compilerClasspath(const Settings& settings, const cha
 /// with blanks in a setting carries its own quotes.
 std::vector<std::string> javacArguments(const Settings& settings, const std::optional<std::string>& classpath);
 
-/// Runs `javac` for one user command.
+/// Runs `javac` for one user command, for which it saves the settings.
 class Compiler {
  public:
   using CannotCompileE = SourceSplitter::CannotCompileE;
@@ -45,6 +45,8 @@ class Compiler {
 
   Settings& settings_;
   Subprocess tool_;
+  /// The settings are on the disk as far as possible.
+  bool saved_ = false;
 };
 
 }  // namespace tarnwick

@@ -124,7 +124,8 @@ void ProjectFilesDlg::createFile() {
   NewSourceFileDlg dialog(settings_, NewSourceMode::InProject, nullptr, project_.folder());
   if (dialog.runModal() != DIALOG_OK) return;
   const std::string name = Filename(dialog.createdFile()).nameWithExtension();
-  if (!project_.sources.holds(name)) {
+  const bool isProjectsHtml = platform::sameFileName(name, Filename(project_.htmlFile).nameWithExtension());
+  if (!isProjectsHtml && !project_.sources.holds(name)) {
     try {
       // A new HTML file, too, is held as a source until "OK" looks at its extension.
       project_.sources.add(name);
@@ -149,22 +150,23 @@ void ProjectFilesDlg::onOk() {
 }
 
 bool ProjectFilesDlg::takeMembers(const std::vector<std::string>& names) {
-  // Meant: where this stops, the HTML file stays as far as it got.
-  project_.htmlFile.clear();
+  std::string html;
+  // All sources are fresh, so that the next look at the project reads them.
+  ProjectSourceList sources(desktop_, project_.file);
   for (const auto& name : names) {
+    if (isJava(name)) {
+      sources.add(name);
+      continue;
+    }
     const Tarnwickfile probe(project_.folder(), name, FileMode::Read);
-    if (isJava(name)) continue;
-    if (!project_.htmlFile.empty()) {
+    if (!html.empty()) {
       desktop_.message("You can include only 1 html file in the project!");
       return false;
     }
-    project_.htmlFile = quotedIfBlank(name);
+    html = quotedIfBlank(name);
   }
-  // All sources are fresh, so that the next look at the project reads them.
-  project_.sources.clear();
-  for (const auto& name : names) {
-    if (isJava(name)) project_.sources.add(name);
-  }
+  project_.htmlFile = html;
+  project_.sources.swap(sources);
   return true;
 }
 

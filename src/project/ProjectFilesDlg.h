@@ -27,7 +27,8 @@ class ProjectFilesDlg : public ToolTipDlg {
   void move(int from, int to);
   void selectAll(bool on);
   void createFile();
-  /// Throws Tarnwickfile::FileNotOpenE. False after the message that there is more than one HTML file.
+  /// Throws Tarnwickfile::FileNotOpenE. False after the message that there is more than one HTML file. Either way the
+  /// project then stays as it was.
   bool takeMembers(const std::vector<std::string>& names);
 
   Settings& settings_;

@@ -26,6 +26,7 @@ class ProjectSourceList : public StringableM {
   /// Appends the source of that name in the project's folder. Throws Tarnwickfile::FileNotOpenE if it is not there.
   void add(const std::string& name);
   void clear() { sources_.clear(); }
+  void swap(ProjectSourceList& other) { sources_.swap(other.sources_); }
   bool empty() const { return sources_.empty(); }
   std::size_t size() const { return sources_.size(); }
   JavaSourcefile& operator[](std::size_t index) const { return *sources_[index]; }

@@ -219,11 +219,11 @@ TEST_F(ProjectFilesDlgTest, ASecondHtmlFileIsRefusedAndTheDialogStaysOpen) {
     desktop_.expectMessage("You can include only 1 html file in the project!");
     window.press(IDOK_CONTROL);
     EXPECT_FALSE(window.closed());
-    EXPECT_EQ(project.htmlFile, "m.html") << "as far as it got";
+    EXPECT_EQ(project.htmlFile, "x.html");
     EXPECT_EQ(namesOf(project), Names{"A.java"});
     window.press(IDCANCEL_CONTROL);
   });
-  EXPECT_EQ(project.htmlFile, "m.html") << "Cancel does not bring the former one back";
+  EXPECT_EQ(project.htmlFile, "x.html") << "what was refused and cancelled is stored nowhere";
   EXPECT_EQ(namesOf(project), Names{"A.java"});
   EXPECT_EQ(project.multiMain, 0);
 }
@@ -238,7 +238,7 @@ TEST_F(ProjectFilesDlgTest, AFileThatGoesWhileTheDialogIsOpenIsToldAtOk) {
     window.press(IDOK_CONTROL);
     EXPECT_FALSE(window.closed());
     EXPECT_EQ(namesOf(project), (Names{"A.java", "B b.java"}));
-    EXPECT_EQ(project.htmlFile, "") << "emptied, and not yet set again";
+    EXPECT_EQ(project.htmlFile, "x.html");
     select(window, PROJECT_FILES, {"B b.java"});
     window.press(REMOVE_FILES);
     window.press(IDOK_CONTROL);
@@ -367,6 +367,23 @@ TEST_F(ProjectFilesDlgTest, AFileWithTheNameOfAMemberAddsNothingAndDoesNotCount)
     window.press(IDCANCEL_CONTROL);
   });
   EXPECT_EQ(namesOf(project), Names{"B.java"});
+}
+
+TEST_F(ProjectFilesDlgTest, AFileWithTheNameOfTheProjectsHtmlFileAddsNothingAndDoesNotCount) {
+  makeSource("x.html", "old");
+  ProjectContext& project = open("PROJECT_SOURCES  \nPROJECT_HTMLFILE  x.html\n");
+  run(project, [&](ScriptedWindow& window) {
+    desktop_.expectDialog("Create new sourcefile in project", [&](ScriptedWindow& dialog) {
+      dialog.type(NEW_NAME, "x.html");
+      desktop_.expectQuestion("The file " + quoted(folder() + "x.html") + " already exists. Overwrite?", true);
+      dialog.press(IDOK_CONTROL);
+    });
+    window.press(CREATE_FILE);
+    expectLists(window, {"x.html"}, {});
+    EXPECT_TRUE(project.sources.empty());
+    window.press(IDCANCEL_CONTROL);
+  });
+  EXPECT_EQ(project.htmlFile, "x.html");
 }
 
 TEST_F(ProjectFilesDlgTest, HelpOpensTheGuideAtItsPlace) {

@@ -2,6 +2,7 @@
 
 #include "base/Text.h"
 #include "process/EditorLaunch.h"
+#include "settings/PathRules.h"
 #include "source/Compiler.h"
 
 namespace tarnwick {
@@ -47,11 +48,11 @@ void compileProject(Settings& settings, ProjectContext& project, bool all) {
 
 void completeRunTarget(const Settings& settings, const ProjectContext& project, FileForSubprocess& target) {
   const std::string name = target.name().nameWithExtension();
-  const std::string destination = trim(settings.javacDestination);
-  const bool inProject = destination.empty() || destination == ".";
-  target.setName(inProject ? project.folder() : destination, name);
-  // Meant: so "." gives a relative path in the end.
-  if (!settings.javacDestination.empty()) target.setName(settings.javacDestination, name);
+  const std::string& destination = settings.javacDestination;
+  target.setName(classFolder(destination, project.folderNoSlash()), name);
+  // Deliberate: so "." gives a relative path in the end.
+  const bool inProject = trim(destination).empty() || trim(destination) == ".";
+  if (inProject && !destination.empty()) target.setName(destination, name);
   target.setName(target.name().fullName() + ".class");
 }
 

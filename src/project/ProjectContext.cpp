@@ -6,6 +6,7 @@
 #include "dialogbase/WaitCursor.h"
 #include "platform/FileSystem.h"
 #include "platform/Path.h"
+#include "settings/PathRules.h"
 #include "source/Compiler.h"
 #include "source/PieceFolder.h"
 
@@ -172,9 +173,7 @@ std::vector<ClassRef> ProjectContext::collectClasses(int types) const {
 }
 
 std::string ProjectContext::runClasspath() const {
-  const std::string destination = trim(settings_.javacDestination);
-  const bool inProject = destination.empty() || destination == ".";
-  return addToPathList(settings_.effectiveClasspath(), inProject ? folderNoSlash() : destination);
+  return addToPathList(settings_.effectiveClasspath(), classFolder(settings_.javacDestination, folderNoSlash()));
 }
 
 std::string ProjectContext::derivedSourcepath() const {

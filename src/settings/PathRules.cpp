@@ -1,6 +1,8 @@
 #include "settings/PathRules.h"
 
+#include "base/Filename.h"
 #include "base/Text.h"
+#include "platform/Path.h"
 
 namespace tarnwick {
 
@@ -35,6 +37,16 @@ std::string assertionOptions(const std::string& list, const std::string& prefix)
     result += prefix + word + " ";
   }
   return result;
+}
+
+std::string classFolder(const std::string& destination, const std::string& sourceFolder) {
+  const std::string folder = trim(destination);
+  if (folder.empty() || folder == ".") return sourceFolder;
+  const auto parts = platform::splitPath(Filename(folder).fullName());
+  const bool fromRoot = !parts.folder.empty() && platform::endsInSeparator(parts.folder.substr(0, 1));
+  if (fromRoot || !parts.drive.empty()) return folder;
+  const bool startsHere = folder.size() > 1 && folder[0] == '.' && platform::endsInSeparator(folder.substr(1, 1));
+  return Filename(sourceFolder, startsHere ? folder.substr(2) : folder).fullName();
 }
 
 }  // namespace tarnwick

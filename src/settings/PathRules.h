@@ -12,4 +12,8 @@ std::string normalisedClasspath(const std::string& classpath);
 /// and a blank behind it.
 std::string assertionOptions(const std::string& list, const std::string& prefix);
 
+/// The folder that the compiler gives classes, by the setting JAVAC_DESTINATION: empty and "." stand for the folder of
+/// the sources, in which the compiler runs, and a relative one begins there.
+std::string classFolder(const std::string& destination, const std::string& sourceFolder);
+
 }  // namespace tarnwick

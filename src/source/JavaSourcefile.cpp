@@ -2,6 +2,7 @@
 
 #include "platform/FileSystem.h"
 #include "platform/Path.h"
+#include "settings/PathRules.h"
 #include "source/Compiler.h"
 #include "source/SourceOutline.h"
 #include "source/TypeIndex.h"
@@ -19,9 +20,8 @@ Compiler::CannotCompileE cannotProcess(const std::string& message, const std::st
 
 /// Where the compiler puts the classes of a package.
 std::string packageFolder(const std::string& destination, const std::string& projectFolder, std::string package) {
-  const bool inProject = destination.empty() || destination.starts_with('.');
   std::replace(package.begin(), package.end(), '.', platform::folderSeparator);
-  return Filename(inProject ? projectFolder : destination, package).fullName();
+  return Filename(classFolder(destination, projectFolder), package).fullName();
 }
 
 }  // namespace

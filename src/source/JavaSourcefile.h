@@ -51,8 +51,7 @@ class JavaSourcefile : public Tarnwickfile {
   std::string mainClass() const;
 
   /// True if the class file of each type is newer than this source and than the sources of all that the type is built
-  /// on, as far as `typeIndex` knows them. `destination` is the setting JAVAC_DESTINATION; if it is empty or starts
-  /// with a ".", the project's folder takes its place.
+  /// on, as far as `typeIndex` knows them. `destination` is the setting JAVAC_DESTINATION.
   bool isUpToDate(const TypeIndex& typeIndex, const std::string& destination, const std::string& projectFolder) const;
 
   /// Empty for the unnamed package.

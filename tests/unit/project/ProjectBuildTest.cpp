@@ -283,8 +283,9 @@ TEST_F(RunTargetTest, ClassesLieInTheProjectsFolderOrInTheDestination) {
       {".", '.' + slash + "Main.class"},
       {" . ", '.' + slash + "Main.class"},
       {"  ", "Main.class"},
-      {"out put", "out put" + slash + "Main.class"},
-      {" out put ", "out put" + slash + "Main.class"},
+      {"out put", folder() + "out put" + slash + "Main.class"},
+      {" out put ", folder() + "out put" + slash + "Main.class"},
+      {'.' + slash + "out", folder() + "out" + slash + "Main.class"},
       {quoted(userFolder()), userFolder() + "Main.class"},
   };
   for (const auto& row : table) {

@@ -1,4 +1,5 @@
 #include "ProjectFixture.h"
+#include "settings/PathRules.h"
 
 namespace tarnwick::test {
 namespace {
@@ -53,9 +54,34 @@ TEST_F(RunClasspathTest, HasTheDestinationWithoutBlanksAround) {
   const ProjectContext& project = open("");
   settings().classpath = "lib";
   settings().javacDestination = "  out put ";
-  EXPECT_EQ(project.runClasspath(), "lib;out put");
+  EXPECT_EQ(project.runClasspath(), "lib;" + folder() + "out put");
   settings().javacDestination = "..";
-  EXPECT_EQ(project.runClasspath(), "lib;..");
+  EXPECT_EQ(project.runClasspath(), "lib;" + folder() + "..");
+  settings().javacDestination = userFolder();
+  EXPECT_EQ(project.runClasspath(), "lib;" + userFolder());
+}
+
+TEST(ClassFolder, IsTheSourcesOneOrBeginsThereOrStandsForItself) {
+  const std::string slash(1, platform::folderSeparator);
+  const std::string sources = platform::absolutePath("my work");
+  const struct {
+    std::string destination;
+    std::string folder;
+  } table[] = {
+      {"", sources},
+      {".", sources},
+      {"  . ", sources},
+      {"out", sources + slash + "out"},
+      {" out ", sources + slash + "out"},
+      {"." + slash + "out", sources + slash + "out"},
+      {".hidden", sources + slash + ".hidden"},
+      {"..", sources + slash + ".."},
+      {".." + slash + "out", sources + slash + ".." + slash + "out"},
+      {"\"out put\"", sources + slash + "out put"},
+      {slash + "out", slash + "out"},
+      {platform::absolutePath("out"), platform::absolutePath("out")},
+  };
+  for (const auto& row : table) EXPECT_EQ(classFolder(row.destination, sources), row.folder) << row.destination;
 }
 
 TEST_F(RunClasspathTest, GoesByTheEffectiveClasspath) {

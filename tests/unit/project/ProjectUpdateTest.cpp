@@ -199,6 +199,26 @@ TEST_F(ProjectUpdateTest, TheDestinationIsWhereTheClassFilesLie) {
   EXPECT_TRUE(project.upToDate());
 }
 
+TEST_F(ProjectUpdateTest, ARelativeDestinationBeginsInTheProjectsFolder) {
+  makeSource("A.java", "class A { }");
+  makeClassFile("A");
+  ProjectContext& project = openWith("A.java");
+  platform::makeFolders(folder() + "out");
+  platform::changeDirectory(scratch_.path());
+  const std::string slash(1, platform::folderSeparator);
+  for (const char* destination : {"out", "./out", ".hidden", ".."}) {
+    settings().javacDestination = destination;
+    project.update();
+    EXPECT_FALSE(project.upToDate()) << destination;
+  }
+  makeClassFile("out" + slash + "A");
+  for (const char* destination : {"out", "./out"}) {
+    settings().javacDestination = destination;
+    project.update();
+    EXPECT_TRUE(project.upToDate()) << destination;
+  }
+}
+
 TEST_F(ProjectUpdateTest, OnlyWhatHasChangedIsReadAgain) {
   makeSource("A.java", "class A { }");
   makeSource("B.java", "class B { }");

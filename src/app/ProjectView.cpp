@@ -131,8 +131,12 @@ void ProjectView::welcomeProject() {
   updateRecentProjects(settings_.context(), project()->file.name().fullName());
 }
 
+std::array<FileForSubprocess*, 3> ProjectView::fileViewFiles() const {
+  return {&settings_.fileviewSource, &settings_.fileviewClass, &settings_.fileviewHtml};
+}
+
 void ProjectView::pointFileView() {
-  for (auto* file : {&settings_.fileviewSource, &settings_.fileviewClass, &settings_.fileviewHtml}) {
+  for (auto* file : fileViewFiles()) {
     file->reset(false);
     file->setLastFolder(project()->folder());
     file->writeToControl("");
@@ -152,7 +156,14 @@ void ProjectView::showProject() {
 
 void ProjectView::openAtStart(const std::string& path) {
   take(path, false);
-  project()->update();
+  // Whoever next asks whether the window was moved would otherwise take its present place for the project's.
+  settings_.windowPosition.applyToWindow();
+  try {
+    project()->update();
+  } catch (const Tarnwickexception&) {
+    refreshButtons();
+    throw;
+  }
   updateRecentProjects(settings_.context(), project()->file.name().fullName());
   pointFileView();
   selectTab();
@@ -164,8 +175,9 @@ void ProjectView::keepOrClose(const std::string& question, const std::string& no
     desktop_.message(none);
   } else if (!desktop_.askYesNo(question + settings_.currentProject->quotedPath() + " ?")) {
     settings_.currentProject.reset();
-    int status = 0;
-    settings_.readDefaultConfiguration(status);
+    forgetProjectValues(settings_);
+    // Otherwise the file view's next action would take the emptied fields for the user's wish.
+    for (auto* file : fileViewFiles()) file->writeToControl(nullptr);
   }
 }
 
@@ -317,6 +329,7 @@ void ProjectView::runProject(bool debugging) {
     else
       runJava(settings_, target, classpath.c_str());
   } catch (const Tarnwickexception& failure) {
+    refreshButtons();
     desktop_.message(failure.message);
   }
   settings_.saveIfWindowMoved();
@@ -332,6 +345,7 @@ void ProjectView::runApplet(bool debugging) {
     FileForSubprocess html(project()->quotedFolder(), project()->htmlFile);
     runAppletviewer(settings_, html, debugging);
   } catch (const Tarnwickexception& failure) {
+    refreshButtons();
     desktop_.message(failure.message);
   }
 }

@@ -3,6 +3,7 @@
 #include "app/PanelDlg.h"
 #include "project/ProjectContext.h"
 
+#include <array>
 #include <string>
 
 namespace tarnwick {
@@ -51,6 +52,8 @@ class ProjectView : public PanelDlg {
   void welcomeProject();
   /// No other project has been taken: asks whether to go on with the one that is open, or tells that there is none.
   void keepOrClose(const std::string& question, const std::string& none);
+  /// What the file view's fields show.
+  std::array<FileForSubprocess*, 3> fileViewFiles() const;
   /// The tabs of the file view begin empty, in the project's folder.
   void pointFileView();
   /// The tab of what the project would run.

@@ -20,6 +20,17 @@ std::string wholePath(const std::string& path) {
 
 }  // namespace
 
+void forgetProjectValues(Settings& settings) {
+  settings.resetAll();
+  for (auto* file : {&settings.fileviewSource, &settings.fileviewClass, &settings.fileviewHtml}) {
+    file->reset(false);
+    file->setLastFolder("");
+  }
+  settings.windowPosition.refreshFromWindow();
+  int status = 0;
+  settings.readDefaultConfiguration(status);
+}
+
 std::string packageRoot(const std::string& qualifiedName, std::string folder, bool& fits) {
   std::string package = '.' + qualifiedName;
   package.erase(package.rfind('.'));
@@ -82,13 +93,16 @@ ProjectValues::ProjectValues(Desktop& desktop, const std::string& path, FileMode
 }
 
 ProjectContext::ProjectContext(Settings& settings, const std::string& path, bool create)
-    : ProjectValues(settings.context().desktop, path, create ? FileMode::Write : FileMode::Read),
+    // What a new project takes the place of stays whole until the new one is saved.
+    : ProjectValues(settings.context().desktop, path, create ? FileMode::Append : FileMode::Read),
       TagTable(projectRows.data(), settings.context().program.version,
                [&settings](const std::string& text) { settings.context().desktop.message(text); }),
       settings_(settings) {
-  // So that no value of the project before stays behind.
   int status = 0;
-  settings_.readDefaultConfiguration(status);
+  if (settings_.currentProject)
+    forgetProjectValues(settings_);
+  else
+    settings_.readDefaultConfiguration(status);
   settings_.lastProjectFile = quotedPath();
   settings_.saveDefaultConfiguration(nullptr);
   if (!create) load();

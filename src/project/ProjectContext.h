@@ -76,6 +76,10 @@ class ProjectContext : public OpenProject, public ProjectValues, public TagTable
 bool allUpToDate(const ProjectSourceList& sources, const TypeIndex& index, const std::string& destination,
                  const std::string& projectFolder);
 
+/// The default configuration's values take the place of a project's. What it lacks, or all if it has gone, gets its
+/// default; only the window stays where it is.
+void forgetProjectValues(Settings& settings);
+
 /// The list of paths with the entry behind it, unless it is among them. A list that can't be read stays as it is.
 std::string addToPathList(const std::string& list, const std::string& entry);
 

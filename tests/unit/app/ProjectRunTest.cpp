@@ -3,9 +3,12 @@
 
 #include <algorithm>
 #include <chrono>
+#include <filesystem>
 
 namespace tarnwick::test {
 namespace {
+
+using std::chrono::milliseconds;
 
 const char notCompiled[] = "Not all classes are up-to-date. Compile!";
 
@@ -40,6 +43,15 @@ class ProjectRunTest : public ProjectViewFixture {
     makeSource("B");
     return makeProject("PROJECT_SOURCES  A.java;B.java\n");
   }
+
+  /// How long "Edit" takes with these files.
+  milliseconds timeOfEdit(ScriptedWindow& panel, const std::vector<std::string>& chosen) {
+    desktop_.expectOpenFiles(chosen);
+    const auto before = std::chrono::steady_clock::now();
+    panel.press(PROJECT_EDIT);
+    return std::chrono::duration_cast<milliseconds>(std::chrono::steady_clock::now() - before);
+  }
+  static constexpr int tries[20] = {};
 
   /// A main class that is up to date when the panel stands, and no longer when a button is pressed.
   void runStale(int tab, int button, const std::function<void()>& expect) {
@@ -165,6 +177,149 @@ TEST_F(ProjectRunTest, ASecondMainMethodIsToldWhenJavaIsPressed) {
     writeFile(path("B.java"), "public class B {" + mainMethod() + "}\n");
     desktop_.expectMessage(conflict("B.java", "A.java"));
     panel.page(TABS, 0).press(RIGHT);
+    EXPECT_FALSE(panel.page(TABS, 0).enabled(RIGHT)) << "no class stands for the project any more";
+    EXPECT_FALSE(panel.page(TABS, 0).enabled(MIDDLE));
+    exit(panel);
+  });
+  EXPECT_FALSE(platform::isFile(scratch_.file("record")));
+}
+
+TEST_F(ProjectRunTest, ASecondMainMethodIsToldWhenJdbOrTheAppletIsStarted) {
+  const struct {
+    int tab;
+    int button;
+  } table[] = {{MAIN_PROGRAM_TAB, MIDDLE}, {APPLET_TAB, MIDDLE}, {APPLET_TAB, RIGHT}};
+  for (const auto& row : table) {
+    makeSource("A", mainMethod());
+    makeSource("B");
+    makeCurrent("A");
+    makeCurrent("B");
+    startWith(makeProject("PROJECT_SOURCES  A.java;B.java\nPROJECT_HTMLFILE  a.html\n"), [&](ScriptedWindow& panel) {
+      EXPECT_TRUE(panel.page(TABS, 0).enabled(RIGHT));
+      writeFile(path("B.java"), "public class B {" + mainMethod() + "}\n");
+      desktop_.expectMessage(conflict("B.java", "A.java"));
+      panel.page(TABS, row.tab).press(row.button);
+      EXPECT_FALSE(panel.page(TABS, 0).enabled(RIGHT)) << row.tab;
+      exit(panel);
+    });
+    settings().currentProject.reset();
+  }
+  EXPECT_FALSE(platform::isFile(scratch_.file("record")));
+}
+
+TEST_F(ProjectRunTest, AfterJavacWhatIsUpToDateRuns) {
+  for (const int button : {CHANGED, ALL}) {
+    makeSource("Main", mainMethod());
+    makeStale("Main");
+    startWith(makeProject("PROJECT_SOURCES  Main.java\nPROJECT_HTMLFILE  a.html\n"), [&](ScriptedWindow& panel) {
+      EXPECT_FALSE(panel.page(TABS, 0).enabled(RIGHT));
+      makeCurrent("Main");
+      panel.page(TABS, 0).setText(FIELD, "else");
+      panel.press(button);
+      EXPECT_TRUE(panel.page(TABS, 0).enabled(RIGHT));
+      EXPECT_TRUE(panel.page(TABS, 1).enabled(RIGHT));
+      EXPECT_EQ(panel.page(TABS, 0).text(FIELD), "Main");
+      exit(panel);
+    });
+    settings().currentProject.reset();
+  }
+}
+
+TEST_F(ProjectRunTest, AProjectThatCannotBeSavedIsToldOnceForABatch) {
+  for (const char* name : {"A", "B", "C"}) makeSource(name);
+  const std::string file = makeProject("PROJECT_SOURCES  A.java;B.java;C.java\n");
+  startWith(file, [&](ScriptedWindow& panel) {
+    platform::deleteFile(file);
+    // A folder in its place refuses every user.
+    platform::makeFolders(file);
+    desktop_.expectMessage(refusal(file, FileMode::Write) + "\nCan't save settings for project.");
+    panel.press(ALL);
+    exit(panel);
+  });
+  EXPECT_NE(recordedUpTo("A.java\n").find("C.java\n"), std::string::npos) << "all the same all are compiled";
+}
+
+TEST_F(ProjectRunTest, AProjectsSettingsAreSavedBeforeItsFirstSourceIsCompiled) {
+  makeSource("A");
+  const std::string file = makeProject("PROJECT_SOURCES  A.java\n");
+  startWith(file, [&](ScriptedWindow& panel) {
+    settings().javaXms = "9m";
+    panel.press(ALL);
+    EXPECT_EQ(savedIn(file, "JAVA_XMS"), "9m");
+    exit(panel);
+  });
+}
+
+TEST_F(ProjectRunTest, ClassesInAFolderBelowTheProjectRun) {
+  const std::string slash(1, platform::folderSeparator);
+  for (const std::string& destination : {"." + slash + "out put", std::string("out put")}) {
+    makeSource("Main", mainMethod());
+    const std::string folder = path("out put");
+    platform::makeFolders(folder);
+    platform::changeDirectory(scratch_.path());
+    const std::string project =
+        makeProject("JAVAC_DESTINATION  " + quoted(destination) + "\nPROJECT_SOURCES  Main.java\n");
+    startWith(project, [&](ScriptedWindow& panel) {
+      EXPECT_FALSE(panel.page(TABS, 0).enabled(RIGHT));
+      writeFile(folder + slash + "Main.class", "class");
+      setFileTime(folder + slash + "Main.class", sourceTime + 60);
+      panel.press(CHANGED);
+      EXPECT_TRUE(panel.page(TABS, 0).enabled(RIGHT)) << destination;
+      platform::changeDirectory(scratch_.path());
+      panel.page(TABS, 0).press(RIGHT);
+      exit(panel);
+    });
+    const std::string recorded = recordedUpTo("Main\n");
+    EXPECT_NE(recorded.find("\\/DEFAULTDIR=" + folder + slash + "\\/"), std::string::npos) << recorded;
+    EXPECT_NE(recorded.find(received("-classpath", "." + listSeparator, folder)), std::string::npos) << recorded;
+    settings().currentProject.reset();
+    platform::deleteFile(scratch_.file("record"));
+    platform::deleteFile(folder + slash + "Main.class");
+  }
+}
+
+/// A desktop on which something happens while the panel looks at its project.
+class BusyDesktop : public ScriptedDesktop {
+ public:
+  std::function<void()> whenWaitEnds = [] {};
+  void showWaitCursor(bool on) override {
+    ScriptedDesktop::showWaitCursor(on);
+    if (!on) whenWaitEnds();
+  }
+};
+
+TEST_F(ProjectRunTest, AnAppletsFolderThatHasGoneIsTold) {
+  BusyDesktop desktop;
+  makeSource("A");
+  makeCurrent("A");
+  const std::string file = makeProject("PROJECT_SOURCES  A.java\nPROJECT_HTMLFILE  a.html\n");
+  for (const int button : {MIDDLE, RIGHT}) {
+    SettingsContext context{desktop, program_, log_};
+    Settings settings(context);
+    desktop.expectMainDialog([&](ScriptedWindow& main) {
+      ScriptedWindow& panel = main.child(PROJECT_VIEW_SLOT);
+      const std::string folder = scratch_.file("us er");
+      const std::string away = scratch_.file("moved away");
+      platform::changeDirectory(scratch_.path());
+      desktop.whenWaitEnds = [&] { std::filesystem::rename(folder, away); };
+      desktop.expectMessage("Can't access project directory.");
+      panel.page(TABS, APPLET_TAB).press(button);
+      desktop.whenWaitEnds = [] {};
+      std::filesystem::rename(away, folder);
+      exit(panel);
+    });
+    TarnwickDlg(settings, file).runModal();
+  }
+  EXPECT_FALSE(platform::isFile(scratch_.file("record")));
+}
+
+TEST_F(ProjectRunTest, AProjectWithoutAnHtmlFileHasNoApplet) {
+  makeSource("A");
+  makeCurrent("A");
+  startWith(makeProject("PROJECT_SOURCES  A.java\nPROJECT_HTMLFILE  a.html\n"), [&](ScriptedWindow& panel) {
+    project().htmlFile.clear();
+    desktop_.expectMessage("No html file defined for this project.");
+    panel.page(TABS, APPLET_TAB).press(RIGHT);
     exit(panel);
   });
   EXPECT_FALSE(platform::isFile(scratch_.file("record")));
@@ -175,21 +330,92 @@ TEST_F(ProjectRunTest, TheAppletviewerShowsTheProjectsHtmlFile) {
   makeCurrent("A");
   writeFile(path("my page.html"), "");
   startWith(makeProject("PROJECT_SOURCES  A.java\nPROJECT_HTMLFILE  \"my page.html\"\n"), [&](ScriptedWindow& panel) {
+    // Whatever came before, it runs in the project's folder.
+    platform::changeDirectory(scratch_.path());
     panel.page(TABS, 1).press(RIGHT);
+    EXPECT_EQ(Filename(platform::currentDirectory(), "x").directory(), Filename(userFolder() + "x").directory());
     exit(panel);
   });
   EXPECT_NE(recordedUpTo("my page.html\n").find("my page.html\n"), std::string::npos);
 }
 
+TEST_F(ProjectRunTest, AppletdebugStartsTheProgramAgain) {
+  makeSource("A");
+  makeCurrent("A");
+  startWith(makeProject("PROJECT_SOURCES  A.java\nPROJECT_HTMLFILE  a.html\n"), [&](ScriptedWindow& panel) {
+    panel.page(TABS, 1).press(MIDDLE);
+    exit(panel);
+  });
+  const std::string recorded = recordedUpTo("a.html\n");
+  EXPECT_NE(recorded.find("\\/JDEBUG\\/"), std::string::npos) << recorded;
+}
+
 TEST_F(ProjectRunTest, EditOpensAllSourcesFromTheLastToTheFirst) {
   startWith(withAnEditor(1), [&](ScriptedWindow& panel) {
-    const auto before = std::chrono::steady_clock::now();
     panel.press(PROJECT_EDIT);
-    EXPECT_GE(std::chrono::steady_clock::now() - before, std::chrono::milliseconds(800)) << "between the two";
     exit(panel);
   });
   const std::string recorded = recordedUpTo("A.java\n");
   EXPECT_EQ(recorded, path("B.java") + "\n" + path("A.java") + "\n");
+}
+
+TEST_F(ProjectRunTest, TheFirstEditorGetsALongerWaitThanTheOthersAndTheLastOneNone) {
+  const struct {
+    std::size_t sources;
+    milliseconds wait;
+  } table[] = {{1, milliseconds(0)}, {2, milliseconds(800)}, {3, milliseconds(1000)}};
+  withAnEditor(0);
+  makeSource("C");
+  const std::vector<std::string> all = {path("C.java"), path("A.java"), path("B.java")};
+  startWith(makeProject("PROJECT_SOURCES  A.java;B.java;C.java\n"), [&](ScriptedWindow& panel) {
+    for (const auto& row : table) {
+      const auto chosen = std::vector<std::string>(all.begin(), all.begin() + static_cast<long>(row.sources));
+      EXPECT_GE(timeOfEdit(panel, chosen), row.wait) << row.sources;
+      // A busy machine may make one of them last longer, but not each.
+      const bool noLonger = std::any_of(std::begin(tries), std::end(tries),
+                                        [&](int) { return timeOfEdit(panel, chosen) < row.wait + milliseconds(190); });
+      EXPECT_TRUE(noLonger) << row.sources;
+    }
+    exit(panel);
+  });
+}
+
+TEST_F(ProjectRunTest, EditOpensWhatIsChosenInTheOrderOfTheDialog) {
+  startWith(withAnEditor(0), [&](ScriptedWindow& panel) {
+    desktop_.expectOpenFiles({path("A.java"), path("B.java")});
+    panel.press(PROJECT_EDIT);
+    exit(panel);
+  });
+  EXPECT_EQ(recordedUpTo("B.java\n"), path("A.java") + "\n" + path("B.java") + "\n");
+}
+
+TEST_F(ProjectRunTest, AnEditorThatCannotBeStartedIsToldOnce) {
+  const std::string project = withAnEditor(1);
+  makeSource("C");
+  writeFile(project, "PROJECT_SOURCES  A.java;B.java;C.java\n");
+  startWith(project, [&](ScriptedWindow& panel) {
+    const std::string nowhere = path("no editor");
+    settings().editorTarget = nowhere;
+    desktop_.expectMessage("Unable to start " + nowhere + ".\n\nNo such file or directory  (2)");
+    panel.press(PROJECT_EDIT);
+    exit(panel);
+  });
+}
+
+TEST_F(ProjectRunTest, AnEditorThatIsNotChosenEndsTheEditing) {
+  const std::string project = withAnEditor(1);
+  startWith(project, [&](ScriptedWindow& panel) {
+    settings().editorTarget.clear();
+    desktop_.expectDialog("Tarnwick settings for project my demo", [](ScriptedWindow& dialog) {
+      EXPECT_EQ(dialog.selection(1092), 5) << "the page of the editor";
+      EXPECT_TRUE(dialog.visible(2003));
+      EXPECT_EQ(dialog.text(2003), "Choose the editor for your sources");
+      dialog.press(IDCANCEL_CONTROL);
+    });
+    panel.press(PROJECT_EDIT);
+    exit(panel);
+  });
+  EXPECT_FALSE(platform::isFile(scratch_.file("record")));
 }
 
 TEST_F(ProjectRunTest, EditOpensWhatTheUserChooses) {

@@ -16,6 +16,13 @@ class ProjectStartTest : public ProjectViewFixture {
     });
     TarnwickDlg(settings(), argument).runModal();
   }
+  /// The view of an open project, as far as it needs no class.
+  static void expectUsable(ScriptedWindow& panel) {
+    for (const int control : {PROJECT_NEW, OPEN, FILES, PROJECT_EDIT, ALL, CHANGED}) {
+      EXPECT_TRUE(panel.enabled(control)) << control;
+    }
+    EXPECT_TRUE(bar(panel).enabled(SETTINGS));
+  }
   static void expectFileView(ScriptedWindow& main) {
     EXPECT_TRUE(main.child(FILE_VIEW_SLOT).shown());
     EXPECT_FALSE(main.child(PROJECT_VIEW_SLOT).shown());
@@ -82,10 +89,42 @@ TEST_F(ProjectStartTest, AConflictOfMainMethodsIsToldAndTheProjectIsOpen) {
   makeSource("B", mainMethod());
   const std::string file = makeProject("PROJECT_SOURCES  A.java;B.java\n");
   desktop_.expectMessage(conflict("B.java", "A.java"));
-  start(file, [](ScriptedWindow& main) { expectFileView(main); });
+  start(file, [](ScriptedWindow& main) {
+    expectFileView(main);
+    expectUsable(main.child(PROJECT_VIEW_SLOT));
+  });
   ASSERT_NE(settings().currentProject, nullptr);
   EXPECT_EQ(project().file.name().fullName(), file);
   EXPECT_EQ(project().mainClass, "");
+  EXPECT_EQ(saved("RECENT_PROJECTS"), "") << "only a project that could be looked at";
+  EXPECT_EQ(saved("LAST_PROJECT_FILE"), quoted(file));
+}
+
+TEST_F(ProjectStartTest, AJdkOutOfReachIsToldAndTheProjectIsOpen) {
+  makeSource("A", mainMethod());
+  saveEarlierRun([&](Settings& earlier) { earlier.javaPath = userFolder(); });
+  desktop_.expectMessage(noCompilerIn(userFolder()) + "\nCan't open project file.");
+  start(makeProject("PROJECT_SOURCES  A.java\n"), [&](ScriptedWindow& main) {
+    expectFileView(main);
+    ScriptedWindow& panel = main.child(PROJECT_VIEW_SLOT);
+    expectUsable(panel);
+    EXPECT_FALSE(panel.page(TABS, 0).enabled(RIGHT));
+    // With a JDK all goes on from here.
+    settings().javaPath = standInFolder();
+    bar(main.child(FILE_VIEW_SLOT)).press(SWITCH_VIEW);
+    makeCurrent("A");
+    panel.press(CHANGED);
+    EXPECT_TRUE(panel.page(TABS, 0).enabled(RIGHT));
+  });
+}
+
+TEST_F(ProjectStartTest, AfterAStartThatFailedTheFileViewsFieldsAreAsTheyWere) {
+  saveEarlierRun([](Settings& earlier) { earlier.fileviewSource.setName("A.java"); });
+  makeSource("A", mainMethod());
+  makeSource("B", mainMethod());
+  desktop_.expectMessage(conflict("B.java", "A.java"));
+  start(makeProject("PROJECT_SOURCES  A.java;B.java\n"),
+        [](ScriptedWindow& main) { EXPECT_EQ(main.child(FILE_VIEW_SLOT).text(SOURCE), "A.java"); });
 }
 
 TEST_F(ProjectStartTest, AProjectCarriesItsOwnSettings) {

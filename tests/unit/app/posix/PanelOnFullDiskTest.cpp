@@ -1,6 +1,6 @@
 // A disk that takes no more bytes, played by the limit on the size of files.
 #include "support/posix/FullDisk.h"
-#include "unit/app/PanelFixture.h"
+#include "unit/app/ProjectViewFixture.h"
 
 #include <cerrno>
 #include <cstring>
@@ -8,7 +8,7 @@
 namespace tarnwick::test {
 namespace {
 
-class PanelOnFullDiskTest : public PanelFixture {};
+class PanelOnFullDiskTest : public ProjectViewFixture {};
 
 TEST_F(PanelOnFullDiskTest, ASaveThatFailsHalfwayIsToldLosesNothingAndThePanelGoesOn) {
   saveEarlierRun();
@@ -50,6 +50,28 @@ TEST_F(PanelOnFullDiskTest, ASeparateFileThatFailsHalfwayIsToldAndTheOneThatWasT
   });
   EXPECT_EQ(contentOf(chosen), "JAVA_XMS  1m\n");
   EXPECT_EQ(settings().javaXms, "") << "the running settings are as they were";
+}
+
+TEST_F(PanelOnFullDiskTest, ANewProjectInThePlaceOfAnotherLeavesThatOneWholeUntilItIsSaved) {
+  saveEarlierRun([](Settings& earlier) { earlier.lastProjectFile = "x.twp"; });
+  const std::string reason = std::strerror(EFBIG);
+  makeSource("A");
+  const std::string file = makeProject("JAVA_XMS  77m\nPROJECT_SOURCES  A.java\n");
+  inProjectView([&](ScriptedWindow& panel) {
+    desktop_.expectSaveFile(file);
+    desktop_.expectDialog(reason, [](ScriptedWindow& dialog) { dialog.press(IDCANCEL_CONTROL); });
+    desktop_.expectMessage(reason + "\nCan't save configuration data in " + configFile());
+    desktop_.expectMessage(reason + "\nCan't save settings for project.");
+    desktop_.expectDialog("Define which files belong to the project",
+                          [](ScriptedWindow& dialog) { dialog.press(IDCANCEL_CONTROL); });
+    {
+      const FullDisk full(512);
+      panel.press(PROJECT_NEW);
+    }
+    EXPECT_EQ(contentOf(file), "JAVA_XMS  77m\nPROJECT_SOURCES  A.java\n");
+    settings().currentProject.reset();
+    exit(panel);
+  });
 }
 
 }  // namespace

@@ -5,7 +5,9 @@
 #include "platform/Path.h"
 
 #include <cerrno>
+#include <cstdio>
 #include <cstring>
+#include <memory>
 
 namespace tarnwick {
 
@@ -196,10 +198,26 @@ bool append(std::string& bytes, char32_t letter, CharacterSet characterSet) {
   return true;
 }
 
-std::string contentOf(std::FILE* stream) {
+struct Closer {
+  void operator()(std::FILE* stream) const { std::fclose(stream); }
+};
+using Stream = std::unique_ptr<std::FILE, Closer>;
+
+/// The file's bytes; nothing if there is no such file. Throws Tarnwickfile::FileNotOpenE.
+std::optional<std::string> contentOf(const std::string& path) {
+  refuseSpecial(path);
+  refuseLarge(platform::fileSize(path).value_or(0), path);
+  const Stream stream(platform::openFile(path, "rb"));
+  if (!stream && errno == ENOENT) return std::nullopt;
+  if (!stream) throw Tarnwickfile::FileNotOpenE(std::strerror(errno), path);
   std::string content;
   char block[8192];
-  while (const std::size_t count = std::fread(block, 1, sizeof block, stream)) content.append(block, count);
+  while (const std::size_t count = std::fread(block, 1, sizeof block, stream.get())) {
+    content.append(block, count);
+    // A file may grow while it is read.
+    refuseLarge(content.size(), path);
+  }
+  if (std::ferror(stream.get())) throw Tarnwickfile::FileNotOpenE(std::strerror(errno), path);
   return content;
 }
 
@@ -228,28 +246,21 @@ PlainTextFile::PlainTextFile() {
 }
 
 void PlainTextFile::load(const std::string& path) {
-  std::FILE* stream = platform::openFile(path, "rb");
-  const int reason = errno;
-  if (!stream && reason != ENOENT) throw Tarnwickfile::FileNotOpenE(std::strerror(reason), path);
-  std::string bytes;
-  if (stream) {
-    bytes = contentOf(stream);
-    const bool failed = std::ferror(stream) != 0;
-    const int readReason = errno;
-    std::fclose(stream);
-    if (failed) throw Tarnwickfile::FileNotOpenE(std::strerror(readReason), path);
-  }
-  content_ = stream ? decoded(bytes) : PlainTextFile().content_;
-  bytes_ = std::move(bytes);
+  const auto bytes = contentOf(path);
+  content_ = bytes ? decoded(*bytes) : PlainTextFile().content_;
+  bytes_ = bytes.value_or("");
   path_ = path;
 }
 
 bool PlainTextFile::changedByOthers() const {
-  std::FILE* stream = path_.empty() ? nullptr : platform::openFile(path_, "rb");
-  if (!stream) return false;
-  const std::string now = contentOf(stream);
-  std::fclose(stream);
-  return now != bytes_;
+  if (path_.empty()) return false;
+  try {
+    const auto now = contentOf(path_);
+    return now && *now != bytes_;
+  } catch (const Tarnwickfile::FileNotOpenE&) {
+    // What has become a device, or larger than any text of ours, is not what was read.
+    return platform::isSpecial(path_) || platform::fileSize(path_).value_or(0) > largestContent;
+  }
 }
 
 std::optional<std::string> PlainTextFile::bytesOf(const std::string& text) const {

@@ -35,6 +35,7 @@ ReplacingFile::ReplacingFile(const std::string& target, Bytes) : ReplacingFile(t
 
 ReplacingFile::ReplacingFile(const std::string& target, const char* letters) {
   setFile(Filename(target), FileMode::Write);
+  refuseLineEnd(name().fullName());
   place_ = platform::resolvedPath(name().fullName());
   const std::string folder = Filename(place_).directory();
   if (!folder.empty() && !platform::isFolder(folder)) platform::makeFolders(folder);

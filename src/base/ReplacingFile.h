@@ -14,7 +14,7 @@ class ReplacingFile : public Tarnwickfile {
  public:
   /// Opens for writing; makes the target's folder if it is missing. Where that folder takes no new file the fresh one
   /// lies in the folder for temporary files; a target that is no plain file is written itself. Throws FileNotOpenE as
-  /// opening the target for writing would.
+  /// opening the target for writing would, also for a name with a line end.
   explicit ReplacingFile(const std::string& target);
   /// The same for content whose bytes stay as they are.
   struct Bytes {};

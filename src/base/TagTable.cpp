@@ -138,19 +138,24 @@ void TagTable::resetToDefaults(int owner) {
 }
 
 int TagTable::read(Tarnwickfile& file) {
-  constexpr std::size_t step = 256;
-  std::string buffer(step, '\0');
+  constexpr std::size_t firstSize = 256;
+  std::string buffer(firstSize, '\0');
   int status = 0;
-  file.open(FileMode::Undefined);
+  std::size_t size = 0;
+  file.openContent(FileMode::Undefined);
   while (const auto line = nextLine(file.stream(), buffer)) {
+    size += line->size();
+    refuseLarge(size, file.name().fullName());
     if (line->size() >= buffer.size() - 2) {
       // Meant: for a line that may be longer than the buffer, the file is read again from its top with a larger one.
+      // Twice as large, so that the longest line costs no more than a few passes.
       try {
-        file.open(FileMode::Undefined);
+        file.openContent(FileMode::Undefined);
       } catch (const Tarnwickfile::FileNotOpenE&) {
         return READ_FILE_LOST;
       }
-      buffer.resize(buffer.size() + step);
+      buffer.resize(2 * buffer.size());
+      size = 0;
       continue;
     }
     const auto bits = readLine(*line);
@@ -173,9 +178,15 @@ int TagTable::readLine(const std::string& line) {
 
 void TagTable::write(Tarnwickfile& file) {
   // The header comes with each call, and is meant to: a file that two tables write holds it twice.
-  std::fprintf(file.stream(), "REM  This configuration file was written by %s\nREM\n", version_.c_str());
-  for (const TagRow* row = rows_; row->kind != TAG_END; ++row)
-    if (const auto value = writtenValue(*row)) std::fprintf(file.stream(), "%s%s\n", row->tag, value->c_str());
+  std::string text = "REM  This configuration file was written by " + version_ + "\nREM\n";
+  for (const TagRow* row = rows_; row->kind != TAG_END; ++row) {
+    const auto value = writtenValue(*row);
+    if (!value) continue;
+    if (value->find('\n') != std::string::npos) throw LineEndE(row->tag, file.name().fullName());
+    // A zero byte ends a value, as it does where the value is read.
+    text += row->tag + value->substr(0, value->find('\0')) + '\n';
+  }
+  std::fputs(text.c_str(), file.stream());
 }
 
 }  // namespace tarnwick

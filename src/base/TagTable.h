@@ -5,6 +5,7 @@
 
 #include <functional>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace tarnwick {
@@ -45,6 +46,13 @@ class TagTable {
  public:
   using MessageShower = std::function<void(const std::string&)>;
 
+  /// A value holds a line end, so what follows it would be a line of its own, with any tag. Whoever fills a variable
+  /// keeps that out; this is the last line of defence.
+  struct LineEndE : Tarnwickfile::FileNotOpenE {
+    LineEndE(const std::string& tag, std::string fileName)
+        : FileNotOpenE("The value of " + tag + " holds a line end", std::move(fileName)) {}
+  };
+
   /// `rows` end with a TAG_END row and outlive the table. `version` goes into the header of what is written.
   /// `showMessage` tells of a fault in the table itself.
   TagTable(const TagRow* rows, std::string version, MessageShower showMessage);
@@ -52,10 +60,11 @@ class TagTable {
 
   /// Sets each row with this owner to its default, in table order.
   virtual void resetToDefaults(int owner);
-  /// Reads the file from its beginning and leaves it open. Gives ReadStatus bits. Throws FileNotOpenE.
+  /// Reads the file from its beginning and leaves it open. Gives ReadStatus bits. Throws FileNotOpenE as
+  /// Tarnwickfile::openContent does.
   virtual int read(Tarnwickfile& file);
-  /// Writes the header and all rows to an open file, and leaves it open. Values go there as they are; none may hold a
-  /// line break. Throws FileNotOpenE.
+  /// Writes the header and all rows to an open file, and leaves it open. Values go there as they are. Throws
+  /// FileNotOpenE, and LineEndE before anything is written.
   virtual void write(Tarnwickfile& file);
 
   /// The first row.

@@ -1,5 +1,6 @@
 #include "base/Tarnwickfile.h"
 
+#include "base/Text.h"
 #include "platform/FileSystem.h"
 
 #include <cerrno>
@@ -56,8 +57,15 @@ void Tarnwickfile::open(FileMode mode) {
   if (mode_ == FileMode::Undefined)
     throw FileNotOpenE("Tarnwickfile::open(): Don't know how to open " + name_.alwaysQuotedName(), name_.fullName());
   close();
+  refuseLineEnd(name_.fullName());
+  if (mode_ == FileMode::Read) refuseSpecial(name_.fullName());
   stream_ = platform::openFile(name_.fullName(), lettersOf(mode_));
   if (!stream_) throw FileNotOpenE(std::strerror(errno), name_.fullName());
+}
+
+void Tarnwickfile::openContent(FileMode mode) {
+  refuseLarge(platform::fileSize(name_.fullName()).value_or(0), name_.fullName());
+  open(mode);
 }
 
 void Tarnwickfile::close() {
@@ -81,8 +89,20 @@ void Tarnwickfile::setStream(std::FILE* stream) {
   stream_ = stream;
 }
 
+void refuseLineEnd(const std::string& path) {
+  if (holdsLineEnd(platform::absolutePath(path))) throw Tarnwickfile::FileNotOpenE("The name holds a line end", path);
+}
+
+void refuseSpecial(const std::string& path) {
+  if (platform::isSpecial(path)) throw Tarnwickfile::FileNotOpenE("Not a regular file", path);
+}
+
+void refuseLarge(std::uintmax_t size, const std::string& path) {
+  if (size > largestContent) throw Tarnwickfile::FileNotOpenE("Larger than 64 MiB", path);
+}
+
 bool canBeRead(const std::string& path) {
-  std::FILE* stream = platform::openFile(path, "r");
+  std::FILE* stream = platform::openFile(Filename(path).fullName(), "r");
   if (!stream) return false;
   std::fclose(stream);
   return true;

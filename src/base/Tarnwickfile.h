@@ -3,10 +3,15 @@
 #include "base/Filename.h"
 #include "base/Tarnwickexception.h"
 
+#include <cstddef>
+#include <cstdint>
 #include <cstdio>
 #include <string>
 
 namespace tarnwick {
+
+/// The most that is read of one file, in bytes.
+inline constexpr std::size_t largestContent = std::size_t{64} * 1024 * 1024;
 
 /// How a Tarnwickfile is opened. As an argument of `open`, `Undefined` keeps the stored mode.
 enum class FileMode { Read = 0, Write = 1, Append = 2, Undefined = 3 };
@@ -37,8 +42,12 @@ class Tarnwickfile {
   /// A file that is prepared now and opened later.
   static Tarnwickfile unopened(const std::string& path, FileMode mode);
 
-  /// Opens from the beginning, in a new mode or in the stored one. Throws FileNotOpenE.
+  /// Opens from the beginning, in a new mode or in the stored one. Throws FileNotOpenE, also for a name with a line
+  /// end, and for devices and pipes that were to be read.
   void open(FileMode mode);
+  /// Does the same for a file whose content is wanted. Throws FileNotOpenE for one that is larger than
+  /// `largestContent`, too.
+  void openContent(FileMode mode);
   /// Closes the stream if there is one.
   void close();
   /// The open stream, for all reading and writing. Throws FileNotOpenE if the file is not open.
@@ -61,7 +70,15 @@ class Tarnwickfile {
   FileMode mode_ = FileMode::Undefined;
 };
 
-/// True if the file can be opened for reading; this is how the system tests that a file exists.
+/// True if the file can be opened for reading; this is how the system tests that a file exists. White space around the
+/// path and double quotes do not count.
 bool canBeRead(const std::string& path);
+
+/// Throws FileNotOpenE if the file's whole path holds a line end: such a name would break the files that remember it.
+void refuseLineEnd(const std::string& path);
+/// Throws FileNotOpenE for what can't be read to its end: a device, a pipe.
+void refuseSpecial(const std::string& path);
+/// Throws FileNotOpenE if that many bytes are more than is read of one file.
+void refuseLarge(std::uintmax_t size, const std::string& path);
 
 }  // namespace tarnwick

@@ -30,6 +30,15 @@ std::string quotedIfBlank(const std::string& text);
 /// are removed, whatever the last one is.
 std::string cleanedPath(const std::string& text);
 
+/// True if something in the text would end a line of a file.
+bool holdsLineEnd(std::string_view text);
+
+/// The text on one line: each line end counts as a blank.
+std::string onOneLine(const std::string& text);
+
+/// A list of paths on one line: what stood on a line of its own is an element. Empty lines leave nothing behind.
+std::string pathsOnOneLine(const std::string& list);
+
 /// The folding of an executable's name; where it is applied is the platform's matter.
 using platform::foldExecutable;
 

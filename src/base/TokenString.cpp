@@ -62,6 +62,13 @@ std::string TokenString::element(int index) const {
   return elementFrom(at);
 }
 
+std::vector<std::string> TokenString::elements() const {
+  std::vector<std::string> all;
+  std::size_t at = 0;
+  for (int i = 0; i < count_; ++i, ++at) all.push_back(elementFrom(at));
+  return all;
+}
+
 std::string TokenString::elementFrom(std::size_t& at) const {
   std::string result;
   for (; at < text_.size() && text_[at] != separator_; ++at) {

@@ -4,6 +4,7 @@
 
 #include <cstddef>
 #include <string>
+#include <vector>
 
 namespace tarnwick {
 
@@ -32,6 +33,8 @@ class TokenString : public StringableM {
   virtual void operator+=(const std::string& text) { add(text); }
   /// The element with this index, counted from 0, without its escapes. Throws OutOfBoundsE.
   virtual std::string element(int index) const;
+  /// All elements in their order, taken from the text in one pass.
+  std::vector<std::string> elements() const;
 
   /// The number of elements.
   int count() const { return count_; }

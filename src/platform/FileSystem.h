@@ -1,6 +1,7 @@
 // Files, folders and the environment, with names as bytes in the platform's character set.
 #pragma once
 
+#include <cstdint>
 #include <cstdio>
 #include <ctime>
 #include <optional>
@@ -32,6 +33,13 @@ bool deleteFile(const std::string& path);
 
 /// The names of the plain files in a folder, links to such included, in no order; none if it can't be read.
 std::vector<std::string> filesIn(const std::string& folder);
+
+/// The number of bytes in a file; nothing if it can't be had.
+std::optional<std::uintmax_t> fileSize(const std::string& path);
+
+/// True for what bears a name but is neither folder nor stored file: devices, pipes, and what the system makes up when
+/// it is read. Reading such a thing may never end. What links lead to counts.
+bool isSpecial(const std::string& path);
 
 /// True for what links lead to, too.
 bool isFile(const std::string& path);

@@ -10,6 +10,8 @@
 #include "source/Compiler.h"
 #include "source/PieceFolder.h"
 
+#include <algorithm>
+
 namespace tarnwick {
 
 namespace {
@@ -62,9 +64,9 @@ std::string addToPathList(const std::string& list, const std::string& entry) {
   } catch (const StringableM::InvalidDataE&) {
     return list;
   }
-  for (int i = 0; i < paths.count(); ++i) {
-    if (platform::sameFileName(paths.element(i), entry)) return list;
-  }
+  const auto known = paths.elements();
+  const auto isEntry = [&entry](const std::string& path) { return platform::sameFileName(path, entry); };
+  if (std::any_of(known.begin(), known.end(), isEntry)) return list;
   paths.add(entry);
   return paths.toString();
 }
@@ -77,8 +79,8 @@ std::string quotedPaths(const std::string& list) {
     return list;
   }
   std::string text;
-  for (int i = 0; i < paths.count(); ++i) text += (i == 0 ? "" : ";") + Filename(paths.element(i)).quoted();
-  return text;
+  for (const auto& path : paths.elements()) text += ';' + Filename(path).quoted();
+  return text.empty() ? text : text.substr(1);
 }
 
 ProjectValues::ProjectValues(Desktop& desktop, const std::string& path, FileMode mode)

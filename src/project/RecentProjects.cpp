@@ -9,10 +9,7 @@ std::vector<std::string> recentProjects(SettingsContext& context) {
   Settings stored(context);
   int status = 0;
   stored.readDefaultConfiguration(status);
-  std::vector<std::string> paths;
-  paths.reserve(static_cast<std::size_t>(stored.recentProjects.count()));
-  for (int i = 0; i < stored.recentProjects.count(); ++i) paths.push_back(stored.recentProjects.element(i));
-  return paths;
+  return stored.recentProjects.elements();
 }
 
 void updateRecentProjects(SettingsContext& context, const std::string& path) {

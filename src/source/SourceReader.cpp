@@ -55,7 +55,7 @@ const char* skippedTo(const char* at) {
 
 SourceReader::SourceReader(Tarnwickfile& file)
     : file_(file), block_(std::make_unique_for_overwrite<char[]>(blockSize + 1)) {
-  file_.open(FileMode::Read);
+  file_.openContent(FileMode::Read);
   at_ = end_ = counted_ = block_.get();
   block_[0] = '\0';
 }
@@ -214,6 +214,9 @@ bool SourceReader::fill() {
   if (std::feof(file_.stream())) return false;
   countLines(end_);
   const std::size_t count = std::fread(block_.get(), 1, blockSize, file_.stream());
+  // A file may grow while it is read.
+  read_ += count;
+  refuseLarge(read_, file_.name().fullName());
   block_[count] = '\0';
   at_ = counted_ = block_.get();
   end_ = at_ + count;

@@ -23,7 +23,8 @@ class SourceReader {
     std::string file;  ///< the source's name, quoted
   };
 
-  /// Opens the file for reading; the destructor closes it. Throws Tarnwickfile::FileNotOpenE.
+  /// Opens the file for reading; the destructor closes it. Throws Tarnwickfile::FileNotOpenE, as a read does that finds
+  /// more than Tarnwickfile::openContent takes.
   explicit SourceReader(Tarnwickfile& file);
   virtual ~SourceReader();
   SourceReader(const SourceReader&) = delete;
@@ -95,6 +96,7 @@ class SourceReader {
   const char* end_ = nullptr;
   mutable const char* counted_ = nullptr;
   mutable int line_ = 1;
+  std::size_t read_ = 0;  ///< how much has been read
   bool atEnd_ = false;
   char pushedBack_ = 0;
   std::string rawText_;

@@ -153,11 +153,14 @@ std::optional<std::string> NewSourceFileDlg::templateText() {
 }
 
 std::string NewSourceFileDlg::userDefinedText(const std::string& path) {
-  Tarnwickfile source(path, FileMode::Read);
+  auto source = Tarnwickfile::unopened(path, FileMode::Read);
+  source.openContent(FileMode::Read);
   std::string text;
   // A byte of 255 ends a template, which is meant: it reads like the end of the file.
-  for (int byte = std::getc(source.stream()); byte != EOF && byte != 255; byte = std::getc(source.stream()))
+  for (int byte = std::getc(source.stream()); byte != EOF && byte != 255; byte = std::getc(source.stream())) {
     text += static_cast<char>(byte);
+    refuseLarge(text.size(), source.name().fullName());
+  }
   if (std::ferror(source.stream()))
     desktop_.message(std::string("Error copying user-defined file template\n") + std::strerror(errno));
   return text;

@@ -29,8 +29,8 @@ void TemplateList::addPersonal(const std::string& description, const std::string
 
 void TemplateList::addStored() {
   try {
-    for (int i = 0; i < stored_.personalTemplates.count(); ++i) {
-      const TokenString pair(stored_.personalTemplates.element(i), ';', ']');
+    for (const auto& element : stored_.personalTemplates.elements()) {
+      const TokenString pair(element, ';', ']');
       add(pair.element(0), pair.element(1));
     }
   } catch (const TokenString::OutOfBoundsE&) {

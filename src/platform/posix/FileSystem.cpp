@@ -3,11 +3,15 @@
 #include "platform/Path.h"
 #include "platform/posix/TextInput.h"
 
+#include <algorithm>
+#include <array>
 #include <cerrno>
 #include <cstdlib>
 #include <fcntl.h>
 #include <filesystem>
+#include <linux/magic.h>
 #include <sys/stat.h>
+#include <sys/vfs.h>
 #include <unistd.h>
 
 namespace tarnwick::platform {
@@ -18,6 +22,14 @@ std::optional<struct stat> statusOf(const std::string& path) {
   struct stat status {};
   if (::stat(path.c_str(), &status) != 0) return std::nullopt;
   return status;
+}
+
+/// True for files that the kernel makes up: they call themselves regular and empty, and some never end.
+bool isMadeUp(const std::string& path) {
+  struct statfs system {};
+  if (::statfs(path.c_str(), &system) != 0) return false;
+  constexpr std::array<std::uint32_t, 3> types = {PROC_SUPER_MAGIC, DEBUGFS_MAGIC, TRACEFS_MAGIC};
+  return std::find(types.begin(), types.end(), static_cast<std::uint32_t>(system.f_type)) != types.end();
 }
 
 int openDescriptor(const std::string& path, const std::string& mode) {
@@ -74,6 +86,18 @@ std::optional<std::time_t> lastChange(const std::string& path) {
 
 bool deleteFile(const std::string& path) {
   return ::unlink(path.c_str()) == 0;
+}
+
+std::optional<std::uintmax_t> fileSize(const std::string& path) {
+  const auto status = statusOf(path);
+  if (!status) return std::nullopt;
+  return static_cast<std::uintmax_t>(status->st_size);
+}
+
+bool isSpecial(const std::string& path) {
+  const auto status = statusOf(path);
+  if (!status || S_ISDIR(status->st_mode)) return false;
+  return !S_ISREG(status->st_mode) || isMadeUp(path);
 }
 
 bool isFile(const std::string& path) {

@@ -99,6 +99,21 @@ bool deleteFile(const std::string& path) {
   return DeleteFileA(path.c_str()) != 0;
 }
 
+std::optional<std::uintmax_t> fileSize(const std::string& path) {
+  WIN32_FILE_ATTRIBUTE_DATA data{};
+  if (!GetFileAttributesExA(path.c_str(), GetFileExInfoStandard, &data)) return std::nullopt;
+  return (static_cast<std::uintmax_t>(data.nFileSizeHigh) << 32) | data.nFileSizeLow;
+}
+
+bool isSpecial(const std::string& path) {
+  const HANDLE file = CreateFileA(path.c_str(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
+                                  nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
+  if (file == INVALID_HANDLE_VALUE) return false;
+  const DWORD type = GetFileType(file);
+  CloseHandle(file);
+  return type != FILE_TYPE_DISK;
+}
+
 bool isFile(const std::string& path) {
   return hasAttribute(path, FILE_ATTRIBUTE_DIRECTORY, false);
 }

@@ -30,6 +30,17 @@ Names namesIn(const ScratchFolder& folder) {
   return names;
 }
 
+TEST(ReplacingFile, ANameWithALineEndIsRefusedAndNothingIsMade) {
+  const test::ScratchFolder folder;
+  try {
+    const ReplacingFile file(folder.file("a\nb") + platform::folderSeparator + "x.cfg");
+    ADD_FAILURE() << "nothing was thrown";
+  } catch (const Tarnwickfile::FileNotOpenE& failure) {
+    EXPECT_EQ(failure.message, "The name holds a line end");
+  }
+  EXPECT_FALSE(platform::isFolder(folder.file("a\nb")));
+}
+
 TEST(ReplacingFile, WhatIsCommittedTakesTheTargetsPlace) {
   const ScratchFolder folder;
   writeFile(folder.file("x.cfg"), "old");

@@ -158,6 +158,31 @@ TEST_F(TagTableTest, WritingTwiceIntoOneFileWritesTheHeaderTwice) {
   EXPECT_NE(text.find("REM  This configuration file was written by Tarnwick V4.7a", first + 1), std::string::npos);
 }
 
+TEST_F(TagTableTest, AValueWithALineEndIsRefusedBeforeAnythingIsWritten) {
+  struct Lines : StringableM {
+    std::string toString() override { return "a\nJAVA_PATH  /planted/"; }
+    void fromString(const std::string&) override {}
+  } lines;
+  const auto refusal = [this] {
+    Tarnwickfile file(path, FileMode::Write);
+    try {
+      owner.table.write(file);
+    } catch (const TagTable::LineEndE& failure) {
+      EXPECT_EQ(failure.file, path);
+      return failure.message;
+    }
+    return std::string("written");
+  };
+  owner.other = "x\nJAVA_PATH  /planted/";
+  EXPECT_EQ(refusal(), "The value of EDITOR=NOTEPAD holds a line end");
+  EXPECT_EQ(contentOf(path), "") << "not even the lines before it";
+  owner.other = "x\n";
+  EXPECT_EQ(refusal(), "The value of EDITOR=NOTEPAD holds a line end");
+  owner.other = "x";
+  owner.rows[5].variable = static_cast<StringableM*>(&lines);
+  EXPECT_EQ(refusal(), "The value of JDOC_TAG holds a line end");
+}
+
 TEST_F(TagTableTest, WritingToAClosedFileThrows) {
   Tarnwickfile file = Tarnwickfile::unopened(path, FileMode::Write);
   try {
@@ -394,12 +419,12 @@ struct Counter : StringableM {
   int count = 0;
 };
 
-TEST_F(TagTableTest, ALineUpTo253CharactersNeedsOnePassAndEach256MoreCostOne) {
+TEST_F(TagTableTest, ALineUpTo253CharactersNeedsOnePassAndEachDoublingCostsOne) {
   const std::string intro = "JAVA_PATH  ";
   const struct {
     std::size_t length;
     int passes;
-  } cases[] = {{253, 1}, {254, 2}, {509, 2}, {510, 3}, {765, 3}, {766, 4}};
+  } cases[] = {{253, 1}, {254, 2}, {509, 2}, {510, 3}, {1021, 3}, {1022, 4}, {4000000, 15}};
   for (const auto& one : cases) {
     Counter counter;
     owner.rows[5].variable = static_cast<StringableM*>(&counter);

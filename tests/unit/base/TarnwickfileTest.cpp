@@ -337,5 +337,29 @@ TEST(Tarnwickfile, AssignmentToItselfChangesNothing) {
   EXPECT_EQ(restOf(file), "ext");
 }
 
+TEST(Tarnwickfile, ANameWithALineEndIsRefusedInEveryMode) {
+  const ScratchFolder folder;
+  for (const char* name : {"a\nb.txt", "a\rb.txt", "a\nb/c.txt"}) {
+    for (const FileMode mode : {FileMode::Read, FileMode::Write, FileMode::Append}) {
+      try {
+        const Tarnwickfile file(folder.file(name), mode);
+        ADD_FAILURE() << "nothing was thrown";
+      } catch (const Tarnwickfile::FileNotOpenE& failure) {
+        EXPECT_EQ(failure.message, "The name holds a line end");
+        EXPECT_EQ(failure.file, folder.file(name));
+      }
+    }
+  }
+  EXPECT_TRUE(platform::filesIn(folder.path()).empty()) << "nothing was made";
+}
+
+TEST(Tarnwickfile, WhiteSpaceAndQuotesAroundANameDoNotCountInTheTestForItsFile) {
+  const ScratchFolder folder;
+  writeFile(folder.file("my x.txt"), "");
+  EXPECT_TRUE(canBeRead('"' + folder.file("my x.txt") + '"'));
+  EXPECT_TRUE(canBeRead(folder.file("my x.txt") + " \n"));
+  EXPECT_FALSE(canBeRead(folder.file("my y.txt")));
+}
+
 }  // namespace
 }  // namespace tarnwick

@@ -66,6 +66,28 @@ TEST(Text, APathThatBeginsWithAQuoteLosesItsLastCharacterWhateverItIs) {
   EXPECT_EQ(cleanedPath("\"abc"), "ab");
 }
 
+TEST(Text, ALineEndIsALineFeedOrACarriageReturn) {
+  EXPECT_TRUE(holdsLineEnd("a\nb"));
+  EXPECT_TRUE(holdsLineEnd("\r"));
+  EXPECT_FALSE(holdsLineEnd("a b\t\v\f"));
+  EXPECT_FALSE(holdsLineEnd(""));
+}
+
+TEST(Text, OnOneLineEachLineEndIsOneBlank) {
+  EXPECT_EQ(onOneLine("a\nb"), "a b");
+  EXPECT_EQ(onOneLine("a\r\nb\rc"), "a b c");
+  EXPECT_EQ(onOneLine("a\n\nb\n"), "a  b ");
+  EXPECT_EQ(onOneLine("a\\nb\t c"), "a\\nb\t c") << "what stands for a line end in a key's text is none";
+}
+
+TEST(Text, PathsOnLinesOfTheirOwnAreElementsOfOneList) {
+  EXPECT_EQ(pathsOnOneLine("a.jar\nmy b.jar\r\nc.jar"), "a.jar;my b.jar;c.jar");
+  EXPECT_EQ(pathsOnOneLine("a.jar;\n;b.jar\n"), "a.jar;b.jar") << "no element is empty, which would be a folder";
+  EXPECT_EQ(pathsOnOneLine("\n\n  a.jar \n\n \nb.jar\n"), "a.jar;b.jar");
+  EXPECT_EQ(pathsOnOneLine(" a;; b "), " a;; b ") << "one line stays as it is";
+  EXPECT_EQ(pathsOnOneLine("\r\n"), "");
+}
+
 TEST(Text, FoldExecutableIsTheFoldOfThePlatformFloor) {
   EXPECT_EQ(foldExecutable("C:\\Java\\bin\\java.exe"), "c:\\JaVa\\bIn\\jAvA.ExE");
 }

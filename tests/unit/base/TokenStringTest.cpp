@@ -244,6 +244,25 @@ TEST(TokenString, AVeryLongElementIsKept) {
   EXPECT_EQ(again.find("end"), 1);
 }
 
+TEST(TokenString, AllElementsComeInTheirOrder) {
+  using Elements = std::vector<std::string>;
+  EXPECT_EQ(TokenString().elements(), Elements());
+  EXPECT_EQ(TokenString("a;b];c;;]]d", ';', ']').elements(), (Elements{"a", "b;c", "", "]d"}));
+  EXPECT_EQ(TokenString(";", ';', ']').elements(), (Elements{"", ""}));
+  TokenString list;
+  list.add(std::string());
+  EXPECT_EQ(list.elements(), Elements{""});
+}
+
+TEST(TokenString, TheElementsOfAVeryLongListAreTakenInOneWalk) {
+  constexpr int many = 1000000;
+  TokenString list;
+  for (int i = 0; i < many; ++i) list.add(i);
+  const auto all = list.elements();
+  ASSERT_EQ(all.size(), std::size_t{many});
+  EXPECT_EQ(all.back(), std::to_string(many - 1));
+}
+
 TEST(TokenString, AListOfVeryManyElementsIsSearchedInOneWalk) {
   constexpr int many = 200000;
   TokenString list;

@@ -56,5 +56,62 @@ TEST(PosixTarnwickfile, ANameLongerThanTheSystemTakesIsToldSo) {
   }
 }
 
+/// Why the file is not opened for its content; empty if it is.
+std::string refusalOf(const std::string& path) {
+  auto file = Tarnwickfile::unopened(path, FileMode::Read);
+  try {
+    file.openContent(FileMode::Read);
+  } catch (const Tarnwickfile::FileNotOpenE& failure) {
+    EXPECT_EQ(failure.file, path);
+    EXPECT_FALSE(file.isOpen());
+    return failure.message;
+  }
+  return "";
+}
+
+TEST(PosixTarnwickfile, DevicesPipesAndFilesOfTheKernelAreNotRead) {
+  const ScratchFolder folder;
+  ASSERT_EQ(::mkfifo(folder.file("pipe").c_str(), 0600), 0);
+  ASSERT_EQ(::symlink("/dev/zero", folder.file("link to a device").c_str()), 0);
+  ASSERT_EQ(::symlink("pipe", folder.file("link to a pipe").c_str()), 0);
+  for (const auto& path : {folder.file("pipe"), folder.file("link to a device"), folder.file("link to a pipe"),
+                           std::string("/dev/zero"), std::string("/proc/self/maps")}) {
+    EXPECT_EQ(refusalOf(path), "Not a regular file") << path;
+    EXPECT_THROW(Tarnwickfile(path, FileMode::Read), Tarnwickfile::FileNotOpenE) << path;
+  }
+  writeFile(folder.file("plain"), "x");
+  ASSERT_EQ(::symlink("plain", folder.file("link to a file").c_str()), 0);
+  EXPECT_EQ(refusalOf(folder.file("link to a file")), "");
+  EXPECT_EQ(refusalOf(folder.file("missing")), "No such file or directory");
+  EXPECT_EQ(refusalOf(folder.path()), "Is a directory");
+}
+
+TEST(PosixTarnwickfile, ADeviceMayBeWritten) {
+  Tarnwickfile device("/dev/null", FileMode::Write);
+  EXPECT_TRUE(device.isOpen());
+}
+
+TEST(PosixTarnwickfile, MoreThan64MebibytesAreNotRead) {
+  const ScratchFolder folder;
+  writeFile(folder.file("large"), "");
+  // A hole takes no room on the disk.
+  ASSERT_EQ(::truncate(folder.file("large").c_str(), 64L * 1024 * 1024), 0);
+  EXPECT_EQ(refusalOf(folder.file("large")), "");
+  ASSERT_EQ(::truncate(folder.file("large").c_str(), 64L * 1024 * 1024 + 1), 0);
+  EXPECT_EQ(refusalOf(folder.file("large")), "Larger than 64 MiB");
+  EXPECT_TRUE(Tarnwickfile(folder.file("large"), FileMode::Read).isOpen()) << "it is there all the same";
+}
+
+TEST(PosixTarnwickfile, ARelativeNameInAFolderWithALineEndIsRefused) {
+  const ScratchFolder folder;
+  const std::string bad = folder.file("a\nb");
+  ASSERT_TRUE(platform::makeFolders(bad));
+  writeFile(bad + "/x.txt", "");
+  const std::string before = platform::currentDirectory();
+  ASSERT_TRUE(platform::changeDirectory(bad));
+  EXPECT_EQ(refusalOf("x.txt"), "The name holds a line end");
+  platform::changeDirectory(before);
+}
+
 }  // namespace
 }  // namespace tarnwick

@@ -56,10 +56,35 @@ TEST_F(ConfigurationPlacesTest, ALinkThatLeadsToItselfIsNoConfigurationAndIsNotR
   EXPECT_TRUE(std::filesystem::is_symlink(configFile()));
 }
 
-TEST_F(ConfigurationPlacesTest, APipeThatNobodyUsesIsEmptyAndIsNotReplaced) {
+TEST_F(ConfigurationPlacesTest, ALinkToADeviceIsNoConfiguration) {
+  std::filesystem::create_symlink("/dev/zero", configFile());
+  settings().javaXms = "64m";
+  EXPECT_EQ(readDefault(), READ_FILE_LOST);
+  EXPECT_EQ(settings().javaXms, "64m");
+  writeFile(programFolder() + defaultConfigurationName, "JAVA_XMS  65m\n");
+  EXPECT_EQ(readDefault(), 0) << "the one beside the program is read instead";
+  EXPECT_EQ(settings().javaXms, "65m");
+}
+
+TEST_F(ConfigurationPlacesTest, ADeviceIsNotLoadedFromAndThePagesStay) {
+  settings().saveDefaultConfiguration(nullptr);
+  desktop_.expectDialog("Tarnwick settings", [&](ScriptedWindow& window) {
+    window.page(1092, 2).type(1129, "typed");
+    for (const char* device : {"/dev/zero", "/proc/self/maps"}) {
+      desktop_.expectOpenFile(device);
+      desktop_.expectMessage("Not a regular file\nCan't load configuration data.");
+      window.press(1037);
+    }
+    EXPECT_EQ(window.page(1092, 2).text(1129), "typed");
+    window.press(IDCANCEL_CONTROL);
+  });
+  settings().runModal(0);
+}
+
+TEST_F(ConfigurationPlacesTest, APipeIsNoConfigurationAndIsNotReplaced) {
   ASSERT_EQ(::mkfifo(configFile().c_str(), 0600), 0);
   settings().javaXms = "64m";
-  EXPECT_EQ(readDefault(), 0);
+  EXPECT_EQ(readDefault(), READ_FILE_LOST);
   EXPECT_EQ(settings().javaXms, "64m") << "nothing came from it";
   expectRefusal("No such device or address");
   settings().saveCurrent();

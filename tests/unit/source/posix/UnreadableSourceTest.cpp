@@ -7,6 +7,7 @@
 
 #include <gtest/gtest.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 namespace tarnwick::test {
 namespace {
@@ -38,10 +39,27 @@ TEST(UnreadableSourceTest, AFolderAsSource) {
   EXPECT_EQ(failureOf(source), "Is a directory\nCan't process file " + scratch.path());
 }
 
+TEST(UnreadableSourceTest, ADeviceOrAPipeAsSource) {
+  const ScratchFolder scratch;
+  ASSERT_EQ(::symlink("/dev/zero", scratch.file("Device.java").c_str()), 0);
+  ASSERT_EQ(::mkfifo(scratch.file("Pipe.java").c_str(), 0600), 0);
+  for (const char* name : {"Device.java", "Pipe.java"}) {
+    JavaSourcefile source(Tarnwickfile::unopened(scratch.file(name), FileMode::Read));
+    EXPECT_EQ(failureOf(source), "Not a regular file\nCan't process file " + scratch.file(name));
+  }
+}
+
+TEST(UnreadableSourceTest, ASourceOfMoreThan64Mebibytes) {
+  const ScratchFolder scratch;
+  writeFile(scratch.file("Large.java"), "class Large { }\n");
+  ASSERT_EQ(::truncate(scratch.file("Large.java").c_str(), 64L * 1024 * 1024 + 1), 0);
+  JavaSourcefile source(Tarnwickfile::unopened(scratch.file("Large.java"), FileMode::Read));
+  EXPECT_EQ(failureOf(source), "Larger than 64 MiB\nCan't process file " + scratch.file("Large.java"));
+}
+
 TEST(UnreadableSourceTest, WhereReadingFailsTheTextEnds) {
-  // Opens, but has nothing at its beginning.
-  const std::string path = "/proc/self/mem";
-  if (!platform::isFile(path)) GTEST_SKIP() << "no " << path;
+  const std::string path = "/sys/class/net/lo/speed";
+  if (!platform::isFile(path)) GTEST_SKIP() << "no " << path << ", which opens, and whose first byte can't be read";
   JavaSourcefile source(Tarnwickfile::unopened(path, FileMode::Read));
   EXPECT_EQ(failureOf(source), "");
   EXPECT_TRUE(source.types().empty());

@@ -34,13 +34,15 @@ class Desktop {
   virtual bool askOkCancel(const std::string& text) = 0;
   virtual bool askYesNo(const std::string& text) = 0;
 
+  // The four that follow refuse names with line ends: such a name is told, and does not come back.
+
   /// One existing file; nothing after Cancel.
-  virtual std::optional<std::string> openFile(const FileRequest& request) = 0;
+  std::optional<std::string> openFile(const FileRequest& request);
   /// One or more existing files, in the dialog's order; none after Cancel.
-  virtual std::vector<std::string> openFiles(const FileRequest& request) = 0;
-  virtual std::optional<std::string> saveFile(const FileRequest& request) = 0;
+  std::vector<std::string> openFiles(const FileRequest& request);
+  std::optional<std::string> saveFile(const FileRequest& request);
   /// The folder browser; nothing after Cancel.
-  virtual std::optional<std::string> browseFolder() = 0;
+  std::optional<std::string> browseFolder();
 
   virtual void alert(AlertSound sound) = 0;
   /// Shows the wait cursor, or ends what the last such call began.
@@ -69,6 +71,18 @@ class Desktop {
 
   /// Runs `task` on the user-interface thread soon. May be called by any thread; tasks run in order.
   virtual void post(std::function<void()> task) = 0;
+
+ protected:
+  /// The dialogs behind the operations of like names above.
+  virtual std::optional<std::string> pickFile(const FileRequest& request) = 0;
+  virtual std::vector<std::string> pickFiles(const FileRequest& request) = 0;
+  virtual std::optional<std::string> pickFileToSave(const FileRequest& request) = 0;
+  virtual std::optional<std::string> pickFolder() = 0;
+
+ private:
+  /// False after a message about a name that must not be used.
+  bool takesName(const std::string& path);
+  std::optional<std::string> checked(std::optional<std::string> path);
 };
 
 }  // namespace tarnwick

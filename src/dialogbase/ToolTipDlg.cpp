@@ -1,6 +1,9 @@
 #include "dialogbase/ToolTipDlg.h"
 
+#include "base/Text.h"
 #include "dialogbase/AddPathDlg.h"
+
+#include <utility>
 
 namespace tarnwick {
 
@@ -98,6 +101,12 @@ void ToolTipDlg::loadFromTags() {
   }
 }
 
+void ToolTipDlg::loadFrom(const TagRow* rows) {
+  const TagRow* const own = std::exchange(tags_, rows);
+  loadFromTags();
+  tags_ = own;
+}
+
 void ToolTipDlg::updateControls() {
   if (!initialised_) return;
   for (const auto& row : bindings_) {
@@ -142,9 +151,9 @@ void ToolTipDlg::setCheck(int control, int value) {
 void ToolTipDlg::updateVariables() {
   if (!initialised_) return;
   for (const auto& row : bindings_) {
-    if (row.kind == BIND_TEXT) textOf(row) = window_->text(row.control);
+    if (row.kind == BIND_TEXT) textOf(row) = fieldText(row.control);
     if (row.kind == BIND_CHECK) checkOf(row) = window_->checked(row.control) ? 1 : 0;
-    if (row.kind == BIND_STRINGABLE) take(stringableOf(row), window_->text(row.control));
+    if (row.kind == BIND_STRINGABLE) take(stringableOf(row), fieldText(row.control));
   }
 }
 
@@ -173,7 +182,10 @@ int ToolTipDlg::getCheck(int control) const {
   return window_ && window_->checked(control) ? 1 : 0;
 }
 std::string ToolTipDlg::getText(int control) const {
-  return window_ ? window_->text(control) : "";
+  return fieldText(control);
+}
+std::string ToolTipDlg::fieldText(int control) const {
+  return window_ ? onOneLine(window_->text(control)) : "";
 }
 
 void ToolTipDlg::askPathEntry(int control, const std::string& description) {

@@ -48,6 +48,8 @@ class ToolTipDlg : public DialogHandler {
   virtual Rect getControlRect(int control) const;
   /// Gives each row of the tag table that this page shows to its control.
   virtual void loadFromTags();
+  /// The same with the rows of another table, in the order of this dialog's own.
+  void loadFrom(const TagRow* rows);
   /// Every control takes its value from its binding.
   virtual void updateControls();
   virtual void setText(int control, const std::string& text);
@@ -70,6 +72,9 @@ class ToolTipDlg : public DialogHandler {
   int ownerId() const { return ownerId_; }
 
  protected:
+  /// What stands in a field. Always on one line: line ends that were pasted count as blanks.
+  virtual std::string fieldText(int control) const;
+
   virtual void onOk() { close(IDOK_CONTROL); }
   virtual void onCancel() { close(IDCANCEL_CONTROL); }
   void close(int result);

@@ -53,7 +53,7 @@ void FileForSubprocess::readFromControl() {
   reset(false);
   if (!before.empty()) previousName_ = before;
 
-  const std::string text = trim(dialog_->text(controlId_));
+  const std::string text = trim(onOneLine(dialog_->text(controlId_)));
   if (text.empty()) return;
   const bool quoted = text.front() == '"';
   const std::size_t begin = quoted ? 1 : 0;

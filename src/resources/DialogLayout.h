@@ -39,6 +39,7 @@ struct DialogItem {
   bool stretch = false;              ///< takes the room that is left in its row or column
   bool isDefault = false;            ///< a button that Return presses
   bool readOnly = false;             ///< an edit field that only shows
+  bool listsPaths = false;           ///< an edit field with a list of paths: pasted lines are its elements
   bool startsHidden = false;         ///< the dialog's rules show it
   bool floats = false;               ///< has its own size and takes no room; the dialog's rules place it
   bool compact = false;              ///< a button that is as narrow as its text
@@ -61,6 +62,10 @@ struct DialogItem {
   }
   DialogItem showingOnly() && {
     readOnly = true;
+    return std::move(*this);
+  }
+  DialogItem listingPaths() && {
+    listsPaths = true;
     return std::move(*this);
   }
   DialogItem withEqualWidths() && {

@@ -46,8 +46,8 @@ DialogItem keyRow(const std::string& key, int field) {
 
 /// One path list: its field, and what adds to it and empties it.
 DialogItem pathRow(const std::string& option, int field, int add, int clear) {
-  return row({label(option).atLeast(14), edit(field, 48).stretched(), button(add, "Add...").named("Add to " + option),
-              button(clear, "Clear").named("Clear " + option)})
+  return row({label(option).atLeast(14), edit(field, 48).listingPaths().stretched(),
+              button(add, "Add...").named("Add to " + option), button(clear, "Clear").named("Clear " + option)})
       .withEqualWidths();
 }
 

@@ -70,7 +70,7 @@ void JdbPage::onCommand(int control) {
 FunctionKeys JdbPage::keysWithFields() const {
   std::vector<std::string> texts;
   texts.reserve(std::size(keyFields));
-  for (const int field : keyFields) texts.push_back(window()->text(field));
+  for (const int field : keyFields) texts.push_back(fieldText(field));
   FunctionKeys keys = keys_;
   keys.setGroup(mask_, texts);
   return keys;

@@ -18,6 +18,8 @@ namespace {
 std::string toolsIn(const std::string& folder) {
   const std::string tool = platform::toolFileName("javac");
   const Filename javac(folder, tool);
+  // What was found is remembered in a file of lines.
+  if (holdsLineEnd(platform::resolvedPath(javac.fullName())) || holdsLineEnd(folder)) return "";
   if (!platform::isFile(javac.fullName())) return "";
   const Filename real(platform::resolvedPath(javac.fullName()));
   if (platform::sameFileName(real.nameWithExtension(), tool) && platform::isFile(real.fullName()))

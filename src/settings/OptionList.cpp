@@ -45,7 +45,7 @@ void OptionList::fromString(const std::string& text) {
 }
 
 std::string OptionList::toString() {
-  if (window_ && editField_ >= 0 && index_ == table_.userDefinedIndex) text_ = window_->text(editField_);
+  if (window_ && editField_ >= 0 && index_ == table_.userDefinedIndex) text_ = onOneLine(window_->text(editField_));
   return text_;
 }
 

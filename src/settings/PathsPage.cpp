@@ -1,9 +1,13 @@
 #include "settings/PathsPage.h"
 
+#include "base/Text.h"
 #include "platform/FileSystem.h"
 #include "platform/Path.h"
 #include "resources/SettingsPageLayouts.h"
 #include "settings/SettingsValues.h"
+
+#include <algorithm>
+#include <iterator>
 
 namespace tarnwick {
 
@@ -35,6 +39,11 @@ constexpr PathButtons pathButtons[] = {
     {1069, 1070, BOOTPATH_FIELD, "bootclasspath"},
     {1071, 1072, EXTDIRS_FIELD, "extdirs"},
 };
+
+bool listsPaths(int control) {
+  return std::any_of(std::begin(pathButtons), std::end(pathButtons),
+                     [control](const PathButtons& buttons) { return buttons.field == control; });
+}
 
 std::vector<ToolTip> pathsToolTips() {
   return {
@@ -97,6 +106,10 @@ std::string PathsPage::getText(int control) const {
   return platform::storedList(TabPage::getText(control));
 }
 
+std::string PathsPage::fieldText(int control) const {
+  return window() && listsPaths(control) ? pathsOnOneLine(window()->text(control)) : TabPage::fieldText(control);
+}
+
 void PathsPage::onCommand(int control) {
   if (control == NEVER || control == ALWAYS) {
     updateVariables();
@@ -114,7 +127,7 @@ void PathsPage::onCommand(int control) {
 
 void PathsPage::copyFromEnvironment() {
   if (const auto value = platform::environment("CLASSPATH")) {
-    setText(CLASSPATH_FIELD, platform::storedList(*value));
+    setText(CLASSPATH_FIELD, platform::storedList(pathsOnOneLine(*value)));
   }
 }
 

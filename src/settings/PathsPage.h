@@ -17,6 +17,10 @@ class PathsPage : public TabPage {
   /// A list as the user typed it, in the form that settings keep.
   std::string getText(int control) const override;
 
+ protected:
+  /// In a list of paths, pasted lines are its elements.
+  std::string fieldText(int control) const override;
+
  private:
   void copyFromEnvironment();
 

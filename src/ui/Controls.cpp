@@ -1,5 +1,6 @@
 #include "ui/Controls.h"
 
+#include "base/Text.h"
 #include "ui/Icons.h"
 #include "ui/Link.h"
 #include "ui/Text.h"
@@ -8,6 +9,7 @@
 #include <wx/bookctrl.h>
 #include <wx/button.h>
 #include <wx/checkbox.h>
+#include <wx/clipbrd.h>
 #include <wx/combobox.h>
 #include <wx/listbox.h>
 #include <wx/notebook.h>
@@ -86,6 +88,35 @@ class Field : public wxTextCtrl {
   using wxTextCtrl::wxTextCtrl;
   bool AcceptsFocusFromKeyboard() const override { return AcceptsFocus(); }
 };
+
+std::string textOnClipboard() {
+  const wxClipboardLocker lock;
+  wxTextDataObject text;
+  if (!lock || !wxTheClipboard->GetData(text)) return "";
+  return fromWx(text.GetText());
+}
+
+/// What a field takes of a text with several lines.
+std::string fieldLine(const std::string& text, bool listsPaths) {
+  return listsPaths ? pathsOnOneLine(text) : onOneLine(text);
+}
+
+/// Keeps a field to one line: what is pasted is changed on its way in, and what comes in another way, such as a drop or
+/// the middle mouse button, as soon as it stands there.
+void keepOneLine(Field& field, bool listsPaths) {
+  field.Bind(wxEVT_TEXT_PASTE, [&field, listsPaths](wxClipboardTextEvent& event) {
+    const std::string pasted = textOnClipboard();
+    if (!field.IsEditable() || !holdsLineEnd(pasted)) return event.Skip();
+    field.WriteText(toWx(fieldLine(pasted, listsPaths)));
+  });
+  field.Bind(wxEVT_TEXT, [&field, listsPaths](wxCommandEvent& event) {
+    event.Skip();
+    const std::string text = fromWx(field.GetValue());
+    if (!holdsLineEnd(text)) return;
+    field.ChangeValue(toWx(fieldLine(text, listsPaths)));
+    field.SetInsertionPointEnd();
+  });
+}
 
 wxWindow* makeEdit(wxWindow& parent, const DialogItem& item) {
   auto* edit = new Field(&parent, wxID_ANY, toWx(item.text), wxDefaultPosition, wxDefaultSize,
@@ -241,6 +272,8 @@ Control makeControl(wxWindow& parent, const DialogItem& item, wxRadioButton* non
   control.window = makeWindow(parent, item);
   control.noneOfRun = item.kind == ItemKind::RadioButton ? noneOfRun : nullptr;
   connect(*control.window, item, events);
+  // Behind the listeners' own handlers, and so before them in time.
+  if (item.kind == ItemKind::Edit) keepOneLine(as<Field>(control), item.listsPaths);
   return control;
 }
 

@@ -39,19 +39,19 @@ bool WxDesktop::askYesNo(const std::string& text) {
   return showMessage(stack_, text, MessageKind::YesNo);
 }
 
-std::optional<std::string> WxDesktop::openFile(const FileRequest& request) {
+std::optional<std::string> WxDesktop::pickFile(const FileRequest& request) {
   return openFileDialog(stack_, request);
 }
 
-std::vector<std::string> WxDesktop::openFiles(const FileRequest& request) {
+std::vector<std::string> WxDesktop::pickFiles(const FileRequest& request) {
   return openFilesDialog(stack_, request);
 }
 
-std::optional<std::string> WxDesktop::saveFile(const FileRequest& request) {
+std::optional<std::string> WxDesktop::pickFileToSave(const FileRequest& request) {
   return saveFileDialog(stack_, request);
 }
 
-std::optional<std::string> WxDesktop::browseFolder() {
+std::optional<std::string> WxDesktop::pickFolder() {
   return folderDialog(stack_);
 }
 

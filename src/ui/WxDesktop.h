@@ -19,10 +19,6 @@ class WxDesktop : public Desktop, public ConsoleFrameHost {
   void message(const std::string& text) override;
   bool askOkCancel(const std::string& text) override;
   bool askYesNo(const std::string& text) override;
-  std::optional<std::string> openFile(const FileRequest& request) override;
-  std::vector<std::string> openFiles(const FileRequest& request) override;
-  std::optional<std::string> saveFile(const FileRequest& request) override;
-  std::optional<std::string> browseFolder() override;
   void alert(AlertSound sound) override;
   void showWaitCursor(bool on) override;
   std::optional<std::string> clipboardText() override;
@@ -41,6 +37,12 @@ class WxDesktop : public Desktop, public ConsoleFrameHost {
 
   /// The open dialogs, innermost last. For tests.
   const std::vector<WxTopWindow*>& openDialogs() const { return openDialogs_; }
+
+ protected:
+  std::optional<std::string> pickFile(const FileRequest& request) override;
+  std::vector<std::string> pickFiles(const FileRequest& request) override;
+  std::optional<std::string> pickFileToSave(const FileRequest& request) override;
+  std::optional<std::string> pickFolder() override;
 
  private:
   int runTop(WxTopWindow& window);

@@ -17,10 +17,6 @@ class QuietDesktop : public Desktop {
   void message(const std::string& text) override { messages.push_back(text); }
   bool askOkCancel(const std::string& /*text*/) override { return false; }
   bool askYesNo(const std::string& /*text*/) override { return false; }
-  std::optional<std::string> openFile(const FileRequest& /*request*/) override { return {}; }
-  std::vector<std::string> openFiles(const FileRequest& /*request*/) override { return {}; }
-  std::optional<std::string> saveFile(const FileRequest& /*request*/) override { return {}; }
-  std::optional<std::string> browseFolder() override { return {}; }
   void alert(AlertSound /*sound*/) override {}
   void showWaitCursor(bool /*on*/) override {}
   std::optional<std::string> clipboardText() override { return {}; }
@@ -31,6 +27,12 @@ class QuietDesktop : public Desktop {
   int startTimer(int /*milliseconds*/, std::function<void()> /*tick*/) override { return 1; }
   void stopTimer(int /*timer*/) override {}
   void post(std::function<void()> task) override { task(); }
+
+ protected:
+  std::optional<std::string> pickFile(const FileRequest& /*request*/) override { return {}; }
+  std::vector<std::string> pickFiles(const FileRequest& /*request*/) override { return {}; }
+  std::optional<std::string> pickFileToSave(const FileRequest& /*request*/) override { return {}; }
+  std::optional<std::string> pickFolder() override { return {}; }
 };
 
 }  // namespace tarnwick::test

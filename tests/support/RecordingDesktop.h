@@ -61,28 +61,6 @@ class RecordingDesktop : public Desktop {
   void message(const std::string& text) override { messages.push_back(text); }
   bool askOkCancel(const std::string& text) override { return unexpected(text); }
   bool askYesNo(const std::string& text) override { return unexpected(text); }
-  std::optional<std::string> openFile(const FileRequest& /*request*/) override {
-    unexpected("openFile");
-    return std::nullopt;
-  }
-  std::vector<std::string> openFiles(const FileRequest& /*request*/) override {
-    unexpected("openFiles");
-    return {};
-  }
-  std::optional<std::string> saveFile(const FileRequest& request) override {
-    saveRequests.push_back(request);
-    if (saveAnswers.empty()) {
-      unexpected("saveFile");
-      return std::nullopt;
-    }
-    const auto answer = saveAnswers.front();
-    saveAnswers.pop_front();
-    return answer;
-  }
-  std::optional<std::string> browseFolder() override {
-    unexpected("browseFolder");
-    return std::nullopt;
-  }
   void alert(AlertSound sound) override { alerts.push_back(sound); }
   void showWaitCursor(bool /*on*/) override {}
   std::optional<std::string> clipboardText() override { return clipboard; }
@@ -105,6 +83,30 @@ class RecordingDesktop : public Desktop {
   void post(std::function<void()> task) override {
     const std::lock_guard guard(lock_);
     posted_.push_back(std::move(task));
+  }
+
+ protected:
+  std::optional<std::string> pickFile(const FileRequest& /*request*/) override {
+    unexpected("openFile");
+    return std::nullopt;
+  }
+  std::vector<std::string> pickFiles(const FileRequest& /*request*/) override {
+    unexpected("openFiles");
+    return {};
+  }
+  std::optional<std::string> pickFileToSave(const FileRequest& request) override {
+    saveRequests.push_back(request);
+    if (saveAnswers.empty()) {
+      unexpected("saveFile");
+      return std::nullopt;
+    }
+    const auto answer = saveAnswers.front();
+    saveAnswers.pop_front();
+    return answer;
+  }
+  std::optional<std::string> pickFolder() override {
+    unexpected("browseFolder");
+    return std::nullopt;
   }
 
  private:

@@ -285,13 +285,13 @@ bool ScriptedDesktop::ask(const std::string& text) {
   return step && step->yes;
 }
 
-std::optional<std::string> ScriptedDesktop::openFile(const FileRequest& request) {
+std::optional<std::string> ScriptedDesktop::pickFile(const FileRequest& request) {
   lastRequest_ = request;
   const auto step = take("open", "");
   return step ? step->answer : std::nullopt;
 }
 
-std::vector<std::string> ScriptedDesktop::openFiles(const FileRequest& request) {
+std::vector<std::string> ScriptedDesktop::pickFiles(const FileRequest& request) {
   lastRequest_ = request;
   const auto step = take("several", "");
   return step ? step->answers : std::vector<std::string>();
@@ -302,13 +302,13 @@ void ScriptedDesktop::showWaitCursor(bool on) {
   waiting_ += on ? 1 : -1;
 }
 
-std::optional<std::string> ScriptedDesktop::saveFile(const FileRequest& request) {
+std::optional<std::string> ScriptedDesktop::pickFileToSave(const FileRequest& request) {
   lastRequest_ = request;
   const auto step = take("save", "");
   return step ? step->answer : std::nullopt;
 }
 
-std::optional<std::string> ScriptedDesktop::browseFolder() {
+std::optional<std::string> ScriptedDesktop::pickFolder() {
   const auto step = take("folder", "");
   return step ? step->answer : std::nullopt;
 }

@@ -180,10 +180,6 @@ class ScriptedDesktop : public Desktop {
   void message(const std::string& text) override;
   bool askOkCancel(const std::string& text) override { return ask(text); }
   bool askYesNo(const std::string& text) override { return ask(text); }
-  std::optional<std::string> openFile(const FileRequest& request) override;
-  std::vector<std::string> openFiles(const FileRequest& request) override;
-  std::optional<std::string> saveFile(const FileRequest& request) override;
-  std::optional<std::string> browseFolder() override;
   void alert(AlertSound sound) override { alerts_.push_back(sound); }
   void showWaitCursor(bool on) override;
   std::optional<std::string> clipboardText() override { return clipboard_; }
@@ -194,6 +190,12 @@ class ScriptedDesktop : public Desktop {
   int startTimer(int milliseconds, std::function<void()> tick) override;
   void stopTimer(int timer) override { timers_.erase(timer); }
   void post(std::function<void()> task) override;
+
+ protected:
+  std::optional<std::string> pickFile(const FileRequest& request) override;
+  std::vector<std::string> pickFiles(const FileRequest& request) override;
+  std::optional<std::string> pickFileToSave(const FileRequest& request) override;
+  std::optional<std::string> pickFolder() override;
 
  private:
   struct Step {

@@ -173,6 +173,62 @@ TEST_F(DialogTest, TypedKeysArriveInTheFieldAndAreHeard) {
   play();
 }
 
+/// A field in the innermost dialog.
+wxTextCtrl& fieldIn(ui::WxDialogWindow& window, int control) {
+  return *wxDynamicCast(window.windowOf(control), wxTextCtrl);
+}
+
+TEST_F(DialogTest, AFieldTakesPastedLineEndsAsBlanks) {
+  waitForDialog();
+  steps.until("focus", [this] { return wxWindow::FindFocus() == top().windowOf(SAMPLE_EDIT); });
+  steps.then("paste over what is selected", [this] {
+    ASSERT_TRUE(desktop().setClipboardText("two\r\nthree\nfour"));
+    type(top(), SAMPLE_EDIT, "one ? five");
+    fieldIn(top(), SAMPLE_EDIT).SetSelection(4, 5);
+    rules.heard.clear();
+    fieldIn(top(), SAMPLE_EDIT).Paste();
+  });
+  steps.until("the text is there", [this] { return top().text(SAMPLE_EDIT) == "one two three four five"; });
+  steps.then("look", [this] { EXPECT_FALSE(rules.heard.empty()) << "the rules have heard of it"; });
+  thenClose();
+  play();
+}
+
+TEST_F(DialogTest, AListOfPathsTakesPastedLinesAsElements) {
+  DialogLayout list;
+  list.title = "A list of paths";
+  list.content = layout::column({layout::edit(SAMPLE_EDIT, 40).listingPaths()});
+  waitForDialog();
+  steps.then("paste", [this] {
+    ASSERT_TRUE(desktop().setClipboardText("/a.jar\n/my b.jar\n"));
+    fieldIn(top(), SAMPLE_EDIT).Paste();
+  });
+  steps.until("the text is there", [this] { return top().text(SAMPLE_EDIT) == "/a.jar;/my b.jar"; });
+  thenClose();
+  desktop().runDialog(list, rules);
+}
+
+TEST_F(DialogTest, WhatComesIntoAFieldInAnotherWayStaysOnOneLineToo) {
+  // As a drop or the middle mouse button brings it.
+  waitForDialog();
+  steps.then("set", [this] { fieldIn(top(), SAMPLE_EDIT).SetValue("one\ntwo"); });
+  steps.until("the text is on one line", [this] { return top().text(SAMPLE_EDIT) == "one two"; });
+  thenClose();
+  play();
+}
+
+TEST_F(DialogTest, ATextOfOneLineIsPastedAsItIs) {
+  waitForDialog();
+  steps.then("paste", [this] {
+    ASSERT_TRUE(desktop().setClipboardText(" one; two "));
+    fieldIn(top(), SAMPLE_EDIT).SetValue("");
+    fieldIn(top(), SAMPLE_EDIT).Paste();
+  });
+  steps.until("the text is there", [this] { return top().text(SAMPLE_EDIT) == " one; two "; });
+  thenClose();
+  play();
+}
+
 TEST_F(DialogTest, RadioNeighboursExcludeOneAnother) {
   waitForDialog();
   steps.then("look", [this] {

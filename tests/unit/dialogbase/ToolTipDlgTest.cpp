@@ -182,5 +182,28 @@ TEST_F(ToolTipDlgTest, OkAndCancelCloseWithTheirNumbers) {
   EXPECT_EQ(desktop_.runDialog(sample, dialog_), DIALOG_CANCEL);
 }
 
+TEST_F(ToolTipDlgTest, WhatIsPastedWithLineEndsReachesTheValuesOnOneLine) {
+  ScriptedWindow window(sample, dialog_);
+  dialog_.initialise(window);
+  window.type(10, "one\r\ntwo\nJAVA_PATH  /planted/");
+  window.type(12, "a;\nb");
+  EXPECT_EQ(dialog_.getText(10), "one two JAVA_PATH  /planted/");
+  dialog_.updateVariables();
+  EXPECT_EQ(dialog_.text, "one two JAVA_PATH  /planted/");
+  EXPECT_EQ(dialog_.list.toString(), "a; b");
+}
+
+TEST_F(ToolTipDlgTest, LineEndsReachNoTaggedRow) {
+  std::string text = "before";
+  const TagRow rows[] = {{"TEXT", TAG_STRING, &text, nullptr, 0, 7, 7, 10},
+                         {"", TAG_END, nullptr, nullptr, 0, 0, 0, 0}};
+  dialog_.useRows(rows);
+  ScriptedWindow window(sample, dialog_);
+  dialog_.initialise(window);
+  window.type(10, "one\ntwo");
+  dialog_.storeToTags();
+  EXPECT_EQ(text, "one two");
+}
+
 }  // namespace
 }  // namespace tarnwick::test

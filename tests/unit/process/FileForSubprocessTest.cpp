@@ -226,5 +226,15 @@ TEST(FileForSubprocessTest, BadTextLeavesTheEntryAsFarAsItGot) {
   }
 }
 
+TEST_F(FileFieldTest, APastedLineEndIsABlank) {
+  window_.setText(field, "A.java\nJAVA_PATH  /planted/");
+  FileForSubprocess file(window_, field);
+  EXPECT_EQ(file.name().fullName(), "A.java");
+  EXPECT_EQ(file.args(), std::vector<std::string>{"JAVA_PATH  /planted/"});
+  window_.setText(field, "\"my\r\nA.java\"\n");
+  file.readFromControl();
+  EXPECT_EQ(file.name().fullName(), "my A.java");
+}
+
 }  // namespace
 }  // namespace tarnwick

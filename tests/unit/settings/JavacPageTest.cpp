@@ -262,5 +262,16 @@ TEST_F(JavacPageTest, CancelLeavesTheLiveValues) {
   EXPECT_EQ(settings().javacDebug, 1);
 }
 
+TEST_F(JavacPageTest, AnOptionOfTheUsersOwnStaysOnOneLine) {
+  playAndOk([](ScriptedWindow& page) {
+    page.choose(VERSION, 2);
+    page.choose(SOURCE, 4);
+    page.type(OWN_SOURCE, "1.8\nJAVA_PATH  /planted/");
+    page.type(1117, "-J-Xss1m\nx");
+  });
+  EXPECT_EQ(settings().javacSourceOption, "1.8 JAVA_PATH  /planted/");
+  EXPECT_EQ(settings().javacJOption, "-J-Xss1m x");
+}
+
 }  // namespace
 }  // namespace tarnwick::test

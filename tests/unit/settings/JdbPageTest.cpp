@@ -135,5 +135,11 @@ TEST_F(JdbPageTest, OnWindows98AltEmptiesTheFieldOfF6AndAStoreWritesThat) {
   EXPECT_EQ(settings().functionKeys.key(0, 1), "monitor list\\n");
 }
 
+TEST_F(JdbPageTest, ATextThatIsPastedWithALineEndStaysOnOneLine) {
+  playAndOk([](ScriptedWindow& page) { page.type(F6, "stop in\nA.main\n"); });
+  EXPECT_EQ(settings().functionKeys.key(0, 1), "stop in A.main ");
+  EXPECT_EQ(settings().functionKeys.key(0, 0), "cont\\n") << "the sign for Return is two characters";
+}
+
 }  // namespace
 }  // namespace tarnwick::test

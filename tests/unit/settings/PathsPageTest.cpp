@@ -192,5 +192,28 @@ TEST_F(PathsPageTest, ListsAreKeptWithSemicolonsHoweverTheyAreTyped) {
   EXPECT_EQ(settings().extdirs, "a;b");
 }
 
+TEST_F(PathsPageTest, PastedLinesAreElementsOfTheList) {
+  playAndOk([&](ScriptedWindow& page) {
+    for (const auto& path : pathFields) page.type(path.field, "a.jar\nmy b.jar\r\n");
+  });
+  EXPECT_EQ(settings().classpath, ".;a.jar;my b.jar");
+  EXPECT_EQ(settings().sourcepath, "a.jar;my b.jar");
+  EXPECT_EQ(settings().bootpath, "a.jar;my b.jar");
+  EXPECT_EQ(settings().extdirs, "a.jar;my b.jar");
+  const auto again = freshSettings();
+  int status = -1;
+  again->readDefaultConfiguration(status);
+  EXPECT_EQ(status, 0) << "no line of the file is one of its own";
+  EXPECT_EQ(again->classpath, ".;a.jar;my b.jar");
+}
+
+TEST_F(PathsPageTest, LinesOfTheEnvironmentsClasspathAreElementsToo) {
+  const ScopedEnvironment variable("CLASSPATH", "a.jar\nb.jar");
+  playAndOk([](ScriptedWindow& page) {
+    page.press(COPY);
+    EXPECT_EQ(page.text(CLASSPATH), "a.jar;b.jar");
+  });
+}
+
 }  // namespace
 }  // namespace tarnwick::test

@@ -71,6 +71,14 @@ TEST_F(JdkPlacesTest, AVersionManagerThatWasMovedIsFoundByItsVariable) {
   }
 }
 
+TEST_F(JdkPlacesTest, AJdkInAFolderWithALineEndIsNoJdk) {
+  const std::string tools = makeJdk("x\nJAVA_PATH  /planted");
+  const ScopedEnvironment javaHome("JAVA_HOME", scratch_.file("x\nJAVA_PATH  /planted"));
+  const ScopedEnvironment path("PATH", tools);
+  EXPECT_EQ(preferredJdkTools({}), "");
+  EXPECT_TRUE(findJdks({}).empty());
+}
+
 TEST_F(JdkPlacesTest, TheSystemsFoldersAreAmongThem) {
   const auto places = platform::jdkPlaces();
   for (const char* folder : {"/usr/lib/jvm", "/usr/java", "/opt"}) {

@@ -1,8 +1,12 @@
 #include "settings/Settings.h"
 
 #include "base/ReplacingFile.h"
+#include "base/Text.h"
+#include "platform/FileSystem.h"
+#include "platform/Path.h"
 #include "resources/SettingsLayouts.h"
 #include "settings/AlternateLocationDlg.h"
+#include "settings/PageSnapshot.h"
 #include "settings/PathRules.h"
 
 namespace tarnwick {
@@ -66,6 +70,8 @@ void Settings::resetAll() {
   fileviewTab = 0;
   recentProjects.fromString("");
   helpFile = context_.program.programDirectory + "usersguide.htm";
+  // A configuration that could never be saved would be worse than a guide that must be looked for.
+  if (holdsLineEnd(helpFile)) helpFile.clear();
   personalTemplates.fromString("");
   resetToDefaults(JAVADOC_DIALOG);
 }
@@ -102,6 +108,10 @@ void Settings::saveDefaultConfiguration(Tarnwickfile* file) {
   tarnwickVersion = context_.program.version;
   try {
     writeTo(file);
+  } catch (const LineEndE& failure) {
+    // Another folder would not help.
+    if (file) throw;
+    desktop_.message(failure.message + "\nCan't save configuration data in " + failure.file);
   } catch (const Tarnwickfile::FileNotOpenE& failure) {
     recoverFromFailedSave(failure);
   }
@@ -220,17 +230,16 @@ void Settings::saveSeparately() {
 void Settings::saveTo(const std::string& path) {
   ReplacingFile target(path);
   Tarnwickfile defaults(configPath(), FileMode::Read);
-  // It may be the target too, and an open file is hard to replace on Windows. Reading it opens it again.
+  // It may be the target too, and an open file is hard to replace on Windows.
   defaults.close();
+  PageSnapshot live(*this);
   collectPages();
-  try {
-    write(target);
-    target.commit();
-  } catch (const Tarnwickfile::FileNotOpenE&) {
-    read(defaults);
-    throw;
-  }
-  read(defaults);
+  write(target);
+  target.commit();
+  // What stands in the default configuration is what runs, unless a project's own values do.
+  const bool isDefault =
+      platform::sameFileName(platform::resolvedPath(target.name().fullName()), platform::resolvedPath(configPath()));
+  if (isDefault && !currentProject) live.forget();
 }
 
 void Settings::loadSeparate() {
@@ -247,15 +256,14 @@ void Settings::loadSeparate() {
 
 void Settings::loadFrom(const std::string& path) {
   Tarnwickfile chosen(path, FileMode::Read);
-  Tarnwickfile defaults(configPath(), FileMode::Read);
-  resetAll();
-  read(chosen);
+  const Tarnwickfile defaults(configPath(), FileMode::Read);
+  // The live values are not touched: they may be an open project's own, which stand in no other file.
+  Settings loaded(context_);
+  loaded.read(chosen);
   for (TabPage* page : std::initializer_list<TabPage*>{&toolsPage_, &javacPage_, &javaPage_, &jdbPage_,
                                                        &appletviewerPage_, &editorPage_, &pathsPage_}) {
-    page->loadFromTags();
+    page->loadFrom(loaded.rows());
   }
-  // A row that is missing there keeps the chosen file's value.
-  read(defaults);
 }
 
 void Settings::onOk() {

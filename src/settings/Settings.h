@@ -35,7 +35,8 @@ class Settings : public SettingsValues, public TabbedDialog, public TagTable {
   /// Reads a configuration and warns about settings that don't go together. Throws Tarnwickfile::FileNotOpenE.
   void readConfiguration(int& status, Tarnwickfile& file);
   /// Saves to the default configuration, or to `file`, which the caller has opened. A failure leads the user to
-  /// another folder; it is shown here, and nothing is thrown.
+  /// another folder; it is shown here, and nothing is thrown but LineEndE where there is a `file`: nothing has been
+  /// written to it then.
   void saveDefaultConfiguration(Tarnwickfile* file);
   /// Saves to the open project, or to the default configuration.
   void saveCurrent();

@@ -46,6 +46,11 @@ void WindowPosition::setUndefined() {
   left_ = top_ = UNDEFINED;
 }
 
+void WindowPosition::setPlace(const Place& place) {
+  left_ = place.left;
+  top_ = place.top;
+}
+
 void WindowPosition::refreshFromWindow() {
   if (const auto placement = placementOf(mainWindow_)) {
     left_ = placement->x;

@@ -25,6 +25,13 @@ class WindowPosition : public StringableM {
   int getLeft();
   int getTop();
   void setUndefined();
+  /// The stored coordinates as they are.
+  struct Place {
+    int left;
+    int top;
+  };
+  Place place() const { return {left_, top_}; }
+  void setPlace(const Place& place);
   /// Takes the window's place; changes nothing where that can't be read.
   void refreshFromWindow();
   /// True if the window is not at the stored place; false where its place can't be read.

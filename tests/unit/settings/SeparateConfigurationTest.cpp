@@ -69,6 +69,7 @@ TEST_F(SeparateConfigurationTest, TheSaveDialogStartsInTheConfigurationsFolder) 
   EXPECT_EQ(desktop_.lastRequest().name, "*.cfg");
   EXPECT_EQ(desktop_.lastRequest().extension, ".cfg");
   EXPECT_EQ(desktop_.lastRequest().startFolder, configFolder());
+  EXPECT_TRUE(desktop_.lastRequest().confirmOverwrite) << "the system's dialog asks about a file that is there";
   EXPECT_FALSE(platform::isFile(chosen()));
 }
 
@@ -205,14 +206,129 @@ TEST_F(SeparateConfigurationTest, LoadAndCancelChangeNoLiveValue) {
   EXPECT_EQ(contentOf(configFile()), before);
 }
 
-TEST_F(SeparateConfigurationTest, ARowThatTheDefaultFileLacksKeepsTheLoadedValue) {
+TEST_F(SeparateConfigurationTest, ARowThatTheDefaultFileLacksKeepsItsLiveValueToo) {
   writeFile(configFile(), "JAVA_XMS  1m\n");
   writeFile(chosen(), "JAVA_XMX  2g\n");
+  settings().javaXmx = "9g";
   play([&](ScriptedWindow& window) {
     desktop_.expectOpenFile(chosen());
     window.press(LOAD);
   });
-  EXPECT_EQ(settings().javaXmx, "2g");
+  EXPECT_EQ(settings().javaXmx, "9g");
+}
+
+/// With a project open the live values stand in no default configuration.
+class SeparateConfigurationOfAProjectTest : public SeparateConfigurationTest {
+ protected:
+  SeparateConfigurationOfAProjectTest() {
+    struct Project : OpenProject {
+      void save() override { ADD_FAILURE() << "the project is not concerned"; }
+      std::string name() const override { return "garden"; }
+      std::string quotedPath() const override { return "garden.twp"; }
+    };
+    Settings& live = settings();
+    live.currentProject = std::make_unique<Project>();
+    live.javaXms = "77m";
+    live.javacVerbose = 1;
+    live.functionKeys.setGroup(0, {"own", "", "", "", "", "", "", ""});
+    live.classpath = ".;own.jar";
+    live.fileviewTab = 2;
+    live.fileviewSource.setName("Own.java");
+    live.windowPosition.fromString("300;400");
+  }
+
+  void playAndCancel(const std::function<void(ScriptedWindow& window)>& script) {
+    desktop_.expectDialog("Tarnwick settings for project garden", [&](ScriptedWindow& window) {
+      script(window);
+      window.press(IDCANCEL_CONTROL);
+    });
+    settings().runModal(0);
+  }
+
+  void expectOwnValues() {
+    Settings& live = settings();
+    EXPECT_EQ(live.javaPath, "live" + separator_);
+    EXPECT_EQ(live.javaXms, "77m");
+    EXPECT_EQ(live.javacVerbose, 1);
+    EXPECT_EQ(live.functionKeys.key(0, 0), "own");
+    EXPECT_EQ(live.classpath, ".;own.jar");
+    EXPECT_EQ(live.fileviewTab, 2);
+    EXPECT_EQ(live.fileviewSource.name().fullName(), "Own.java");
+    EXPECT_EQ(live.windowPosition.toString(), "300;400");
+    EXPECT_EQ(contentOf(configFile()), before_);
+  }
+};
+
+TEST_F(SeparateConfigurationOfAProjectTest, SaveAndCancelKeepTheProjectsOwnValues) {
+  playAndCancel([&](ScriptedWindow& window) {
+    window.page(TABS, 0).type(FOLDER, "other");
+    window.page(TABS, 1).press(1027);
+    window.page(TABS, 2).type(XMS, "9m");
+    window.page(TABS, 3).type(1158, "typed");
+    window.page(TABS, 6).type(1029, "typed.jar");
+    desktop_.expectSaveFile(chosen());
+    window.press(SAVE);
+    EXPECT_EQ(window.page(TABS, 2).text(XMS), "9m") << "the pages keep what they show";
+  });
+  EXPECT_NE(contentOf(chosen()).find("JAVA_XMS  9m"), std::string::npos);
+  EXPECT_NE(contentOf(chosen()).find("FILEVIEW_TAB  2"), std::string::npos) << "what is on no page goes along";
+  expectOwnValues();
+}
+
+TEST_F(SeparateConfigurationOfAProjectTest, LoadAndCancelKeepTheProjectsOwnValues) {
+  writeFile(chosen(),
+            "JAVA_XMS  7m\nJAVA_PATH  loaded\nFILEVIEW_TAB  1\nFILEVIEW_SOURCE  Other.java;\n"
+            "CLASSPATH  loaded.jar\nWINDOW_POSITION  1;2\n");
+  playAndCancel([&](ScriptedWindow& window) {
+    desktop_.expectOpenFile(chosen());
+    window.press(LOAD);
+    EXPECT_EQ(window.page(TABS, 2).text(XMS), "7m");
+    EXPECT_EQ(window.page(TABS, 6).text(1029), "loaded.jar");
+  });
+  expectOwnValues();
+}
+
+TEST_F(SeparateConfigurationOfAProjectTest, ASaveThatFailsKeepsThemToo) {
+  platform::makeFolders(chosen());
+  playAndCancel([&](ScriptedWindow& window) {
+    window.page(TABS, 2).type(XMS, "9m");
+    desktop_.expectSaveFile(chosen());
+    desktop_.expectMessage(openFailure(chosen(), FileMode::Write) + "\nCan't save configuration data.");
+    window.press(SAVE);
+  });
+  expectOwnValues();
+}
+
+TEST_F(SeparateConfigurationOfAProjectTest, SavingOverTheDefaultConfigurationKeepsThemToo) {
+  playAndCancel([&](ScriptedWindow& window) {
+    window.page(TABS, 2).type(XMS, "9m");
+    desktop_.expectSaveFile(configFile());
+    window.press(SAVE);
+  });
+  EXPECT_NE(contentOf(configFile()).find("JAVA_XMS  9m"), std::string::npos);
+  EXPECT_EQ(settings().javaXms, "77m") << "the project's own";
+}
+
+TEST_F(SeparateConfigurationTest, AMovedWindowIsStillMovedAfterASave) {
+  const auto layout = layout::label("", 1);
+  DialogLayout content;
+  content.content = layout;
+  struct Handler : DialogHandler {
+    void initialise(DialogWindow&) override {}
+    void onCommand(int) override {}
+    void onCloseRequest() override {}
+  } handler;
+  ScriptedWindow main(content, handler);
+  main.setKnownPosition(Point{10, 20});
+  context_.mainWindow = &main;
+  settings().windowPosition.fromString("10;20");
+  main.moveByHand({30, 40});
+  play([&](ScriptedWindow& window) {
+    desktop_.expectSaveFile(chosen());
+    window.press(SAVE);
+  });
+  EXPECT_TRUE(settings().windowPosition.hasMoved()) << "so that it is saved where it belongs";
+  context_.mainWindow = nullptr;
 }
 
 TEST_F(SeparateConfigurationTest, TheOpenDialogWantsAFileThatIsThere) {

@@ -93,7 +93,85 @@ TEST_F(ProjectSourceListTest, AddingWhatIsNotThereThrowsAndAddsNothing) {
   EXPECT_FALSE(list_[0].isOpen());
 }
 
+const char outsideWords[] =
+    "A project's sources lie in its folder. These names lead elsewhere and are not used,\n"
+    "but stay in the project file:\n";
+
+TEST_F(ProjectSourceListTest, ANameOutsideTheFolderIsToldAndKeptAsItStands) {
+  for (const char* name : {"A.java", "B.java", "X.java"}) makeSource(name);
+  writeFile(scratch_.file("X.java"), "class X { }");
+  desktop_.expectMessage(std::string(outsideWords) + "\n../X.java\nsub/Y.java");
+  const std::string text = "A.java;../X.java;B.java; sub/Y.java";
+  list_.fromString(text);
+  EXPECT_EQ(names(), (Names{"A.java", "B.java"}));
+  EXPECT_EQ(list_.toString(), text) << "in its place, and never under another name";
+}
+
+TEST_F(ProjectSourceListTest, ADeviceOutsideIsNotEvenLookedAt) {
+  const std::string device = "../../../../../../../dev/zero";
+  desktop_.expectMessage(std::string(outsideWords) + '\n' + device);
+  list_.fromString(device);
+  EXPECT_TRUE(list_.empty());
+  EXPECT_EQ(list_.toString(), device);
+}
+
+TEST_F(ProjectSourceListTest, AWholePathIsOutsideToo) {
+  makeSource("A.java");
+  const std::string path = folder() + "A.java";
+  desktop_.expectMessage(outsideWords + ('\n' + path));
+  list_.fromString(path);
+  EXPECT_EQ(list_.toString(), path);
+}
+
+TEST_F(ProjectSourceListTest, ADotBeforeANameIsTheFolderItself) {
+  makeSource("A.java");
+  list_.fromString("./A.java;././A.java");
+  EXPECT_EQ(list_.toString(), "A.java;A.java");
+}
+
+TEST_F(ProjectSourceListTest, ManyNamesOutsideAreToldInPart) {
+  std::string text;
+  std::string told;
+  for (int i = 0; i < 12; ++i) {
+    text += (i > 0 ? ";../X" : "../X") + std::to_string(i);
+    if (i < 10) told += "\n../X" + std::to_string(i);
+  }
+  desktop_.expectMessage(outsideWords + told + "\n...");
+  list_.fromString(text);
+  EXPECT_EQ(list_.toString(), text);
+}
+
+TEST_F(ProjectSourceListTest, WhatLiesOutsideIsKeptWhenTheSourcesChange) {
+  for (const char* name : {"A.java", "B.java", "C.java"}) makeSource(name);
+  desktop_.expectMessage(std::string(outsideWords) + "\n../X.java");
+  list_.fromString("A.java;B.java;../X.java;C.java");
+  list_.clear();
+  EXPECT_EQ(list_.toString(), "../X.java");
+  list_.add("C.java");
+  EXPECT_EQ(list_.toString(), "C.java;../X.java");
+  list_.fromString("");
+  EXPECT_EQ(list_.toString(), "") << "another text is another list";
+}
+
+TEST_F(ProjectSourceListTest, AListOfVeryManyNamesIsReadInOneWalk) {
+  std::string text;
+  for (int i = 0; i < 300000; ++i) text += "../X;";
+  desktop_.expectMessage(outsideWords +
+                         std::string("\n../X\n../X\n../X\n../X\n../X\n../X\n../X\n../X\n../X\n../X\n..."));
+  list_.fromString(text);
+  EXPECT_EQ(list_.toString().size() + 1, text.size());
+}
+
 class SourcesOfProjectTest : public ProjectFixture {};
+
+TEST_F(SourcesOfProjectTest, ANameOutsideStaysInTheFileThroughASave) {
+  makeSource("A.java");
+  writeFile(scratch_.file("X.java"), "class X { }");
+  desktop_.expectMessage(std::string(outsideWords) + "\n../X.java");
+  ProjectContext& project = openWith("../X.java;A.java");
+  project.save();
+  EXPECT_EQ(valueIn(projectFile(), "PROJECT_SOURCES"), "../X.java;A.java");
+}
 
 TEST_F(SourcesOfProjectTest, ADeletedSourceVanishesWithTheNextSave) {
   makeSource("A.java");

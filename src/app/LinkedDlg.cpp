@@ -6,10 +6,9 @@
 namespace tarnwick {
 
 void LinkedDlg::onCommand(int control) {
-  if (control == HOME_LINK || control == MIRROR_LINK)
-    openInBrowser(desktop_, window()->text(control));
-  else
-    ToolTipDlg::onCommand(control);
+  if (control != HOME_LINK && control != MIRROR_LINK) return ToolTipDlg::onCommand(control);
+  const std::string address = window()->text(control);
+  openInBrowser(desktop_, address, address);
 }
 
 }  // namespace tarnwick

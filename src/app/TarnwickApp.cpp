@@ -63,7 +63,9 @@ TarnwickApp::TarnwickApp(Desktop& desktop, ConsoleFrameHost& frameHost, const st
 }
 
 void TarnwickApp::showHelp(const std::string& anchor) {
-  showUsersGuide(context_, anchor, [this](const std::string& address) { openInBrowser(desktop_, address); });
+  showUsersGuide(context_, anchor, [this](const std::string& address, const std::string& place) {
+    openInBrowser(desktop_, address, place);
+  });
 }
 
 void TarnwickApp::showAbout() {

@@ -23,12 +23,17 @@ void saveAsItStands(Settings& stored) {
 
 }  // namespace
 
-void openInBrowser(Desktop& desktop, const std::string& address) {
-  WinApp(desktop, ".htm").runApp(address.c_str(), nullptr, 0);
+void openInBrowser(Desktop& desktop, const std::string& address, const std::string& place) {
+  const WinApp browser(desktop, ".htm");
+  constexpr int checkOnly = 1;
+  if (browser.runApp(address.c_str(), nullptr, checkOnly) > 0)
+    browser.runApp(address.c_str(), nullptr, 0);
+  else
+    desktop.message("There is no browser on this computer. It would show:\n" + place);
 }
 
 void showUsersGuide(SettingsContext& context, const std::string& anchor,
-                    const std::function<void(const std::string& address)>& browser) {
+                    const std::function<void(const std::string& address, const std::string& place)>& browser) {
   Settings stored(context);
   int status = 0;  // whatever it is: without a configuration, the guide's default place holds
   stored.readDefaultConfiguration(status);
@@ -38,7 +43,8 @@ void showUsersGuide(SettingsContext& context, const std::string& anchor,
     stored.helpFile = dialog.chosenPath();
     saveAsItStands(stored);
   }
-  browser(platform::documentAddress(stored.helpFile, anchor));
+  const std::string place = Filename(stored.helpFile).fullName();
+  browser(platform::documentAddress(place, anchor), place);
 }
 
 }  // namespace tarnwick

@@ -2,6 +2,7 @@
 
 #include "base/Tarnwickfile.h"
 #include "base/Text.h"
+#include "platform/FileSystem.h"
 #include "resources/TemplateLayouts.h"
 
 namespace tarnwick {
@@ -36,16 +37,18 @@ void AddTemplateDlg::onOk() {
         "Please enter a description.\nIt is needed to create an entry in the dropdown list for file templates.");
     return;
   }
-  file_ = trimLeft(getText(TEMPLATE_FILE));
-  if (file_.empty()) {
+  const std::string typed = trimLeft(getText(TEMPLATE_FILE));
+  if (typed.empty()) {
     desktop_.message("Please enter a filename for your template file");
     return;
   }
   try {
-    Tarnwickfile probe(file_, FileMode::Read);
+    const Tarnwickfile probe(typed, FileMode::Read);
+    // As it was opened: without quotes, and to be found again from any folder.
+    file_ = platform::absolutePath(probe.name().fullName());
     close(DIALOG_OK);
   } catch (const Tarnwickfile::FileNotOpenE& failure) {
-    desktop_.message("Can't open file " + file_ + "\n" + failure.message);
+    desktop_.message("Can't open file " + typed + "\n" + failure.message);
   }
 }
 

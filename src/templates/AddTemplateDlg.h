@@ -13,7 +13,7 @@ class AddTemplateDlg : public ToolTipDlg {
   explicit AddTemplateDlg(const SettingsContext& context);
 
   int runModal();
-  /// What was given; after OK neither is empty.
+  /// What was given, the file with its whole path; after OK neither is empty.
   const std::string& file() const { return file_; }
   const std::string& description() const { return description_; }
 

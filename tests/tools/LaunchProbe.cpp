@@ -7,10 +7,12 @@
 //   edit EDITNOTEPAD FILE TARGET                            opens FILE for editing; the result and the working folder
 //   register PROGRAM                                        makes it the opener of project files
 //   trash FILE                                              puts a copy into the trash; the result
+//   browse ADDRESS PLACE                                    shows the address in the browser
 //   zip PROGRAM                                             command text of what Tarnwick, as PROGRAM, has for archives
 //
 // Messages to the user follow, each behind "message: ".
 #include "app/TarnwickApp.h"
+#include "app/UsersGuide.h"
 #include "platform/Associations.h"
 #include "platform/FileSystem.h"
 #include "platform/ProjectType.h"
@@ -80,6 +82,7 @@ int main(int argc, char** argv) {
   }
   if (words.at(0) == "trash") std::cout << tarnwick::platform::copyToTrash(words.at(1)) << '\n';
   if (words.at(0) == "register") tarnwick::platform::registerProjectType(words.at(1));
+  if (words.at(0) == "browse") tarnwick::openInBrowser(desktop, words.at(1), words.at(2));
   if (words.at(0) == "zip") printZipApplication(desktop, words.at(1));
   if (words.at(0) == "edit") edit(desktop, words);
   if (words.at(0) == "showlog") showLogOf(desktop, words);

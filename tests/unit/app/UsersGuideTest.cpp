@@ -13,7 +13,10 @@ class UsersGuideTest : public SettingsFixture {
   std::string guideBesideProgram() const { return programFolder() + "usersguide.htm"; }
 
   void show(const std::string& anchor) {
-    showUsersGuide(context_, anchor, [this](const std::string& address) { opened_.push_back(address); });
+    showUsersGuide(context_, anchor, [this](const std::string& address, const std::string& place) {
+      opened_.push_back(address);
+      place_ = place;
+    });
   }
   void expectLost(const std::string& expectedPath, const std::function<void(ScriptedWindow&)>& script) {
     desktop_.expectDialog("Unable to open usersguide.htm", [expectedPath, script](ScriptedWindow& dialog) {
@@ -29,6 +32,7 @@ class UsersGuideTest : public SettingsFixture {
   }
 
   std::vector<std::string> opened_;
+  std::string place_;
 };
 
 TEST_F(UsersGuideTest, WithNoConfigurationTheGuideBesideTheProgramOpensAtTheAnchor) {
@@ -87,6 +91,18 @@ TEST_F(UsersGuideTest, AGuideThatWasChosenAndCannotBeReadIsAskedForAgain) {
   show("#paths");
   EXPECT_EQ(opened_, std::vector{platform::documentAddress(there, "#paths")});
   EXPECT_EQ(storedPlace(), there);
+}
+
+TEST_F(UsersGuideTest, APlaceInQuotesOrWithABlankBehindItIsFound) {
+  const std::string guide = userFolder() + "my guide.htm";
+  writeFile(guide, "guide");
+  for (const auto& stored : {'"' + guide + '"', guide + "  "}) {
+    opened_.clear();
+    writeFile(configFile(), "HELPFILE  " + stored + "\n");
+    show("#paths");
+    EXPECT_EQ(opened_, std::vector{platform::documentAddress(guide, "#paths")}) << stored;
+    EXPECT_EQ(place_, guide);
+  }
 }
 
 TEST_F(UsersGuideTest, ARepairChangesNothingElseInTheFile) {

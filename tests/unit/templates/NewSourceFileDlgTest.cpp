@@ -329,6 +329,41 @@ TEST_F(NewSourceFileDlgTest, ATemplateIsAddedAfterItsFieldsAreRight) {
   EXPECT_EQ(settings().personalTemplates.toString(), "My bean];" + path) << "without the blanks before the name";
 }
 
+TEST_F(NewSourceFileDlgTest, ATemplatesPathInQuotesOrWithABlankBehindItIsFoundAgain) {
+  const std::string path = target("my template.txt");
+  writeFile(path, "bean %FILENAME%");
+  platform::changeDirectory(Filename(path).directory());
+  for (const auto& typed : {'"' + path + '"', path + "  ", " \"" + path + "\" ", std::string("my template.txt")}) {
+    settings().personalTemplates.fromString("");
+    settings().saveDefaultConfiguration(nullptr);
+    run(NewSourceMode::NewFile, [&](ScriptedWindow& dialog) {
+      desktop_.expectDialog("Add template for new sourcefiles", [&](ScriptedWindow& add) {
+        add.type(TEMPLATE_DESCRIPTION, "My bean");
+        add.type(TEMPLATE_FILE, typed);
+        add.press(IDOK_CONTROL);
+      });
+      dialog.press(ADD_TEMPLATE);
+      EXPECT_EQ(dialog.entries(TEMPLATE_COMBO).back(), "My bean") << typed;
+      dialog.press(IDCANCEL_CONTROL);
+    });
+    EXPECT_EQ(settings().personalTemplates.toString(), "My bean];" + path) << typed;
+  }
+}
+
+TEST_F(NewSourceFileDlgTest, PastedLineEndsInANewTemplateAreBlanks) {
+  writeFile(target("my template.txt"), "");
+  run(NewSourceMode::NewFile, [&](ScriptedWindow& dialog) {
+    desktop_.expectDialog("Add template for new sourcefiles", [&](ScriptedWindow& add) {
+      add.type(TEMPLATE_DESCRIPTION, "My\r\nbean\n");
+      add.type(TEMPLATE_FILE, target("my\ntemplate.txt"));
+      add.press(IDOK_CONTROL);
+    });
+    dialog.press(ADD_TEMPLATE);
+    dialog.press(IDCANCEL_CONTROL);
+  });
+  EXPECT_EQ(settings().personalTemplates.toString(), "My bean];" + target("my template.txt"));
+}
+
 TEST_F(NewSourceFileDlgTest, WithoutACallersFileTheNewOneIsOnlyTold) {
   desktop_.expectDialog("Create new .java/.html file", [&](ScriptedWindow& dialog) {
     desktop_.expectSaveFile(target("Foo.java"));

@@ -145,6 +145,14 @@ TEST_F(TemplateListTest, NoKeepsATemplateWhoseFileIsMissing) {
   EXPECT_NE(stored(), "");
 }
 
+TEST_F(TemplateListTest, APathInQuotesFromAnEarlierRunIsFound) {
+  const std::string file = templateFile("my there.txt");
+  store({pair("Quoted", '"' + file + '"'), pair("Blank", file + ' ')});
+  TemplateList list(settings());
+  list.build();
+  EXPECT_EQ(list.labels().size(), 7U);
+}
+
 TEST_F(TemplateListTest, ADamagedEntryEndsTheWalkQuietly) {
   const std::string file = templateFile("there.txt");
   store({pair("First", file), "only one element", pair("Third", file)});

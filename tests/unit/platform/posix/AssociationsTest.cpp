@@ -56,6 +56,15 @@ TEST_F(PosixAssociationsTest, AnExtensionWithoutAnApplicationHasNoCommand) {
   EXPECT_EQ(probe("runapp .zip x.zip \"\""), "0\n") << "and nothing is told";
 }
 
+TEST_F(PosixAssociationsTest, WithoutABrowserTheUserIsToldThePlaceOfTheDocument) {
+  EXPECT_EQ(probe("browse file:///the%20guide.htm#paths \"/the guide.htm\""),
+            "message: There is no browser on this computer. It would show:\n/the guide.htm\n");
+  makeProgram("surfer");
+  xdg_.addApplication("surfer", "surfer --new %u", "text/html;");
+  EXPECT_EQ(probe("browse file:///the%20guide.htm#paths \"/the guide.htm\""), "");
+  EXPECT_TRUE(recordIs("--new\nfile:///the%20guide.htm#paths\n"));
+}
+
 TEST_F(PosixAssociationsTest, AnApplicationForTheTerminalIsPassedOver) {
   makeProgram("pager");
   makeProgram("browser");

@@ -1,6 +1,7 @@
 #include "app/TarnwickDlg.h"
 
 #include "app/WelcomeDlg.h"
+#include "platform/FileSystem.h"
 #include "platform/Path.h"
 #include "resources/PanelLayouts.h"
 #include "settings/JdkDiscovery.h"
@@ -108,6 +109,7 @@ void TarnwickDlg::detached() {
 void TarnwickDlg::readSettings() {
   int status = 0;
   settings_.readDefaultConfiguration(status);
+  if (status == READ_FILE_LOST) tellRefusedConfiguration();
   // Any bit counts as a first use, even one unknown tag; stricter than the failure mask, and meant so.
   if (status != 0)
     welcomeFirstUse(status);
@@ -115,6 +117,16 @@ void TarnwickDlg::readSettings() {
     welcomeUpgrade();
   // The source of the last run is where that may have been killed in the middle of a compile.
   if (!settings_.fileviewSource.isEmpty()) PieceFolder::putBackLeftOvers(settings_.fileviewSource.name().directory());
+}
+
+void TarnwickDlg::tellRefusedConfiguration() {
+  const std::string path = settings_.configPath();
+  if (!platform::lastChange(path)) return;
+  try {
+    Tarnwickfile::unopened(path, FileMode::Read).openContent(FileMode::Read);
+  } catch (const Tarnwickfile::FileNotOpenE& failure) {
+    desktop_.message(failure.message + "\nFile " + failure.file);
+  }
 }
 
 void TarnwickDlg::welcomeFirstUse(int status) {
@@ -132,16 +144,25 @@ void TarnwickDlg::welcomeFirstUse(int status) {
   if (known.empty()) settings_.javaPath = preferredJdkTools(settings_.context().installedJdks());
   if (noConfiguration) suitJdk();
   const std::string offered = settings_.javaPath;
+  const std::string offeredVersion = settings_.javacMyJdkVersion;
   const bool accepted = settings_.runModal(0) == DIALOG_OK;
-  if (noConfiguration && settings_.javaPath != offered) suitJdk();
+  if (noConfiguration && settings_.javaPath != offered) {
+    // A version that the user has chosen himself stays.
+    const std::string chosen = settings_.javacMyJdkVersion;
+    suitJdk();
+    if (chosen != offeredVersion) settings_.javacMyJdkVersion = chosen;
+  }
   // Into a configuration that is there nothing comes that its user has not accepted.
   if (!noConfiguration && !accepted) settings_.javaPath = known;
   settings_.saveDefaultConfiguration(nullptr);
 }
 
 void TarnwickDlg::suitJdk() {
+  const int version = jdkVersion(settings_.javaPath);
+  // With the last entry of the list, the warnings and the source option of all newer compilers can be used.
+  if (version >= 5) settings_.javacMyJdkVersion = "1.5";
   // From version 13 on, java warns about -Xfuture, and later ones refuse it. An existing configuration keeps it.
-  if (jdkVersion(settings_.javaPath) >= 13) settings_.javaXfuture = 0;
+  if (version >= 13) settings_.javaXfuture = 0;
 }
 
 void TarnwickDlg::welcomeUpgrade() {

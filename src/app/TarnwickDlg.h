@@ -42,7 +42,9 @@ class TarnwickDlg : public ToolTipDlg {
   void saveWhatStands();
   void readSettings();
   void welcomeFirstUse(int status);
-  /// Switches off what the JDK of the settings does not take any more.
+  /// Tells why a configuration that is there was not read.
+  void tellRefusedConfiguration();
+  /// Sets what depends on the JDK of the settings as its version wants it.
   void suitJdk();
   void welcomeUpgrade();
 

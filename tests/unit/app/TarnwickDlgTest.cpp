@@ -51,6 +51,51 @@ TEST_F(TarnwickDlgTest, AFirstUseIsWelcomedAndAskedForTheTools) {
   EXPECT_EQ(status, 0);
   EXPECT_EQ(saved->javaPath, offered);
   EXPECT_EQ(saved->javaXfuture, 0) << "from 13 on, java refuses it or warns about it";
+  EXPECT_EQ(saved->javacMyJdkVersion, "1.5") << "so that the warnings and the source option can be used";
+}
+
+TEST_F(TarnwickDlgTest, TheVersionForTheWarningsFollowsTheJdkAtTheFirstUse) {
+  const struct {
+    const char* release;
+    const char* version;
+  } table[] = {{"1.4.2_19", "Pre-1.4"}, {"1.5.0_22", "1.5"}, {"1.8.0_302", "1.5"}, {"25", "1.5"}, {"none", "Pre-1.4"}};
+  for (const auto& row : table) {
+    platform::deleteFile(configFile());
+    settings().resetAll();
+    const ScopedEnvironment javaHome("JAVA_HOME", makeJdk(row.release));
+    expectWelcome(firstUse, platform::localText(lookForJavac));
+    desktop_.expectDialog("Tarnwick settings", [&row](ScriptedWindow& window) {
+      EXPECT_EQ(window.page(1092, 1).selection(1269), std::string(row.version) == "1.5" ? 2 : 0) << row.release;
+      window.press(IDOK_CONTROL);
+    });
+    runPanel([](ScriptedWindow&, ScriptedWindow& panel) { exit(panel); });
+    EXPECT_EQ(saved("JAVAC_MY_JDKVERSION"), row.version) << row.release;
+  }
+}
+
+TEST_F(TarnwickDlgTest, AVersionForTheWarningsThatTheUserChoosesStays) {
+  const ScopedEnvironment javaHome("JAVA_HOME", "");
+  const ScopedEnvironment path("PATH", scratch_.path());
+  const std::string tools = Filename(makeJdk("25"), "bin").fullName();
+  expectWelcome(firstUse, platform::localText(lookForJavac));
+  desktop_.expectDialog("Tarnwick settings", [&tools](ScriptedWindow& window) {
+    window.page(1092, 0).type(1041, tools);
+    window.page(1092, 1).choose(1269, 1);
+    window.press(IDOK_CONTROL);
+  });
+  runPanel([](ScriptedWindow&, ScriptedWindow& panel) { exit(panel); });
+  EXPECT_EQ(saved("JAVAC_MY_JDKVERSION"), "1.4");
+  EXPECT_EQ(saved("JAVA_XFUTURE"), "OFF") << "the rest suits the JDK";
+}
+
+TEST_F(TarnwickDlgTest, AnExistingConfigurationKeepsItsVersionForTheWarnings) {
+  saveEarlierRun([](Settings& earlier) { earlier.javacMyJdkVersion = "Pre-1.4"; });
+  writeFile(configFile(), contentOf(configFile()) + "SOMETHING  new\n");
+  const ScopedEnvironment javaHome("JAVA_HOME", makeJdk("25"));
+  expectWelcome(firstUse, platform::localText(lookForJavac));
+  desktop_.expectDialog("Tarnwick settings", [](ScriptedWindow& window) { window.press(IDOK_CONTROL); });
+  runPanel([](ScriptedWindow&, ScriptedWindow& panel) { exit(panel); });
+  EXPECT_EQ(saved("JAVAC_MY_JDKVERSION"), "Pre-1.4");
 }
 
 TEST_F(TarnwickDlgTest, AnOlderJdkKeepsStrictChecks) {
@@ -76,6 +121,7 @@ TEST_F(TarnwickDlgTest, AJdkThatIsOnlyNamedInTheDialogCountsToo) {
   saved->readDefaultConfiguration(status);
   EXPECT_EQ(saved->javaPath, tools + platform::folderSeparator);
   EXPECT_EQ(saved->javaXfuture, 0);
+  EXPECT_EQ(saved->javacMyJdkVersion, "1.5");
 }
 
 TEST_F(TarnwickDlgTest, TheConfigurationIsSavedWhateverTheDialogsOutcome) {

@@ -171,6 +171,13 @@ TEST_F(OpenEditorTest, NotepadIsUsedOnlyWhereItsOwnSettingSaysSo) {
   EXPECT_TRUE(recordIs(file + '\n'));
 }
 
+TEST_F(OpenEditorTest, NotepadIsUsedThoughTheOtherEditorWouldBeAJar) {
+  makeProgram(programName(platform::folderSeparator == '/' ? "gedit" : "Notepad"));
+  const std::string file = script_.folder().file("A.java");
+  EXPECT_EQ(edit("1", file, programs() + "my editor.jar"), doneIn(script_.folder().path()));
+  EXPECT_TRUE(recordIs(file + '\n'));
+}
+
 TEST_F(OpenEditorTest, WithoutAFileTheEditorOpensWithNothing) {
   makeProgram(programName("myeditor"));
   const std::string before = platform::currentDirectory();
@@ -247,6 +254,15 @@ TEST_F(ShowLogTest, NotepadIsUsedWhereASettingSaysSo) {
       EXPECT_EQ(output, logPath() + '\n' + unableToStart(missing)) << row.switches;
       EXPECT_FALSE(script_.hasRecord());
     }
+  }
+}
+
+TEST_F(ShowLogTest, NotepadShowsTheLogThoughTheOtherEditorWouldBeAJar) {
+  makeProgram(programName(platform::folderSeparator == '/' ? "gedit" : "Notepad"));
+  for (const char* switches : {"0 1", "1 0", "1 1"}) {
+    platform::deleteFile(script_.folder().file("record"));
+    EXPECT_EQ(show(switches, programs() + "my editor.jar"), logPath() + '\n') << switches;
+    EXPECT_TRUE(recordIs(logPath() + '\n')) << switches;
   }
 }
 

@@ -44,9 +44,6 @@ def turn_to(settings, label):
 def take_settings(camera, settings):
     camera.take(settings, "tools")
     turn_to(settings, "javac")
-    versions = next(one for one in settings.controls() if one.label == "JDK version of the warnings")
-    versions.click()
-    person.key("Down", "Down")
     settings.control("Serialization")
     camera.take(settings, "javac")
     for label, name in (("java", "java"), ("jdb", "jdb"), ("Sourcecode editor", "editor"), ("Paths", "paths")):

@@ -120,10 +120,11 @@ void TarnwickDlg::readSettings() {
 }
 
 void TarnwickDlg::tellRefusedConfiguration() {
+  // What is missing is a first use; where there is a folder, or no right to read, the save tells it.
   const std::string path = settings_.configPath();
-  if (!platform::lastChange(path)) return;
   try {
-    Tarnwickfile::unopened(path, FileMode::Read).openContent(FileMode::Read);
+    refuseSpecial(path);
+    refuseLarge(platform::fileSize(path).value_or(0), path);
   } catch (const Tarnwickfile::FileNotOpenE& failure) {
     desktop_.message(failure.message + "\nFile " + failure.file);
   }

@@ -42,7 +42,7 @@ class TarnwickDlg : public ToolTipDlg {
   void saveWhatStands();
   void readSettings();
   void welcomeFirstUse(int status);
-  /// Tells why a configuration that is there was not read.
+  /// Tells if what bears the configuration's name is none that could be read.
   void tellRefusedConfiguration();
   /// Sets what depends on the JDK of the settings as its version wants it.
   void suitJdk();

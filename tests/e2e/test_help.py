@@ -7,6 +7,8 @@ import urllib.parse
 import person
 import world
 from person import Window, wait_until
+from test_bad_input import message
+from test_locked_configuration import press_ok
 
 
 def opened(scratch):
@@ -56,6 +58,27 @@ def test_help_of_the_settings_opens_the_guide_at_the_page_that_shows(scratch):
     about.is_gone()
     settings.press("Cancel")
     settings.is_gone()
+
+
+def test_without_a_browser_help_and_links_tell_the_place(scratch):
+    # The system's own applications are none of this user's.
+    scratch.environment["XDG_DATA_DIRS"] = os.path.join(scratch.root, "nichts")
+    os.remove(os.path.join(scratch.home, ".local", "share", "applications", "notes.desktop"))
+    scratch.start()
+    welcome = Window("Welcome to Tarnwick")
+    link = next(one for one in welcome.controls() if one.name.startswith("https://"))
+    link.click()
+    words = message()
+    assert f"There is no browser on this computer. It would show:\n{link.name}" in words, words
+    press_ok()
+    welcome.press("OK")
+    settings = Window("Tarnwick settings")
+    settings.press("Help")
+    guide = os.path.join(os.path.dirname(scratch.program), "usersguide.htm")
+    words = message()
+    assert f"There is no browser on this computer. It would show:\n{guide}" in words, words
+    press_ok()
+    assert scratch.editor_notes() == []
 
 
 def test_a_link_of_welcome_opens_in_the_browser(scratch):

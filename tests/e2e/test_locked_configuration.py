@@ -203,14 +203,31 @@ def test_configuration_that_is_a_link_stays_one(scratch):
 def test_configuration_that_is_a_pipe_holds_nobody_up(scratch):
     os.mkfifo(scratch.configuration)
     program = scratch.start()
-    # Nothing comes from it, no version either.
+    words = message()
+    assert f"Not a regular file\nFile {scratch.configuration}" in words, words
+    press_ok()
     Window("Welcome to Tarnwick").press("OK")
-    decline(scratch, "No such device or address")
+    Window("Tarnwick settings").press("OK")
+    for _ in range(2):
+        decline(scratch, "No such device or address")
     panel = Window("Tarnwick")
     listens(panel)
     panel.press("Exit")
     assert program.wait(person.LIMIT) == 0
     assert stat.S_ISFIFO(os.stat(scratch.configuration).st_mode)
+
+
+def test_configuration_that_leads_to_an_endless_device_starts(scratch):
+    os.symlink("/dev/zero", scratch.configuration)
+    scratch.start()
+    words = message()
+    assert f"Not a regular file\nFile {scratch.configuration}" in words, words
+    press_ok()
+    # Nothing is saved over: what would be written there is thrown away.
+    Window("Welcome to Tarnwick").press("OK")
+    Window("Tarnwick settings").press("Cancel")
+    listens(Window("Tarnwick"))
+    assert os.readlink(scratch.configuration) == "/dev/zero"
 
 
 def test_configuration_folder_that_is_missing_is_made(scratch):

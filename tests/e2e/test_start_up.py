@@ -158,8 +158,7 @@ def test_pipe_that_nobody_writes_to_is_not_waited_for(scratch):
     is_refused(scratch, NO_CONFIGURATION, pipe)
     line = switches(scratch, r"\/TITLE=x\/", r"\/RUN=")
     line[2] = rf"\/CFG={pipe}\/"
-    program = scratch.start(*line)
-    ends(Window("x"), program)
+    is_refused(scratch, f"Not a regular file\nFile {pipe}", *line)
 
 
 def test_configuration_with_a_bad_value_is_refused(scratch):

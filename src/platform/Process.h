@@ -3,6 +3,7 @@
 
 #include <chrono>
 #include <cstddef>
+#include <cstdint>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -29,7 +30,7 @@ struct ChildCommand {
   std::string executable;
   /// The command line behind the tool's own name. On Linux it is split at blanks; double quotes group.
   std::string arguments;
-  /// True: standard input is a pipe, and the child and all that it starts end with this process or with `endTree`.
+  /// True: standard input is a pipe. Otherwise there is nothing to read.
   bool interactive = false;
   /// The title of the console window that the child gets where programs of the command line have such windows. Nothing:
   /// it gets none.
@@ -37,11 +38,12 @@ struct ChildCommand {
   /// Told of each step of the start that failed and did not keep the child from starting; by the thread that starts it,
   /// and before `start` returns or throws. What could not be had is missing: a stream without a pipe is at its end.
   std::function<void(const SystemError&)> report = nullptr;
-  /// Of an interactive child: what it has started ends when the child itself has ended, as by `endTree`.
+  /// What the child has started ends when the child itself has ended, as by `endTree`.
   bool leavesNothing = false;
 };
 
 /// A running child with its standard output and standard error on pipes, and its standard input if it is interactive.
+/// While the child runs, it and all that it starts end with this process, however that goes, or with `endTree`.
 /// The destructor closes the pipes and leaves the child alone. One thread may read each of the two outputs, one may
 /// write, one may wait.
 class ChildProcess {
@@ -58,6 +60,9 @@ class ChildProcess {
 
   /// What lies in the pipes still comes; then `read` gives 0 although somebody may hold the other end.
   virtual void stopReading() = 0;
+
+  /// How many bytes have come from the stream so far, whether they were read or lie in the pipe.
+  virtual std::uint64_t arrived(Stream stream) = 0;
 
   /// Writes to the child's standard input. Gives the count written; -1 on failure.
   virtual std::ptrdiff_t write(const char* bytes, std::size_t size) = 0;
@@ -79,6 +84,9 @@ class ChildProcess {
   /// `endTree` gives no time of its own.
   virtual void endTreeWithin(std::chrono::milliseconds /*grace*/) { endTree(); }
 };
+
+/// How a child is started.
+using ChildFactory = std::function<std::unique_ptr<ChildProcess>(const ChildCommand&)>;
 
 /// Starts a program that goes its own way: no pipes, no wait. The program may stand in double quotes; without a folder
 /// it is looked for as the system does. `arguments` hold the program's own name first; empty ones are as good as none.

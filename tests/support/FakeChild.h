@@ -6,8 +6,10 @@
 #include <chrono>
 #include <condition_variable>
 #include <cstddef>
+#include <cstdint>
 #include <memory>
 #include <mutex>
+#include <new>
 #include <string>
 #include <vector>
 
@@ -38,6 +40,14 @@ class ChildScript {
   /// From now on nothing reads the child's input: a write waits until it is broken off.
   void stopReadingInput() {
     change([&] { inputStuck_ = true; });
+  }
+  /// As long as this is so, whoever reads does not get on.
+  void starveReaders(bool on) {
+    change([&] { starved_ = on; });
+  }
+  /// A read that could bring something finds no memory; the next one does.
+  void takeMemoryAway() {
+    change([&] { memoryGone_ = true; });
   }
 
   // What happened to it.
@@ -93,6 +103,9 @@ class ChildScript {
   bool readingStopped_ = false;
   bool waitingStopped_ = false;
   bool inputStuck_ = false;
+  bool starved_ = false;
+  bool memoryGone_ = false;
+  std::uint64_t taken_[2] = {0, 0};
   bool writing_ = false;
   std::ptrdiff_t writeAnswer_ = -2;
   std::vector<std::string> writes_;
@@ -109,12 +122,24 @@ class FakeChild : public platform::ChildProcess {
     ChildScript& s = *script_;
     const std::size_t which = stream == Stream::Output ? 0 : 1;
     std::unique_lock guard(s.lock_);
-    s.changed_.wait(guard, [&] { return !s.pipes_[which].empty() || s.closed_[which] || s.readingStopped_; });
+    s.changed_.wait(guard, [&] {
+      return (!s.starved_ || s.readingStopped_) && (!s.pipes_[which].empty() || s.closed_[which] || s.readingStopped_);
+    });
+    if (s.memoryGone_ && !s.pipes_[which].empty()) {
+      s.memoryGone_ = false;
+      throw std::bad_alloc();
+    }
     const std::size_t count = std::min(size, s.pipes_[which].size());
     std::copy_n(s.pipes_[which].begin(), count, buffer);
     s.pipes_[which].erase(0, count);
+    s.taken_[which] += count;
     if (count == 0) ++s.endsSeen_;
     return count;
+  }
+  std::uint64_t arrived(Stream stream) override {
+    const std::lock_guard guard(script_->lock_);
+    const std::size_t which = stream == Stream::Output ? 0 : 1;
+    return script_->taken_[which] + script_->pipes_[which].size();
   }
   void stopReading() override {
     script_->change([&] { script_->readingStopped_ = true; });

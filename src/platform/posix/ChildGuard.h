@@ -7,10 +7,10 @@
 
 namespace tarnwick::platform {
 
-/// A small process that starts a child, and ends it with all that it has started when it is told to, and also when our
-/// own process goes without a word. What the child starts stays below the guard, even in a session of its own and when
-/// those between have ended. It is a member of the child's process group: so the group's number cannot be given to
-/// strangers while it may still be signalled.
+/// Two small processes that end a child with all that it has started when they are told to, and also when our own
+/// process goes without a word. The holder is the child's parent and a member of its group; the watcher, in a group of
+/// its own, is the holder's. What the child starts stays below them, even in a session of its own and when those
+/// between have ended. A guard that is stopped is set going again; one that is killed takes the child with it.
 class ChildGuard {
  public:
   /// Starts the child in a group of its own. Throws SystemError.
@@ -26,8 +26,9 @@ class ChildGuard {
   void release();
   /// TERM to all, and KILL to what is left after two seconds. Returns at once.
   void endTree() { line_.close(); }
-  /// To be called when the child seems to have ended: if it is the guard that has gone, the child ends now.
-  void settle();
+  /// To be called once, when the child has ended: the signal that ended it, or 0. If it is the guards that have gone,
+  /// the child ends now.
+  int settle();
 
  private:
   pid_t group_ = -1;

@@ -30,20 +30,31 @@ Pipe makePipe() {
   return {aboveStandardStreams(std::move(read)), aboveStandardStreams(std::move(write))};
 }
 
+std::size_t OutputPipe::bytesInPipe() const {
+  int count = 0;
+  return ioctl(end_.number(), FIONREAD, &count) == 0 && count > 0 ? static_cast<std::size_t>(count) : 0;
+}
+
+std::uint64_t OutputPipe::arrived() {
+  const std::lock_guard lock(takeLock_);
+  return taken_ + bytesInPipe();
+}
+
 std::size_t OutputPipe::read(char* buffer, std::size_t size) {
   if (!stopped_ && !waitFor(end_.number(), POLLIN, stop_)) {
     // From here on only what lies in the pipe now: somebody who goes on writing must not keep us for ever.
     stopped_ = true;
-    int count = 0;
-    if (ioctl(end_.number(), FIONREAD, &count) == 0 && count > 0) remaining_ = static_cast<std::size_t>(count);
+    remaining_ = bytesInPipe();
   }
   if (stopped_) size = std::min(size, remaining_);
   if (size == 0) return 0;
+  const std::lock_guard lock(takeLock_);
   ssize_t count = 0;
   do {
     count = ::read(end_.number(), buffer, size);
   } while (count < 0 && errno == EINTR);
   if (count <= 0) return 0;
+  taken_ += static_cast<std::uint64_t>(count);
   if (stopped_) remaining_ -= static_cast<std::size_t>(count);
   return static_cast<std::size_t>(count);
 }

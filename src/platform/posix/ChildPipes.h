@@ -4,6 +4,8 @@
 #include "platform/posix/Event.h"
 
 #include <cstddef>
+#include <cstdint>
+#include <mutex>
 #include <utility>
 
 namespace tarnwick::platform {
@@ -26,11 +28,18 @@ class OutputPipe {
   /// 0 at the end, and after the stop when all is read that lay in the pipe then.
   std::size_t read(char* buffer, std::size_t size);
 
+  /// How many bytes have come so far: those that were read, and those that lie in the pipe. Any thread.
+  std::uint64_t arrived();
+
  private:
+  std::size_t bytesInPipe() const;
+
   Descriptor end_;
   const Event& stop_;
   bool stopped_ = false;
   std::size_t remaining_ = 0;
+  std::mutex takeLock_;  ///< while bytes go from the pipe to who reads
+  std::uint64_t taken_ = 0;
 };
 
 /// Where we write the child's input, in a way that another thread can stop.

@@ -115,6 +115,8 @@ void prepareProcess() {
   }
   // A write to a child that has gone shall fail, not end the program.
   std::signal(SIGPIPE, SIG_IGN);
+  // So shall one that goes beyond what the system lets a file grow to.
+  std::signal(SIGXFSZ, SIG_IGN);
 }
 
 }  // namespace tarnwick::platform

@@ -9,11 +9,10 @@
 #include <algorithm>
 #include <cerrno>
 #include <csignal>
+#include <cstdint>
 #include <cstring>
 #include <mutex>
 #include <poll.h>
-#include <sys/syscall.h>
-#include <sys/wait.h>
 #include <unistd.h>
 
 namespace tarnwick::platform {
@@ -24,38 +23,28 @@ class Child final : public ChildProcess {
   explicit Child(const ChildCommand& command)
       : Child(command, makePipe(), makePipe(), command.interactive ? makePipe() : Pipe{}) {}
 
-  ~Child() override {
-    if (!ended_ && !guard_) reapLater(process_);
-  }
-
   std::size_t read(Stream stream, char* buffer, std::size_t size) override {
     return (stream == Stream::Output ? output_ : error_).read(buffer, size);
   }
   void stopReading() override { stopReading_.set(); }
+  std::uint64_t arrived(Stream stream) override { return (stream == Stream::Output ? output_ : error_).arrived(); }
 
   std::ptrdiff_t write(const char* bytes, std::size_t size) override { return input_.write(bytes, size); }
 
   void wait() override {
     while (!hasEnded()) {
-      // Where a process can't be polled, it is looked at now and then.
-      if (!waitFor(endHandle(), POLLIN, stopWaiting_, endHandle() < 0 ? 50 : -1) && !hasEnded()) return;
+      if (!waitFor(guard_->ended(), POLLIN, stopWaiting_) && !hasEnded()) return;
     }
     const std::lock_guard lock(stateLock_);
     if (ended_) return;
     ended_ = true;
-    if (guard_) {
-      guard_->settle();
-      if (leavesNothing_) {
-        guard_->endTree();
-      } else {
-        // What the child has left behind goes its own way.
-        guard_->release();
-      }
-      return;
+    signal_ = guard_->settle();
+    if (leavesNothing_) {
+      guard_->endTree();
+    } else {
+      // What the child has left behind goes its own way.
+      guard_->release();
     }
-    // Only now does the child lose its number, when `endTree` no longer signals it.
-    int status = 0;
-    if (waitpid(process_, &status, 0) == process_ && WIFSIGNALED(status)) signal_ = WTERMSIG(status);
   }
   std::string causeOfDeath() const override {
     if (signal_ == 0) return "";
@@ -66,12 +55,7 @@ class Child final : public ChildProcess {
 
   void endTree() override {
     const std::lock_guard lock(stateLock_);
-    if (ended_) return;
-    if (guard_) {
-      guard_->endTree();
-    } else {
-      kill(-process_, SIGKILL);
-    }
+    if (!ended_) guard_->endTree();
   }
 
  private:
@@ -88,27 +72,14 @@ class Child final : public ChildProcess {
     what.output = output.write.number();
     what.error = error.write.number();
     leavesNothing_ = command.leavesNothing;
-    if (command.interactive) {
-      guard_ = std::make_unique<ChildGuard>(what);
-      return;
-    }
-    if (const int failure = launch(what, process_)) throw systemError("CreateProcess", failure);
-    processHandle_ = Descriptor(static_cast<int>(syscall(SYS_pidfd_open, process_, 0)));
+    guard_ = std::make_unique<ChildGuard>(what);
   }
-
-  /// Can be read from once the child has ended; -1 where there is no such thing.
-  int endHandle() const { return guard_ ? guard_->ended() : processHandle_.number(); }
 
   bool hasEnded() {
     const std::lock_guard lock(stateLock_);
     if (ended_) return true;
-    if (guard_) {
-      pollfd report{guard_->ended(), POLLIN, 0};
-      return poll(&report, 1, 0) > 0;
-    }
-    siginfo_t info{};
-    const int result = waitid(P_PID, static_cast<id_t>(process_), &info, WEXITED | WNOWAIT | WNOHANG);
-    return result == 0 ? info.si_pid != 0 : errno != EINTR;
+    pollfd report{guard_->ended(), POLLIN, 0};
+    return poll(&report, 1, 0) > 0;
   }
 
   Event stopReading_;
@@ -116,8 +87,6 @@ class Child final : public ChildProcess {
   OutputPipe output_;
   OutputPipe error_;
   InputPipe input_;
-  pid_t process_ = -1;
-  Descriptor processHandle_;
   std::mutex stateLock_;
   bool ended_ = false;
   bool leavesNothing_ = false;

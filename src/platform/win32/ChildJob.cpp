@@ -4,7 +4,7 @@
 
 namespace tarnwick::platform {
 
-ChildJob::ChildJob(HANDLE process, bool endWithUs)
+ChildJob::ChildJob(HANDLE process)
     : process_(process),
       news_(CreateIoCompletionPort(INVALID_HANDLE_VALUE, nullptr, 0, 1)),
       job_(CreateJobObjectA(nullptr, nullptr)) {
@@ -12,7 +12,7 @@ ChildJob::ChildJob(HANDLE process, bool endWithUs)
     JOBOBJECT_ASSOCIATE_COMPLETION_PORT port{this, news_.get()};
     SetInformationJobObject(job_.get(), JobObjectAssociateCompletionPortInformation, &port, sizeof port);
   }
-  if (job_ && (!limit(endWithUs) || !AssignProcessToJobObject(job_.get(), process))) job_.close();
+  if (job_ && (!limit(true) || !AssignProcessToJobObject(job_.get(), process))) job_.close();
 }
 
 bool ChildJob::limit(bool endWithUs) {

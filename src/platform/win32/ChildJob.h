@@ -9,9 +9,9 @@ namespace tarnwick::platform {
 /// Holds a process and all that it starts, so that they can be ended together.
 class ChildJob {
  public:
-  /// `endWithUs`: the system ends them when our process ends, however that happens.
-  /// Where there is no job to be had, only the process itself can be ended.
-  ChildJob(HANDLE process, bool endWithUs);
+  /// The system ends them when our process ends, however that happens.
+  /// Where there is no job to be had, only the process itself can be ended, by us.
+  explicit ChildJob(HANDLE process);
   /// Lets them go their own way.
   ~ChildJob() { release(); }
   ChildJob(const ChildJob&) = delete;

@@ -76,19 +76,37 @@ std::size_t OutputPipe::read(char* buffer, std::size_t size) {
 }
 
 DWORD OutputPipe::readOnce(char* buffer, DWORD size, bool& ended) {
-  OVERLAPPED operation{};
-  operation.hEvent = readDone_.get();
-  if (!ReadFile(end_.get(), buffer, size, nullptr, &operation) && GetLastError() != ERROR_IO_PENDING) {
+  if (!beginRead(buffer, size)) {
     ended = true;
     return 0;
   }
   const HANDLE events[] = {readDone_.get(), stopEvent_};
   if (!stopped_ && WaitForMultipleObjects(2, events, FALSE, INFINITE) == WAIT_OBJECT_0 + 1) {
-    CancelIoEx(end_.get(), &operation);
+    CancelIoEx(end_.get(), &taking_->operation);
   }
+  return endRead(ended);
+}
+
+bool OutputPipe::beginRead(char* buffer, DWORD size) {
+  const std::lock_guard lock(taking_->lock);
+  taking_->operation = {};
+  taking_->operation.hEvent = readDone_.get();
+  taking_->underWay =
+      ReadFile(end_.get(), buffer, size, nullptr, &taking_->operation) != FALSE || GetLastError() == ERROR_IO_PENDING;
+  return taking_->underWay;
+}
+
+DWORD OutputPipe::endRead(bool& ended) {
   DWORD count = 0;
-  if (GetOverlappedResult(end_.get(), &operation, &count, TRUE)) return count;
-  if (GetLastError() == ERROR_OPERATION_ABORTED) {
+  const bool done = GetOverlappedResult(end_.get(), &taking_->operation, &count, TRUE) != FALSE;
+  const bool cancelled = !done && GetLastError() == ERROR_OPERATION_ABORTED;
+  {
+    const std::lock_guard lock(taking_->lock);
+    taking_->underWay = false;
+    if (done) taking_->taken += count;
+  }
+  if (done) return count;
+  if (cancelled) {
     noteStop();
   } else {
     ended = true;
@@ -96,12 +114,23 @@ DWORD OutputPipe::readOnce(char* buffer, DWORD size, bool& ended) {
   return 0;
 }
 
+std::uint64_t OutputPipe::arrived() {
+  const std::lock_guard lock(taking_->lock);
+  std::uint64_t count = taking_->taken;
+  if (taking_->underWay && HasOverlappedIoCompleted(&taking_->operation)) count += taking_->operation.InternalHigh;
+  return count + bytesInPipe();
+}
+
+DWORD OutputPipe::bytesInPipe() const {
+  DWORD available = 0;
+  return end_ && PeekNamedPipe(end_.get(), nullptr, 0, nullptr, &available, nullptr) ? available : 0;
+}
+
 void OutputPipe::noteStop() {
   if (stopped_) return;
   // From here on only what lies in the pipe now: somebody who goes on writing must not keep us for ever.
   stopped_ = true;
-  DWORD available = 0;
-  if (PeekNamedPipe(end_.get(), nullptr, 0, nullptr, &available, nullptr)) remaining_ = available;
+  remaining_ = bytesInPipe();
 }
 
 InputPipe::InputPipe(PipeEnds& pipe, HANDLE stopEvent)

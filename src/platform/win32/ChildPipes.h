@@ -4,6 +4,9 @@
 #include "platform/win32/StartChild.h"
 
 #include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <mutex>
 
 namespace tarnwick::platform {
 
@@ -32,13 +35,29 @@ class OutputPipe {
   /// 0 at the end, and after the stop when all is read that lay in the pipe then.
   std::size_t read(char* buffer, std::size_t size);
 
+  /// How many bytes have come so far: those that were read, and those that lie in the pipe. Any thread.
+  std::uint64_t arrived();
+
  private:
+  /// A read on its way; it may have its bytes before its thread gets on.
+  struct Taking {
+    std::mutex lock;
+    OVERLAPPED operation{};
+    bool underWay = false;
+    std::uint64_t taken = 0;
+  };
+
   /// One read; 0 also if the stop came first.
   DWORD readOnce(char* buffer, DWORD size, bool& ended);
+  bool beginRead(char* buffer, DWORD size);
+  /// Gives the count.
+  DWORD endRead(bool& ended);
   void noteStop();
+  DWORD bytesInPipe() const;
 
   Handle end_;
   Handle readDone_;
+  std::unique_ptr<Taking> taking_ = std::make_unique<Taking>();
   HANDLE stopEvent_ = nullptr;
   bool stopped_ = false;
   std::size_t remaining_ = 0;

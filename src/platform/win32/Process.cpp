@@ -10,6 +10,7 @@
 #include <windows.h>
 
 #include <cerrno>
+#include <cstdint>
 #include <cstring>
 #include <mutex>
 #include <optional>
@@ -61,6 +62,7 @@ class Child final : public ChildProcess {
   }
 
   void stopReading() override { SetEvent(stopReading_.get()); }
+  std::uint64_t arrived(Stream stream) override { return (stream == Stream::Output ? output_ : error_).arrived(); }
 
   std::ptrdiff_t write(const char* bytes, std::size_t size) override { return input_.write(bytes, size); }
 
@@ -99,7 +101,7 @@ class Child final : public ChildProcess {
     }
     process_ = Handle(made.hProcess);
     const Handle thread(made.hThread);
-    job_.emplace(process_.get(), command.interactive);
+    job_.emplace(process_.get());
     ResumeThread(thread.get());
   }
 

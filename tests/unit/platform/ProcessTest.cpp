@@ -187,6 +187,40 @@ TEST(ChildProcessTest, WaitReturnsThoughAGrandchildKeepsThePipes) {
   EXPECT_TRUE(processLives(grandchild)) << "the child has ended by itself: nothing is ended any more";
 }
 
+TEST(ChildProcessTest, WhatHasArrivedIsKnownWhetherItWasReadOrNot) {
+  const StandInScript script("out 12345\nerr 12");
+  const auto child = startInteractive();
+  child->wait();
+  // A line end may be one byte or two.
+  const auto output = child->arrived(Stream::Output);
+  const auto error = child->arrived(Stream::Error);
+  EXPECT_GE(output, 6U);
+  EXPECT_GE(error, 3U);
+  EXPECT_LT(error, output);
+  char some[3];
+  ASSERT_EQ(child->read(Stream::Output, some, sizeof some), 3U);
+  EXPECT_EQ(child->arrived(Stream::Output), output);
+  EXPECT_EQ(readAll(*child, Stream::Output).size(), output - 3);
+  EXPECT_EQ(readAll(*child, Stream::Error).size(), error);
+  EXPECT_EQ(child->arrived(Stream::Output), output);
+  EXPECT_EQ(child->arrived(Stream::Error), error);
+}
+
+TEST(ChildProcessTest, WhatArrivesWhileAReaderWaitsIsKnownToo) {
+  const StandInScript script("readline\nsleep 60000");
+  const auto child = startInteractive();
+  std::string output;
+  std::thread reader([&] { output = readAll(*child, Stream::Output); });
+  child->write("abc\n", 4);
+  const bool arrived = waitUntil([&] { return child->arrived(Stream::Output) == 9; });  // "got: abc" and a line end
+  child->stopReading();
+  reader.join();
+  EXPECT_TRUE(arrived) << child->arrived(Stream::Output);
+  EXPECT_EQ(output, "got: abc\n");
+  child->endTree();
+  child->wait();
+}
+
 TEST(ChildProcessTest, WhatAChildHasStartedEndsWithItIfItIsToLeaveNothing) {
   const StandInScript script("grandchild 60000\nout done");
   ChildCommand command{StandInScript::tool("java"), "", true};

@@ -3,14 +3,19 @@
 #include "support/Children.h"
 #include "support/posix/ProcessTable.h"
 
+#include <algorithm>
+#include <cerrno>
 #include <chrono>
 #include <csignal>
+#include <cstdlib>
 #include <fcntl.h>
 #include <filesystem>
 #include <functional>
 #include <gtest/gtest.h>
 #include <iterator>
+#include <memory>
 #include <sstream>
+#include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <thread>
@@ -177,18 +182,29 @@ TEST(PosixProcessTest, ATreeThatHeedsTermEndsAtOnce) {
 }
 
 TEST(PosixProcessTest, TheTreeEndsWhenItsOwnerIsKilled) {
-  const StandInScript script("ignoreterm\ngrandchild 60000\nsleep 60000");
-  const pid_t owner = inACopy([] {
-    const auto child = ChildProcess::start({java(), "", true});
-    child->wait();
-    return 0;
-  });
-  const int grandchild = script.grandchildren(1).at(0);
-  const int group = getpgid(grandchild);
-  kill(owner, SIGKILL);
-  EXPECT_EQ(resultOf(owner), -SIGKILL);
-  EXPECT_TRUE(waitUntil([&] { return !processLives(grandchild); }));
-  EXPECT_TRUE(waitUntil([&] { return !processLives(group); })) << "the child itself";
+  for (const bool interactive : {true, false}) {
+    const StandInScript script("ignoreterm\ngrandchild 60000\norphan 60000\nsleep 60000");
+    const pid_t owner = inACopy([interactive] {
+      const auto child = ChildProcess::start({java(), "", interactive});
+      child->wait();
+      return 0;
+    });
+    const auto below = script.grandchildren(2);
+    const int group = getpgid(below.at(0));
+    kill(owner, SIGKILL);
+    EXPECT_EQ(resultOf(owner), -SIGKILL);
+    for (const int process : below) EXPECT_TRUE(waitUntil([&] { return !processLives(process); })) << interactive;
+    EXPECT_TRUE(waitUntil([&] { return processesWith(2, group) == 0; })) << "the child itself";
+  }
+}
+
+TEST(PosixProcessTest, AToolThatIsEndedTakesWhatWentIntoASessionOfItsOwnAlong) {
+  const StandInScript script("orphan 60000\nsleep 60000");
+  const auto child = ChildProcess::start({java(), "", false});
+  const int orphan = script.grandchildren(1).at(0);
+  child->endTree();
+  child->wait();
+  EXPECT_TRUE(waitUntil([&] { return !processLives(orphan); }));
 }
 
 TEST(PosixProcessTest, WhatWentIntoASessionOfItsOwnEndsWithTheTree) {
@@ -229,18 +245,133 @@ TEST(PosixProcessTest, WhatEndsBelowTheChildLeavesNoZombie) {
   child->wait();
 }
 
-TEST(PosixProcessTest, WithoutItsGuardAChildEndsAtOnce) {
-  const auto child = ChildProcess::start({"/bin/sh", "-c \"echo $PPID $$; exec sleep 60\"", true});
-  char text[64] = "";
-  child->read(Stream::Output, text, sizeof text - 1);
-  int guard = 0;
+/// A child with a descendant in a session of its own and whose parent has gone, and its guards.
+struct Guarded {
+  Guarded() {
+    const std::string script = "(setsid sleep 60 & echo $!); echo $PPID $$; exec sleep 60";
+    child = ChildProcess::start({"/bin/sh", "-c \"" + script + "\"", false});
+    std::string said;
+    while (std::count(said.begin(), said.end(), '\n') < 2) {
+      char text[64];
+      const std::size_t count = child->read(Stream::Output, text, sizeof text);
+      if (count == 0) break;
+      said.append(text, count);
+    }
+    std::istringstream(said) >> orphan >> holder >> process;
+    const auto fields = processFields(std::to_string(holder));
+    if (fields.size() > 1) watcher = std::stoi(fields[1]);
+  }
+
+  bool isWhole() const {
+    return processLives(orphan) && processLives(process) && processLives(holder) && watcher > 1 &&
+           processLives(watcher);
+  }
+  bool hasGone() const {
+    return waitUntil([this] {
+      return !processLives(orphan) && !processLives(process) && !processLives(holder) && !processLives(watcher);
+    });
+  }
+
+  std::unique_ptr<ChildProcess> child;
+  int orphan = 0;
+  int holder = 0;
   int process = 0;
-  std::istringstream(text) >> guard >> process;
-  ASSERT_GT(guard, 1);
-  EXPECT_TRUE(processLives(process));
-  kill(guard, SIGKILL);
+  int watcher = 0;
+};
+
+TEST(PosixProcessTest, WithoutOneOfItsGuardsAChildEndsAtOnceWithAllThatItHasStarted) {
+  for (const bool parent : {true, false}) {
+    const Guarded tree;
+    ASSERT_TRUE(tree.isWhole());
+    kill(parent ? tree.holder : tree.watcher, SIGKILL);
+    EXPECT_TRUE(tree.hasGone()) << parent;
+    tree.child->wait();
+    EXPECT_EQ(tree.child->causeOfDeath(), "Killed");
+  }
+}
+
+TEST(PosixProcessTest, AGuardThatWasStoppedStillEndsTheTree) {
+  for (const bool parent : {true, false}) {
+    const Guarded tree;
+    ASSERT_TRUE(tree.isWhole());
+    kill(parent ? tree.holder : tree.watcher, SIGSTOP);
+    tree.child->endTree();
+    EXPECT_TRUE(tree.hasGone()) << parent;
+    tree.child->wait();
+  }
+}
+
+TEST(PosixProcessTest, AGuardThatWasStoppedStillEndsTheTreeOfAnOwnerWhoWasKilled) {
+  for (const bool parent : {true, false}) {
+    int tell[2];
+    ASSERT_EQ(pipe(tell), 0);
+    const pid_t owner = inACopy([&tell, parent] {
+      const Guarded tree;
+      kill(parent ? tree.holder : tree.watcher, SIGSTOP);
+      const int numbers[] = {tree.orphan, tree.process, tree.holder, tree.watcher};
+      if (write(tell[1], numbers, sizeof numbers) != sizeof numbers) return 1;
+      tree.child->wait();
+      return 0;
+    });
+    int numbers[4] = {};
+    ASSERT_EQ(read(tell[0], numbers, sizeof numbers), static_cast<ssize_t>(sizeof numbers));
+    kill(owner, SIGKILL);
+    EXPECT_EQ(resultOf(owner), -SIGKILL);
+    for (const int number : numbers) {
+      ASSERT_GT(number, 1);
+      EXPECT_TRUE(waitUntil([number] { return !processLives(number); })) << parent;
+    }
+    close(tell[0]);
+    close(tell[1]);
+  }
+}
+
+TEST(PosixProcessTest, TheEndOfAChildThatHasStoppedItsGuardIsSeen) {
+  const auto child = ChildProcess::start({"/bin/sh", "-c \"kill -STOP $PPID; exit 3\"", false});
   child->wait();
-  EXPECT_TRUE(waitUntil([process] { return !processLives(process); }));
+  EXPECT_EQ(child->causeOfDeath(), "");
+}
+
+TEST(PosixProcessTest, AChildThatKillsItsGuardOrItsGroupLeavesNothingBehind) {
+  for (const std::string last : {"kill -9 $PPID", "kill -9 0"}) {
+    const auto child = ChildProcess::start(
+        {"/bin/sh", "-c \"(setsid sleep 600 >/dev/null 2>&1 & echo $!); " + last + "; sleep 60\"", false});
+    const int orphan = std::atoi(readAll(*child, Stream::Output).c_str());
+    ASSERT_GT(orphan, 1);
+    child->wait();
+    EXPECT_TRUE(waitUntil([orphan] { return !processLives(orphan); })) << last;
+    EXPECT_EQ(child->causeOfDeath(), "Killed") << last;
+  }
+}
+
+TEST(PosixProcessTest, NoGuardStaysWhenTheChildHasEnded) {
+  const auto child = ChildProcess::start({"/bin/sh", "-c \"echo $PPID; read line\"", true});
+  char said[32] = "";
+  child->read(Stream::Output, said, sizeof said - 1);
+  const int holder = std::atoi(said);
+  ASSERT_GT(holder, 1);
+  const auto fields = processFields(std::to_string(holder));
+  ASSERT_GT(fields.size(), 1U);
+  const int watcher = std::stoi(fields[1]);
+  ASSERT_GT(watcher, 1);
+  child->write("\n", 1);
+  child->wait();
+  for (const int guard : {holder, watcher}) EXPECT_TRUE(waitUntil([guard] { return !processLives(guard); }));
+}
+
+TEST(PosixProcessTest, AFileThatMayNotGrowAnyMoreFailsAndDoesNotEndTheProgram) {
+  const test::ScratchFolder folder;
+  const std::string path = folder.file("file");
+  const pid_t copy = inACopy([&path] {
+    std::signal(SIGXFSZ, SIG_DFL);
+    prepareProcess();
+    const rlimit small{10, 10};
+    setrlimit(RLIMIT_FSIZE, &small);
+    const int file = open(path.c_str(), O_WRONLY | O_CREAT, 0600);
+    if (write(file, "0123456789", 10) != 10) return 1;
+    return write(file, "more", 4) == -1 && errno == EFBIG ? 0 : 2;
+  });
+  EXPECT_EQ(resultOf(copy), 0);
 }
 
 TEST(PosixProcessTest, TheOwnerMayLeaveRightAfterEndTree) {

@@ -60,6 +60,7 @@ class Desktop {
   /// Runs `work` on another thread and returns when it has ended. Meanwhile windows repaint, nothing takes input, and
   /// the wait cursor shows. An exception of `work` is thrown on. If the program is told to end meanwhile, `giveUp` is
   /// called, which is to make `work` end soon; then an exception that only the edge knows takes the place of returning.
+  /// Throws NoThreadE, with nothing done, if there is no thread to be had.
   virtual void whileBusy(const std::function<void()>& work, const std::function<void()>& giveUp) = 0;
   /// For work that does not last.
   void whileBusy(const std::function<void()>& work) { whileBusy(work, {}); }

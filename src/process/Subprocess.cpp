@@ -4,12 +4,8 @@
 #include "platform/FileSystem.h"
 #include "platform/Folders.h"
 
-#include <chrono>
-#include <condition_variable>
 #include <cstdio>
 #include <memory>
-#include <mutex>
-#include <thread>
 #include <utility>
 
 namespace tarnwick {
@@ -17,90 +13,6 @@ namespace {
 
 /// The vector's slots; the last one is for its end mark.
 constexpr std::size_t vectorSlots = 256;
-constexpr std::size_t blockSize = 512;
-constexpr std::chrono::milliseconds settlingTime{400};
-
-/// One tool on its way, with its output going to the log.
-class LoggedRun {
- public:
-  LoggedRun(platform::ChildProcess& child, ToolLog& log, std::string command, std::atomic<std::size_t>& outputBytes)
-      : child_(child), log_(log), command_(std::move(command)), outputBytes_(outputBytes) {}
-
-  void waitForEnd() {
-    std::thread output([this] { copyToLog(platform::ChildProcess::Stream::Output); });
-    std::thread error([this] { copyToLog(platform::ChildProcess::Stream::Error); });
-    child_.wait();
-    settle();
-    child_.stopReading();
-    output.join();
-    error.join();
-    noteDeath();
-    log_.close();
-  }
-
- private:
-  void copyToLog(platform::ChildProcess::Stream stream) {
-    char block[blockSize];
-    // Reading goes on even if nothing can be logged: a tool must not get stuck on a full pipe.
-    while (const std::size_t size = child_.read(stream, block, sizeof block)) {
-      try {
-        append(block, size);
-      } catch (const Tarnwickfile::FileNotOpenE&) {
-      }
-    }
-    const std::lock_guard lock(endLock_);
-    ++endedOutputs_;
-    outputEnded_.notify_all();
-  }
-
-  /// A tool that was killed may not have said a word, and nobody may take that for success.
-  void noteDeath() {
-    const std::string cause = child_.causeOfDeath();
-    if (cause.empty()) return;
-    const std::string note = std::string(outputBytes_ > 0 ? "\n" : "") + "Ended by a signal: " + cause + '\n';
-    try {
-      append(note.data(), note.size());
-    } catch (const Tarnwickfile::FileNotOpenE&) {
-    }
-  }
-
-  void append(const char* block, std::size_t size) {
-    const std::lock_guard lock(log_.lock());
-    if (outputBytes_ == 0) {
-      const std::string twoLineEnds = std::string(platform::lineEnd) + platform::lineEnd;
-      const std::string header = twoLineEnds + command_ + twoLineEnds;
-      log_.append(header.data(), header.size());
-    }
-    log_.append(block, size);
-    // What could not be written counts too: the tool has said it.
-    outputBytes_ += size;
-  }
-
-  /// Something that the tool left behind may still be writing; the run ends when nothing more comes. Where both outputs
-  /// have ended nothing more can come.
-  void settle() {
-    std::size_t before = 0;
-    do {
-      before = outputBytes_;
-      {
-        // Not between the log's own writing and flushing, which has to see its failure.
-        const std::lock_guard lock(log_.lock());
-        std::fflush(nullptr);
-      }
-      std::unique_lock lock(endLock_);
-      if (outputEnded_.wait_for(lock, settlingTime, [this] { return endedOutputs_ == 2; })) return;
-    } while (outputBytes_ != before);
-  }
-
-  platform::ChildProcess& child_;
-  ToolLog& log_;
-  const std::string command_;
-  std::atomic<std::size_t>& outputBytes_;
-  std::mutex endLock_;
-  std::condition_variable outputEnded_;
-  int endedOutputs_ = 0;
-};
-
 /// The command text: empty arguments add nothing to it, not even a blank.
 std::string joined(const std::vector<std::string>& arguments) {
   std::string text;
@@ -124,8 +36,8 @@ std::string detachedStartFailure(const std::string& program, const platform::Sys
   return "Unable to start " + program + ".\n\n" + failure.reason + "  (" + std::to_string(failure.code) + ')';
 }
 
-Subprocess::Subprocess(Desktop& desktop, ToolLog& log, std::string executable)
-    : desktop_(desktop), log_(log), executable_(std::move(executable)) {}
+Subprocess::Subprocess(Desktop& desktop, ToolLog& log, std::string executable, RunMeans means)
+    : desktop_(desktop), log_(log), executable_(std::move(executable)), means_(std::move(means)) {}
 
 void Subprocess::addArg(const std::string& text) {
   arguments_.push_back(text);
@@ -161,7 +73,7 @@ std::unique_ptr<platform::ChildProcess> Subprocess::startChild(const std::string
   std::unique_ptr<platform::ChildProcess> child;
   const auto report = [&texts](const platform::SystemError& fault) { texts.push_back(fault.text()); };
   try {
-    child = platform::ChildProcess::start({executable_, arguments, false, title, report});
+    child = means_.start({executable_, arguments, false, title, report});
   } catch (const platform::SystemError& error) {
     texts.push_back("Can't start " + executable_ + '\n' + error.text());
   }
@@ -187,13 +99,13 @@ bool Subprocess::run(FileForSubprocess* file, FileMode logOpenMode) {
   } catch (const Tarnwickfile::FileNotOpenE& e) {
     logFault.emplace(e.message + "\nCan't open log file " + e.file, e.file);
   }
-  outputBytes_ = 0;
-  LoggedRun run(*child, log_, command, outputBytes_);
-  desktop_.whileBusy([&run] { run.waitForEnd(); }, [&child] { child->endTree(); });
+  LoggedRun run(*child, log_, means_, command);
+  desktop_.whileBusy([&run] { run.waitForEnd(); }, [&run] { run.giveUp(); });
   if (logFault) throw Tarnwickfile::FileNotOpenE(*logFault);
+  if (run.lostOutput()) desktop_.message("Not enough memory for all that the tool has said.");
   const std::string unwritten = log_.fault();
   if (!unwritten.empty()) desktop_.message(unwritten + "\nCan't write log file " + log_.path());
-  return outputBytes_ > 0;
+  return run.hadOutput();
 }
 
 bool DetachedSubprocess::run(FileForSubprocess* file, FileMode /*logOpenMode*/) {

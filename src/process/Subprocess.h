@@ -4,9 +4,9 @@
 #include "dialogbase/Desktop.h"
 #include "platform/Process.h"
 #include "process/FileForSubprocess.h"
+#include "process/LoggedRun.h"
 #include "process/ToolLog.h"
 
-#include <atomic>
 #include <cstddef>
 #include <memory>
 #include <optional>
@@ -26,7 +26,7 @@ std::string detachedStartFailure(const std::string& program, const platform::Sys
 class Subprocess {
  public:
   /// `log` and `desktop` outlive the object. `executable` is the path handed to the system.
-  Subprocess(Desktop& desktop, ToolLog& log, std::string executable);
+  Subprocess(Desktop& desktop, ToolLog& log, std::string executable, RunMeans means = {});
   virtual ~Subprocess() = default;
 
   /// Arguments are never quoted here; whoever adds one with blanks in it quotes it. An empty one adds no text to the
@@ -66,7 +66,7 @@ class Subprocess {
   std::string executable_;
   std::vector<std::string> arguments_;
   bool fillsInNames_ = false;
-  std::atomic<std::size_t> outputBytes_{0};
+  RunMeans means_;
 };
 
 /// A program that is started and goes its own way: no pipes, no log, no wait.

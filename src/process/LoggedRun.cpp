@@ -1,0 +1,125 @@
+#include "process/LoggedRun.h"
+
+#include "base/NoThreadE.h"
+#include "platform/FileSystem.h"
+
+#include <cstdio>
+#include <exception>
+#include <system_error>
+
+namespace tarnwick {
+namespace {
+
+constexpr std::size_t blockSize = 512;
+
+}  // namespace
+
+LoggedRun::~LoggedRun() {
+  if (finished_) return;
+  child_.endTree();
+  child_.wait();
+  finish();
+  log_.close();
+}
+
+void LoggedRun::waitForEnd() {
+  listen();
+  child_.wait();
+  const bool settled = settle();
+  finish();
+  noteDeath();
+  if (!settled) note("The tool has ended, but something that it has left behind still writes.");
+  log_.close();
+}
+
+void LoggedRun::giveUp() {
+  child_.endTree();
+  const std::lock_guard lock(endLock_);
+  givenUp_ = true;
+  ended_.notify_all();
+}
+
+void LoggedRun::listen() {
+  try {
+    output_ = means_.thread([this] { copyToLog(platform::ChildProcess::Stream::Output); });
+    error_ = means_.thread([this] { copyToLog(platform::ChildProcess::Stream::Error); });
+  } catch (const std::system_error&) {
+    // A tool that nobody listens to would get stuck on a full pipe.
+    throw NoThreadE();
+  }
+}
+
+void LoggedRun::finish() {
+  finished_ = true;
+  child_.stopReading();
+  for (std::thread* const reader : {&output_, &error_}) {
+    if (reader->joinable()) reader->join();
+  }
+}
+
+void LoggedRun::copyToLog(platform::ChildProcess::Stream stream) {
+  char block[blockSize];
+  // Reading goes on even if nothing can be logged: a tool must not get stuck on a full pipe.
+  for (;;) {
+    std::size_t size = 0;
+    try {
+      size = child_.read(stream, block, sizeof block);
+      if (size == 0) break;
+      append(block, size);
+    } catch (const Tarnwickfile::FileNotOpenE&) {
+      // Whoever opened the log knows.
+    } catch (const std::exception&) {
+      outputBytes_ += size;
+      lostOutput_ = true;
+    }
+  }
+  const std::lock_guard lock(endLock_);
+  ++endedOutputs_;
+  ended_.notify_all();
+}
+
+void LoggedRun::append(const char* block, std::size_t size) {
+  const std::lock_guard lock(log_.lock());
+  if (outputBytes_ == 0) {
+    const std::string twoLineEnds = std::string(platform::lineEnd) + platform::lineEnd;
+    const std::string header = twoLineEnds + command_ + twoLineEnds;
+    log_.append(header.data(), header.size());
+  }
+  log_.append(block, size);
+  // What could not be written counts too: the tool has said it.
+  outputBytes_ += size;
+}
+
+void LoggedRun::note(const std::string& text) {
+  const std::string line = (outputBytes_ > 0 ? platform::lineEnd : "") + text + platform::lineEnd;
+  try {
+    append(line.data(), line.size());
+  } catch (const Tarnwickfile::FileNotOpenE&) {
+  }
+}
+
+/// A tool that was killed may not have said a word, and nobody may take that for success.
+void LoggedRun::noteDeath() {
+  const std::string cause = child_.causeOfDeath();
+  if (!cause.empty()) note("Ended by a signal: " + cause);
+}
+
+/// Something that the tool left behind may still be writing; the run ends when nothing more comes. Where both outputs
+/// have ended nothing more can come.
+bool LoggedRun::settle() {
+  for (std::chrono::milliseconds waited{0}; waited < means_.longestSettling; waited += means_.settle) {
+    const std::size_t before = outputBytes_;
+    {
+      // Not between the log's own writing and flushing, which has to see its failure.
+      const std::lock_guard lock(log_.lock());
+      std::fflush(nullptr);
+    }
+    if (means_.onWait) means_.onWait();
+    std::unique_lock lock(endLock_);
+    if (ended_.wait_for(lock, means_.settle, [this] { return givenUp_ || endedOutputs_ == 2; })) return true;
+    if (outputBytes_ == before) return true;
+  }
+  return false;
+}
+
+}  // namespace tarnwick

@@ -1,0 +1,80 @@
+#pragma once
+
+#include "platform/Process.h"
+#include "platform/ThreadFactory.h"
+#include "process/ToolLog.h"
+
+#include <atomic>
+#include <chrono>
+#include <condition_variable>
+#include <cstddef>
+#include <functional>
+#include <mutex>
+#include <string>
+#include <thread>
+#include <utility>
+
+namespace tarnwick {
+
+/// What a run stands on. Tests have children, threads and times of their own.
+struct RunMeans {
+  platform::ChildFactory start = &platform::ChildProcess::start;
+  platform::ThreadFactory thread = &platform::startThread;
+  /// The output has settled when nothing comes for so long after the tool's end.
+  std::chrono::milliseconds settle{400};
+  /// So long the output may take to settle, counted in the waits above.
+  std::chrono::milliseconds longestSettling{10000};
+  /// Hears, on the thread that waits, of each of these waits as it begins.
+  std::function<void()> onWait = {};
+};
+
+/// One tool on its way, with its output going to the log.
+class LoggedRun {
+ public:
+  /// All but the command outlive the object. `command` heads the log.
+  LoggedRun(platform::ChildProcess& child, ToolLog& log, const RunMeans& means, std::string command)
+      : child_(child), log_(log), means_(means), command_(std::move(command)) {}
+  /// Ends the tool if nobody has waited for it.
+  ~LoggedRun();
+  LoggedRun(const LoggedRun&) = delete;
+  LoggedRun& operator=(const LoggedRun&) = delete;
+
+  /// Waits for the tool's end and its last words, and closes the log. Throws NoThreadE, the tool having been ended, if
+  /// nobody could listen to it.
+  void waitForEnd();
+  /// Makes `waitForEnd` return soon: ends the tool with all that it has started, and no more words are waited for. Any
+  /// thread.
+  void giveUp();
+
+  /// True if the tool has said anything.
+  bool hadOutput() const { return outputBytes_ > 0 || lostOutput_; }
+  /// True if some of what it said was lost for lack of memory.
+  bool lostOutput() const { return lostOutput_; }
+
+ private:
+  void listen();
+  void copyToLog(platform::ChildProcess::Stream stream);
+  void append(const char* block, std::size_t size);
+  /// Adds a line of ours behind what the tool has said.
+  void note(const std::string& text);
+  void noteDeath();
+  /// False if something still writes.
+  bool settle();
+  void finish();
+
+  platform::ChildProcess& child_;
+  ToolLog& log_;
+  const RunMeans& means_;
+  const std::string command_;
+  std::thread output_;
+  std::thread error_;
+  std::atomic<std::size_t> outputBytes_{0};
+  std::atomic<bool> lostOutput_{false};
+  bool finished_ = false;
+  std::mutex endLock_;  ///< of the two below
+  int endedOutputs_ = 0;
+  bool givenUp_ = false;
+  std::condition_variable ended_;
+};
+
+}  // namespace tarnwick

@@ -1,6 +1,7 @@
 #include "console/ConsoleChild.h"
 
 #include "base/Filename.h"
+#include "base/NoThreadE.h"
 #include "base/Text.h"
 #include "platform/Path.h"
 #include "platform/ThreadPriority.h"
@@ -14,7 +15,10 @@ namespace tarnwick {
 namespace {
 
 const char endBanner[] = "****  Tarnwick:  E n d   o f   j a v a   e x e c u t i o n   ****";
-const char noThread[] = "Tarnwick Internal error: Thread creation (subprocess) failed.\n";
+
+std::size_t indexOf(platform::ChildProcess::Stream stream) {
+  return stream == platform::ChildProcess::Stream::Output ? 0 : 1;
+}
 
 }  // namespace
 
@@ -40,7 +44,7 @@ void ConsoleChild::start() {
   try {
     runThread_ = program_.thread([this] { run(); });
   } catch (const std::system_error&) {
-    desktop_.message(noThread);
+    desktop_.message(NoThreadE().message);
   }
 }
 
@@ -91,16 +95,16 @@ void ConsoleChild::run() {
   try {
     startReaders();
   } catch (const std::system_error&) {
-    endWithMessage(noThread);
+    endWithMessage(NoThreadE().message);
     return;
   }
-  wake_();
+  wake();
   process_->wait();
   if (stopping()) return;
   // What is left to do has time: the readers bring the last words first.
   platform::lowerThreadPriority();
   std::fflush(nullptr);
-  if (!settle()) return;
+  if (!awaitLastWords() || !settle()) return;
   if (totalOutputBytes_ == 0) {
     // A child that said nothing leaves no console behind.
     childState_ = 0;
@@ -110,7 +114,7 @@ void ConsoleChild::run() {
   if (!waitForReaders()) return;
   writeBanner();
   childState_ = 0;
-  wake_();
+  wake();
 }
 
 void ConsoleChild::echoCommand() {
@@ -122,7 +126,7 @@ void ConsoleChild::echoCommand() {
     screen_.changes.ask(screen_.document.lineCount(), 0, end);
     screen_.newLine();
   }
-  wake_();
+  wake();
 }
 
 bool ConsoleChild::startProcess() {
@@ -156,43 +160,94 @@ void ConsoleChild::startReaders() {
   stderrReader_.begin();
   stdoutThread_ = program_.thread([this] { read(Stream::Output, stdoutReader_); });
   stderrThread_ = program_.thread([this] { read(Stream::Error, stderrReader_); });
-  writer_.start(*process_);
+  writer_.start(*process_, program_.thread);
 }
 
 void ConsoleChild::read(platform::ChildProcess::Stream stream, OutputReader& reader) {
   char block[OutputReader::blockSize];
   for (;;) {
-    const std::size_t count = process_->read(stream, block, sizeof block);
-    // A console that closes leaves its unfinished line alone: it is not to reach a record file. But a child that has
-    // been asked to end must not get stuck on its last words.
-    if (stopping()) {
-      if (count == 0 || processEnded_) return;
-      continue;
+    std::size_t count = 0;
+    try {
+      count = process_->read(stream, block, sizeof block);
+      // A console that closes leaves its unfinished line alone: it is not to reach a record file. But a child that has
+      // been asked to end must not get stuck on its last words.
+      if (stopping()) {
+        if (count == 0 || processEnded_) return;
+        continue;
+      }
+      if (count == 0) break;
+      handle(reader, block, count);
+    } catch (const std::exception&) {
+      // For the same reason reading goes on.
+      reportLoss();
     }
-    if (count == 0) break;
-    // Counted before it is handled: however busy the machine, a child that spoke never counts as silent.
-    readerActive_ = true;
-    totalOutputBytes_ += count;
-    {
-      const std::lock_guard guard(readerLock_);
-      reader.handle({block, count});
-    }
-    wake_();
+    noteHandled(stream, count);
   }
   endReader(reader);
-  wake_();
+  wake();
+}
+
+void ConsoleChild::handle(OutputReader& reader, const char* block, std::size_t count) {
+  // Counted before it is handled: however busy the machine, a child that spoke never counts as silent.
+  readerActive_ = true;
+  totalOutputBytes_ += count;
+  {
+    const std::lock_guard guard(readerLock_);
+    reader.handle({block, count});
+  }
+  wake();
+}
+
+void ConsoleChild::noteHandled(platform::ChildProcess::Stream stream, std::size_t count) {
+  const std::lock_guard guard(stateLock_);
+  handled_[indexOf(stream)] += count;
+  stateChanged_.notify_all();
+}
+
+void ConsoleChild::wake() {
+  try {
+    wake_();
+  } catch (const std::exception&) {
+    reportLoss();
+  }
+}
+
+void ConsoleChild::reportLoss() {
+  if (lossReported_.exchange(true)) return;
+  try {
+    desktop_.post([&desktop = desktop_] { desktop.message("Not enough memory for all that the program says."); });
+  } catch (const std::exception&) {
+    // With the next block there may be some.
+    lossReported_ = false;
+  }
 }
 
 void ConsoleChild::endReader(OutputReader& reader) {
-  const std::lock_guard guard(readerLock_);
-  // Meant: the end of a stream begins no line. Whether somebody still holds the pipe makes no difference to the text;
-  // only the child's own end is told.
-  reader.end();
+  {
+    const std::lock_guard guard(readerLock_);
+    // Meant: the end of a stream begins no line. Whether somebody still holds the pipe makes no difference to the text;
+    // only the child's own end is told.
+    reader.end();
+  }
+  const std::lock_guard guard(stateLock_);
+  ++endedOutputs_;
+  stateChanged_.notify_all();
+}
+
+bool ConsoleChild::awaitLastWords() {
+  // What the child itself has said is in the text before its end is told, however late a reader comes to it. What
+  // others who hold its pipes say later has no such claim.
+  const std::uint64_t output = process_->arrived(platform::ChildProcess::Stream::Output);
+  const std::uint64_t error = process_->arrived(platform::ChildProcess::Stream::Error);
+  std::unique_lock guard(stateLock_);
+  stateChanged_.wait(guard, [&] { return stopping_ || (handled_[0] >= output && handled_[1] >= error); });
+  return !stopping_;
 }
 
 bool ConsoleChild::settle() {
   std::uint64_t before = 0;
   do {
+    if (bothEnded()) return true;
     before = totalOutputBytes_;
     if (!pause(program_.timing.settle)) return false;
   } while (totalOutputBytes_ != before);
@@ -201,7 +256,7 @@ bool ConsoleChild::settle() {
 
 bool ConsoleChild::waitForReaders() {
   for (int tries = 0; tries < program_.timing.readerTries; ++tries) {
-    if (!readerActive_.exchange(false)) break;
+    if (!readerActive_.exchange(false) || bothEnded()) break;
     if (!pause(program_.timing.readerWait)) return false;
   }
   return true;
@@ -233,18 +288,24 @@ void ConsoleChild::requestClose() {
     const TextGuard guard(screen_.lock());
     screen_.changes.close = true;
   }
-  wake_();
+  wake();
 }
 
 bool ConsoleChild::pause(std::chrono::milliseconds time) {
   if (program_.timing.onWait) program_.timing.onWait(time);
   std::unique_lock guard(stateLock_);
-  return !stateChanged_.wait_for(guard, time, [this] { return stopping_; });
+  stateChanged_.wait_for(guard, time, [this] { return stopping_ || endedOutputs_ == 2; });
+  return !stopping_;
 }
 
 bool ConsoleChild::stopping() {
   const std::lock_guard guard(stateLock_);
   return stopping_;
+}
+
+bool ConsoleChild::bothEnded() {
+  const std::lock_guard guard(stateLock_);
+  return endedOutputs_ == 2;
 }
 
 }  // namespace tarnwick

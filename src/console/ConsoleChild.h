@@ -8,6 +8,7 @@
 
 #include <atomic>
 #include <condition_variable>
+#include <cstddef>
 #include <cstdint>
 #include <functional>
 #include <memory>
@@ -51,24 +52,33 @@ class ConsoleChild {
   void endProcess(const std::function<bool()>& askToEnd);
   void startReaders();
   void read(platform::ChildProcess::Stream stream, OutputReader& reader);
+  void handle(OutputReader& reader, const char* block, std::size_t count);
+  void noteHandled(platform::ChildProcess::Stream stream, std::size_t count);
   void endReader(OutputReader& reader);
+  void wake();
+  void reportLoss();
+  /// These give false if the console closes meanwhile.
+  bool awaitLastWords();
   bool settle();
   bool waitForReaders();
   void writeBanner();
   void endWithMessage(const std::string& text);
   void requestClose();
-  /// False if the console closes meanwhile.
+  /// Ends early when both outputs have ended. False if the console closes meanwhile.
   bool pause(std::chrono::milliseconds time);
   bool stopping();
+  bool bothEnded();
 
   ConsoleScreen& screen_;
   Desktop& desktop_;
   const ConsoleProgram program_;
   const std::function<void()> wake_;
 
-  std::mutex stateLock_;  ///< of `process_` while it is set, and of `stopping_`
+  std::mutex stateLock_;  ///< of `process_` while it is set, and of what follows
   std::condition_variable stateChanged_;
   bool stopping_ = false;
+  int endedOutputs_ = 0;
+  std::uint64_t handled_[2] = {0, 0};  ///< bytes of either stream that are in the text
   std::unique_ptr<platform::ChildProcess> process_;
 
   std::mutex readerLock_;  ///< held for a whole block, so that the two outputs never mix within one
@@ -77,6 +87,7 @@ class ConsoleChild {
   std::atomic<int> childState_{-1};
   std::atomic<std::uint64_t> totalOutputBytes_{0};
   std::atomic<bool> readerActive_{false};  ///< a hint only
+  std::atomic<bool> lossReported_{false};
   std::atomic<bool> processEnded_{false};  ///< by `close`: nobody waits for what it still says
 
   InputWriter writer_;

@@ -2,18 +2,13 @@
 
 #include "platform/ConsoleWindows.h"
 #include "platform/Process.h"
+#include "platform/ThreadFactory.h"
 
 #include <chrono>
 #include <functional>
-#include <memory>
 #include <string>
-#include <thread>
-#include <utility>
 
 namespace tarnwick {
-
-/// How the console's child is started.
-using ChildFactory = std::function<std::unique_ptr<platform::ChildProcess>(const platform::ChildCommand&)>;
 
 /// How long the console waits for a child's last words, and at its close.
 struct ConsoleTiming {
@@ -27,16 +22,13 @@ struct ConsoleTiming {
   std::chrono::milliseconds closeGrace{2000};  ///< for what runs in a console window that was told to close
 };
 
-/// How the console's threads are started. Throws std::system_error when there is none to be had.
-using ThreadFactory = std::function<std::thread(std::function<void()>)>;
-
 /// What runs in a console.
 struct ConsoleProgram {
   std::string exeFile;
   std::string runArguments;
-  ChildFactory start = &platform::ChildProcess::start;
+  platform::ChildFactory start = &platform::ChildProcess::start;
   ConsoleTiming timing;
-  ThreadFactory thread = [](std::function<void()> work) { return std::thread(std::move(work)); };
+  platform::ThreadFactory thread = &platform::startThread;
   /// What the child has started does not outlive it.
   bool leavesNothing = false;
   platform::ConsoleWindows* windows = &platform::ConsoleWindows::ofSystem();

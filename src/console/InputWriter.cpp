@@ -15,8 +15,8 @@ void InputWriter::send(std::string bytes) {
   changed_.notify_one();
 }
 
-void InputWriter::start(platform::ChildProcess& child) {
-  thread_ = std::thread([this, &child] { run(child); });
+void InputWriter::start(platform::ChildProcess& child, const platform::ThreadFactory& thread) {
+  thread_ = thread([this, &child] { run(child); });
 }
 
 void InputWriter::breakOff() {

@@ -2,6 +2,7 @@
 
 #include "dialogbase/Desktop.h"
 #include "platform/Process.h"
+#include "platform/ThreadFactory.h"
 
 #include <atomic>
 #include <condition_variable>
@@ -23,8 +24,9 @@ class InputWriter {
 
   /// One write to the child. Any thread.
   void send(std::string bytes);
-  /// Begins to write to this child, which outlives the writer.
-  void start(platform::ChildProcess& child);
+  /// Begins to write to this child, which outlives the writer. Throws std::system_error if there is no thread to be
+  /// had.
+  void start(platform::ChildProcess& child, const platform::ThreadFactory& thread);
   /// From here on nothing more is written, and a write that is broken off is no failure.
   void breakOff();
   /// Lets the rest go and waits for the thread; whoever calls has made the child's `write` return.

@@ -273,9 +273,13 @@ void TarnwickView::selectAll() {
   surface_->invalidateAll();
 }
 
+std::string clipboardFailure(const std::string& reason) {
+  return "Unable to set clipboard data.\n" + reason.substr(0, longestReason);
+}
+
 void TarnwickView::copy() {
   if (desktop_.setClipboardText(withSystemLineEnds(selectedText()))) return;
-  desktop_.message("Unable to set clipboard data.\n" + platform::lastSystemError("").reason.substr(0, longestReason));
+  desktop_.message(clipboardFailure(platform::lastSystemError("").reason));
 }
 
 void TarnwickView::paste() {

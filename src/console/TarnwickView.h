@@ -107,4 +107,7 @@ class TarnwickView : public ConsoleSurfaceClient {
   int hintTimer_ = 0;
 };
 
+/// What the user is told if the clipboard takes no text: with the system's reason, of which there may be too much.
+std::string clipboardFailure(const std::string& reason);
+
 }  // namespace tarnwick

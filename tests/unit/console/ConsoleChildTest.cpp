@@ -265,7 +265,7 @@ TEST_F(ConsoleChildTest, WhatNobodyExpectedAtTheStartEndsTheConsole) {
 }
 
 /// Threads as the system gives them, but for the one that it refuses.
-ThreadFactory refusing(int refused) {
+platform::ThreadFactory refusing(int refused) {
   return [refused, count = std::make_shared<std::atomic<int>>(0)](std::function<void()> work) {
     if (++*count == refused) throw std::system_error(std::make_error_code(std::errc::resource_unavailable_try_again));
     return std::thread(std::move(work));
@@ -284,8 +284,8 @@ TEST_F(ConsoleChildTest, AThreadThatCantBeHadIsToldAndLeavesTheWindow) {
   view->onClose();
 }
 
-TEST_F(ConsoleChildTest, WithoutAReadersThreadTheChildEndsAndTheConsoleToo) {
-  for (const int reader : {2, 3}) {
+TEST_F(ConsoleChildTest, WithoutAReadersOrTheWritersThreadTheChildEndsAndTheConsoleToo) {
+  for (const int reader : {2, 3, 4}) {
     child = std::make_shared<test::ChildScript>();
     desktop.messages.clear();
     surface.closes = 0;

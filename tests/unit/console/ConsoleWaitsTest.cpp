@@ -5,10 +5,12 @@
 #include "support/ThreadPriorities.h"
 
 #include <algorithm>
+#include <atomic>
 #include <chrono>
 #include <functional>
 #include <gtest/gtest.h>
 #include <memory>
+#include <new>
 
 namespace tarnwick {
 namespace {
@@ -28,9 +30,11 @@ class ConsoleWaitsTest : public testing::Test {
       priorityAtStart_ = test::threadPriority();
       return std::make_unique<test::FakeChild>(script_);
     };
-    child_ = std::make_unique<ConsoleChild>(screen_, desktop_, program_, [] {});
+    child_ = std::make_unique<ConsoleChild>(screen_, desktop_, program_, [this] {
+      if (memoryGone_.exchange(false)) throw std::bad_alloc();
+    });
   }
-  ~ConsoleWaitsTest() override { child_->close(); }
+  ~ConsoleWaitsTest() override { child_.reset(); }
 
   /// Runs a child that says something and ends, while somebody holds its pipes, until its end has been told.
   void runToTheEnd() {
@@ -51,6 +55,8 @@ class ConsoleWaitsTest : public testing::Test {
     }));
   }
 
+  bool tellsTheEnd() { return child_->childState() == 0; }
+
   Lines lines() {
     const TextGuard guard(document_.textLock());
     return test::textOf(document_);
@@ -61,6 +67,11 @@ class ConsoleWaitsTest : public testing::Test {
   int priorityAtStart_ = -1000;
   /// What happens within a wait.
   std::function<void(milliseconds)> during_ = [](milliseconds) {};
+  std::shared_ptr<test::ChildScript> script_ = std::make_shared<test::ChildScript>();
+  test::RecordingDesktop desktop_;
+  std::unique_ptr<ConsoleChild> child_;
+  /// The next block of output finds no memory on its way to the window.
+  std::atomic<bool> memoryGone_{false};
 
  private:
   /// On the child run thread, which has told the end before anybody asks.
@@ -69,14 +80,11 @@ class ConsoleWaitsTest : public testing::Test {
     during_(time);
   }
 
-  std::shared_ptr<test::ChildScript> script_ = std::make_shared<test::ChildScript>();
-  test::RecordingDesktop desktop_;
   TarnwickDoc document_{desktop_, ""};
   ConsoleScreen screen_{document_};
   ConsoleProgram program_{"java", " Main", {}, {}};
   std::vector<milliseconds> waits_;
   std::string said_;
-  std::unique_ptr<ConsoleChild> child_;
 };
 
 TEST_F(ConsoleWaitsTest, AQuietEndIsToldAfterOneLookAtTheOutputAndOneAtTheReaders) {
@@ -125,6 +133,72 @@ TEST_F(ConsoleWaitsTest, AReaderIsWaitedForAsLongAsItWasActiveInTheWaitBefore) {
   runToTheEnd();
   EXPECT_EQ(waitsOf(readerWait), 4);
   EXPECT_EQ(lines(), (Lines{"", "", "xyyy", "", banner, ""}));
+}
+
+TEST_F(ConsoleWaitsTest, WhereBothOutputsHaveEndedNothingIsWaitedFor) {
+  child_->start();
+  say("x");
+  script_->end();
+  // At most the one wait that began before the readers had seen the ends; that one is cut short.
+  ASSERT_TRUE(test::waitUntil([this] { return tellsTheEnd(); }));
+  EXPECT_LE(waitsOf(settle), 1);
+  EXPECT_EQ(waitsOf(readerWait), 0);
+  EXPECT_EQ(lines(), (Lines{"", "", "x", "", banner, ""}));
+}
+
+TEST_F(ConsoleWaitsTest, AReaderThatDoesNotGetOnStillBringsTheLastWordsBeforeTheBanner) {
+  child_->start();
+  say("x");
+  script_->starveReaders(true);
+  script_->out("last");
+  script_->err(" words");
+  script_->end(false);
+  EXPECT_FALSE(test::waitInNaps(milliseconds(200), [this] { return tellsTheEnd(); })) << "though nothing comes";
+  script_->starveReaders(false);
+  ASSERT_TRUE(test::waitUntil([this] { return tellsTheEnd(); }));
+  const auto all = lines();
+  ASSERT_EQ(all.size(), 6U);
+  EXPECT_TRUE(all[2] == "xlast words" || all[2] == "x wordslast") << all[2];
+  EXPECT_EQ(all[4], banner);
+}
+
+TEST_F(ConsoleWaitsTest, AChildWhoseOnlyWordsLieInThePipeIsNoSilentOne) {
+  script_->starveReaders(true);
+  script_->out("only words");
+  script_->end(false);
+  child_->start();
+  EXPECT_FALSE(test::waitInNaps(milliseconds(200), [this] { return tellsTheEnd(); }));
+  script_->starveReaders(false);
+  ASSERT_TRUE(test::waitUntil([this] { return tellsTheEnd(); }));
+  EXPECT_EQ(lines(), (Lines{"", "", "only words", "", banner, ""}));
+}
+
+TEST_F(ConsoleWaitsTest, ClosingEndsTheWaitForAReaderThatDoesNotGetOn) {
+  child_->start();
+  say("x");
+  script_->starveReaders(true);
+  script_->out("unread");
+  script_->end(false);
+  child_->close();
+  EXPECT_EQ(child_->childState(), 1);
+}
+
+TEST_F(ConsoleWaitsTest, ALackOfMemoryInAReaderIsToldOnceAndTheProgramGoesOn) {
+  child_->start();
+  say("one ");
+  for (const char* text : {"two ", "three "}) {
+    memoryGone_ = true;
+    say(text);
+    ASSERT_TRUE(test::waitUntil([this] { return !memoryGone_; }));
+  }
+  say("four");
+  script_->takeMemoryAway();
+  say(" five");
+  script_->end();
+  ASSERT_TRUE(test::waitUntil([this] { return tellsTheEnd(); }));
+  desktop_.runPosted();
+  EXPECT_EQ(desktop_.messages, (Lines{"Not enough memory for all that the program says."}));
+  EXPECT_EQ(lines(), (Lines{"", "", "one two three four five", "", banner, ""}));
 }
 
 }  // namespace

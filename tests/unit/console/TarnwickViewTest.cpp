@@ -270,7 +270,17 @@ TEST_F(TarnwickViewTest, AClipboardThatTakesNothingIsTold) {
   ASSERT_EQ(desktop.messages.size(), 1U);
   const std::string start = "Unable to set clipboard data.\n";
   EXPECT_EQ(desktop.messages[0].substr(0, start.size()), start);
-  EXPECT_LE(desktop.messages[0].size(), start.size() + 512);
+  EXPECT_EQ(desktop.messages[0], clipboardFailure(desktop.messages[0].substr(start.size())));
+}
+
+TEST_F(TarnwickViewTest, OfTheReasonForAClipboardThatTakesNothingFiveHundredAndTwelveCharactersAreTold) {
+  const std::string start = "Unable to set clipboard data.\n";
+  EXPECT_EQ(clipboardFailure(""), start);
+  EXPECT_EQ(clipboardFailure("No memory."), start + "No memory.");
+  std::string reason(513, 'a');
+  reason[511] = 'b';
+  EXPECT_EQ(clipboardFailure(reason), start + reason.substr(0, 512));
+  EXPECT_TRUE(clipboardFailure(reason).ends_with("ab"));
 }
 
 TEST_F(TarnwickViewTest, SelectAllIsShown) {

@@ -22,7 +22,7 @@ else()
   target_compile_definitions(tarnwick_toolkit INTERFACE ${wxWidgets_DEFINITIONS})
   target_compile_options(tarnwick_toolkit INTERFACE ${wxWidgets_CXX_FLAGS})
   # What the toolkit itself stands on here, for the few calls that it does not wrap.
-  pkg_check_modules(GTK REQUIRED IMPORTED_TARGET gtk+-3.0)
+  pkg_check_modules(GTK REQUIRED IMPORTED_TARGET gtk+-3.0 gdk-x11-3.0 x11)
   target_link_libraries(tarnwick_toolkit INTERFACE ${wxWidgets_LIBRARIES} PkgConfig::GTK)
 endif()
 

@@ -5,7 +5,7 @@
 set -euo pipefail
 
 runPackages() {
-  echo g++ cmake ninja-build ccache pkgconf libwxgtk3.2-dev libgtk-3-dev libcanberra-dev libglib2.0-dev librsvg2-common
+  echo g++ cmake ninja-build ccache pkgconf libwxgtk3.2-dev libgtk-3-dev libx11-dev libcanberra-dev libglib2.0-dev librsvg2-common
   hasJdk || echo default-jdk
   hasFixedPitchFont || echo fonts-dejavu-core
   hasTextEditor || echo mousepad

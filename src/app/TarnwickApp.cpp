@@ -5,6 +5,7 @@
 #include "app/SwitchLine.h"
 #include "app/TarnwickDlg.h"
 #include "app/UsersGuide.h"
+#include "base/TempFile.h"
 #include "base/Text.h"
 #include "platform/FileSystem.h"
 #include "platform/Path.h"
@@ -78,6 +79,7 @@ int TarnwickApp::run(const std::string& commandLine) {
 }
 
 int TarnwickApp::runPanel(const std::string& commandLine) {
+  clearTempFiles(program_.configDirectory());
   TarnwickDlg dialog(settings_, commandLine);
   dialog.setZipApplication(zipApplication_);
   dialog.runModal();

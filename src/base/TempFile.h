@@ -1,6 +1,8 @@
 #pragma once
 
+#include "base/LastAct.h"
 #include "base/Tarnwickfile.h"
+#include "platform/FileHold.h"
 
 #include <string>
 
@@ -19,9 +21,15 @@ class TempFile : public Tarnwickfile {
 
  private:
   void take(const std::string& candidate, FileMode mode);
+  void remove();
 
   std::string prefix_;
   std::string folder_;
+  platform::FileHold hold_;
+  const LastAct lastAct_{[this] { remove(); }};
 };
+
+/// Deletes the temporary files that a process which was killed has left in the configuration folder.
+void clearTempFiles(const std::string& folder);
 
 }  // namespace tarnwick

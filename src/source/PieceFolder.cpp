@@ -93,6 +93,10 @@ std::string folderName(int number) {
 PieceFolder::PieceFolder(const std::string& place) : place_(place) {}
 
 PieceFolder::~PieceFolder() {
+  goAway();
+}
+
+void PieceFolder::goAway() {
   if (!folder_.empty()) putBack();
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "base/LastAct.h"
+
 #include <cstdio>
 #include <memory>
 #include <set>
@@ -41,6 +43,7 @@ class PieceFolder {
   bool take(const std::string& folder);
   bool takeLeftOver(const std::string& folder);
   void putBack();
+  void goAway();
   void removePiece(const std::string& name) const;
   void giveBack(const std::string& name) const;
   void removeFolder();
@@ -50,6 +53,7 @@ class PieceFolder {
   std::string folder_;  ///< with its last separator; empty as long as there is none
   Lock lock_;           ///< tells other processes that the folder is in use
   std::set<std::string> made_;
+  const LastAct lastAct_{[this] { goAway(); }};
 };
 
 }  // namespace tarnwick

@@ -10,7 +10,9 @@ namespace tarnwick::ui {
 class EndRequests {
  public:
   /// `end` is called once, from the event loop. A second request ends the process as if nobody had heard the first.
-  explicit EndRequests(std::function<void()> end);
+  /// `lost` is called where the window system itself has gone: it must not touch the toolkit, and the process ends when
+  /// it returns.
+  EndRequests(std::function<void()> end, std::function<void()> lost);
   ~EndRequests();
   EndRequests(const EndRequests&) = delete;
   EndRequests& operator=(const EndRequests&) = delete;

@@ -1,5 +1,7 @@
 #include "ui/WxDesktop.h"
 
+#include "base/LastAct.h"
+#include "base/NoThreadE.h"
 #include "platform/Sound.h"
 #include "ui/BusyLoop.h"
 #include "ui/EndRequests.h"
@@ -12,13 +14,23 @@
 #include <wx/clipbrd.h>
 #include <wx/utils.h>
 
+#include <chrono>
 #include <exception>
-#include <thread>
+#include <system_error>
+#include <utility>
 
 namespace tarnwick::ui {
 
-WxDesktop::WxDesktop()
-    : timers_([this](const std::function<void()>& tick) { guarded(stack_, tick); }),
+namespace {
+
+/// What a tool gets to end when the display has gone: more than its guards allow it.
+constexpr std::chrono::seconds longestLeave{10};
+
+}  // namespace
+
+WxDesktop::WxDesktop(platform::ThreadFactory thread)
+    : thread_(std::move(thread)),
+      timers_([this](const std::function<void()>& tick) { guarded(stack_, tick); }),
       queue_([this](const PostQueue::Task& task) { guarded(stack_, task); }) {}
 
 WxDesktop::~WxDesktop() = default;
@@ -110,13 +122,30 @@ int WxDesktop::runDialog(const DialogLayout& layout, DialogHandler& handler) {
 
 void WxDesktop::runMainDialog(const DialogLayout& layout, DialogHandler& handler) {
   WxTopWindow window(stack_, WxTopWindow::Role::Main, layout, handler);
-  const EndRequests requests([this] { endProgram(); });
+  const EndRequests requests([this] { endProgram(); }, [this] { takeLeave(); });
   runTop(window);
 }
 
 void WxDesktop::endProgram() {
   stack_.endAll();
   if (giveUp_) giveUp_();
+}
+
+void WxDesktop::takeLeave() {
+  if (giveUp_) {
+    giveUp_();
+    // It is what the work uses that has to be cleared away.
+    if (workEnded_.valid()) workEnded_.wait_for(longestLeave);
+  }
+  LastAct::doAll();
+}
+
+std::thread WxDesktop::startWorker(std::function<void()> work) {
+  try {
+    return thread_(std::move(work));
+  } catch (const std::system_error&) {
+    throw NoThreadE();
+  }
 }
 
 void WxDesktop::whileBusy(const std::function<void()>& work, const std::function<void()>& giveUp) {
@@ -131,12 +160,15 @@ void WxDesktop::whileBusy(const std::function<void()>& work, const std::function
   const wxBusyCursor hourglass;
   BusyLoop loop;
   std::exception_ptr failure;
-  std::thread worker([&] {
+  std::promise<void> ended;
+  workEnded_ = ended.get_future();
+  std::thread worker = startWorker([&] {
     try {
       work();
     } catch (...) {
       failure = std::current_exception();
     }
+    ended.set_value();
     post([&loop] { loop.end(); });
   });
   loop.run();

@@ -2,9 +2,12 @@
 
 #include "app/ConsoleFrameHost.h"
 #include "dialogbase/Desktop.h"
+#include "platform/ThreadFactory.h"
 #include "ui/PostQueue.h"
 #include "ui/Timers.h"
 #include "ui/WindowStack.h"
+
+#include <future>
 
 namespace tarnwick::ui {
 
@@ -13,7 +16,8 @@ class WxTopWindow;
 /// The desktop that its user sees.
 class WxDesktop : public Desktop, public ConsoleFrameHost {
  public:
-  WxDesktop();
+  /// Tests have threads of their own.
+  explicit WxDesktop(platform::ThreadFactory thread = &platform::startThread);
   ~WxDesktop() override;
 
   void message(const std::string& text) override;
@@ -46,10 +50,16 @@ class WxDesktop : public Desktop, public ConsoleFrameHost {
 
  private:
   int runTop(WxTopWindow& window);
+  /// Throws NoThreadE.
+  std::thread startWorker(std::function<void()> work);
   void endProgram();
+  /// The display has gone: ends the work and clears away, without the toolkit, what would be left behind.
+  void takeLeave();
 
+  const platform::ThreadFactory thread_;
   WindowStack stack_;
   std::function<void()> giveUp_;  ///< ends the work that the program is busy with
+  std::future<void> workEnded_;
   std::vector<WxTopWindow*> openDialogs_;
   Timers timers_;
   PostQueue queue_;

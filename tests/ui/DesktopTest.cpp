@@ -1,3 +1,4 @@
+#include "base/NoThreadE.h"
 #include "base/Tarnwickexception.h"
 #include "platform/FileSystem.h"
 #include "support/TestProgram.h"
@@ -13,6 +14,7 @@
 
 #include <atomic>
 #include <chrono>
+#include <system_error>
 #include <thread>
 
 namespace tarnwick::test {
@@ -396,6 +398,20 @@ TEST_F(DesktopTest, WorkBeforeAnyWindowShows) {
   bool worked = false;
   desktop().whileBusy([&] { worked = true; });
   EXPECT_TRUE(worked);
+}
+
+TEST_F(DesktopTest, WithoutAThreadForTheWorkItIsLeftUndoneAndTold) {
+  ui::WxDesktop refusing([](const std::function<void()>&) -> std::thread {
+    throw std::system_error(std::make_error_code(std::errc::resource_unavailable_try_again));
+  });
+  bool worked = false;
+  EXPECT_THROW(refusing.whileBusy([&] { worked = true; }), NoThreadE);
+  EXPECT_FALSE(worked);
+  EXPECT_FALSE(wxIsBusy());
+  waitForDialog();
+  steps.then("Return", [] { key(WXK_RETURN); });
+  play();
+  EXPECT_EQ(rules.heard, (Heard{"command 1", "detached"})) << "keys are heard again";
 }
 
 TEST_F(DesktopTest, AnExceptionOfTheWorkIsThrownOn) {

@@ -1,5 +1,7 @@
 #include "ui/EndRequests.h"
 
+#include "ui/posix/LostDisplay.h"
+
 #include <glib-unix.h>
 
 #include <csignal>
@@ -12,7 +14,10 @@ struct EndRequests::Signals {
   std::function<void()> end;
   std::vector<guint> sources;
 
-  explicit Signals(std::function<void()> onEnd) : end(std::move(onEnd)) {
+  const LostDisplay display;
+
+  Signals(std::function<void()> onEnd, std::function<void()> onLost)
+      : end(std::move(onEnd)), display(std::move(onLost)) {
     for (const int signal : {SIGHUP, SIGINT, SIGTERM}) {
       if (!isIgnored(signal)) sources.push_back(g_unix_signal_add(signal, &Signals::onSignal, this));
     }
@@ -40,7 +45,8 @@ struct EndRequests::Signals {
   }
 };
 
-EndRequests::EndRequests(std::function<void()> end) : signals_(std::make_unique<Signals>(std::move(end))) {}
+EndRequests::EndRequests(std::function<void()> end, std::function<void()> lost)
+    : signals_(std::make_unique<Signals>(std::move(end), std::move(lost))) {}
 
 EndRequests::~EndRequests() = default;
 

@@ -105,7 +105,7 @@ TEST(TempFile, AFileWhoseNameCannotBeOpenedGetsANewOne) {
   TempFile file("Tarnwick_LOG", folder.path());
   file.openTemp(FileMode::Write);
   file.close();
-  ASSERT_TRUE(platform::deleteFile(tempName(folder, 1)));
+  ASSERT_EQ(std::rename(tempName(folder, 1).c_str(), folder.file("away").c_str()), 0);
   ASSERT_TRUE(platform::makeFolders(tempName(folder, 1)));
   writeFile(tempName(folder, 2), "another instance's");
   file.openTemp(FileMode::Write);
@@ -301,6 +301,49 @@ TEST(TempFile, ClosingDoesNotDelete) {
   file.openTemp(FileMode::Write);
   file.close();
   EXPECT_TRUE(platform::isFile(tempName(folder, 1))) << "an editor may be looking at it";
+}
+
+TEST(TempFile, WhatAKilledProcessHasLeftIsClearedAndNothingElse) {
+  const ScratchFolder folder;
+  for (const char* name :
+       {"Tarnwick_LOG1.tmp", "Tarnwick_LOG9998.tmp", "Tarnwick_tempManifest2.tmp", "Tarnwick_javadoc_list1.tmp"}) {
+    writeFile(folder.file(name), "left");
+    clearTempFiles(folder.path());
+    EXPECT_FALSE(platform::isFile(folder.file(name))) << name;
+  }
+  for (const char* name : {"Tarnwick_LOG.tmp", "Tarnwick_LOG1.txt", "Tarnwick_LOG1.tmp.bak", "Tarnwick_LOGx1.tmp",
+                           "Tarnwick_LOG1x.tmp", "My Tarnwick_LOG1.tmp", "Tarnwick_notes1.tmp", "Tarnwickdefault.CFG",
+                           "Tarnwickdefault.CFG.1.tmp", ".tmp", "1.tmp"}) {
+    writeFile(folder.file(name), "the user's");
+    clearTempFiles(folder.path());
+    EXPECT_TRUE(platform::isFile(folder.file(name))) << name;
+  }
+}
+
+TEST(TempFile, AFileThatIsInUseIsNotCleared) {
+  const ScratchFolder folder;
+  {
+    TempFile file("Tarnwick_LOG", folder.path());
+    file.openTemp(FileMode::Write);
+    clearTempFiles(folder.path());
+    EXPECT_TRUE(platform::isFile(tempName(folder, 1))) << "open";
+    file.close();
+    clearTempFiles(folder.path());
+    EXPECT_TRUE(platform::isFile(tempName(folder, 1))) << "between two runs";
+  }
+  EXPECT_FALSE(platform::isFile(tempName(folder, 1)));
+}
+
+TEST(TempFile, AFileThatWasMadeAnewIsNotClearedEither) {
+  const ScratchFolder folder;
+  TempFile file("Tarnwick_LOG", folder.path());
+  file.openTemp(FileMode::Write);
+  file.close();
+  ASSERT_EQ(std::rename(tempName(folder, 1).c_str(), folder.file("away").c_str()), 0);
+  file.openTemp(FileMode::Write);
+  file.close();
+  clearTempFiles(folder.path());
+  EXPECT_TRUE(platform::isFile(tempName(folder, 1)));
 }
 
 }  // namespace

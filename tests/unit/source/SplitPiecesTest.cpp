@@ -1,3 +1,4 @@
+#include "base/LastAct.h"
 #include "source/SplitPieces.h"
 #include "support/SplitterFixture.h"
 
@@ -25,6 +26,23 @@ TEST_F(SplitPiecesTest, PiecesStandTogetherAndLiveAsLongAsTheObject) {
   EXPECT_FALSE(isThere("A.java"));
   EXPECT_FALSE(isThere("B.java"));
   EXPECT_FALSE(isThere("Tarnwick_split1.tmp"));
+}
+
+TEST_F(SplitPiecesTest, AProcessThatCannotTakeItsLeaveRemovesThemAndPutsBackWhatWasInTheirWay) {
+  writeFile(path("A.java"), "mine");
+  {
+    SplitPieces pieces{Filename(path("X.java"))};
+    pieces.begin("A.java", "head\n");
+    pieces.begin("B.java", "");
+    pieces.end();
+    pieces.publish();
+    EXPECT_EQ(textOf("A.java"), "head\n");
+    LastAct::doAll();
+    EXPECT_EQ(contentOf(path("A.java")), "mine");
+    EXPECT_FALSE(isThere("B.java"));
+    EXPECT_FALSE(isThere("Tarnwick_split1.tmp"));
+  }
+  EXPECT_EQ(contentOf(path("A.java")), "mine") << "though the object went later";
 }
 
 TEST_F(SplitPiecesTest, APieceThatIsNotWholeGoesWithTheObject) {

@@ -3,6 +3,7 @@
 import contextlib
 import os
 import signal
+import subprocess
 import time
 
 import person
@@ -26,15 +27,24 @@ def leftovers(scratch):
     return [name for name in os.listdir(scratch.config) if name != "Tarnwickdefault.CFG"]
 
 
+def logs(scratch):
+    return [name for name in leftovers(scratch) if name.startswith("Tarnwick_LOG")]
+
+
+# One descendant is where a person would look for it, one in a session of its own and with nobody between.
+TOOL = "grandchild 3600000\norphan 3600000\nsleep 3600000\n"
+
+
 def split_under_way(scratch):
     """The panel in the middle of a compilation for which it has split the source."""
     source = scratch.sample("Shapes.java")
-    panel, record = panel_with_stand_ins(scratch, "sleep 3600000\n")
+    panel, record = panel_with_stand_ins(scratch, TOOL)
     panel.activate()
     panel.write(world.quoted(source))
     panel.press("javac")
     Window("Java Portability Warning").press("Compile")
-    wait_until("the tool", lambda: content(record))
+    wait_until("the tool", lambda: len(content(record + ".pids").split()) == 2)
+    assert len(scratch.processes("javac")) == 3
     assert "Circle.java" in os.listdir(scratch.work) and leftovers(scratch)
     return panel
 
@@ -99,6 +109,146 @@ def test_with_its_terminal_in_the_middle_of_a_run_it_leaves_nothing(scratch):
     with started_with(signal.SIGHUP, signal.SIG_DFL):
         split_under_way(scratch)
     expect_an_end_without_traces(scratch, signal.SIGHUP)
+
+
+def expect_that_the_tool_ends_and_the_next_start_clears(scratch, end):
+    """What nobody could clean up is cleared by the next start, and what ran has ended by then."""
+    split_under_way(scratch)
+    end(scratch.running[-1])
+    wait_until("the end of the tool and all that it has started", lambda: not scratch.processes("javac"), 15)
+    wait_until("the end of its guards", lambda: not scratch.processes("tarnwick"), 5)
+    assert logs(scratch) == ["Tarnwick_LOG1.tmp"]
+    program = scratch.start()
+    Window("Tarnwick")
+    assert not logs(scratch), logs(scratch)
+    program.terminate()
+    assert program.wait(20) == 0
+
+
+def test_killed_in_the_middle_of_a_run_it_takes_the_tool_along(scratch):
+    def kill(program):
+        program.kill()
+        assert program.wait(20) == -signal.SIGKILL
+    expect_that_the_tool_ends_and_the_next_start_clears(scratch, kill)
+
+
+def test_told_to_quit_in_the_middle_of_a_run_it_takes_the_tool_along(scratch):
+    def quit_it(program):
+        program.send_signal(signal.SIGQUIT)
+        assert program.wait(20) == -signal.SIGQUIT
+    with started_with(signal.SIGQUIT, signal.SIG_DFL):
+        expect_that_the_tool_ends_and_the_next_start_clears(scratch, quit_it)
+
+
+def test_a_second_panel_leaves_the_log_of_the_first_alone(scratch):
+    first = after_a_run(scratch)
+    second = scratch.start()
+    wait_until("the second panel", lambda: len([one for one in person.look() if one.name == "Tarnwick"]) == 2)
+    assert logs(scratch) == ["Tarnwick_LOG1.tmp"]
+    second.terminate()
+    assert second.wait(20) == 0
+    first.press("Exit")
+
+
+@contextlib.contextmanager
+def screen_of_its_own():
+    """A second X server, which the test may end; until then everything happens on it."""
+    reading, writing = os.pipe()
+    server = subprocess.Popen(["Xvfb", "-displayfd", str(writing), "-screen", "0", "1280x1024x24", "-nolisten", "tcp",
+                               "-noreset"], pass_fds=[writing], stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL,
+                              stderr=subprocess.DEVNULL)
+    os.close(writing)
+    before = os.environ["DISPLAY"]
+    with os.fdopen(reading) as number:
+        os.environ["DISPLAY"] = ":" + number.readline().strip()
+    manager = subprocess.Popen(["openbox"], stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL,
+                               stderr=subprocess.DEVNULL)
+    try:
+        yield server
+    finally:
+        os.environ["DISPLAY"] = before
+        for process in (manager, server):
+            process.kill()
+            process.wait(10)
+
+
+def end_of_the_screen(scratch, server):
+    """The X server goes; the program ends as if it had been told to."""
+    program = scratch.running[-1]
+    server.terminate()
+    assert program.wait(30) == 0, program.returncode
+    assert not leftovers(scratch), leftovers(scratch)
+
+
+def test_with_its_screen_in_the_middle_of_a_run_it_leaves_nothing(scratch):
+    with screen_of_its_own() as server:
+        scratch.environment["DISPLAY"] = os.environ["DISPLAY"]
+        split_under_way(scratch)
+        end_of_the_screen(scratch, server)
+    wait_until("the end of the tool and all that it has started", lambda: not scratch.processes("javac"), 5)
+    assert os.listdir(scratch.work) == ["Shapes.java"], os.listdir(scratch.work)
+    assert not scratch.editor_notes()
+
+
+def test_with_its_screen_and_dialogs_on_it_it_leaves_nothing(scratch):
+    with screen_of_its_own() as server:
+        scratch.environment["DISPLAY"] = os.environ["DISPLAY"]
+        panel = after_a_run(scratch)
+        panel.press("Settings")
+        Window("Tarnwick settings").press("About ...")
+        Window("About Tarnwick")
+        end_of_the_screen(scratch, server)
+
+
+WRITES_ON = """#!/bin/sh
+(while :; do echo tick; sleep 0.2; done) &
+echo $! > "$NOTE"
+echo done
+"""
+
+
+@contextlib.contextmanager
+def panel_with_a_tool_that_leaves_a_writer(scratch):
+    """The panel in the middle of "javac", whose compiler has ended and left something behind that writes on."""
+    tools, note = os.path.join(scratch.root, "tools"), os.path.join(scratch.root, "writer")
+    os.mkdir(tools)
+    for name in ("javac", "java"):
+        with open(os.path.join(tools, name), "w", encoding="utf-8") as out:
+            out.write(WRITES_ON)
+        os.chmod(os.path.join(tools, name), 0o755)
+    scratch.configured()
+    scratch.change_settings(JAVA_PATH=os.path.join(tools, ""))
+    scratch.start(NOTE=note)
+    panel = Window("Tarnwick")
+    panel.activate()
+    panel.write(world.quoted(scratch.sample("Greeter.java")))
+    panel.press("javac")
+    writer = int(wait_until("the writer", lambda: content(note).strip()))
+    try:
+        yield panel
+    finally:
+        # It ends by itself when it next writes and nobody listens any longer.
+        with contextlib.suppress(ProcessLookupError):
+            os.kill(writer, signal.SIGKILL)
+
+
+def test_a_tool_that_leaves_a_writer_behind_does_not_keep_the_panel(scratch):
+    with panel_with_a_tool_that_leaves_a_writer(scratch) as panel:
+        begin = time.monotonic()
+        _, log = wait_until("the log", scratch.editor_notes, 60)[0]
+        assert time.monotonic() - begin > 5, "it is given some time to fall silent"
+        assert "done\n" in log and log.count("tick\n") > 10, log
+        assert log.endswith("\n\nThe tool has ended, but something that it has left behind still writes.\n"), log
+        panel.press("Settings")
+        Window("Tarnwick settings").press("Cancel")
+
+
+def test_while_a_tool_leaves_a_writer_behind_it_ends_when_it_is_told_to(scratch):
+    with panel_with_a_tool_that_leaves_a_writer(scratch):
+        begin = time.monotonic()
+        expect_the_end(scratch, signal.SIGTERM)
+        assert time.monotonic() - begin < 8, "the settling was not waited for"
+        assert not scratch.editor_notes()
 
 
 def test_behind_a_nohup_it_outlives_its_terminal(scratch):

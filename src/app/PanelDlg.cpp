@@ -149,6 +149,7 @@ void PanelDlg::applyLayout() {
   layout->apply();
   window()->select(TAB_CONTROL, currentPage());
   updateTitle();
+  settings_.context().mainWindow->redraw();
 }
 
 void PanelDlg::switchView() {

@@ -90,6 +90,8 @@ class DialogWindow {
   /// Gives the window the size that its content needs, and puts all controls where the layouts put them, those of its
   /// child windows too. Otherwise that happens when the window opens.
   virtual void arrangeControls() = 0;
+  /// Paints the window anew with all that is in it, as it shows by then.
+  virtual void redraw() = 0;
 
   /// Left and top of the top window on the screen; nothing where the window system does not tell.
   virtual std::optional<Point> position() const = 0;

@@ -49,6 +49,7 @@ class WxDialogWindow : public DialogWindow {
   Rect clientRect() const override;
   Rect workArea() const override;
   void arrangeControls() override;
+  void redraw() override { surface_.Refresh(); }
 
   /// The toolkit's window of a control; null if no control bears the number. For tests.
   wxWindow* windowOf(int control) const;

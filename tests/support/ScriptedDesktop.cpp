@@ -172,6 +172,7 @@ Rect ScriptedWindow::windowRect() const {
 void ScriptedWindow::setWindowRect(const Rect& rect) {
   if (fillsTabControl_) return;
   rect_ = rect;
+  redrawn_ = false;
   if (position_) position_ = {rect.left, rect.top};
 }
 

@@ -55,6 +55,8 @@ class ScriptedWindow : public DialogWindow {
   bool showsEnd(int control) const { return at(control).shownToEnd; }
   /// The control that was given the focus last; 0 for none.
   int focused() const { return focused_; }
+  /// Whether the window was painted anew after it last got a size or a title.
+  bool redrawn() const { return redrawn_; }
   bool closed() const { return closed_; }
   int result() const { return result_; }
 
@@ -88,8 +90,12 @@ class ScriptedWindow : public DialogWindow {
   void setWindowRect(const Rect& rect) override;
   Rect clientRect() const override;
   void arrangeControls() override {}
+  void redraw() override { redrawn_ = true; }
   std::string title() const override { return title_; }
-  void setTitle(const std::string& title) override { title_ = title; }
+  void setTitle(const std::string& title) override {
+    title_ = title;
+    redrawn_ = false;
+  }
   void showWindow(bool on) override { shown_ = on; }
   void addSystemCommand(const std::string& label, std::function<void()> action) override {
     systemCommands_[label] = std::move(action);
@@ -136,6 +142,7 @@ class ScriptedWindow : public DialogWindow {
   std::string title_;
   bool shown_ = true;
   bool detached_ = false;
+  bool redrawn_ = false;
   bool closed_ = false;
   int result_ = 0;
   int nextRadioGroup_ = 1;

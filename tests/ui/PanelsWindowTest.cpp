@@ -1,9 +1,6 @@
 // The panels as real windows, with their own rules: every arrangement in both views.
-#include "app/TarnwickDlg.h"
-#include "platform/FileSystem.h"
-#include "resources/PanelLayouts.h"
-#include "support/TestProgram.h"
 #include "ui/DialogChecks.h"
+#include "ui/PanelsFixture.h"
 
 #include <wx/button.h>
 #include <wx/dcscreen.h>
@@ -17,27 +14,9 @@ namespace tarnwick::test {
 
 namespace {
 
-constexpr int TABS = 1231;
-
-struct View {
-  LayoutValue::Layout layout;
-  bool project;
-};
-
-std::string nameOf(const View& view) {
-  LayoutValue value;
-  value.value = view.layout;
-  return (view.project ? "project" : "file") + value.toString();
-}
-
-std::ostream& operator<<(std::ostream& out, const View& view) {
-  return out << nameOf(view);
-}
-
 using Bytes = std::vector<unsigned char>;
 
-/// The outermost pixels of a window as the screen shows them. (On Linux the toolkit's picture of the screen never
-/// changes; there no group paints over anything.)
+/// The outermost pixels of a window as the screen shows them.
 Bytes rimOf(const wxWindow& window) {
   const wxRect all = window.GetScreenRect();
   Bytes rim;
@@ -49,45 +28,9 @@ Bytes rimOf(const wxWindow& window) {
   return rim;
 }
 
-class PanelsWindowTest : public WindowTest, public testing::WithParamInterface<View> {
+class PanelsWindowTest : public PanelsFixture, public testing::WithParamInterface<View> {
  protected:
-  PanelsWindowTest() : environment_("TARNWICK_CFGDIR", scratch_.path()) {
-    program_.programDirectory = scratch_.path();
-    Settings earlier(context_);
-    earlier.panelLayout.value = GetParam().layout;
-    earlier.windowPosition.fromString("20;30");
-    earlier.saveDefaultConfiguration(nullptr);
-  }
-
-  ui::WxDialogWindow& panel(bool project) const { return *top().children().at(project ? 1 : 0); }
-  ui::WxDialogWindow& panel() const { return panel(GetParam().project); }
-  ui::WxDialogWindow& page(std::size_t tab) const { return *panel().children().at(tab); }
-  /// The bar of an arrangement.
-  ui::WxDialogWindow& bar(bool project, int layout) const {
-    return *panel(project).children().at(3 + static_cast<std::size_t>(layout));
-  }
-  ui::WxDialogWindow& bar() const { return bar(GetParam().project, GetParam().layout); }
-
-  void waitForView() {
-    steps.until("the panel shows", [this] { return openDialogs() == 1 && top().dialog().IsActive(); });
-    steps.settle(5);
-    if (!GetParam().project) return;
-    steps.then("switch", [this] { press(bar(false, GetParam().layout), ButtonBar::SWITCH_VIEW); });
-    steps.until("the other view", [this] { return panel().surface().IsShownOnScreen(); });
-    steps.settle(5);
-  }
-
-  void run() {
-    steps.then("exit", [this] { top().close(DIALOG_OK); });
-    TarnwickDlg(settings_).runModal();
-  }
-
-  ScratchFolder scratch_;
-  ScopedEnvironment environment_;
-  ProgramInfo program_;
-  ToolLog log_{scratch_.path()};
-  SettingsContext context_{desktop(), program_, log_};
-  Settings settings_{context_};
+  PanelsWindowTest() : PanelsFixture(GetParam()) {}
 };
 
 }  // namespace

@@ -7,7 +7,6 @@
 #include <wx/button.h>
 #include <wx/checkbox.h>
 #include <wx/combobox.h>
-#include <wx/dcmemory.h>
 #include <wx/dcscreen.h>
 #include <wx/dialog.h>
 #include <wx/hyperlink.h>
@@ -330,20 +329,11 @@ void signOfLife() {
   watchdog().step(testName());
 }
 
-wxImage screen(const wxRect& area) {
-  wxScreenDC screen;
-  wxBitmap bitmap(area.width, area.height, 24);
-  wxMemoryDC memory(bitmap);
-  memory.Blit(0, 0, area.width, area.height, &screen, area.x, area.y);
-  memory.SelectObject(wxNullBitmap);
-  return bitmap.ConvertToImage();
-}
-
 void shoot(const std::string& name) {
   const auto folder = platform::environment("TARNWICK_SHOTS");
   if (!folder) return;
   const std::string file = *folder + "/" + name;
-  // On Linux the toolkit's picture of the screen is the same for ever; the X server's own tool sees the truth.
+  // The X server's own tool cuts the empty room off.
   if (std::system(("import -window root -trim +repage \"" + file + ".png\"").c_str()) == 0) return;
   screen(wxRect(wxScreenDC().GetSize())).SaveFile(ui::toWx(file + ".bmp"), wxBITMAP_TYPE_BMP);
 }

@@ -345,8 +345,9 @@ TEST_F(PanelsTest, TheLayoutButtonsLeadFromEveryLayoutToTheTwoOthers) {
         Way{"HORIZONTAL", LAYOUT_RIGHT, "FLAT", FLAT_BAR_SLOT}, Way{"FLAT", LAYOUT_LEFT, "VERTICAL", VERTICAL_BAR_SLOT},
         Way{"FLAT", LAYOUT_RIGHT, "HORIZONTAL", HORIZONTAL_BAR_SLOT}}) {
     for (const bool projectView : {false, true}) {
-      inLayout(way.from, projectView, [&](ScriptedWindow&, ScriptedWindow& panel) {
+      inLayout(way.from, projectView, [&](ScriptedWindow& main, ScriptedWindow& panel) {
         shownBar(panel).press(way.button);
+        EXPECT_TRUE(main.redrawn()) << "from " << way.from;
         EXPECT_EQ(savedLayout(), way.to) << "from " << way.from;
         EXPECT_EQ(&shownBar(panel), &panel.child(way.bar)) << "from " << way.from;
         EXPECT_EQ(shownBar(panel).focused(), way.button) << "the keyboard goes on at the button of the same place";
@@ -396,6 +397,7 @@ TEST_F(PanelsTest, SwitchingAfterALayoutChangeShowsThePartnerInTheNewLayout) {
     EXPECT_FALSE(project(main).shown());
     shownBar(panel).press(LAYOUT_LEFT);
     shownBar(panel).press(SWITCH_VIEW);
+    EXPECT_TRUE(main.redrawn());
     EXPECT_FALSE(panel.shown());
     EXPECT_TRUE(project(main).shown());
     EXPECT_EQ(&shownBar(project(main)), &project(main).child(HORIZONTAL_BAR_SLOT));

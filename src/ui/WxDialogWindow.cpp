@@ -20,23 +20,31 @@ namespace {
 
 constexpr int pageMargin = 10;
 
-bool takesFocus(const Control& control) {
-  // The window may be still to be shown.
-  if (!control.window->IsThisEnabled() || !control.window->IsShown()) return false;
+bool isForKeyboard(const Control& control) {
   switch (control.kind) {
     case ItemKind::Link:
     case ItemKind::Edit:
     case ItemKind::Button:
     case ItemKind::CheckBox:
+    case ItemKind::RadioButton:
     case ItemKind::ComboBox:
     case ItemKind::ListBox:
     case ItemKind::Tabs:
       return true;
-    case ItemKind::RadioButton:
-      return isChecked(control);  // the focus checks another
     default:
       return false;
   }
+}
+
+bool takesFocus(const Control& control) {
+  // The window may be still to be shown.
+  if (!control.window->IsThisEnabled() || !control.window->IsShown() || !isForKeyboard(control)) return false;
+  return control.kind != ItemKind::RadioButton || isChecked(control);  // the focus checks another
+}
+
+/// Whether a person sees the control and can use it.
+bool isInUse(const Control& control) {
+  return isForKeyboard(control) && control.window->IsShownOnScreen() && control.window->IsEnabled();
 }
 
 Margins inPixels(const wxWindow& surface, const Margins& margins) {
@@ -252,7 +260,42 @@ bool WxDialogWindow::focusFirst() {
   return false;
 }
 
+void WxDialogWindow::collectStops(std::vector<Control>& stops) const {
+  for (const auto& control : inOrder_) {
+    stops.push_back(control);
+    for (const auto& [number, children] : childrenOf_) {
+      if (at(number).window != control.window) continue;
+      for (const auto* child : children) child->collectStops(stops);
+    }
+  }
+}
+
+wxWindow* WxDialogWindow::stopAround(const wxWindow* window) const {
+  std::vector<Control> stops;
+  collectStops(stops);
+  for (; window && window != &surface_; window = window->GetParent()) {
+    const auto found =
+        std::find_if(stops.begin(), stops.end(), [&](const auto& stop) { return stop.window == window; });
+    if (found != stops.end()) return isInUse(*found) ? found->window : nullptr;
+  }
+  return nullptr;
+}
+
+bool WxDialogWindow::focusAfter(const wxWindow* before) {
+  std::vector<Control> stops;
+  collectStops(stops);
+  const auto last = std::find_if(stops.begin(), stops.end(), [&](const auto& stop) { return stop.window == before; });
+  if (last == stops.end()) return false;
+  std::rotate(stops.begin(), last, stops.end());
+  const auto next =
+      std::find_if(stops.begin() + 1, stops.end(), [](const auto& stop) { return isInUse(stop) && takesFocus(stop); });
+  if (next == stops.end()) return false;
+  next->window->SetFocus();
+  return true;
+}
+
 WxDialogWindow* WxDialogWindow::childInSight(const Control& control) const {
+  if (!control.window->IsShown()) return nullptr;
   for (const auto& [number, children] : childrenOf_) {
     if (at(number).window != control.window || children.empty()) continue;
     const int selected = std::max(0, selectionOf(control));

@@ -78,6 +78,10 @@ class WxDialogWindow : public DialogWindow {
   /// Gives the focus to the control that the layout names, or to the first that takes it, on the open tab if there
   /// are tabs. False if nothing does.
   bool focusFirst();
+  /// Gives the focus to the first control that takes it behind this one, round and round. False if nothing does.
+  bool focusAfter(const wxWindow* before);
+  /// The control that a window with the focus belongs to; null if it is none that a person sees and can use.
+  wxWindow* stopAround(const wxWindow* window) const;
   void guard(const std::function<void()>& action) { guarded_(action); }
   DialogHandler& handler() { return handler_; }
   WindowStack& stack() { return stack_; }
@@ -98,6 +102,8 @@ class WxDialogWindow : public DialogWindow {
   void bindTabs(int control, wxWindow& tabs);
   /// The child window that shows in a tab control or slot; null for any other control.
   WxDialogWindow* childInSight(const Control& control) const;
+  /// All controls as Tab would reach them if everything showed, those of the child windows too.
+  void collectStops(std::vector<Control>& stops) const;
   DialogWindow& adopt(std::unique_ptr<WxDialogWindow> child);
 
   WindowStack& stack_;

@@ -45,6 +45,11 @@ WxTopWindow::WxTopWindow(WindowStack& stack, Role role, const DialogLayout& layo
                          Dialog dialog)
     : WxDialogWindow(stack, *dialog, layout, handler, windowMargin), role_(role), dialog_(std::move(dialog)) {
   dialog_->Bind(wxEVT_CHAR_HOOK, &WxTopWindow::onKey, this);
+  // Not at once: the rules may go on to give the focus to a control of their choice, or enable what they disabled.
+  dialog_->Bind(wxEVT_IDLE, [this](wxIdleEvent& event) {
+    event.Skip();
+    if (running_) keepFocusInSight();
+  });
   dialog_->Bind(wxEVT_CLOSE_WINDOW, [this](wxCloseEvent& event) {
     // The rules decide what a close request does.
     if (event.CanVeto()) event.Veto();
@@ -117,6 +122,16 @@ void WxTopWindow::onEscape() {
     guard([this] { handler().onCloseRequest(); });
   } else if (hasUsable(IDCANCEL_CONTROL)) {
     command(IDCANCEL_CONTROL);
+  }
+}
+
+void WxTopWindow::keepFocusInSight() {
+  // While something else has the keyboard, or nothing may be used, the focus waits.
+  if (!dialog_->IsActive() || !dialog_->IsEnabled()) return;
+  if (const wxWindow* const stop = stopAround(wxWindow::FindFocus())) {
+    lastStop_ = stop;
+  } else if (!focusAfter(lastStop_)) {
+    focusFirst();
   }
 }
 

@@ -43,6 +43,8 @@ class WxTopWindow : public WxDialogWindow {
   wxSize frame() const;
   void onKey(wxKeyEvent& event);
   void onEscape();
+  /// Leads a focus that nobody sees, of a control that was hidden or disabled, on to the next one of use.
+  void keepFocusInSight();
   void end();
 
   Role role_;
@@ -52,6 +54,7 @@ class WxTopWindow : public WxDialogWindow {
   bool moved_ = false;
   mutable std::optional<wxSize> frame_;
   bool running_ = false;
+  const wxWindow* lastStop_ = nullptr;  ///< what had the focus last; only to be compared
 };
 
 }  // namespace tarnwick::ui

@@ -78,6 +78,69 @@ TEST_F(DialogTest, AfterAMessageTheFocusIsBackWhereItWas) {
   play();
 }
 
+TEST_F(DialogTest, AFocusThatNobodySeesGoesOnToTheNextControlOfUse) {
+  rules.onInitialise = [this](DialogWindow& window) { fill(window); };
+  const auto expectNext = [this](int next) {
+    steps.until("the focus goes on", [this, next] { return wxWindow::FindFocus() == top().windowOf(next); });
+  };
+  waitForDialog();
+  steps.then("focus", [this] { top().focus(SAMPLE_EDIT); });
+  expectNext(SAMPLE_EDIT);
+  steps.then("disable it", [this] { rules.window->enable(SAMPLE_EDIT, false); });
+  expectNext(SAMPLE_SMALL);
+  steps.then("hide it, and disable the one behind", [this] {
+    rules.window->show(SAMPLE_SMALL, false);
+    rules.window->enable(SAMPLE_SHOWN, false);
+  });
+  expectNext(SAMPLE_CHECK);
+  steps.then("focus the last", [this] { top().focus(IDCANCEL_CONTROL); });
+  expectNext(IDCANCEL_CONTROL);
+  steps.then("disable it", [this] { rules.window->enable(IDCANCEL_CONTROL, false); });
+  expectNext(SAMPLE_CHECK);  // round and round
+  thenClose();
+  play();
+}
+
+TEST_F(DialogTest, AFocusOnAPageThatGoesOutOfSightGoesOn) {
+  rules.onInitialise = [this](DialogWindow& window) { fill(window); };
+  const auto onPage = [this](std::size_t page) { return top().children().at(page)->windowOf(3); };
+  waitForDialog();
+  steps.then("focus", [onPage] { onPage(0)->SetFocus(); });
+  steps.until("focus", [onPage] { return wxWindow::FindFocus() == onPage(0); });
+  steps.then("another tab by the rules", [this] { rules.window->select(SAMPLE_TABS, 1); });
+  steps.until("the focus is seen", [] {
+    const wxWindow* const focus = wxWindow::FindFocus();
+    return focus && focus->IsShownOnScreen();
+  });
+  steps.settle(10);
+  steps.then("look", [this] {
+    const wxWindow* const focus = wxWindow::FindFocus();
+    ASSERT_TRUE(focus);
+    EXPECT_TRUE(focus->IsShownOnScreen() && focus->IsEnabled());
+    EXPECT_EQ(wxGetTopLevelParent(const_cast<wxWindow*>(focus)), &top().dialog());
+  });
+  thenClose();
+  play();
+}
+
+TEST_F(DialogTest, WhatTheRulesDisableAndEnableAgainKeepsItsFocus) {
+  rules.onInitialise = [this](DialogWindow& window) { fill(window); };
+  rules.onPress[SAMPLE_BUTTON] = [this] {
+    rules.window->enable(SAMPLE_BUTTON, false);
+    rules.window->enable(SAMPLE_BUTTON, true);
+    rules.window->focus(SAMPLE_BUTTON);
+  };
+  waitForDialog();
+  steps.then("press", [this] {
+    top().focus(SAMPLE_BUTTON);
+    press(top(), SAMPLE_BUTTON);
+  });
+  steps.settle(10);
+  steps.then("look", [this] { EXPECT_EQ(wxWindow::FindFocus(), top().windowOf(SAMPLE_BUTTON)); });
+  thenClose();
+  play();
+}
+
 TEST_F(FocusTest, AWarningThatIsCancelledLeavesTheFieldItsFocus) {
   world_.settings.javacFastcode = 1;
   const auto field = [this] { return child(JAVAC_TAB).windowOf(1117); };

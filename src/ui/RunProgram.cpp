@@ -30,6 +30,8 @@ class Application : public wxApp {
   bool OnInit() override {
     // The toolkit owns it. NOLINTNEXTLINE(clang-analyzer-cplusplus.NewDeleteLeaks)
     delete wxLog::SetActiveTarget(new wxLogStderr);
+    // The toolkit's notes for those who work on it are none of the user's business.
+    wxLog::SetLogLevel(wxLOG_Info);
     SetAppName("Tarnwick");
     SetExitOnFrameDelete(false);
     useAsDefaultIcon(iconBitmap(48));

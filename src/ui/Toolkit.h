@@ -5,6 +5,7 @@
 
 #include <wx/gdicmn.h>
 
+#include <cstddef>
 #include <functional>
 #include <optional>
 #include <string>
@@ -34,6 +35,9 @@ void nameByLabel(wxWindow& control, wxWindow& label);
 
 /// Names `control` for readers of the screen without a label to be seen.
 void nameBySpeech(wxWindow& control, const std::string& name);
+
+/// Tells readers of the screen what a tab is called, for as long as they ask.
+void nameTab(wxNotebook& tabs, std::size_t tab, const std::string& label);
 
 /// What readers of the screen call the control; empty if they have no name for it. For tests.
 std::string spokenName(wxWindow& control);

@@ -440,6 +440,7 @@ DialogWindow& WxDialogWindow::addTabPage(int tabs, const std::string& label, con
   childrenOf_[tabs].push_back(page.get());
   quiet_ = true;
   book->AddPage(panel, toWx(label));
+  nameTab(*book, book->GetPageCount() - 1, label);
   quiet_ = false;
   return adopt(std::move(page));
 }

@@ -21,7 +21,7 @@ if "WINE" in os.environ:
     import wine_world
     MODULES, World = ["test_windows", "test_windows_start_up"], wine_world.World
 else:
-    MODULES = ["test_start", "test_start_up", "test_panels", "test_keyboard", "test_projects", "test_compile", "test_splitting",
+    MODULES = ["test_start", "test_start_up", "test_panels", "test_keyboard", "test_quiet", "test_projects", "test_compile", "test_splitting",
                "test_console", "test_console_text", "test_console_pictures", "test_console_dark", "test_jdb", "test_help",
                "test_tools", "test_jar", "test_bad_input", "test_locked_configuration", "test_ending"]
     World = world.World

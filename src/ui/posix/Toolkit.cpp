@@ -1,5 +1,7 @@
 #include "ui/Toolkit.h"
 
+#include "ui/posix/ScreenReaders.h"
+
 #include <wx/bitmap.h>
 #include <wx/dc.h>
 #include <wx/msgdlg.h>
@@ -38,6 +40,7 @@ void prepareToolkit() {
 }
 
 void toolkitStarted() {
+  answerForGoneWindows();
   if (glSwitchedOff) unsetenv(glVariable);
 }
 
@@ -55,6 +58,15 @@ void nameByLabel(wxWindow& control, wxWindow& label) {
 
 void nameBySpeech(wxWindow& control, const std::string& name) {
   atk_object_set_name(gtk_widget_get_accessible(widget(control)), name.c_str());
+}
+
+void nameTab(wxNotebook& tabs, std::size_t tab, const std::string& label) {
+  // Without a name of its own it would look for the tab, when that may have gone already.
+  AtkObject* const page =
+      atk_object_ref_accessible_child(gtk_widget_get_accessible(widget(tabs)), static_cast<int>(tab));
+  if (!page) return;
+  atk_object_set_name(page, label.c_str());
+  g_object_unref(page);
 }
 
 void makeOneTabStop(wxWindow& comboBox) {

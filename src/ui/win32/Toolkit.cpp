@@ -64,6 +64,9 @@ void nameBySpeech(wxWindow& control, const std::string& name) {
   control.SetAccessible(new SpokenName(control, toWx(name)));
 }
 
+// The system tells it.
+void nameTab(wxNotebook&, std::size_t, const std::string&) {}
+
 void makeOneTabStop(wxWindow&) {}
 
 std::string spokenName(wxWindow& control) {

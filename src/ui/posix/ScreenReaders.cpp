@@ -1,0 +1,58 @@
+#include "ui/posix/ScreenReaders.h"
+
+#include <gtk/gtk-a11y.h>
+#include <gtk/gtk.h>
+
+namespace tarnwick::ui {
+
+namespace {
+
+AtkObjectClass& classOf(GType type) {
+  return *ATK_OBJECT_CLASS(g_type_class_ref(type));  // for as long as the program runs
+}
+
+/// The states of a class that has none for a control without its widget.
+template <GType (*type)()>
+class States {
+ public:
+  static void complete() {
+    AtkObjectClass& known = classOf(type());
+    if (known.ref_state_set == &answer) return;
+    own = known.ref_state_set;
+    known.ref_state_set = &answer;
+  }
+
+ private:
+  static AtkStateSet* answer(AtkObject* asked) {
+    if (AtkStateSet* const states = own(asked)) return states;
+    AtkStateSet* const gone = atk_state_set_new();
+    atk_state_set_add_state(gone, ATK_STATE_DEFUNCT);
+    return gone;
+  }
+
+  static inline AtkStateSet* (*own)(AtkObject*) = nullptr;
+};
+
+int (*countInWindow)(AtkObject*) = nullptr;
+
+int countIfThere(AtkObject* window) {
+  return gtk_accessible_get_widget(GTK_ACCESSIBLE(window)) ? countInWindow(window) : 0;
+}
+
+}  // namespace
+
+void answerForGoneWindows() {
+  // Check boxes and radio buttons have what those that stay down have, numbers what fields have.
+  States<gtk_window_accessible_get_type>::complete();
+  States<gtk_label_accessible_get_type>::complete();
+  States<gtk_entry_accessible_get_type>::complete();
+  States<gtk_button_accessible_get_type>::complete();
+  States<gtk_toggle_button_accessible_get_type>::complete();
+  States<gtk_expander_accessible_get_type>::complete();
+  AtkObjectClass& windows = classOf(gtk_window_accessible_get_type());
+  if (windows.get_n_children == &countIfThere) return;
+  countInWindow = windows.get_n_children;
+  windows.get_n_children = &countIfThere;
+}
+
+}  // namespace tarnwick::ui

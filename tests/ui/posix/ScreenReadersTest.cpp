@@ -1,0 +1,82 @@
+// What a reader of the screen is told of windows that have gone.
+#include "ui/DialogFixture.h"
+
+#include <wx/dialog.h>
+
+#include <gtk/gtk-a11y.h>
+#include <gtk/gtk.h>
+#include <string>
+#include <vector>
+
+namespace tarnwick::test {
+
+namespace {
+
+/// The complaints of the toolkit while it lives.
+class Complaints {
+ public:
+  Complaints() : before_(g_log_set_default_handler(&Complaints::note, this)) {}
+  ~Complaints() { g_log_set_default_handler(before_, nullptr); }
+  Complaints(const Complaints&) = delete;
+  Complaints& operator=(const Complaints&) = delete;
+
+  const std::string& text() const { return text_; }
+
+ private:
+  static void note(const gchar* domain, GLogLevelFlags, const gchar* message, gpointer self) {
+    static_cast<Complaints*>(self)->text_ += std::string(domain ? domain : "") + ": " + message + "\n";
+  }
+
+  GLogFunc before_;
+  std::string text_;
+};
+
+/// A reader's hold on a window and all that is in it, which outlives them.
+class Held {
+ public:
+  void take(AtkObject* one) {
+    held_.push_back(one);
+    for (int i = 0; i < atk_object_get_n_accessible_children(one); ++i) take(atk_object_ref_accessible_child(one, i));
+  }
+  ~Held() {
+    for (AtkObject* one : held_) g_object_unref(one);
+  }
+
+  const std::vector<AtkObject*>& all() const { return held_; }
+
+ private:
+  std::vector<AtkObject*> held_;
+};
+
+/// All that a reader asks first of anything.
+void expectAnswers(AtkObject* one) {
+  const char* const kind = G_OBJECT_TYPE_NAME(one);
+  AtkStateSet* const states = atk_object_ref_state_set(one);
+  ASSERT_TRUE(states) << kind;
+  if (GTK_IS_WIDGET_ACCESSIBLE(one)) {
+    EXPECT_TRUE(atk_state_set_contains_state(states, ATK_STATE_DEFUNCT)) << kind;
+  }
+  g_object_unref(states);
+  atk_object_get_n_accessible_children(one);
+  atk_object_get_name(one);
+  atk_object_get_index_in_parent(one);
+}
+
+}  // namespace
+
+TEST_F(DialogTest, ReadersOfTheScreenMayAskAboutAWindowThatHasGone) {
+  rules.onInitialise = [this](DialogWindow& window) { fill(window); };
+  const Complaints complaints;
+  Held held;
+  waitForDialog();
+  steps.then("hold", [&] {
+    held.take(static_cast<AtkObject*>(g_object_ref(gtk_widget_get_accessible(top().dialog().GetHandle()))));
+  });
+  thenClose();
+  play();
+  EXPECT_GT(held.all().size(), 20U);
+  for (AtkObject* one : held.all()) expectAnswers(one);
+  EXPECT_EQ(complaints.text(), "");
+}
+
+}  // namespace tarnwick::test

@@ -39,9 +39,7 @@ def xdotool(*arguments):
 
 
 def key(*keys):
-    for one in keys:
-        xdotool("key", "--clearmodifiers", one)
-        time.sleep(0.05)
+    xdotool("key", "--clearmodifiers", "--delay", 50, *keys)
 
 
 def type_text(text):
@@ -99,8 +97,7 @@ class Control:
 
     def click(self, button=1):
         left, top, width, height = self.area
-        xdotool("mousemove", left + width // 2, top + height // 2)
-        time.sleep(0.1)
+        xdotool("mousemove", "--sync", left + width // 2, top + height // 2)
         xdotool("click", button)
         time.sleep(0.2)
 
@@ -180,13 +177,27 @@ class Window:
             # Again and again: a window that is busy takes no click, and Wine may take a moment to notice a new clipboard.
             self.field(index).click()
             key("ctrl+a", "ctrl+v")
-            time.sleep(0.1)
-            return self.field(index).text == text
+            try:
+                return wait_until("the text", lambda: self.field(index).text == text, 2)
+            except NotSeen:
+                return False
         wait_until(f"{text!r} in field {index}", pasted)
 
     def activate(self):
-        xdotool("windowactivate", "--sync", self.x_number())
-        time.sleep(0.2)
+        number = self.x_number()
+        xdotool("windowactivate", "--sync", number)
+        wait_until(f"the keyboard for the window {self.title!r}", lambda: active_window() == number)
+
+    def listens(self):
+        """Whether the window takes input now: Tab moves the focus on."""
+        def focus():
+            return [(one.role, one.name, one.area) for one in self.controls() if one.focused]
+        before = focus()
+        key("Tab")
+        try:
+            return wait_until("another focus", lambda: focus() != before, 2)
+        except NotSeen:
+            return False
 
     def x_number(self):
         return wait_until(f"the X window {self.title!r}", lambda: x_windows(self.title))[-1]
@@ -195,6 +206,12 @@ class Window:
         """As the close box of the title bar: asks the window to close."""
         self.activate()
         key("alt+F4")
+
+
+def active_window():
+    """The number of the X window that has the keyboard; empty if none has it."""
+    return subprocess.run(["xdotool", "getactivewindow"], stdin=subprocess.DEVNULL, stdout=subprocess.PIPE,
+                          stderr=subprocess.DEVNULL, text=True, timeout=LIMIT).stdout.strip()
 
 
 def x_windows(title, visible=True):

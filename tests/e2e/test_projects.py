@@ -139,7 +139,7 @@ def compile_changed_without_main(scratch, panel):
     wait_until("the classes", lambda: all(os.path.exists(os.path.join(scratch.work, name + ".class"))
                                           for name in ("Start", "Helper", "Second")))
     wait_until("the end of the compilation", lambda: not scratch.processes("javac"))
-    wait_until("the panel", lambda: panel.control("javac").enabled)
+    wait_until("a panel that listens again", panel.listens)
 
 
 def test_only_what_a_change_touches_is_compiled_again(scratch):

@@ -130,7 +130,7 @@ class World:
         return path.removesuffix(".java") + ".class"
 
     def messages(self):
-        """What the program wrote to its standard streams, less what GTK says to whoever looks at a notebook."""
+        """What the program wrote to its standard streams."""
         with open(os.path.join(self.root, "messages"), encoding="utf-8", errors="replace") as lines:
             return lines.read()
 
@@ -234,7 +234,7 @@ class World:
         # While the compiler runs the panel takes no input. The settings are saved last of all.
         wait_until("the end of the compilation", lambda: not self.processes("javac") and
                    os.stat(self.configuration).st_mtime_ns > os.stat(compiled).st_mtime_ns)
-        wait_until("the panel", lambda: panel.control("javac").enabled)
+        wait_until("a panel that listens again", panel.listens)
         return compiled
 
     @staticmethod

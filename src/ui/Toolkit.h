@@ -51,6 +51,9 @@ wxStaticBox* makeFrame(wxWindow& parent, const wxString& title);
 /// Tells readers of the screen that the toolkit's own drawing in this window is a link.
 void describeLink(wxWindow& link, const std::string& address);
 
+/// Lets Tab find its way into a window that was hidden so far. It has a brother or sister.
+void joinTabOrder(wxWindow& window);
+
 /// True while the list of a combo box hangs open, which Return and Escape then belong to.
 bool isListOpen(wxWindow& comboBox);
 

@@ -474,9 +474,14 @@ WxPage::WxPage(WindowStack& stack, WxDialogWindow& owner, wxPanel& panel, const 
 }
 
 void WxPage::showWindow(bool on) {
+  if (dynamic_cast<wxNotebook*>(surface().GetParent())) {
+    surface().Show(on);
+    return;
+  }
   // A slot without its child window would lie over others that share its place.
-  if (!dynamic_cast<wxNotebook*>(surface().GetParent())) surface().GetParent()->Show(on);
-  surface().Show(on);
+  wxWindow& slot = *surface().GetParent();
+  slot.Show(on);
+  if (on) joinTabOrder(slot);
 }
 
 Rect WxPage::windowRect() const {

@@ -193,6 +193,19 @@ TEST_P(PanelsWindowTest, TabReachesWhateverCanBeUsedInTheOrderOfReading) {
   run();
 }
 
+TEST_P(PanelsWindowTest, TabReachesWhateverCanBeUsedAfterAChangeOfLayoutAndViewToo) {
+  for (const int way : {ButtonBar::LAYOUT_RIGHT, ButtonBar::SWITCH_VIEW, ButtonBar::LAYOUT_LEFT}) {
+    const auto reached = std::make_shared<Stops>();
+    const auto projectShows = [this] { return panel(true).surface().IsShownOnScreen(); };
+    if (way == ButtonBar::LAYOUT_RIGHT) waitForView();
+    steps.then("change", [this, way, projectShows] { press(bar(projectShows(), settings_.panelLayout.value), way); });
+    steps.settle(8);
+    walkByTab(steps, reached);
+    steps.then("look", [this, reached, projectShows] { expectAllReached(panel(projectShows()), *reached); });
+  }
+  run();
+}
+
 TEST_P(PanelsWindowTest, EveryControlHasANameForReadersOfTheScreen) {
   waitForView();
   for (const int tab : {0, 1, 2}) {

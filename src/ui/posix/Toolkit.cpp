@@ -83,6 +83,15 @@ void makeOneTabStop(wxWindow& comboBox) {
   gtk_container_forall(GTK_CONTAINER(widget(comboBox)), +visit, reinterpret_cast<gpointer>(+refuseFocus));
 }
 
+void joinTabOrder(wxWindow& window) {
+  // The toolkit leaves out what does not show when it makes the order, and makes it anew only after a move.
+  if (wxWindow* const before = window.GetPrevSibling()) {
+    window.MoveAfterInTabOrder(before);
+  } else if (wxWindow* const next = window.GetNextSibling()) {
+    window.MoveBeforeInTabOrder(next);
+  }
+}
+
 std::string spokenName(wxWindow& control) {
   AtkObject* const accessible = gtk_widget_get_accessible(widget(control));
   const char* const name = atk_object_get_name(accessible);

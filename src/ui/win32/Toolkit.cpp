@@ -69,6 +69,9 @@ void nameTab(wxNotebook&, std::size_t, const std::string&) {}
 
 void makeOneTabStop(wxWindow&) {}
 
+// Each Tab looks for itself what shows.
+void joinTabOrder(wxWindow&) {}
+
 std::string spokenName(wxWindow& control) {
   wxString given;
   auto* const accessible = control.GetAccessible();

@@ -87,7 +87,7 @@ def started_with_project(scratch, **options):
 
 def leave(program):
     key("Escape")
-    assert program.wait(20) == 0
+    assert program.wait(person.LIMIT) == 0
 
 
 def test_without_a_project_the_keyboard_works_from_the_start(scratch):

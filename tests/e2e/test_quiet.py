@@ -59,7 +59,7 @@ def test_a_walk_through_the_program_leaves_no_word_on_standard_error(scratch):
     expect_silence(scratch)
     panel.activate()
     panel.close()
-    assert program.wait(20) == 0
+    assert program.wait(person.LIMIT) == 0
     expect_silence(scratch)
 
 
@@ -81,7 +81,7 @@ def test_a_project_is_opened_and_left_without_a_word(scratch):
         panel.press(view)
         assert panel.control(back)
     program.send_signal(signal.SIGTERM)
-    assert program.wait(20) == 0
+    assert program.wait(person.LIMIT) == 0
     expect_silence(scratch)
 
 
@@ -91,5 +91,5 @@ def test_told_to_end_while_a_field_has_the_focus_it_says_nothing(scratch):
     person.type_text("some")
     wait_until("what was typed", lambda: panel.field(0).text == "some")
     program.send_signal(signal.SIGTERM)
-    assert program.wait(20) == 0
+    assert program.wait(person.LIMIT) == 0
     expect_silence(scratch)

@@ -118,10 +118,13 @@ void moveWindow(wxTopLevelWindow& window, const Point& leftTop) {
 void appendToSystemMenu(wxTopLevelWindow& window, const std::string& label, const std::function<void()>& action) {
   wxMenu* const menu = window.MSWGetSystemMenu();
   if (!menu) return;
+  // The system keeps the lowest four bits of such a number for itself, so one of the toolkit's own would come back as
+  // another.
+  constexpr int command = 16;
   menu->AppendSeparator();
-  const wxMenuItem* const item = menu->Append(wxID_ANY, toWx(label));
+  menu->Append(command, toWx(label));
   menu->Bind(
-      wxEVT_MENU, [action](wxCommandEvent&) { action(); }, item->GetId());
+      wxEVT_MENU, [action](wxCommandEvent&) { action(); }, command);
 }
 
 // A dialog without an owner is one already.

@@ -36,9 +36,15 @@ class SpokenName : public wxAccessible {
 };
 
 /// The toolkit repaints a strip along each edge, wider with finer pixels, and with it whatever stands in the strip.
+/// A frame that moves would carry along what it shows, which is to the system also the pixels of the controls within.
 class Frame : public wxStaticBox {
  public:
   using wxStaticBox::wxStaticBox;
+
+  WXLRESULT MSWWindowProc(WXUINT message, WXWPARAM first, WXLPARAM second) override {
+    if (message == WM_WINDOWPOSCHANGING) reinterpret_cast<WINDOWPOS*>(second)->flags |= SWP_NOCOPYBITS;
+    return wxStaticBox::MSWWindowProc(message, first, second);
+  }
 
   void GetBordersForSizer(int* top, int* other) const override {
     constexpr int line = 4;

@@ -2,26 +2,38 @@
 
 #include <wx/evtloop.h>
 #include <wx/msw/private.h>
-#include <wx/utils.h>
 
 namespace tarnwick::ui {
 
 namespace {
 
-/// A disabled window takes no clicks, but the control in it that has the focus would still hear the keyboard.
-class LoopWithoutKeys : public wxGUIEventLoop {
+/// The windows may be minimised and brought back.
+bool isRequest(const MSG& message) {
+  if (message.message != WM_SYSCOMMAND) return message.message == WM_CLOSE;
+  const WPARAM command = message.wParam & 0xFFF0;
+  return command != SC_MINIMIZE && command != SC_RESTORE;
+}
+
+bool isWithin(UINT message, UINT first, UINT last) {
+  return message >= first && message <= last;
+}
+
+/// Disabling the windows would do the same at first sight. But when the console of a tool goes, the system makes the
+/// window below it the active one, and never a disabled one: nothing would have the keyboard afterwards.
+class LoopWithoutInput : public wxGUIEventLoop {
  public:
   bool PreProcessMessage(WXMSG* message) override {
-    if (message->message >= WM_KEYFIRST && message->message <= WM_KEYLAST) return true;
-    return wxGUIEventLoop::PreProcessMessage(message);
+    const UINT kind = message->message;
+    const bool isInput = isWithin(kind, WM_KEYFIRST, WM_KEYLAST) || isWithin(kind, WM_MOUSEFIRST, WM_MOUSELAST) ||
+                         isWithin(kind, WM_NCMOUSEMOVE, WM_NCXBUTTONDBLCLK);
+    return isInput || isRequest(*message) || wxGUIEventLoop::PreProcessMessage(message);
   }
 };
 
 }  // namespace
 
 struct BusyLoop::State {
-  wxWindowDisabler disabler;
-  LoopWithoutKeys loop;
+  LoopWithoutInput loop;
 };
 
 BusyLoop::BusyLoop() : state_(std::make_unique<State>()) {}

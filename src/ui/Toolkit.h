@@ -66,6 +66,10 @@ std::optional<Point> normalPosition(const wxTopLevelWindow& window);
 /// Moves left and top of a window, which may be still to be shown.
 void moveWindow(wxTopLevelWindow& window, const Point& leftTop);
 
+/// True if a window of another instance of the program shows with its left top there, as far as the window system
+/// tells.
+bool otherInstanceAt(const Point& leftTop);
+
 /// Adds a separator and a command to the window's system menu. On Linux that menu is the window manager's.
 void appendToSystemMenu(wxTopLevelWindow& window, const std::string& label, const std::function<void()>& action);
 

@@ -159,7 +159,8 @@ wxSize WxTopWindow::frame() const {
 }
 
 Rect WxTopWindow::windowRect() const {
-  const wxPoint at = dialog_->GetPosition();
+  const wxPoint real = dialog_->GetPosition();
+  const Point at = told({real.x, real.y});
   const wxSize size = dialog_->GetClientSize() + frame();
   return {at.x, at.y, at.x + size.x, at.y + size.y};
 }
@@ -172,13 +173,35 @@ void WxTopWindow::setWindowRect(const Rect& rect) {
 }
 
 std::optional<Point> WxTopWindow::position() const {
-  return normalPosition(*dialog_);
+  const auto real = normalPosition(*dialog_);
+  return real ? told(*real) : real;
+}
+
+Point WxTopWindow::told(const Point& real) const {
+  return aside_ && aside_->real == real ? aside_->told : real;
+}
+
+Point WxTopWindow::besideOthers(const Point& place) const {
+  constexpr int mostSteps = 20;
+  const int step = dialog_->FromDIP(24);
+  const wxSize size = dialog_->GetSize();
+  const auto screens = presentScreens();
+  Point free = withinReach(place, size.x, size.y, screens);
+  for (int steps = 0; steps < mostSteps && otherInstanceAt(free); ++steps) {
+    free = withinReach({free.x + step, free.y + step}, size.x, size.y, screens);
+  }
+  return free;
 }
 
 void WxTopWindow::moveTo(const Point& leftTop) {
   moved_ = true;
   const wxSize size = dialog_->GetSize();
-  moveWindow(*dialog_, withinReach(leftTop, size.x, size.y, presentScreens()));
+  const Point place = withinReach(leftTop, size.x, size.y, presentScreens());
+  // Once the window shows, it is its user's affair where it stands.
+  const Point real = role_ == Role::Main && !running_ ? besideOthers(place) : place;
+  aside_.reset();
+  if (real != place) aside_ = Aside{real, place};
+  moveWindow(*dialog_, real);
 }
 
 }  // namespace tarnwick::ui

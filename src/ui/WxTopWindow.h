@@ -41,6 +41,10 @@ class WxTopWindow : public WxDialogWindow {
   void fit();
   /// What the frame adds to the client area.
   wxSize frame() const;
+  /// The place of a window that stands at `real`, as its rules see it.
+  Point told(const Point& real) const;
+  /// Where the window comes to stand when the rules move it to `place`.
+  Point besideOthers(const Point& place) const;
   void onKey(wxKeyEvent& event);
   void onEscape();
   /// Leads a focus that nobody sees, of a control that was hidden or disabled, on to the next one of use.
@@ -52,6 +56,12 @@ class WxTopWindow : public WxDialogWindow {
   WindowStack::Place* place_ = nullptr;
   std::optional<int> result_;
   bool moved_ = false;
+  /// A window that has come where another instance's stood is a step away from it, of which its rules know nothing.
+  struct Aside {
+    Point real;
+    Point told;
+  };
+  std::optional<Aside> aside_;
   mutable std::optional<wxSize> frame_;
   bool running_ = false;
   const wxWindow* lastStop_ = nullptr;  ///< what had the focus last; only to be compared

@@ -1,6 +1,7 @@
 #include "base/Tarnwickexception.h"
 #include "platform/FileSystem.h"
 #include "support/TestProgram.h"
+#include "ui/ProgramAnew.h"
 #include "ui/RunProgram.h"
 #include "ui/SampleDialog.h"
 #include "ui/WindowTest.h"
@@ -36,6 +37,26 @@ int showDialogs(Desktop& desktop, int result) {
   return result;
 }
 
+/// A program whose main dialog stands at `instancePlace` until `file` is deleted, which it makes when it shows. Gives 1
+/// if it does not come to stand there.
+int standUntilDeleted(ui::WxDesktop& desktop, const std::string& file) {
+  test::Recorder rules;
+  rules.onInitialise = [](DialogWindow& window) { window.moveTo(test::instancePlace); };
+  bool stood = false;
+  int left = 300;
+  const int timer = desktop.startTimer(50, [&] {
+    if (desktop.openDialogs().empty()) return;
+    const auto& window = *desktop.openDialogs().back();
+    const bool stands = window.position() == test::instancePlace;
+    if (!stood && stands) test::writeFile(file, "");
+    stood = stood || stands;
+    if ((stood && !platform::isFile(file)) || --left == 0) rules.window->close(1);
+  });
+  desktop.runMainDialog(test::smallLayout("Another instance"), rules);
+  desktop.stopTimer(timer);
+  return stood ? 0 : 1;
+}
+
 /// How high letters are on the screen.
 int letterHeight() {
   const wxDialog window(nullptr, wxID_ANY, "Letters");
@@ -59,6 +80,11 @@ int runSmall(const std::string& which, int result, Desktop& desktop) {
 
 int main(int argc, char** argv) {
   const std::string which = argc == 3 ? argv[1] : "";
+  if (which == "--stand") {
+    return ui::runProgram(argc, argv, [argv](Desktop& desktop, ConsoleFrameHost&) {
+      return standUntilDeleted(dynamic_cast<ui::WxDesktop&>(desktop), argv[2]);
+    });
+  }
   const std::set<std::string> small = {"--exit-code", "--dialogs", "--throw", "--letter-height", "--dark-theme"};
   if (small.count(which) == 0) return runAll(argc, argv);
   const int result = std::atoi(argv[2]);

@@ -1,12 +1,16 @@
 // Runs of this test program in processes of their own.
 #pragma once
 
+#include "dialogbase/DialogWindow.h"
 #include "platform/FileSystem.h"
 
 #include <cstdlib>
 #include <string>
 
 namespace tarnwick::test {
+
+/// Where an instance of this program stands that is started with "--stand FILE".
+constexpr Point instancePlace{123, 87};
 
 inline bool onWindows() {
   return platform::environment("OS").value_or("") == "Windows_NT";

@@ -11,8 +11,12 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <filesystem>
+#include <gdk/gdkx.h>
 #include <gtk/gtk.h>
 #include <string_view>
+#include <unistd.h>
+#include <vector>
 
 namespace tarnwick::ui {
 
@@ -31,6 +35,42 @@ bool onX11() {
 // memory than everything else. Only for its start: children are to find the environment as it was.
 constexpr const char* glVariable = "GDK_GL";
 bool glSwitchedOff = false;
+
+/// What the X server keeps as a list of numbers under this name. To be called with its errors trapped: windows of
+/// others may go at any time.
+std::vector<unsigned long> numbersOf(GdkWindow* window, const char* property) {
+  GdkAtom type = nullptr;
+  gint format = 0;
+  gint bytes = 0;
+  guchar* data = nullptr;
+  constexpr gulong most = 65536;
+  if (!gdk_property_get(window, gdk_atom_intern(property, FALSE), nullptr, 0, most, FALSE, &type, &format, &bytes,
+                        &data)) {
+    return {};
+  }
+  std::vector<unsigned long> numbers;
+  if (format == 32) {
+    const auto* const first = reinterpret_cast<const unsigned long*>(data);
+    numbers.assign(first, first + static_cast<std::size_t>(bytes) / sizeof(unsigned long));
+  }
+  g_free(data);
+  return numbers;
+}
+
+bool isOtherInstance(GdkWindow* window) {
+  const auto process = numbersOf(window, "_NET_WM_PID");
+  if (process.size() != 1 || process[0] == static_cast<unsigned long>(getpid())) return false;
+  std::error_code unknown;
+  const auto own = std::filesystem::read_symlink("/proc/self/exe", unknown);
+  const auto other = std::filesystem::read_symlink("/proc/" + std::to_string(process[0]) + "/exe", unknown);
+  return !unknown && own == other;
+}
+
+bool standsAt(GdkWindow* window, const Point& leftTop) {
+  GdkRectangle frame{};
+  gdk_window_get_frame_extents(window, &frame);
+  return frame.x == leftTop.x && frame.y == leftTop.y && gdk_window_is_viewable(window);
+}
 
 }  // namespace
 
@@ -141,6 +181,22 @@ void moveWindow(wxTopLevelWindow& window, const Point& leftTop) {
   window.Move(leftTop.x, leftTop.y, wxSIZE_ALLOW_MINUS_ONE);
   // The toolkit takes a window that was never moved to be in that corner, and would leave its place to others.
   if (leftTop == Point{0, 0}) gtk_window_move(GTK_WINDOW(widget(window)), 0, 0);
+}
+
+bool otherInstanceAt(const Point& leftTop) {
+  if (!onX11()) return false;
+  GdkDisplay* const display = gdk_display_get_default();
+  gdk_x11_display_error_trap_push(display);
+  bool found = false;
+  for (const auto number : numbersOf(gdk_get_default_root_window(), "_NET_CLIENT_LIST")) {
+    GdkWindow* const window = gdk_x11_window_foreign_new_for_display(display, number);
+    if (!window) continue;
+    found = isOtherInstance(window) && standsAt(window, leftTop);
+    g_object_unref(window);
+    if (found) break;
+  }
+  gdk_x11_display_error_trap_pop_ignored(display);
+  return found;
 }
 
 void appendToSystemMenu(wxTopLevelWindow&, const std::string&, const std::function<void()>&) {}

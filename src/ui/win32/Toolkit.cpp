@@ -53,6 +53,34 @@ class Frame : public wxStaticBox {
   }
 };
 
+/// The executable's file; empty if the system does not tell.
+std::wstring programOf(DWORD process) {
+  std::wstring path(32768, L'\0');
+  auto size = static_cast<DWORD>(path.size());
+  const HANDLE opened = OpenProcess(PROCESS_QUERY_LIMITED_INFORMATION, FALSE, process);
+  if (opened == nullptr) return {};
+  if (!QueryFullProcessImageNameW(opened, 0, path.data(), &size)) size = 0;
+  CloseHandle(opened);
+  return path.substr(0, size);
+}
+
+struct Search {
+  Point place;
+  std::wstring program;
+  bool found = false;
+};
+
+BOOL CALLBACK compare(HWND window, LPARAM data) {
+  Search& search = *reinterpret_cast<Search*>(data);
+  DWORD process = 0;
+  RECT rect{};
+  GetWindowThreadProcessId(window, &process);
+  const bool stands = process != GetCurrentProcessId() && IsWindowVisible(window) && !IsIconic(window) &&
+                      GetWindowRect(window, &rect) && rect.left == search.place.x && rect.top == search.place.y;
+  search.found = stands && programOf(process) == search.program;
+  return !search.found;
+}
+
 }  // namespace
 
 void prepareToolkit() {}
@@ -119,6 +147,12 @@ std::optional<Point> normalPosition(const wxTopLevelWindow& window) {
 
 void moveWindow(wxTopLevelWindow& window, const Point& leftTop) {
   window.Move(leftTop.x, leftTop.y, wxSIZE_ALLOW_MINUS_ONE);
+}
+
+bool otherInstanceAt(const Point& leftTop) {
+  Search search{leftTop, programOf(GetCurrentProcessId())};
+  EnumWindows(compare, reinterpret_cast<LPARAM>(&search));
+  return search.found;
 }
 
 void appendToSystemMenu(wxTopLevelWindow& window, const std::string& label, const std::function<void()>& action) {

@@ -1,5 +1,6 @@
 #include "app/FileView.h"
 
+#include "platform/FileNames.h"
 #include "platform/FileSystem.h"
 #include "platform/Path.h"
 #include "process/EditorLaunch.h"
@@ -158,7 +159,9 @@ bool FileView::prepareFile(const char* filter, FileForSubprocess& file) {
       complete(file);
       return true;
     } catch (const Tarnwickfile::FileNotOpenE&) {
-      // The user is asked for one that is there.
+      // The user is asked for one that is there, but may believe that this one is.
+      const std::string reason = platform::whyNoFile(file.name().fullName());
+      if (!reason.empty()) desktop_.message("Can't open " + file.name().fullName() + "\n" + reason);
     }
   }
   return askForFile(filter, folderToAskIn(file), file);

@@ -1,5 +1,6 @@
 #include "ui/FileDialogs.h"
 
+#include "platform/FileNames.h"
 #include "platform/FileSystem.h"
 #include "platform/Path.h"
 #include "ui/MessageBoxes.h"
@@ -36,6 +37,23 @@ void cancel(wxDialog& dialog) {
   if (dialog.IsModal()) dialog.EndModal(wxID_CANCEL);
 }
 
+/// False after telling that the program can't use what was chosen: the dialogs know more names than it does.
+bool isUsable(WindowStack& stack, const std::string& path) {
+  const std::string reason = platform::whyNoFile(path);
+  if (reason.empty()) return true;
+  showMessage(stack, "Can't use " + path + "\n" + reason, MessageKind::Ok);
+  return false;
+}
+
+std::vector<std::string> usableOf(WindowStack& stack, const wxArrayString& chosen) {
+  std::vector<std::string> paths;
+  for (const auto& one : chosen) {
+    const std::string path = fromWx(one);
+    if (isUsable(stack, path)) paths.push_back(path);
+  }
+  return paths;
+}
+
 std::vector<std::string> runForSeveral(WindowStack& stack, const FileRequest& request, const char* title, long style) {
   const std::string folder = platform::isFolder(request.startFolder) ? request.startFolder : std::string();
   const std::string filter = toolkitFilter(request.filter);
@@ -46,12 +64,12 @@ std::vector<std::string> runForSeveral(WindowStack& stack, const FileRequest& re
   const bool confirmed = dialog.ShowModal() == wxID_OK;
   stack.goOn();
   if (!confirmed) return {};
-  if ((style & wxFD_MULTIPLE) == 0) return {fromWx(dialog.GetPath())};
   wxArrayString chosen;
-  dialog.GetPaths(chosen);
-  std::vector<std::string> paths;
-  for (const auto& path : chosen) paths.push_back(fromWx(path));
-  return paths;
+  if ((style & wxFD_MULTIPLE) != 0)
+    dialog.GetPaths(chosen);
+  else
+    chosen.Add(dialog.GetPath());
+  return usableOf(stack, chosen);
 }
 
 std::optional<std::string> run(WindowStack& stack, const FileRequest& request, const char* title, long style) {
@@ -111,7 +129,8 @@ std::optional<std::string> folderDialog(WindowStack& stack) {
   const bool chosen = dialog.ShowModal() == wxID_OK;
   stack.goOn();
   if (!chosen) return std::nullopt;
-  return fromWx(dialog.GetPath());
+  const std::string path = fromWx(dialog.GetPath());
+  return isUsable(stack, path) ? std::optional(path) : std::nullopt;
 }
 
 }  // namespace tarnwick::ui

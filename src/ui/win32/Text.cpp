@@ -17,9 +17,12 @@ std::string fromWx(const wxString& text) {
   const std::wstring wide = text.ToStdWstring();
   if (wide.empty()) return {};
   const auto length = static_cast<int>(wide.size());
-  const int needed = WideCharToMultiByte(CP_ACP, 0, wide.data(), length, nullptr, 0, nullptr, nullptr);
+  // A letter that the set lacks becomes "?". The system would rather take one that looks alike, and the name of a file
+  // would become that of another. Where the set is UTF-8 it lacks none, and no such wish is taken.
+  const DWORD wishes = GetACP() == CP_UTF8 ? 0 : WC_NO_BEST_FIT_CHARS;
+  const int needed = WideCharToMultiByte(CP_ACP, wishes, wide.data(), length, nullptr, 0, nullptr, nullptr);
   std::string bytes(static_cast<std::size_t>(needed), '\0');
-  WideCharToMultiByte(CP_ACP, 0, wide.data(), length, bytes.data(), needed, nullptr, nullptr);
+  WideCharToMultiByte(CP_ACP, wishes, wide.data(), length, bytes.data(), needed, nullptr, nullptr);
   return bytes;
 }
 

@@ -1,0 +1,30 @@
+#include "platform/FileNames.h"
+
+#include "platform/FileSystem.h"
+
+#include <windows.h>
+
+namespace tarnwick::platform {
+
+namespace {
+
+constexpr int longestPath = MAX_PATH - 1;
+
+int charactersIn(const std::string& text) {
+  return MultiByteToWideChar(CP_ACP, 0, text.data(), static_cast<int>(text.size()), nullptr, 0);
+}
+
+}  // namespace
+
+std::string whyNoFile(const std::string& path) {
+  const std::string devices = "\\\\?\\";
+  if (path.find('?', path.starts_with(devices) ? devices.size() : 0) != std::string::npos) {
+    return "No file's name holds a \"?\". It may stand for a letter that is not in the character set which Windows "
+           "gives "
+           "to this program.";
+  }
+  if (charactersIn(absolutePath(path)) <= longestPath) return "";
+  return "Windows takes no path of more than " + std::to_string(longestPath) + " characters from this program.";
+}
+
+}  // namespace tarnwick::platform

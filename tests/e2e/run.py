@@ -19,7 +19,7 @@ import world
 # Under scripts/with-wine.sh it is the Windows program that is tested.
 if "WINE" in os.environ:
     import wine_world
-    MODULES, World = ["test_windows", "test_windows_start_up"], wine_world.World
+    MODULES, World = ["test_windows", "test_windows_panel", "test_windows_start_up"], wine_world.World
 else:
     MODULES = ["test_start", "test_start_up", "test_panels", "test_keyboard", "test_quiet", "test_projects", "test_compile", "test_splitting",
                "test_console", "test_console_text", "test_console_pictures", "test_console_dark", "test_jdb", "test_help",

@@ -194,11 +194,11 @@ TEST_F(JarDlgRunTest, WithoutAManifestNothingIsWrittenAndNoneIsNamed) {
 }
 
 TEST_F(JarDlgRunTest, AManifestThatCanNotBeWrittenIsToldAndLeftOut) {
-  // A folder that is not there any longer.
-  ASSERT_TRUE(platform::deleteFile(configFile()));
   const ScopedEnvironment elsewhere("TARNWICK_CFGDIR", scratch_.file("gone"));
-  desktop_.expectMessage("Unable to create temporary file for saving manifest input.\nRequest aborted");
-  const JarRun gathered = gather([](ScriptedWindow& window) { window.type(Jar::MAIN_CLASS, "Main"); });
+  const JarRun gathered = gather([this](ScriptedWindow& window) {
+    window.type(Jar::MAIN_CLASS, "Main");
+    desktop_.expectMessage("Unable to create temporary file for saving manifest input.\nRequest aborted");
+  });
   EXPECT_EQ(gathered.manifest, "");
 }
 

@@ -164,7 +164,7 @@ TEST_F(JarDlgTest, AsZipIsOfferedOnlyWhereSomethingOpensSuchArchives) {
 
 TEST_F(JarDlgTest, AProjectProposesItsFolderAndItsMainClass) {
   settings().lastJarBaseFolder = base();
-  open("PROJECT_MAINCLASS  p.Main\n");
+  open("CLASS_WITH_MAIN  p.Main\n");
   for (const std::string destination : {"", "  ", "out"}) {
     settings().javacDestination = destination;
     run([this](ScriptedWindow& window) {
@@ -297,8 +297,7 @@ TEST_F(JarDlgTest, AnArchiveThatCanNotBeOpenedIsToldAndTheStateStays) {
     chooseArchive(window, archive(), Jar::UPDATE_ARCHIVE);
     window.type(Jar::INDIVIDUAL_FILES, "a.class");
     for (const int button : {Jar::CREATE_ARCHIVE, Jar::UPDATE_ARCHIVE}) {
-      desktop_.expectMessage(std::string(noSuchFile) + "\nCan't open output file.");
-      chooseArchive(window, bad, button);
+      refuseArchive(window, bad, button, noSuchFile);
       EXPECT_EQ(window.text(Jar::ARCHIVE), archive());
       EXPECT_EQ(window.text(Jar::RUN), "Update archive");
       EXPECT_EQ(window.text(Jar::INDIVIDUAL_FILES), "a.class");
@@ -312,8 +311,7 @@ TEST_F(JarDlgTest, AFolderInThePlaceOfTheArchiveIsToldAndNoCopyIsMade) {
   platform::makeFolders(archive());
   const std::string reason = refusal(archive(), FileMode::Write);
   inBase([&](ScriptedWindow& window) {
-    desktop_.expectMessage(reason + "\nCan't open output file.");
-    chooseArchive(window, archive());
+    refuseArchive(window, archive(), Jar::CREATE_ARCHIVE, reason);
     EXPECT_EQ(window.text(Jar::RUN), "Run jar");
   });
   EXPECT_TRUE(trashed_.empty());

@@ -28,13 +28,22 @@ class JarFixture : public ProjectFixture {
   std::string baseNoSlash() const { return scratch_.file("ba se"); }
   std::string archive() const { return userFolder() + "my app.jar"; }
 
-  /// Chooses `archive` for a new one, or for an update.
+  /// Chooses this archive for a new one, or for an update.
   void chooseArchive(ScriptedWindow& window, const std::string& path, int button = Jar::CREATE_ARCHIVE) {
+    expectArchiveAsked(path, button);
+    window.press(button);
+  }
+  /// The same with one that can't be opened.
+  void refuseArchive(ScriptedWindow& window, const std::string& path, int button, const std::string& reason) {
+    expectArchiveAsked(path, button);
+    desktop_.expectMessage(reason + "\nCan't open output file.");
+    window.press(button);
+  }
+  void expectArchiveAsked(const std::string& path, int button) {
     if (button == Jar::CREATE_ARCHIVE)
       desktop_.expectSaveFile(path);
     else
       desktop_.expectOpenFile(path);
-    window.press(button);
   }
 
   /// What the system makes of a folder that is not there.

@@ -40,9 +40,9 @@ std::string assertionOptions(const std::string& list, const std::string& prefix)
 }
 
 std::string classFolder(const std::string& destination, const std::string& sourceFolder) {
-  const std::string folder = trim(destination);
+  const std::string folder = Filename(destination).fullName();
   if (folder.empty() || folder == ".") return sourceFolder;
-  const auto parts = platform::splitPath(Filename(folder).fullName());
+  const auto parts = platform::splitPath(folder);
   const bool fromRoot = !parts.folder.empty() && platform::endsInSeparator(parts.folder.substr(0, 1));
   if (fromRoot || !parts.drive.empty()) return folder;
   const bool startsHere = folder.size() > 1 && folder[0] == '.' && platform::endsInSeparator(folder.substr(1, 1));

@@ -210,6 +210,7 @@ TEST_F(ProjectRunTest, ASecondMainMethodIsToldWhenJdbOrTheAppletIsStarted) {
 TEST_F(ProjectRunTest, AfterJavacWhatIsUpToDateRuns) {
   for (const int button : {CHANGED, ALL}) {
     makeSource("Main", mainMethod());
+    makeCurrent("Main");
     makeStale("Main");
     startWith(makeProject("PROJECT_SOURCES  Main.java\nPROJECT_HTMLFILE  a.html\n"), [&](ScriptedWindow& panel) {
       EXPECT_FALSE(panel.page(TABS, 0).enabled(RIGHT));

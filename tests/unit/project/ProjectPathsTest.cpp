@@ -78,6 +78,7 @@ TEST(ClassFolder, IsTheSourcesOneOrBeginsThereOrStandsForItself) {
       {"..", sources + slash + ".."},
       {".." + slash + "out", sources + slash + ".." + slash + "out"},
       {"\"out put\"", sources + slash + "out put"},
+      {"\"." + slash + "out put\"", sources + slash + "out put"},
       {slash + "out", slash + "out"},
       {platform::absolutePath("out"), platform::absolutePath("out")},
   };

@@ -4,6 +4,7 @@
 
 #include <cerrno>
 #include <cstring>
+#include <optional>
 
 namespace tarnwick::test {
 namespace {
@@ -62,12 +63,13 @@ TEST_F(PanelOnFullDiskTest, ANewProjectInThePlaceOfAnotherLeavesThatOneWholeUnti
     desktop_.expectDialog(reason, [](ScriptedWindow& dialog) { dialog.press(IDCANCEL_CONTROL); });
     desktop_.expectMessage(reason + "\nCan't save configuration data in " + configFile());
     desktop_.expectMessage(reason + "\nCan't save settings for project.");
-    desktop_.expectDialog("Define which files belong to the project",
-                          [](ScriptedWindow& dialog) { dialog.press(IDCANCEL_CONTROL); });
-    {
-      const FullDisk full(512);
-      panel.press(PROJECT_NEW);
-    }
+    std::optional<FullDisk> full;
+    desktop_.expectDialog("Define which files belong to the project", [&](ScriptedWindow& dialog) {
+      full.reset();
+      dialog.press(IDCANCEL_CONTROL);
+    });
+    full.emplace(512);
+    panel.press(PROJECT_NEW);
     EXPECT_EQ(contentOf(file), "JAVA_XMS  77m\nPROJECT_SOURCES  A.java\n");
     settings().currentProject.reset();
     exit(panel);

@@ -191,10 +191,7 @@ void ConsoleChild::handle(OutputReader& reader, const char* block, std::size_t c
   // Counted before it is handled: however busy the machine, a child that spoke never counts as silent.
   readerActive_ = true;
   totalOutputBytes_ += count;
-  {
-    const std::lock_guard guard(readerLock_);
-    reader.handle({block, count});
-  }
+  reader.handle({block, count});
   wake();
 }
 
@@ -223,12 +220,9 @@ void ConsoleChild::reportLoss() {
 }
 
 void ConsoleChild::endReader(OutputReader& reader) {
-  {
-    const std::lock_guard guard(readerLock_);
-    // Meant: the end of a stream begins no line. Whether somebody still holds the pipe makes no difference to the text;
-    // only the child's own end is told.
-    reader.end();
-  }
+  // Deliberate: the end of a stream begins no line. Whether somebody still holds the pipe makes no difference to the
+  // text; only the child's own end is told.
+  reader.end();
   const std::lock_guard guard(stateLock_);
   ++endedOutputs_;
   stateChanged_.notify_all();

@@ -20,8 +20,6 @@ namespace tarnwick {
 
 /// The program that runs in the console: one thread starts it and waits for its end, two bring its output into the
 /// text, one writes its input. No thread touches the window: they note what has changed and call `wake`.
-///
-/// Order of locks: reader lock before text lock.
 class ConsoleChild {
  public:
   /// `screen` and `desktop` outlive the object. `wake` may be called by any thread until `close` returns.
@@ -81,7 +79,6 @@ class ConsoleChild {
   std::uint64_t handled_[2] = {0, 0};  ///< bytes of either stream that are in the text
   std::unique_ptr<platform::ChildProcess> process_;
 
-  std::mutex readerLock_;  ///< held for a whole block, so that the two outputs never mix within one
   OutputReader stdoutReader_;
   OutputReader stderrReader_;
   std::atomic<int> childState_{-1};

@@ -18,7 +18,8 @@ class OutputReader {
 
   /// The output begins on a line of its own.
   void begin();
-  /// Handles one block. A character that it cuts waits for the next one.
+  /// Handles one block under one hold of the lock, so that two outputs never mix within a block: that is short, and the
+  /// lock is fair. A character that the block cuts waits for the next one.
   void handle(std::string_view block);
   /// Nothing more comes: what there is of a cut character shows as it is.
   void end();

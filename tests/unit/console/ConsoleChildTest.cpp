@@ -118,32 +118,6 @@ TEST_F(ConsoleChildTest, BlocksOfTheTwoOutputsDoNotMix) {
   }
 }
 
-TEST_F(ConsoleChildTest, TheLinesOfABlockStayTogether) {
-  openRunning();
-  constexpr std::size_t linesInBlock = 8;
-  const auto blockOf = [](char letter) {
-    std::string block;
-    while (block.size() < OutputReader::blockSize) block += std::string(63, letter) + '\n';
-    return block;
-  };
-  constexpr int blocks = 80;
-  for (int block = 0; block < blocks; ++block) {
-    child->out(blockOf('o'));
-    child->err(blockOf('e'));
-  }
-  ASSERT_TRUE(until([&] { return static_cast<std::size_t>(lineCount()) == 3 + 2 * blocks * linesInBlock; }));
-  std::size_t together = 0;
-  std::string before;
-  for (const auto& line : lines()) {
-    if (line != before) {
-      EXPECT_EQ(together % linesInBlock, 0U) << "a block was cut";
-      together = 0;
-    }
-    together += line.empty() ? 0 : 1;
-    before = line;
-  }
-}
-
 TEST_F(ConsoleChildTest, TheEndIsTold) {
   openRunning();
   child->out("done\n");

@@ -2,7 +2,9 @@
 #include "support/ConsoleFixture.h"
 
 #include <algorithm>
+#include <chrono>
 #include <gtest/gtest.h>
+#include <thread>
 
 namespace tarnwick {
 namespace {
@@ -38,6 +40,34 @@ TEST_F(OutputReaderTest, LinesGoToTheTextInTheReadersKind) {
   EXPECT_EQ(textOf(document), (Lines{"one", "two!", ""}));
   EXPECT_EQ(segmentsOf(document.lines()[1]), (Lines{"2:two", "3:!"}));
   EXPECT_EQ(screen.caret.column(), 0);
+}
+
+TEST_F(OutputReaderTest, TheLinesOfABlockStayTogetherHoweverEagerTheOtherOutputIs) {
+  constexpr int rounds = 30;
+  constexpr int linesInBlock = 8;
+  const auto blockOf = [](char letter) {
+    std::string block;
+    for (int line = 0; line < linesInBlock; ++line) block += std::string(63, letter) + '\n';
+    return block;
+  };
+  for (int round = 0; round < rounds; ++round) {
+    std::thread first;
+    std::thread second;
+    {
+      // Both wait for the lock when it comes free; it goes to whoever waits, so that the one could cut in on the other.
+      const TextGuard guard(screen.lock());
+      first = std::thread([&] { out.handle(blockOf('o')); });
+      second = std::thread([&] { err.handle(blockOf('e')); });
+      std::this_thread::sleep_for(std::chrono::milliseconds(2));
+    }
+    first.join();
+    second.join();
+  }
+  ASSERT_EQ(document.lineCount(), 2 * rounds * linesInBlock + 1);
+  for (int line = 0; line + 1 < document.lineCount(); ++line) {
+    const std::string begin = document.lines()[static_cast<std::size_t>(line - line % linesInBlock)].text();
+    EXPECT_EQ(document.lines()[static_cast<std::size_t>(line)].text(), begin) << "line " << line;
+  }
 }
 
 TEST_F(OutputReaderTest, ASegmentGoesOnWithTheNextBlock) {

@@ -29,7 +29,7 @@ bool succeeded(BOOL result) {
   return false;
 }
 
-bool move(const std::string& from, const std::string& to, DWORD flags) {
+bool moveAs(const std::string& from, const std::string& to, DWORD flags) {
   for (int i = 1;; ++i) {
     if (MoveFileExA(from.c_str(), to.c_str(), flags) != 0) return true;
     if (GetLastError() != ERROR_SHARING_VIOLATION || i == mostTries) return succeeded(FALSE);
@@ -83,11 +83,11 @@ std::vector<std::string> namesIn(const std::string& folder) {
 }
 
 bool moveToFreeName(const std::string& from, const std::string& to) {
-  return move(from, to, 0);
+  return moveAs(from, to, 0);
 }
 
 bool moveOver(const std::string& from, const std::string& to) {
-  return move(from, to, MOVEFILE_REPLACE_EXISTING);
+  return moveAs(from, to, MOVEFILE_REPLACE_EXISTING);
 }
 
 }  // namespace tarnwick::platform

@@ -88,7 +88,7 @@ def test_after_a_kill_the_next_compile_puts_the_users_file_back(scratch):
         file.write("class Circle { }\n")
     split_under_way(scratch)
     scratch.running[-1].kill()
-    scratch.running[-1].wait(20)
+    scratch.running[-1].wait(person.LIMIT)
     for tool in scratch.processes("javac"):
         with contextlib.suppress(ProcessLookupError):
             os.kill(tool, signal.SIGKILL)
@@ -115,27 +115,27 @@ def expect_that_the_tool_ends_and_the_next_start_clears(scratch, end):
     """What nobody could clean up is cleared by the next start, and what ran has ended by then."""
     split_under_way(scratch)
     end(scratch.running[-1])
-    wait_until("the end of the tool and all that it has started", lambda: not scratch.processes("javac"), 15)
-    wait_until("the end of its guards", lambda: not scratch.processes("tarnwick"), 5)
+    wait_until("the end of the tool and all that it has started", lambda: not scratch.processes("javac"))
+    wait_until("the end of its guards", lambda: not scratch.processes("tarnwick"))
     assert logs(scratch) == ["Tarnwick_LOG1.tmp"]
     program = scratch.start()
     Window("Tarnwick")
     assert not logs(scratch), logs(scratch)
     program.terminate()
-    assert program.wait(20) == 0
+    assert program.wait(person.LIMIT) == 0
 
 
 def test_killed_in_the_middle_of_a_run_it_takes_the_tool_along(scratch):
     def kill(program):
         program.kill()
-        assert program.wait(20) == -signal.SIGKILL
+        assert program.wait(person.LIMIT) == -signal.SIGKILL
     expect_that_the_tool_ends_and_the_next_start_clears(scratch, kill)
 
 
 def test_told_to_quit_in_the_middle_of_a_run_it_takes_the_tool_along(scratch):
     def quit_it(program):
         program.send_signal(signal.SIGQUIT)
-        assert program.wait(20) == -signal.SIGQUIT
+        assert program.wait(person.LIMIT) == -signal.SIGQUIT
     with started_with(signal.SIGQUIT, signal.SIG_DFL):
         expect_that_the_tool_ends_and_the_next_start_clears(scratch, quit_it)
 
@@ -146,7 +146,7 @@ def test_a_second_panel_leaves_the_log_of_the_first_alone(scratch):
     wait_until("the second panel", lambda: len([one for one in person.look() if one.name == "Tarnwick"]) == 2)
     assert logs(scratch) == ["Tarnwick_LOG1.tmp"]
     second.terminate()
-    assert second.wait(20) == 0
+    assert second.wait(person.LIMIT) == 0
     first.press("Exit")
 
 
@@ -169,14 +169,14 @@ def screen_of_its_own():
         os.environ["DISPLAY"] = before
         for process in (manager, server):
             process.kill()
-            process.wait(10)
+            process.wait(person.LIMIT)
 
 
 def end_of_the_screen(scratch, server):
     """The X server goes; the program ends as if it had been told to."""
     program = scratch.running[-1]
     server.terminate()
-    assert program.wait(30) == 0, program.returncode
+    assert program.wait(person.LIMIT) == 0, program.returncode
     assert not leftovers(scratch), leftovers(scratch)
 
 
@@ -185,7 +185,7 @@ def test_with_its_screen_in_the_middle_of_a_run_it_leaves_nothing(scratch):
         scratch.environment["DISPLAY"] = os.environ["DISPLAY"]
         split_under_way(scratch)
         end_of_the_screen(scratch, server)
-    wait_until("the end of the tool and all that it has started", lambda: not scratch.processes("javac"), 5)
+    wait_until("the end of the tool and all that it has started", lambda: not scratch.processes("javac"))
     assert os.listdir(scratch.work) == ["Shapes.java"], os.listdir(scratch.work)
     assert not scratch.editor_notes()
 

@@ -52,7 +52,7 @@ def start(scratch, jdk):
 def leave(program, panel):
     panel.activate()
     panel.press("Exit")
-    assert program.wait(20) == 0
+    assert program.wait(person.LIMIT) == 0
 
 
 def open_dialog(panel, base=None, archive=None, how="Create new archive"):
@@ -74,7 +74,7 @@ def run(scratch, panel, dialog, button):
     dialog.press(button)
     dialog.is_gone()
     wait_until("the start of the run", lambda: os.stat(scratch.configuration).st_mtime_ns != before)
-    wait_until("the end of the run", lambda: not scratch.processes("jar"), 60)
+    wait_until("the end of the run", lambda: not scratch.processes("jar"))
     panel.activate()
 
 

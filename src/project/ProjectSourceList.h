@@ -27,6 +27,7 @@ class ProjectSourceList : public StringableM {
   void add(const std::string& name);
   /// Takes all sources out. What lies outside the project's folder is still kept.
   void clear() { sources_.clear(); }
+  /// Exchanges the sources alone; what lies outside stays where it is.
   void swap(ProjectSourceList& other) { sources_.swap(other.sources_); }
   bool empty() const { return sources_.empty(); }
   std::size_t size() const { return sources_.size(); }

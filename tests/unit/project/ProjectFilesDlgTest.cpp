@@ -397,5 +397,21 @@ TEST_F(ProjectFilesDlgTest, HelpOpensTheGuideAtItsPlace) {
   EXPECT_EQ(anchors, Names{"#projectfiles"});
 }
 
+TEST_F(ProjectFilesDlgTest, NamesOutsideTheFolderStayInTheProjectWhateverIsChosen) {
+  for (const char* name : {"A.java", "B.java"}) makeSource(name);
+  desktop_.expectMessage(
+      "A project's sources lie in its folder. These names lead elsewhere and are not used,\n"
+      "but stay in the project file:\n\n../X.java");
+  ProjectContext& project = openWith("../X.java;A.java");
+  const int result = run(project, [](ScriptedWindow& window) {
+    expectLists(window, {"A.java"}, {"B.java"});
+    select(window, OTHER_FILES, {"B.java"});
+    window.press(ADD_FILES);
+    window.press(IDOK_CONTROL);
+  });
+  EXPECT_EQ(result, DIALOG_OK);
+  EXPECT_EQ(project.sources.toString(), "../X.java;A.java;B.java");
+}
+
 }  // namespace
 }  // namespace tarnwick::test

@@ -12,6 +12,7 @@ import tempfile
 import time
 
 import person
+import test_jar
 import world
 from person import Window, wait_until
 
@@ -120,6 +121,28 @@ def stop_clock(scratch, album, panel):
     album.take("clock-stopped", f"its console is closed by the close box; java processes: {len(scratch.processes('java'))}")
 
 
+def pack(scratch, album, panel):
+    panel.activate()
+    next(one for one in panel.controls() if one.role == "page tab" and one.label == "Utilities").click()
+    panel.press("jar")
+    dialog = Window("jar")
+    put(dialog, 500, 60)
+    archive = os.path.join(scratch.work, "greeter.jar")
+    dialog.press("Create new archive")
+    world.answer_file_dialog(archive, dialog)
+    dialog.write(scratch.work, test_jar.BASE)
+    dialog.write("*.class", test_jar.FILES)
+    dialog.write("Greeter", test_jar.MAIN_CLASS)
+    album.take("jar", "\"jar\": all classes go into a new archive, whose manifest names the main class")
+    dialog.press("Create archive")
+    dialog.is_gone()
+    wait_until("the archive", lambda: test_jar.is_archive(archive) and not scratch.processes("jar"), 60)
+    java = os.path.join(os.path.dirname(world.real_javac()), "java")
+    said = subprocess.run([java, "-jar", archive], input="Ada\nbye\n", check=True, timeout=60, text=True,
+                          env=scratch.environment, stdout=subprocess.PIPE, stderr=subprocess.DEVNULL).stdout
+    album.take("jar-started", f"the archive starts with java -jar, and says: {said.splitlines()[0]}")
+
+
 def walk(scratch, album):
     if not use_real_editor(scratch):
         print("Mousepad is not installed; the log opens in another editor, or in none.")
@@ -127,6 +150,7 @@ def walk(scratch, album):
     compiled = compile_samples(scratch, album, panel)
     talk(scratch, album, panel, compiled)
     stop_clock(scratch, album, panel)
+    pack(scratch, album, panel)
     panel.press("Exit")
     panel.is_gone()
 

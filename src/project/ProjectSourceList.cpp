@@ -72,7 +72,7 @@ void ProjectSourceList::tellOutside() const {
   std::string text =
       "A project's sources lie in its folder. These names lead elsewhere and are not used,\nbut stay in "
       "the project file:\n";
-  for (std::size_t i = 0; i < std::min(most, outside_.size()); ++i) text += '\n' + outside_[i].name;
+  for (std::size_t i = 0; i < std::min(most, outside_.size()); ++i) text += '\n' + trimLeft(outside_[i].name);
   if (outside_.size() > most) text += "\n...";
   desktop_.message(text);
 }

@@ -33,6 +33,30 @@ class States {
   static inline AtkStateSet* (*own)(AtkObject*) = nullptr;
 };
 
+AtkStateSet* (*statesOfTab)(AtkObject*) = nullptr;
+int (*indexOfTab)(AtkObject*) = nullptr;
+
+/// Taken out of its tab control, a tab has no parent.
+AtkStateSet* statesIfThere(AtkObject* tab) {
+  if (atk_object_get_parent(tab)) return statesOfTab(tab);
+  AtkStateSet* const gone = atk_state_set_new();
+  atk_state_set_add_state(gone, ATK_STATE_DEFUNCT);
+  return gone;
+}
+
+int indexIfThere(AtkObject* tab) {
+  return atk_object_get_parent(tab) ? indexOfTab(tab) : -1;
+}
+
+void answerForGoneTabs() {
+  AtkObjectClass& tabs = classOf(gtk_notebook_page_accessible_get_type());
+  if (tabs.ref_state_set == &statesIfThere) return;
+  statesOfTab = tabs.ref_state_set;
+  tabs.ref_state_set = &statesIfThere;
+  indexOfTab = tabs.get_index_in_parent;
+  tabs.get_index_in_parent = &indexIfThere;
+}
+
 int (*countInWindow)(AtkObject*) = nullptr;
 
 int countIfThere(AtkObject* window) {
@@ -49,6 +73,7 @@ void answerForGoneWindows() {
   States<gtk_button_accessible_get_type>::complete();
   States<gtk_toggle_button_accessible_get_type>::complete();
   States<gtk_expander_accessible_get_type>::complete();
+  answerForGoneTabs();
   AtkObjectClass& windows = classOf(gtk_window_accessible_get_type());
   if (windows.get_n_children == &countIfThere) return;
   countInWindow = windows.get_n_children;

@@ -23,7 +23,8 @@ class Complaints {
   const std::string& text() const { return text_; }
 
  private:
-  static void note(const gchar* domain, GLogLevelFlags, const gchar* message, gpointer self) {
+  static void note(const gchar* domain, GLogLevelFlags level, const gchar* message, gpointer self) {
+    if ((level & (G_LOG_LEVEL_ERROR | G_LOG_LEVEL_CRITICAL | G_LOG_LEVEL_WARNING)) == 0) return;
     static_cast<Complaints*>(self)->text_ += std::string(domain ? domain : "") + ": " + message + "\n";
   }
 

@@ -58,7 +58,7 @@ TEST_F(PanelEndTest, HoweverThePanelIsClosedAMovedWindowIsSaved) {
 
 TEST_F(PanelEndTest, AMovedWindowIsSavedIntoTheOpenProject) {
   for (const auto& end : ends()) {
-    saveEarlierRun();
+    saveEarlierRun([](Settings& earlier) { earlier.windowPosition.fromString("5;6"); });
     const std::string file = makeRunnable();
     desktop_.expectMainDialog([&](ScriptedWindow& main) {
       main.moveByHand({120, 88});

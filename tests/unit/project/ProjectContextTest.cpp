@@ -42,7 +42,7 @@ TEST_F(ProjectContextTest, ASourceThatAKilledSplitHasSetAsideIsThereAgain) {
   EXPECT_FALSE(platform::isFile(folder() + "B.java"));
 }
 
-TEST_F(ProjectContextTest, ANewOneIsEmptyAndItsFileToo) {
+TEST_F(ProjectContextTest, ANewOneIsEmptyAndItsFileIsLeftToItsSave) {
   writeFile(projectFile(), "PROJECT_HTMLFILE  old.html\nPROJECT_MULTIMAIN  ON\n");
   const ProjectContext project(settings(), projectFile(), true);
   EXPECT_EQ(project.mainClass, "");
@@ -51,7 +51,11 @@ TEST_F(ProjectContextTest, ANewOneIsEmptyAndItsFileToo) {
   EXPECT_FALSE(project.upToDate());
   EXPECT_TRUE(project.sources.empty());
   EXPECT_FALSE(project.file.isOpen());
-  EXPECT_EQ(contentOf(projectFile()), "") << "the caller saves it";
+  EXPECT_EQ(contentOf(projectFile()), "PROJECT_HTMLFILE  old.html\nPROJECT_MULTIMAIN  ON\n")
+      << "the caller saves it; until then nothing of the one before is lost";
+  platform::deleteFile(projectFile());
+  const ProjectContext fresh(settings(), projectFile(), true);
+  EXPECT_EQ(contentOf(projectFile()), "") << "the file is made at once";
 }
 
 TEST_F(ProjectContextTest, ThePathMayStandInQuotesWithBlanksAround) {

@@ -270,8 +270,11 @@ TEST_F(UpToDateTest, WhereTheClassesAre) {
   EXPECT_TRUE(found("class A { }", plain, "", withoutSeparator));
   EXPECT_TRUE(found("class A { }", plain, "", scratch_.path()));
   EXPECT_TRUE(found("class A { }", plain, ".", withoutSeparator));
-  EXPECT_TRUE(found("class A { }", plain, "..", withoutSeparator)) << "whatever begins with a dot";
-  EXPECT_TRUE(found("class A { }", plain, ".hidden", withoutSeparator));
+  for (const std::string& relative : {std::string("out put"), std::string(".") + slash + "out put"}) {
+    EXPECT_TRUE(found("class A { }", elsewhere + slash + "A.class", relative, withoutSeparator)) << relative;
+  }
+  EXPECT_FALSE(found("class A { }", plain, "..", withoutSeparator)) << "the folder above is another";
+  EXPECT_FALSE(found("class A { }", plain, ".hidden", withoutSeparator));
   EXPECT_TRUE(found("package p.q; class A { }", inPackage, "", withoutSeparator));
   EXPECT_TRUE(found("class A { }", elsewhere + slash + "A.class", elsewhere, withoutSeparator));
   EXPECT_TRUE(found("class A { }", elsewhere + slash + "A.class", '"' + elsewhere + '"', withoutSeparator))

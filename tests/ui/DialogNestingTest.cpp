@@ -26,7 +26,7 @@ TEST_F(DialogTest, AChildWindowHidesAndShows) {
   waitForDialog();
   steps.then("hide", [this] {
     bar.window->showWindow(false);
-    EXPECT_FALSE(top().children()[2]->surface().IsShown());
+    EXPECT_FALSE(top().children()[2]->surface().IsShownOnScreen());
     bar.window->showWindow(true);
     EXPECT_TRUE(top().children()[2]->surface().IsShownOnScreen());
   });

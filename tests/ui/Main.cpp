@@ -46,8 +46,9 @@ int standUntilDeleted(ui::WxDesktop& desktop, const std::string& file) {
   int left = 300;
   const int timer = desktop.startTimer(50, [&] {
     if (desktop.openDialogs().empty()) return;
-    const auto& window = *desktop.openDialogs().back();
-    const bool stands = window.position() == test::instancePlace;
+    auto& window = *desktop.openDialogs().back();
+    // Once it is active, the window manager counts it among its windows.
+    const bool stands = window.position() == test::instancePlace && window.dialog().IsActive();
     if (!stood && stands) test::writeFile(file, "");
     stood = stood || stands;
     if ((stood && !platform::isFile(file)) || --left == 0) rules.window->close(1);

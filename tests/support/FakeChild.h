@@ -45,6 +45,10 @@ class ChildScript {
   void starveReaders(bool on) {
     change([&] { starved_ = on; });
   }
+  /// From now on nothing more can be read from either stream, whatever lies there.
+  void breakReading() {
+    change([&] { readingBroken_ = true; });
+  }
   /// A read that could bring something finds no memory; the next one does.
   void takeMemoryAway() {
     change([&] { memoryGone_ = true; });
@@ -105,6 +109,7 @@ class ChildScript {
   bool inputStuck_ = false;
   bool starved_ = false;
   bool memoryGone_ = false;
+  bool readingBroken_ = false;
   std::uint64_t taken_[2] = {0, 0};
   bool writing_ = false;
   std::ptrdiff_t writeAnswer_ = -2;
@@ -123,13 +128,14 @@ class FakeChild : public platform::ChildProcess {
     const std::size_t which = stream == Stream::Output ? 0 : 1;
     std::unique_lock guard(s.lock_);
     s.changed_.wait(guard, [&] {
-      return (!s.starved_ || s.readingStopped_) && (!s.pipes_[which].empty() || s.closed_[which] || s.readingStopped_);
+      return (!s.starved_ || s.readingStopped_) &&
+             (!s.pipes_[which].empty() || s.closed_[which] || s.readingStopped_ || s.readingBroken_);
     });
     if (s.memoryGone_ && !s.pipes_[which].empty()) {
       s.memoryGone_ = false;
       throw std::bad_alloc();
     }
-    const std::size_t count = std::min(size, s.pipes_[which].size());
+    const std::size_t count = s.readingBroken_ ? 0 : std::min(size, s.pipes_[which].size());
     std::copy_n(s.pipes_[which].begin(), count, buffer);
     s.pipes_[which].erase(0, count);
     s.taken_[which] += count;

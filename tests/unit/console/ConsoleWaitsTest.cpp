@@ -183,6 +183,18 @@ TEST_F(ConsoleWaitsTest, ClosingEndsTheWaitForAReaderThatDoesNotGetOn) {
   EXPECT_EQ(child_->childState(), 1);
 }
 
+TEST_F(ConsoleWaitsTest, WhatCanNoLongerBeReadIsNotWaitedFor) {
+  child_->start();
+  say("x");
+  script_->starveReaders(true);
+  script_->out("unreadable");
+  script_->breakReading();
+  script_->end(false);
+  script_->starveReaders(false);
+  ASSERT_TRUE(test::waitUntil([this] { return tellsTheEnd(); }));
+  EXPECT_EQ(lines(), (Lines{"", "", "x", "", banner, ""}));
+}
+
 TEST_F(ConsoleWaitsTest, ALackOfMemoryInAReaderIsToldOnceAndTheProgramGoesOn) {
   child_->start();
   say("one ");

@@ -183,7 +183,7 @@ void ConsoleChild::read(platform::ChildProcess::Stream stream, OutputReader& rea
     }
     noteHandled(stream, count);
   }
-  endReader(reader);
+  endReader(stream, reader);
   wake();
 }
 
@@ -219,12 +219,12 @@ void ConsoleChild::reportLoss() {
   }
 }
 
-void ConsoleChild::endReader(OutputReader& reader) {
+void ConsoleChild::endReader(platform::ChildProcess::Stream stream, OutputReader& reader) {
   // Deliberate: the end of a stream begins no line. Whether somebody still holds the pipe makes no difference to the
   // text; only the child's own end is told.
   reader.end();
   const std::lock_guard guard(stateLock_);
-  ++endedOutputs_;
+  outputEnded_[indexOf(stream)] = true;
   stateChanged_.notify_all();
 }
 
@@ -234,7 +234,11 @@ bool ConsoleChild::awaitLastWords() {
   const std::uint64_t output = process_->arrived(platform::ChildProcess::Stream::Output);
   const std::uint64_t error = process_->arrived(platform::ChildProcess::Stream::Error);
   std::unique_lock guard(stateLock_);
-  stateChanged_.wait(guard, [&] { return stopping_ || (handled_[0] >= output && handled_[1] >= error); });
+  // What a reader could not get at any more never comes.
+  const auto handled = [this](int stream, std::uint64_t bytes) {
+    return outputEnded_[stream] || handled_[stream] >= bytes;
+  };
+  stateChanged_.wait(guard, [&] { return stopping_ || (handled(0, output) && handled(1, error)); });
   return !stopping_;
 }
 
@@ -288,7 +292,7 @@ void ConsoleChild::requestClose() {
 bool ConsoleChild::pause(std::chrono::milliseconds time) {
   if (program_.timing.onWait) program_.timing.onWait(time);
   std::unique_lock guard(stateLock_);
-  stateChanged_.wait_for(guard, time, [this] { return stopping_ || endedOutputs_ == 2; });
+  stateChanged_.wait_for(guard, time, [this] { return stopping_ || (outputEnded_[0] && outputEnded_[1]); });
   return !stopping_;
 }
 
@@ -299,7 +303,7 @@ bool ConsoleChild::stopping() {
 
 bool ConsoleChild::bothEnded() {
   const std::lock_guard guard(stateLock_);
-  return endedOutputs_ == 2;
+  return outputEnded_[0] && outputEnded_[1];
 }
 
 }  // namespace tarnwick

@@ -52,7 +52,7 @@ class ConsoleChild {
   void read(platform::ChildProcess::Stream stream, OutputReader& reader);
   void handle(OutputReader& reader, const char* block, std::size_t count);
   void noteHandled(platform::ChildProcess::Stream stream, std::size_t count);
-  void endReader(OutputReader& reader);
+  void endReader(platform::ChildProcess::Stream stream, OutputReader& reader);
   void wake();
   void reportLoss();
   /// These give false if the console closes meanwhile.
@@ -75,7 +75,7 @@ class ConsoleChild {
   std::mutex stateLock_;  ///< of `process_` while it is set, and of what follows
   std::condition_variable stateChanged_;
   bool stopping_ = false;
-  int endedOutputs_ = 0;
+  bool outputEnded_[2] = {false, false};
   std::uint64_t handled_[2] = {0, 0};  ///< bytes of either stream that are in the text
   std::unique_ptr<platform::ChildProcess> process_;
 

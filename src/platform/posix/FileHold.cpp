@@ -28,7 +28,7 @@ struct FileHold::Mark {
 
 FileHold::FileHold() = default;
 
-FileHold::FileHold(const std::string& path) : mark_(std::make_unique<Mark>(openToLook(path))) {
+FileHold::FileHold(const std::string& path) : mark_(new Mark{openToLook(path)}) {
   // Another instance that has taken the same file over holds it too.
   if (mark_->file.number() >= 0) ::flock(mark_->file.number(), LOCK_SH | LOCK_NB);
 }

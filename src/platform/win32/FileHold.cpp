@@ -14,9 +14,9 @@ struct FileHold::Mark {
 FileHold::FileHold() = default;
 
 FileHold::FileHold(const std::string& path)
-    : mark_(std::make_unique<Mark>(
+    : mark_(new Mark{
           Handle(CreateFileA(path.c_str(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
-                             nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr)))) {}
+                             nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr))}) {}
 
 FileHold::~FileHold() = default;
 FileHold::FileHold(FileHold&&) noexcept = default;

@@ -45,6 +45,10 @@ std::string spokenName(wxWindow& control);
 /// Lets Tab stop once at a combo box, not at its arrow as well.
 void makeOneTabStop(wxWindow& comboBox);
 
+/// To be called after the rules have checked something: that does not lead the focus there when the window gets it
+/// next.
+void keepFirstFocus(wxWindow& surface);
+
 /// Makes the frame of a group, which leaves alone what stands 4 pixels from its edges.
 wxStaticBox* makeFrame(wxWindow& parent, const wxString& title);
 

@@ -357,6 +357,7 @@ bool WxDialogWindow::checked(int control) const {
 void WxDialogWindow::setChecked(int control, bool on) {
   quiet_ = true;
   setCheckedOf(at(control), on);
+  keepFirstFocus(surface_);
   quiet_ = false;
 }
 

@@ -148,6 +148,8 @@ std::string spokenName(wxWindow& control) {
   return found;
 }
 
+void keepFirstFocus(wxWindow&) {}
+
 wxStaticBox* makeFrame(wxWindow& parent, const wxString& title) {
   return new wxStaticBox(&parent, wxID_ANY, title);
 }

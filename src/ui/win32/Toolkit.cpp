@@ -117,6 +117,11 @@ std::string spokenName(wxWindow& control) {
   return label ? fromWx(wxControl::RemoveMnemonics(label->GetLabel())) : std::string();
 }
 
+// The toolkit lets a page that gets the focus hand it to the radio button that was checked last.
+void keepFirstFocus(wxWindow& surface) {
+  if (!surface.IsDescendant(wxWindow::FindFocus())) surface.WXSetPendingFocus(nullptr);
+}
+
 wxStaticBox* makeFrame(wxWindow& parent, const wxString& title) {
   return new Frame(&parent, wxID_ANY, title);
 }

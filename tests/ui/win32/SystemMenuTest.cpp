@@ -1,4 +1,5 @@
 // The real system menu of the panel, which no double has.
+#include "app/AboutDlg.h"
 #include "app/TarnwickDlg.h"
 #include "ui/NativeLoop.h"
 #include "ui/ProgramWorld.h"
@@ -14,7 +15,10 @@ namespace {
 
 class SystemMenuTest : public WindowTest {
  protected:
-  SystemMenuTest() { world_.settings.saveDefaultConfiguration(nullptr); }
+  SystemMenuTest() {
+    world_.context.showAbout = [this] { AboutDlg(desktop(), world_.program).runModal(); };
+    world_.settings.saveDefaultConfiguration(nullptr);
+  }
 
   HWND panel() const { return static_cast<HWND>(desktop().openDialogs().front()->dialog().GetHandle()); }
 
@@ -41,7 +45,8 @@ class SystemMenuTest : public WindowTest {
 bool isMenuOpen() {
   GUITHREADINFO state{};
   state.cbSize = sizeof state;
-  return GetGUIThreadInfo(GetCurrentThreadId(), &state) && (state.flags & GUI_SYSTEMMENUMODE) != 0;
+  // Wine does not tell which kind of menu it is.
+  return GetGUIThreadInfo(GetCurrentThreadId(), &state) && (state.flags & (GUI_SYSTEMMENUMODE | GUI_INMENUMODE)) != 0;
 }
 
 }  // namespace

@@ -35,6 +35,8 @@ class WindowStack {
 
     /// Ends this one at once if it is the innermost, else as soon as it has become that.
     void wishEnd();
+    /// False while something above it is open or at work.
+    bool isInnermost() const { return stack_.places_.back() == this; }
 
    private:
     friend class WindowStack;

@@ -107,6 +107,8 @@ void WxTopWindow::end() {
 }
 
 void WxTopWindow::onKey(wxKeyEvent& event) {
+  // On Windows this hears a key before the loop that lets none through while a tool runs.
+  if (place_ && !place_->isInnermost()) return;
   wxWindow* const focus = wxWindow::FindFocus();
   const bool listIsOpen = focus && isListOpen(*focus);
   if (event.GetKeyCode() == WXK_ESCAPE && event.GetModifiers() == wxMOD_NONE && !listIsOpen) {

@@ -51,6 +51,7 @@ class OtherProgram {
 class ActivationTest : public WindowTest {
  protected:
   ActivationTest() {
+    FreeConsole();  // with one of our own, as a program of the command line may have, the tool would get no other
     writeFile(scratch_.file("script"), "await go " + signal());
     rules.onPress[IDOK_CONTROL] = [this] {
       for (int run = 0; run < runs; ++run) runTool();

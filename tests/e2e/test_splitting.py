@@ -115,7 +115,7 @@ def test_a_mistake_in_one_of_the_types_is_told_and_leaves_no_pieces(scratch):
     press_javac(scratch, source)
     Window(WARNING).press("Compile")
     (_, log), = wait_until("the log in the editor", scratch.editor_notes)
-    assert "javac -d . -g -classpath . Shape.java Circle.java Rectangle.java Gallery.java" in log, log
+    assert "-d . -g -classpath . Shape.java Circle.java Rectangle.java Gallery.java\n" in log, log
     assert "Rectangle.java:" in log and "error: cannot find symbol" in log, log
     assert [name for name in folder(scratch) if name.endswith(".java")] == ["Shapes.java"]
 

@@ -192,10 +192,13 @@ void PieceFolder::removePiece(const std::string& name) const {
 void PieceFolder::giveBack(const std::string& name) const {
   const std::string target = place_ + name;
   if (platform::moveToFreeName(inner(kept, name), target) || errno != EEXIST) return;
-  if (isPiece(target, inner(over, name)))
-    platform::moveOver(inner(kept, name), target);
-  else
-    moveToOtherName(inner(kept, name), target);
+  if (isPiece(target, inner(over, name))) {
+    // Moved over the piece, the file would take over its spelling where case makes no other name. A piece that a
+    // program holds is left to the next compile.
+    if (!platform::deleteFile(target)) return;
+    if (platform::moveToFreeName(inner(kept, name), target) || errno != EEXIST) return;
+  }
+  moveToOtherName(inner(kept, name), target);
 }
 
 void PieceFolder::removeFolder() {

@@ -115,13 +115,21 @@ class World(world.World):
         panel.press("java")
         return Window(name)
 
+    def opened_save_dialog(self, console):
+        """The dialog behind the menu's first entry. Nothing if the keys went to a window that came in between."""
+        console.activate()
+        person.key("alt+f", "Return")
+        try:
+            return wait_until("the file dialog", lambda: next(
+                (one for one in person.look() if one.process == console.process and one.name not in ("", console.title)),
+                None), 20)
+        except person.NotSeen:
+            return None
+
     def saved_display(self, console, name="display.txt"):
         """What the console shows, by way of its menu."""
         path = os.path.join(self.work, name)
-        console.activate()
-        person.key("alt+f", "Return")
-        dialog = wait_until("the file dialog", lambda: next(
-            (one for one in person.look() if one.process == console.process and one.name not in ("", console.title)), None))
+        dialog = wait_until("the file dialog", lambda: self.opened_save_dialog(console))
         Window(dialog.name).write(windows_path(path))
         person.key("Return")
         wait_until("the saved display", lambda: os.path.exists(path) and os.path.getsize(path) > 0)

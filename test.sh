@@ -125,7 +125,7 @@ testWindowsTarget() {
   underWine "$preset-unit" 1500 "$loader" "$root/build/$preset/tests/tarnwick_unit_tests.exe"
   underWine "$preset-windows" 1200 "$loader" "$root/build/$preset/tests/tarnwick_window_tests.exe"
   # The 64-bit program is the one that is driven from outside.
-  [ "$target" = x86_64 ] && underWine "$preset-end-to-end" 600 /usr/bin/python3 "$root/tests/e2e/run.py" "$root"
+  [ "$target" = x86_64 ] && underWine "$preset-end-to-end" 1500 /usr/bin/python3 "$root/tests/e2e/run.py" "$root"
 }
 
 underWine() {

@@ -14,6 +14,13 @@ int charactersIn(const std::string& text) {
   return MultiByteToWideChar(CP_ACP, 0, text.data(), static_cast<int>(text.size()), nullptr, 0);
 }
 
+/// The whole path of a file; of one that is too long the system may make none.
+std::string wholePath(const std::string& path) {
+  const std::string whole = absolutePath(path);
+  const bool isWhole = whole != path || path.starts_with('\\') || path.find(':') == 1;
+  return isWhole ? whole : currentDirectory() + '\\' + path;
+}
+
 }  // namespace
 
 std::string whyNoFile(const std::string& path) {
@@ -23,7 +30,7 @@ std::string whyNoFile(const std::string& path) {
            "gives "
            "to this program.";
   }
-  if (charactersIn(absolutePath(path)) <= longestPath) return "";
+  if (charactersIn(wholePath(path)) <= longestPath) return "";
   return "Windows takes no path of more than " + std::to_string(longestPath) + " characters from this program.";
 }
 

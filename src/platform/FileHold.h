@@ -23,8 +23,8 @@ class FileHold {
   std::unique_ptr<Mark> mark_;
 };
 
-/// Deletes a plain file of this user's, under no second name, that no living process holds; leaves any other alone, and
-/// all of them where the file system knows no such marks.
+/// Deletes a file that no living process holds; leaves all of them where the file system knows no such marks. On Linux
+/// only a plain file of this user's, under no second name.
 void deleteUnheld(const std::string& path);
 
 }  // namespace tarnwick::platform

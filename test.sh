@@ -4,8 +4,10 @@
 #   ./test.sh windows    cross-builds for 64-bit and 32-bit Windows; the 64-bit tests run under Wine
 #   ./test.sh sanitize   unit tests under the address, undefined-behaviour and thread sanitizers
 #   ./test.sh fuzz       the fuzz targets: the saved inputs, then 30 seconds of new ones for each (./fuzz.sh does more)
+#   ./test.sh package    the packages: made and checked; Debian's installed, used and purged in a system of its own, the
+#                        one for Windows under Wine
 #   ./test.sh lint       clang-format over all files, clang-tidy over what the last thirty commits touched
-#   ./test.sh ci         clang-format, Linux, Windows and the fuzz targets
+#   ./test.sh ci         clang-format, Linux, Windows, the fuzz targets; the packages are made, not installed
 # The last line sums up: "N passed, N failed, N skipped". Logs are in build/test-logs/.
 set -uo pipefail
 . "$(dirname "${BASH_SOURCE[0]}")/scripts/common.sh"
@@ -69,69 +71,100 @@ runTests() {
   judge "$1"
 }
 
-# inShards NAME SECONDS COMMAND...: as many processes at once as there are cores, each with its share of the tests.
-inShards() {
-  local name=$1 index
-  local -a children=()
-  for ((index = 0; index < cores; index++)); do
-    GTEST_TOTAL_SHARDS=$cores GTEST_SHARD_INDEX=$index start "$name-$((index + 1))" "${@:2}" &
-    children+=($!)
+# launch COUNT NAME SECONDS COMMAND...: so many processes at once, each with its share of the tests: by its number, or
+# with the next one that no other has taken.
+declare -A children=()
+launch() {
+  local count=$1 name=$2 index
+  rm -rf "$logs/$name.taken"
+  mkdir -p "$logs/$name.taken"
+  for ((index = 0; index < count; index++)); do
+    GTEST_TOTAL_SHARDS=$count GTEST_SHARD_INDEX=$index TARNWICK_TESTS_TAKEN=$logs/$name.taken start "$name-$((index + 1))" "${@:3}" &
+    children[$name]+=" $!"
   done
-  wait "${children[@]}"
-  for ((index = 0; index < cores; index++)); do judge "$name-$((index + 1))"; done
 }
+
+# collect NAME: waits for what was launched, and adds it to the sums.
+collect() {
+  local name=$1 index=0 child
+  for child in ${children[$name]:-}; do
+    wait "$child"
+    judge "$name-$((++index))"
+  done
+}
+
+inShards() { launch "$@"; collect "$2"; }
 
 installPackages() { "$root/scripts/packages.sh" "$@" || { fail "the packages could not be installed"; return 1; }; }
 buildFor() { build "$@" || { fail "the build $1 failed"; return 1; }; }
 
-testLinux() {
+# Ends without the end-to-end tests, which are launched where they can be.
+testLinuxPrograms() {
   installPackages test || return
-  buildFor linux Tarnwick tarnwick_unit_tests tarnwick_window_tests -- TARNWICK_TESTS=ON || return
-  inShards linux-unit 300 "$root/build/linux/tests/tarnwick_unit_tests"
-  runTests linux-windows 900 "$root/scripts/with-display.sh" "$root/build/linux/tests/tarnwick_window_tests"
-  # Each test has limits of its own; this is for a machine with ten times too much to do.
-  runTests linux-end-to-end 9000 "$root/scripts/with-display.sh" /usr/bin/python3 "$root/tests/e2e/run.py" "$root"
+  buildFor linux Tarnwick tarnwick_unit_tests tarnwick_window_tests -- TARNWICK_TESTS=ON TARNWICK_TEST_FLOORS= || return
+  inShards "$cores" linux-unit 300 "$root/build/linux/tests/tarnwick_unit_tests"
+  inShards "$cores" linux-windows 900 "$root/scripts/with-display.sh" "$root/build/linux/tests/tarnwick_window_tests"
+  # Each test has limits of its own; this is for a machine with ten times too much to do. They wait more than they work.
+  launch $((cores + 1)) linux-end-to-end 9000 "$root/scripts/with-display.sh" /usr/bin/python3 "$root/tests/e2e/run.py" "$root"
 }
 
-testWindows() {
+testLinux() { testLinuxPrograms; collect linux-end-to-end; }
+
+testWindows() { buildForWindows; testUnderWine; }
+
+buildForWindows() {
   installPackages windows || return
   local target
-  rm -rf "$root/build/wine"
-  for target in x86_64 i686; do testWindowsTarget $target; done
+  for target in x86_64 i686; do buildWindowsTarget $target; done
 }
 
-# The 32-bit tests run where somebody has installed a 32-bit Wine; Debian's is of a foreign architecture.
-testWindowsTarget() {
-  local target=$1 preset=windows-$1 folder loader='' targets=(Tarnwick)
+# loaderOf TARGET: Wine's, for that target's programs; nothing where this machine has none.
+loaderOf() {
+  case $1 in
+    x86_64) PATH=/usr/lib/wine:$PATH command -v wine64 ;;
+    i686) PATH=/usr/lib/wine:$PATH command -v wine32 || ls /usr/lib/i386-linux-gnu/wine/wine 2>/dev/null ;;
+  esac
+}
+
+declare -A builtForWindows=()
+buildWindowsTarget() {
+  local target=$1 preset=windows-$1 folder targets=(Tarnwick)
   say "Toolkit for Windows, $target ..."
   if ! folder=$(timeout 1500 "$root/scripts/windows-toolkit.sh" "$target" 2>"$logs/toolkit-$target.log"); then
     tail -n 60 "$logs/toolkit-$target.log" >&2
     fail "the toolkit for Windows, $target, could not be built"
     return
   fi
-  case $target in
-    x86_64) loader=$(PATH=/usr/lib/wine:$PATH command -v wine64) ;;
-    i686) loader=$(PATH=/usr/lib/wine:$PATH command -v wine32 || ls /usr/lib/i386-linux-gnu/wine/wine 2>/dev/null) ;;
-  esac
-  [ -n "$loader" ] && targets+=(tarnwick_unit_tests tarnwick_window_tests look)
+  [ -n "$(loaderOf "$target")" ] && targets+=(tarnwick_unit_tests tarnwick_window_tests look)
   export "TARNWICK_TOOLKIT_${target^^}=$folder"
-  buildFor "$preset" "${targets[@]}" -- "TARNWICK_TOOLKIT=$folder" || return
+  buildFor "$preset" "${targets[@]}" -- "TARNWICK_TOOLKIT=$folder" TARNWICK_TEST_FLOORS= || return
+  builtForWindows[$target]=yes
   runTests "$preset-program" 60 "$root/scripts/check-windows-program.sh" "$target" "$root/build/$preset/Tarnwick.exe"
-  if [ -z "$loader" ]; then
-    say "skipped: the tests of the $target build, since this machine has no Wine for it"
-    skipped=$((skipped + 1))
-    return
-  fi
-  underWine "$preset-unit" 1500 "$loader" "$root/build/$preset/tests/tarnwick_unit_tests.exe"
-  underWine "$preset-windows" 1200 "$loader" "$root/build/$preset/tests/tarnwick_window_tests.exe"
-  # The 64-bit program is the one that is driven from outside.
-  [ "$target" = x86_64 ] && underWine "$preset-end-to-end" 1500 /usr/bin/python3 "$root/tests/e2e/run.py" "$root"
+}
+
+# The 32-bit tests run where somebody has installed a 32-bit Wine; Debian's is of a foreign architecture.
+testUnderWine() {
+  local target preset loader
+  rm -rf "$root"/build/wine*
+  for target in x86_64 i686; do
+    [ -n "${builtForWindows[$target]:-}" ] || continue
+    preset=windows-$target loader=$(loaderOf "$target")
+    if [ -z "$loader" ]; then
+      say "skipped: the tests of the $target build, since this machine has no Wine for it"
+      skipped=$((skipped + 1))
+      continue
+    fi
+    underWine "$preset-unit" 1500 "$loader" "$root/build/$preset/tests/tarnwick_unit_tests.exe"
+    underWine "$preset-windows" 1200 "$loader" "$root/build/$preset/tests/tarnwick_window_tests.exe"
+    # The 64-bit program is the one that is driven from outside.
+    [ "$target" = x86_64 ] && underWine "$preset-end-to-end" 1500 /usr/bin/python3 "$root/tests/e2e/run.py" "$root"
+  done
 }
 
 underWine() {
   local name=$1 limit=$2
   shift 2
-  runTests "$name" "$limit" "$root/scripts/with-display.sh" "$root/scripts/with-wine.sh" "$root/build/wine" "$@"
+  inShards "$cores" "$name" "$limit" "$root/scripts/with-display.sh" "$root/scripts/with-wine.sh" "$root/build/wine" "$@"
 }
 
 testSanitized() {
@@ -139,11 +172,11 @@ testSanitized() {
   export ASAN_OPTIONS=detect_stack_use_after_return=1:strict_string_checks=1
   export UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1
   export TSAN_OPTIONS=halt_on_error=1:second_deadlock_stack=1
-  if buildFor linux-asan tarnwick_unit_tests; then
-    inShards linux-asan-unit 900 "$root/build/linux-asan/tests/tarnwick_unit_tests"
+  if buildFor linux-asan tarnwick_unit_tests -- TARNWICK_TEST_FLOORS=; then
+    inShards "$cores" linux-asan-unit 900 "$root/build/linux-asan/tests/tarnwick_unit_tests"
   fi
   if buildFor linux-tsan tarnwick_unit_tests -- "TARNWICK_TEST_FLOORS=process;console"; then
-    inShards linux-tsan-unit 900 "$root/build/linux-tsan/tests/tarnwick_unit_tests"
+    inShards "$cores" linux-tsan-unit 900 "$root/build/linux-tsan/tests/tarnwick_unit_tests"
   fi
 }
 
@@ -153,6 +186,38 @@ testFuzz() {
   start fuzz 1800 "$root/fuzz.sh"
   cat "$logs/fuzz.log" >&2
   judge fuzz
+}
+
+# testPackage STEP...: a step that can't be done here ends with the line "skipped: " and the reason.
+testPackage() {
+  local step last
+  for step in "$@"; do
+    if timeout --kill-after=60 1500 "$root/package.sh" "$step" >"$logs/package-$step.log" 2>&1; then
+      last=$(tail -n 1 "$logs/package-$step.log")
+      say "package $step: $last"
+      case $last in
+        "skipped: "*) skipped=$((skipped + 1)) ;;
+        *) passed=$((passed + 1)) ;;
+      esac
+    else
+      tail -n 60 "$logs/package-$step.log" >&2
+      fail "package $step"
+      return
+    fi
+  done
+}
+
+# Nothing is installed while tests look at the desktop. While the end-to-end tests wait, the builds for Windows and the
+# packages work; the tests under Wine come when they have ended: on a busy machine Wine's consoles may hang for good.
+testAll() {
+  installPackages lint test windows fuzz deb installer || return
+  testForm --format
+  testLinuxPrograms
+  buildForWindows
+  testPackage deb windows
+  collect linux-end-to-end
+  testUnderWine
+  testFuzz
 }
 
 # testForm WHAT: as scripts/lint.sh takes it.
@@ -167,15 +232,17 @@ testForm() {
 }
 
 mkdir -p "$logs"
+rm -rf "$root/build/e2e" "$root/build/e2e-windows"
 SECONDS=0
 case ${1:-} in
   '') testLinux ;;
   windows) testWindows ;;
   sanitize) testSanitized ;;
   fuzz) testFuzz ;;
+  package) testPackage deb check-deb windows check-windows ;;
   lint) testForm --recent ;;
-  ci) testForm --format; testLinux; testWindows; testFuzz ;;
-  *) say "usage: test.sh [windows|sanitize|fuzz|lint|ci]"; exit 2 ;;
+  ci) testAll ;;
+  *) say "usage: test.sh [windows|sanitize|fuzz|package|lint|ci]"; exit 2 ;;
 esac
 say "$((SECONDS / 60)) min $((SECONDS % 60)) s"
 echo "$passed passed, $failed failed, $skipped skipped"

@@ -1,4 +1,4 @@
-# How a floor is built: one static library for each folder under src/.
+# How the floors are built: one static library for each folder under src/, by the table src/floors.txt.
 
 # What all of our own code is compiled with.
 add_library(tarnwick_own INTERFACE)
@@ -13,7 +13,10 @@ target_link_libraries(tarnwick_own INTERFACE Threads::Threads)
 if(WIN32)
   # The old 8-bit interfaces throughout: texts inside are in the process's own character set.
   target_compile_definitions(tarnwick_own INTERFACE WIN32_LEAN_AND_MEAN NOMINMAX _WIN32_WINNT=0x0601)
-  target_link_options(tarnwick_own INTERFACE -static)
+  # The same sources give the same bytes, wherever they lie; and an overrun of the stack is noticed.
+  target_compile_options(tarnwick_own INTERFACE
+    "$<$<COMPILE_LANGUAGE:CXX>:-fstack-protector-strong;-ffile-prefix-map=${CMAKE_SOURCE_DIR}=.>")
+  target_link_options(tarnwick_own INTERFACE -static -fstack-protector-strong -Wl,--no-insert-timestamp)
 endif()
 if(TARNWICK_SANITIZE)
   target_compile_options(tarnwick_own INTERFACE -fsanitize=${TARNWICK_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all)
@@ -33,6 +36,24 @@ function(tarnwick_floor name)
   set_target_properties(tarnwick_${name} PROPERTIES LINKER_LANGUAGE CXX)
   list(TRANSFORM ARGN PREPEND tarnwick_)
   target_link_libraries(tarnwick_${name} PRIVATE tarnwick_own PUBLIC ${ARGN})
+endfunction()
+
+# tarnwick_floors([WITHOUT...]): all floors of the table but these. A floor links only what stands below it, so that the
+# linker, too, finds an arrow that goes up. Their names are in tarnwick_floors, the lowest first.
+function(tarnwick_floors)
+  set(table "${CMAKE_SOURCE_DIR}/src/floors.txt")
+  set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS "${table}")
+  file(STRINGS "${table}" lines REGEX "^[0-9]")
+  foreach(line ${lines})
+    string(REPLACE " " ";" words "${line}")
+    list(SUBLIST words 1 -1 floor_and_links)
+    list(GET words 1 name)
+    if(NOT name IN_LIST ARGN)
+      tarnwick_floor(${floor_and_links})
+      list(APPEND names ${name})
+    endif()
+  endforeach()
+  set(tarnwick_floors ${names} PARENT_SCOPE)
 endfunction()
 
 # What the operating system's own libraries give to the platform floor.

@@ -9,6 +9,8 @@ if(WIN32)
   endif()
   target_include_directories(tarnwick_toolkit SYSTEM INTERFACE "${TARNWICK_TOOLKIT}/include")
   target_compile_definitions(tarnwick_toolkit INTERFACE __WXMSW__ _UNICODE UNICODE)
+  # Its headers name themselves where they assert.
+  target_compile_options(tarnwick_toolkit INTERFACE "$<$<COMPILE_LANGUAGE:CXX>:-ffile-prefix-map=${TARNWICK_TOOLKIT}=wx>")
   # uuid and oleacc both hold IID_IAccessible. Written as a flag, uuid keeps its place before the other, whose copy then
   # stays out.
   target_link_libraries(tarnwick_toolkit INTERFACE

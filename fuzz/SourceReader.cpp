@@ -4,6 +4,7 @@
 
 #include "MemoryFile.h"
 #include "Property.h"
+#include "base/Tarnwickfile.h"
 #include "base/Text.h"
 #include "source/Tokens.h"
 #include "support/source/PlainSourceReader.h"

@@ -84,7 +84,7 @@ Result split(const std::string& source, bool answer) {
   result.before = folder().contents();
   {
     auto file = Tarnwickfile::unopened(folder().file("X.java"), FileMode::Read);
-    SourceSplitter splitter(file, [&] {
+    SourceSplitter splitter(file.name(), [&] {
       ++result.questions;
       return answer;
     });

@@ -5,6 +5,10 @@
 #include "MemoryFile.h"
 #include "Property.h"
 #include "TextMode.h"
+#include "base/TagRow.h"
+#include "base/Tarnwickfile.h"
+#include "settings/Settings.h"
+#include "settings/SettingsResources.h"
 #include "settings/SettingsValues.h"
 
 #include <algorithm>
@@ -27,7 +31,7 @@ class Configuration {
   TagTable& table() { return table_; }
 
  private:
-  DialogWindow* noWindow_ = nullptr;
+  PlacedWindow* noWindow_ = nullptr;
   SettingsValues values_{noWindow_};
   TagTable table_{values_.tagRows.data(), version,
                   [](const std::string&) { require(false, "the settings' own table has no bad row"); }};
@@ -75,11 +79,11 @@ int applyNumber(int& variable, std::string_view value) {
   return value.empty() ? 0 : READ_BAD_VALUE;
 }
 
-int applySwitch(int& variable, const std::string& value) {
+int applySwitch(bool& variable, const std::string& value) {
   if (value.empty()) return READ_NO_VALUE;
   const std::string word = upper(value.substr(0, value.find_first_of(whiteSpace)));
-  if (word == "ON") variable = 1;
-  if (word == "OFF") variable = 0;
+  if (word == "ON") variable = true;
+  if (word == "OFF") variable = false;
   return word == "ON" || word == "OFF" ? 0 : READ_BAD_VALUE;
 }
 
@@ -90,22 +94,23 @@ int applyLine(const std::vector<TagRow>& rows, const std::string& line) {
   const std::string value = withoutLeadingWhite(std::string_view(text).substr(tagEnd));
   if (tag == "REM") return 0;
   for (const TagRow& row : rows) {
-    if (row.kind == TAG_END || tag != row.tag) continue;
-    if (row.kind == TAG_INT) return applyNumber(*static_cast<int*>(row.variable), value);
-    if (row.kind == TAG_BOOL) return applySwitch(*static_cast<int*>(row.variable), value);
-    if (row.kind == TAG_STRING)
-      *static_cast<std::string*>(row.variable) = value;
+    if (row.isEnd() || tag != row.tag) continue;
+    if (row.kind() == TAG_INT) return applyNumber(*std::get<int*>(row.variable), value);
+    if (row.kind() == TAG_BOOL) return applySwitch(*std::get<bool*>(row.variable), value);
+    if (row.kind() == TAG_STRING)
+      *std::get<std::string*>(row.variable) = value;
     else
-      apply(*static_cast<StringableM*>(row.variable), value);
+      apply(*std::get<StringableM*>(row.variable), value);
     return 0;
   }
   return READ_UNKNOWN_TAG;
 }
 
 std::string valueOf(const TagRow& row) {
-  if (row.kind == TAG_STRING) return *static_cast<std::string*>(row.variable);
-  if (row.kind == TAG_STRINGABLE) return static_cast<StringableM*>(row.variable)->toString();
-  return std::to_string(*static_cast<int*>(row.variable));
+  if (row.kind() == TAG_STRING) return *std::get<std::string*>(row.variable);
+  if (row.kind() == TAG_STRINGABLE) return std::get<StringableM*>(row.variable)->toString();
+  if (row.kind() == TAG_BOOL) return *std::get<bool*>(row.variable) ? "1" : "0";
+  return std::to_string(*std::get<int*>(row.variable));
 }
 
 void requireSameValues(const Configuration& found, const Configuration& expected, const char* rule) {
@@ -133,10 +138,12 @@ void readAsThePlainWaySays(Configuration& settings, const std::string& bytes) {
 std::string expectedFile(const Configuration& settings) {
   std::string text = "REM  This configuration file was written by " + version + "\nREM\n";
   for (const TagRow& row : settings.rows()) {
-    if (row.kind == TAG_END) break;
+    if (row.isEnd()) break;
     std::string value = valueOf(row);
-    if (row.kind == TAG_BOOL) value = value == "0" ? "OFF" : "ON";
-    text += row.tag + std::string(row.kind == TAG_STRING && value.empty() ? " " : "  ") + value + '\n';
+    if (row.kind() == TAG_BOOL) value = value == "0" ? "OFF" : "ON";
+    // What came later stands there only where it is used: switches are off by default, texts are empty.
+    if (row.isLater && value == (row.kind() == TAG_BOOL ? "OFF" : "")) continue;
+    text += row.tag + std::string(row.kind() == TAG_STRING && value.empty() ? " " : "  ") + value + '\n';
   }
   return text;
 }
@@ -162,7 +169,7 @@ void writeAndReadBack(Configuration& settings) {
   for (std::size_t i = 0; i + 1 < settings.rows().size(); ++i) {
     const TagRow& row = settings.rows()[i];
     const std::string before = valueOf(row);
-    const bool exact = row.kind != TAG_STRINGABLE && (before.empty() || before.back() != '\r');
+    const bool exact = row.kind() != TAG_STRINGABLE && (before.empty() || before.back() != '\r');
     if (exact) requireSame(valueOf(again.rows()[i]), before, "texts, numbers and switches survive");
   }
 }
@@ -172,11 +179,10 @@ void meetABadRow(const std::string& bytes) {
   if (bytes.find('\0') != std::string::npos) return;
   std::string text;
   int number = 0;
-  int unknown = 0;
-  const std::vector<TagRow> rows = {{"A", TAG_STRING, &text, nullptr, 0, 0, 0, 0},
-                                    {"B", TAG_INT, &number, nullptr, 0, 0, 0, 0},
-                                    {"BAD", 77, &unknown, nullptr, 0, 0, 0, 0},
-                                    {"", TAG_END, nullptr, nullptr, 0, 0, 0, 0}};
+  const std::vector<TagRow> rows = {{"A", &text, nullptr, 0, 0, 0, 0},
+                                    {"B", &number, nullptr, 0, 0, 0, 0},
+                                    {"BAD", std::monostate(), nullptr, 0, 0, 0, 0},
+                                    endOfRows};
   std::string told;
   TagTable table(rows.data(), version, [&told](const std::string& message) { told += message; });
   const MemoryFile content(bytes);

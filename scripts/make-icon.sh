@@ -1,8 +1,14 @@
 #!/usr/bin/env bash
-# Writes src/ui/win32/Tarnwick.ico from the picture that src/ui/IconPixels.cpp paints. Needed after a change of it.
+# Makes an icon file for Windows of a drawing: all sizes that its scalings ask for. The same drawing gives the same bytes.
+# usage: scripts/make-icon.sh DRAWING.svg ICON.ico
 set -euo pipefail
-root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
+drawing=$1 icon=$2
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
-g++ -std=c++20 -O2 -I"$root/src" "$root/scripts/IconFile.cpp" "$root/src/ui/IconPixels.cpp" -o "$work/icon-file"
-"$work/icon-file" >"$root/src/ui/win32/Tarnwick.ico"
+pictures=()
+for side in 16 20 24 32 40 48 64 256; do
+  rsvg-convert -w $side -h $side -o "$work/$side.png" "$drawing"
+  pictures+=("$work/$side.png")
+done
+convert "${pictures[@]}" -strip -define png:exclude-chunks=date,time "$work/icon.ico"
+mv "$work/icon.ico" "$icon"

@@ -13,10 +13,12 @@ options=(
   -DCMAKE_BUILD_TYPE=Release -DwxBUILD_SHARED=OFF -DwxBUILD_PRECOMP=ON
   -DwxUSE_XML=OFF -DwxUSE_XRC=OFF -DwxUSE_EXPAT=OFF -DwxUSE_LIBPNG=OFF -DwxUSE_LIBJPEG=OFF -DwxUSE_LIBTIFF=OFF
   -DwxUSE_ZLIB=OFF -DwxUSE_REGEX=OFF -DwxUSE_WEBVIEW=OFF -DwxUSE_STC=OFF -DwxUSE_OPENGL=OFF
-  -DwxUSE_MEDIACTRL=OFF -DwxUSE_SVG=OFF -DwxUSE_NANOSVG=OFF -DwxUSE_ARTPROVIDER_TANGO=OFF
+  -DwxUSE_MEDIACTRL=OFF -DwxUSE_SVG=OFF -DwxUSE_NANOSVG=builtin -DwxUSE_ARTPROVIDER_TANGO=OFF
 )
+# No path of this machine gets into a program: asserts name their files from here on.
+flags=(-fstack-protector-strong -ffile-prefix-map=SOURCES=wx)
 compiler=$("$target-w64-mingw32-g++-posix" -dumpfullversion)
-key=$(printf '%s\n' "$version" "$target" "$compiler" "${options[@]}" | sha256sum | cut -c1-12)
+key=$(printf '%s\n' "$version" "$target" "$compiler" "${options[@]}" "${flags[@]}" | sha256sum | cut -c1-12)
 place=$cache/wx-$version-$target-$key
 if [ -f "$place/complete" ]; then
   echo "$place"
@@ -53,8 +55,11 @@ work=$(mktemp -d "$cache/build-XXXXXX")
 trap 'rm -rf "$work"' EXIT
 mkdir "$work/source"
 tar -xf "$tarball" -C "$work/source" --strip-components=1
+# Where the time of building is asked for, it is one that every build tells.
+export SOURCE_DATE_EPOCH=946684800
+flags=("${flags[@]/SOURCES/$work}")
 cmake -S "$work/source" -B "$work/build" -G Ninja "${options[@]}" \
-  -DCMAKE_SYSTEM_NAME=Windows -DCMAKE_INSTALL_PREFIX="$place.new" \
+  -DCMAKE_C_FLAGS="${flags[*]}" -DCMAKE_CXX_FLAGS="${flags[*]}" -DCMAKE_SYSTEM_NAME=Windows -DCMAKE_INSTALL_PREFIX="$place.new" \
   -DCMAKE_C_COMPILER="$target-w64-mingw32-gcc-posix" -DCMAKE_CXX_COMPILER="$target-w64-mingw32-g++-posix" \
   -DCMAKE_C_COMPILER_LAUNCHER=ccache -DCMAKE_CXX_COMPILER_LAUNCHER=ccache \
   -DCMAKE_RC_COMPILER="$target-w64-mingw32-windres" >&2

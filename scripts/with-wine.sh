@@ -3,7 +3,8 @@
 # usage: scripts/with-wine.sh FOLDER COMMAND [ARGUMENT...]     $WINE is the loader to start programs with
 set -euo pipefail
 [ $# -gt 1 ] || { echo "usage: with-wine.sh FOLDER COMMAND..." >&2; exit 2; }
-folder=$1
+# Processes that share the tests have a prefix each.
+folder=$1${GTEST_SHARD_INDEX:+-$GTEST_SHARD_INDEX}
 shift
 
 WINE=$(PATH=/usr/lib/wine:$PATH command -v wine64) || { echo "with-wine.sh: no wine64 here" >&2; exit 1; }

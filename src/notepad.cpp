@@ -3,5 +3,5 @@
 
 int main(int argc, char** argv) {
   tarnwick::platform::prepareProcess();
-  return tarnwick::ui::runNotepad(argc, argv, argc > 1 ? argv[1] : "");
+  return tarnwick::ui::runNotepad(argc, argv);
 }

@@ -1,5 +1,8 @@
 #include "app/AboutDlg.h"
 
+#include "base/ProgramInfo.h"
+#include "dialogbase/Desktop.h"
+#include "resources/DialogLayout.h"
 #include "resources/HelpLayouts.h"
 
 namespace tarnwick {

@@ -1,9 +1,10 @@
 #pragma once
 
 #include "app/LinkedDlg.h"
-#include "base/ProgramInfo.h"
 
 namespace tarnwick {
+
+struct ProgramInfo;
 
 /// Tells what this program is, whose, and under which terms.
 class AboutDlg : public LinkedDlg {

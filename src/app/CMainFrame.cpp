@@ -1,14 +1,18 @@
 #include "app/CMainFrame.h"
 
+#include "base/ProgramInfo.h"
 #include "console/JdbCommands.h"
 #include "resources/Menu.h"
+#include "settings/Settings.h"
+#include "settings/SettingsContext.h"
 
 namespace tarnwick {
 
 namespace {
 
-ConsoleProgram programOf(const ConsoleStart& start) {
+ConsoleProgram programOf(const ConsoleStart& start, const Settings& settings) {
   ConsoleProgram program;
+  program.today = settings.newerConsole;
   program.exeFile = start.exeFile;
   program.runArguments = start.runArguments;
   // However a debugger ends, the program that it has run is of no use without it, and nobody would know of it.
@@ -21,11 +25,39 @@ ConsoleProgram programOf(const ConsoleStart& start) {
 CMainFrame::CMainFrame(Desktop& desktop, Settings& settings, const ConsoleStart& start)
     : settings_(settings),
       debugging_(start.debugging),
-      document_(desktop, start.title),
-      view_(document_, desktop, programOf(start),
-            [&settings](int group, int index) { return settings.functionKeys.key(group, index); }) {}
+      document_(start.title),
+      files_(document_, desktop),
+      traceEditor_(settings, start.configFile, start.runArguments),
+      view_(document_, desktop, programOf(start, settings),
+            [&settings](int group, int index) { return settings.functionKeys.key(group, index); }) {
+  view_.openTracesBy([this](const TraceLink& trace) { traceEditor_.open(trace); });
+}
+
+std::optional<bool> CMainFrame::todayEnabled(int command) const {
+  if (!view_.ofToday()) return std::nullopt;
+  switch (command) {
+    case COMMAND_COPY_ALL:
+    case COMMAND_CLEAR:
+    case COMMAND_END_KEY:
+    case COMMAND_FIND:
+    case COMMAND_FIND_NEXT:
+    case COMMAND_FIND_PREVIOUS:
+      return true;
+    case COMMAND_COPY_OR_STOP:
+      return view_.canCopy() || view_.canStop();
+    case COMMAND_END_OF_INPUT:
+      return view_.canEndInput();
+    case COMMAND_STOP:
+      return view_.canStop();
+    case COMMAND_RUN_AGAIN:
+      return view_.canRunAgain();
+    default:
+      return std::nullopt;
+  }
+}
 
 bool CMainFrame::commandEnabled(int command) const {
+  if (const auto enabled = todayEnabled(command)) return *enabled;
   switch (command) {
     case COMMAND_SAVE_DISPLAY:
     case COMMAND_START_RECORDING:
@@ -48,16 +80,54 @@ bool CMainFrame::commandEnabled(int command) const {
   }
 }
 
+bool CMainFrame::onCommandOfToday(int command) {
+  if (!view_.ofToday()) return false;
+  switch (command) {
+    case COMMAND_COPY_ALL:
+      view_.copyAll();
+      return true;
+    case COMMAND_CLEAR:
+      view_.clear();
+      return true;
+    case COMMAND_FIND:
+      view_.find();
+      return true;
+    case COMMAND_FIND_NEXT:
+    case COMMAND_FIND_PREVIOUS:
+      view_.findNext(command == COMMAND_FIND_PREVIOUS);
+      return true;
+    case COMMAND_COPY_OR_STOP:
+      onCommand(view_.canCopy() ? COMMAND_COPY : COMMAND_STOP);
+      return true;
+    case COMMAND_END_OF_INPUT:
+      view_.endInput();
+      return true;
+    case COMMAND_END_KEY:
+      // It depends on what has been typed, so it is typed itself.
+      view_.onCharacter("\x04", 1);
+      return true;
+    case COMMAND_STOP:
+      view_.askToStop();
+      return true;
+    case COMMAND_RUN_AGAIN:
+      view_.runAgain();
+      return true;
+    default:
+      return false;
+  }
+}
+
 void CMainFrame::onCommand(int command) {
+  if (onCommandOfToday(command)) return;
   switch (command) {
     case COMMAND_SAVE_DISPLAY:
-      document_.saveDisplay();
+      files_.saveDisplay();
       break;
     case COMMAND_START_RECORDING:
-      document_.startRecording();
+      files_.startRecording();
       break;
     case COMMAND_STOP_RECORDING:
-      document_.stopRecording();
+      files_.stopRecording();
       break;
     case COMMAND_COPY:
       view_.copy();

@@ -1,15 +1,19 @@
 #pragma once
 
 #include "app/ConsoleFrameHost.h"
+#include "app/TraceEditor.h"
+#include "console/ConsoleFiles.h"
 #include "console/TarnwickDoc.h"
 #include "console/TarnwickView.h"
-#include "dialogbase/Desktop.h"
-#include "settings/Settings.h"
 
+#include <optional>
 #include <string>
 #include <vector>
 
 namespace tarnwick {
+
+class Desktop;
+class Settings;
 
 /// What a console is started with.
 struct ConsoleStart {
@@ -17,6 +21,7 @@ struct ConsoleStart {
   std::string exeFile;
   std::string runArguments;
   bool debugging = false;
+  std::string configFile = {};  ///< from which the settings came: the default one, or the project
 };
 
 /// The window of console mode: its commands and their rules.
@@ -24,8 +29,10 @@ class CMainFrame : public ConsoleFrame {
  public:
   CMainFrame(Desktop& desktop, Settings& settings, const ConsoleStart& start);
 
-  const MenuBar& menuBar() const override { return consoleMenuBar(); }
-  const std::vector<Accelerator>& accelerators() const override { return consoleAccelerators(); }
+  const MenuBar& menuBar() const override { return view_.ofToday() ? newerConsoleMenuBar() : consoleMenuBar(); }
+  const std::vector<Accelerator>& accelerators() const override {
+    return view_.ofToday() ? newerConsoleAccelerators() : consoleAccelerators();
+  }
   const Toolbar* toolbar() const override { return debugging_ ? &debuggerToolbar() : nullptr; }
   std::string title() const override { return document_.title(); }
   bool commandEnabled(int command) const override;
@@ -33,9 +40,15 @@ class CMainFrame : public ConsoleFrame {
   ConsoleSurfaceClient& view() override { return view_; }
 
  private:
+  /// Those that only the console of today has; they give nothing and false for any other.
+  std::optional<bool> todayEnabled(int command) const;
+  bool onCommandOfToday(int command);
+
   Settings& settings_;
   bool debugging_;
   TarnwickDoc document_;
+  ConsoleFiles files_;
+  TraceEditor traceEditor_;
   TarnwickView view_;
 };
 

@@ -1,9 +1,11 @@
 #pragma once
 
+#include "app/MessagesFrame.h"
 #include "console/ConsoleSurface.h"
 #include "resources/Menu.h"
 #include "resources/Toolbar.h"
 
+#include <memory>
 #include <string>
 
 namespace tarnwick {
@@ -22,12 +24,15 @@ class ConsoleFrame {
   virtual ConsoleSurfaceClient& view() = 0;
 };
 
-/// Opens the one window of console mode.
+/// Opens the one window of console mode, and the one beside the panel.
 class ConsoleFrameHost {
  public:
   virtual ~ConsoleFrameHost() = default;
   /// Returns when the frame has been closed.
   virtual void runConsoleFrame(ConsoleFrame& frame) = 0;
+  /// The window of what the tools have said, which is not open yet; null where there are no windows. While it is open
+  /// F4 and Shift+F4 are commands in the main window, too. `frame` outlives it.
+  virtual std::unique_ptr<MessagesWindow> makeMessagesWindow(MessagesFrame& /*frame*/) { return nullptr; }
 };
 
 }  // namespace tarnwick

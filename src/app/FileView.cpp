@@ -1,11 +1,19 @@
 #include "app/FileView.h"
 
+#include "app/CompileForUser.h"
+#include "app/NewerJavaOffer.h"
+#include "base/Tarnwickfile.h"
+#include "base/Text.h"
+#include "dialogbase/Messages.h"
 #include "platform/FileNames.h"
 #include "platform/FileSystem.h"
 #include "platform/Path.h"
-#include "process/EditorLaunch.h"
+#include "resources/DialogLayout.h"
 #include "resources/PanelLayouts.h"
-#include "source/Compiler.h"
+#include "settings/SettingsContext.h"
+#include "source/ClassToRun.h"
+#include "source/JavaSourcefile.h"
+#include "source/TypeIndex.h"
 #include "templates/NewSourceFileDlg.h"
 #include "tools/AppletviewerLauncher.h"
 #include "tools/JavaLauncher.h"
@@ -15,24 +23,23 @@ namespace tarnwick {
 namespace {
 
 enum Control { SOURCE_FIELD = 1009, NEW = 1240, BROWSE = 1006, EDIT = 1007, JAVAC = 1008 };
-enum Tab { MAIN_PROGRAM = 0, APPLET = 1, UTILITIES = 2 };
 
 const char sourceFilter[] = "Java source files|*.JAVA||";
 const char classFilter[] = "Java class files|*.CLASS||";
+const char programFilter[] = "Java class files and archives|*.CLASS;*.JAR||";
 const char htmlFilter[] = "htm* files|*.htm*||";
 
-std::array<PageWords, 3> pageWords() {
+std::array<PageWords, 2> pageWords() {
   return {{{{"Browse", "jdb debug", "java"},
             {{PanelPage::LEFT, "Select executable class file"},
              {PanelPage::MIDDLE, "Execute class file under debugger control"},
-             {PanelPage::RIGHT, "Execute class file"},
+             {PanelPage::RIGHT, "Execute class file; Ctrl+click compiles first what is not up to date"},
              {PanelPage::FIELD, "File specification for executable class, optionally followed by runtime arguments"}}},
            {{"Browse", "appletdebug", "appletviewer"},
             {{PanelPage::LEFT, "Select HTML file"},
              {PanelPage::MIDDLE, "Start appletviewer under debugger control"},
              {PanelPage::RIGHT, "Start appletviewer"},
-             {PanelPage::FIELD, "HTML file specification"}}},
-           {{"jar", "javadoc", "WinShortcut"}, {}}}};
+             {PanelPage::FIELD, "HTML file specification"}}}}};
 }
 
 /// The folder with its whole path if it could be made the current one; otherwise empty.
@@ -71,30 +78,53 @@ std::string patternOf(const std::string& filter) {
 
 }  // namespace
 
-FileView::FileView(Settings& settings, MainDialogEnd mainDialog)
+FileView::FileView(Settings& settings, MainDialog mainDialog)
     : PanelDlg(settings, fileViewLayout().resource, pageWords(), std::move(mainDialog)),
       sourceFile_(settings.fileviewSource),
       classFile_(settings.fileviewClass),
-      htmlFile_(settings.fileviewHtml) {}
+      htmlFile_(settings.fileviewHtml),
+      sourceField_(sourceFile_),
+      classField_(classFile_),
+      htmlField_(htmlFile_) {
+  shown_ = true;  // at first
+}
 
 void FileView::initialise(DialogWindow& window) {
   initialPage_ = settings_.fileviewTab;
   PanelDlg::initialise(window);
   bindFields(window);
-  // Two of the utilities are not there yet.
-  for (const int control : {PanelPage::MIDDLE, PanelPage::RIGHT}) pageWindow(UTILITIES).enable(control, false);
+  storedSource_ = sourceFile_.name();
 }
 
 void FileView::bindFields(DialogWindow& window) {
-  sourceFile_.bind(&window, SOURCE_FIELD);
-  classFile_.bind(&pageWindow(MAIN_PROGRAM), PanelPage::FIELD);
-  htmlFile_.bind(&pageWindow(APPLET), PanelPage::FIELD);
-  for (auto* file : {&sourceFile_, &classFile_, &htmlFile_}) file->writeToControl(nullptr);
+  sourceField_.bind(&window, SOURCE_FIELD);
+  classField_.bind(&pageWindow(MAIN_PROGRAM), PanelPage::FIELD);
+  htmlField_.bind(&pageWindow(APPLET), PanelPage::FIELD);
+  showFiles();
   pageWindow(UTILITIES).show(PanelPage::FIELD, false);
 }
 
 void FileView::readFields() {
-  for (auto* file : {&sourceFile_, &classFile_, &htmlFile_}) file->readFromControl();
+  for (auto* field : {&sourceField_, &classField_, &htmlField_}) field->read();
+}
+
+void FileView::showFiles() {
+  for (auto* field : {&sourceField_, &classField_, &htmlField_}) field->write();
+}
+
+void FileView::emptyFields() {
+  for (auto* field : {&sourceField_, &classField_, &htmlField_}) field->write("");
+}
+
+void FileView::takeFile(const std::string& path) {
+  // A run makes other folders the current one.
+  const Filename whole(platform::absolutePath(path));
+  const std::string extension = lowerCase(whole.extension());
+  const bool isPage = extension == ".htm" || extension == ".html";
+  FileField& field = extension == ".java" ? sourceField_ : isPage ? htmlField_ : classField_;
+  field.file().takeTyped(whole.quoted());
+  field.write();
+  if (extension != ".java") openPage(isPage ? APPLET : MAIN_PROGRAM);
 }
 
 bool FileView::fieldsHaveChanged() {
@@ -110,12 +140,12 @@ bool FileView::fieldsHaveChanged() {
 
 void FileView::detached() {
   readFields();
-  for (auto* file : {&sourceFile_, &classFile_, &htmlFile_}) file->bind(nullptr, 0);
+  for (auto* field : {&sourceField_, &classField_, &htmlField_}) field->bind(nullptr, 0);
   PanelDlg::detached();
 }
 
 void FileView::updateTitle() {
-  settings_.context().mainWindow->setTitle(title());
+  mainWindow().setTitle(title());
 }
 
 std::vector<int> FileView::ownControls() const {
@@ -129,7 +159,7 @@ void FileView::onTabChanged() {
 
 void FileView::onCommand(int control) {
   if (control == BROWSE)
-    browse(sourceFilter, sourceFile_);
+    browse(sourceFilter, sourceField_);
   else if (control == NEW)
     newSource();
   else if (control == EDIT)
@@ -141,22 +171,31 @@ void FileView::onCommand(int control) {
 }
 
 void FileView::onPageButton(int page, int control) {
-  if (page == MAIN_PROGRAM && control == PanelPage::LEFT) browse(classFilter, classFile_);
+  if (page == MAIN_PROGRAM && control == PanelPage::LEFT) browse(runFilter(), classField_);
   if (page == MAIN_PROGRAM && control == PanelPage::MIDDLE) debugClass();
-  if (page == MAIN_PROGRAM && control == PanelPage::RIGHT) runClass();
-  if (page == APPLET && control == PanelPage::LEFT) browse(htmlFilter, htmlFile_);
+  if (page == MAIN_PROGRAM && control == PanelPage::RIGHT) {
+    // With the Control key: compiled first.
+    if (!desktop_.controlKeyHeld() || bringUpToDate()) runClass();
+  }
+  if (page == APPLET && control == PanelPage::LEFT) browse(htmlFilter, htmlField_);
   if (page == APPLET && control == PanelPage::MIDDLE) runApplet(true);
   if (page == APPLET && control == PanelPage::RIGHT) runApplet(false);
-  if (page == UTILITIES && control == PanelPage::LEFT) runJar();
+  PanelDlg::onPageButton(page, control);
 }
 
-bool FileView::prepareFile(const char* filter, FileForSubprocess& file) {
-  file.readFromControl();
+void FileView::makeShortcut() {
+  // The dialog asks for the application where the files of the fields lie.
+  readFields();
+  PanelDlg::makeShortcut();
+}
+
+bool FileView::prepareFile(const char* filter, FileField& field) {
+  field.read();
+  FileForSubprocess& file = field.file();
   if (!file.isEmpty()) {
     try {
-      file.open(FileMode::Read);
-      file.close();
-      complete(file);
+      Tarnwickfile::unopened(file.name(), FileMode::Read).open(FileMode::Undefined);
+      complete(field);
       return true;
     } catch (const Tarnwickfile::FileNotOpenE&) {
       // The user is asked for one that is there, but may believe that this one is.
@@ -164,32 +203,34 @@ bool FileView::prepareFile(const char* filter, FileForSubprocess& file) {
       if (!reason.empty()) desktop_.message("Can't open " + file.name().fullName() + "\n" + reason);
     }
   }
-  return askForFile(filter, folderToAskIn(file), file);
+  return askForFile(filter, folderToAskIn(file), field);
 }
 
-void FileView::complete(FileForSubprocess& file) {
+void FileView::complete(FileField& field) {
+  FileForSubprocess& file = field.file();
   // A run changes the current folder; afterwards the same words would name another file.
   const std::string whole = platform::absolutePath(file.name().fullName());
   if (whole == file.name().fullName()) return;
   file.setName(whole);
   std::string text = file.name().quoted();
   for (const auto& argument : file.args()) text += ' ' + argument;
-  file.writeToControl(text.c_str());
+  field.write(text);
 }
 
-void FileView::browse(const char* filter, FileForSubprocess& file) {
-  file.readFromControl();
+void FileView::browse(const char* filter, FileField& field) {
+  field.read();
+  const FileForSubprocess& file = field.file();
   const std::string& name = file.name().fullName();
   // Only a file that is there makes the current folder the one of a bare name.
   const std::string own = Filename(canBeRead(name) ? platform::absolutePath(name) : name).directory();
   std::string startFolder = entered(file.lastFolder());
   if (startFolder.empty()) startFolder = entered(own);
   if (startFolder.empty()) startFolder = platform::startFolder("C:\\");
-  askForFile(filter, startFolder, file);
+  askForFile(filter, startFolder, field);
   settings_.saveIfWindowMoved();
 }
 
-bool FileView::askForFile(const char* filter, const std::string& startFolder, FileForSubprocess& file) {
+bool FileView::askForFile(const char* filter, const std::string& startFolder, FileField& field) {
   FileRequest request;
   request.filter = filter;
   request.startFolder = startFolder;
@@ -197,16 +238,16 @@ bool FileView::askForFile(const char* filter, const std::string& startFolder, Fi
   request.mustExist = true;
   const auto chosen = desktop_.openFile(request);
   if (!chosen) return false;
-  file.setName(*chosen);
-  file.writeToControl(nullptr);
+  field.file().setName(*chosen);
+  field.write();
   return true;
 }
 
 bool FileView::askForNewSource(NewSourceMode mode) {
-  sourceFile_.readFromControl();
+  sourceField_.read();
   NewSourceFileDlg dialog(settings_, mode, &sourceFile_);
   if (dialog.runModal() != DIALOG_OK) return false;
-  sourceFile_.writeToControl(nullptr);
+  sourceField_.write();
   return true;
 }
 
@@ -215,33 +256,65 @@ void FileView::newSource() {
 }
 
 void FileView::editSource() {
-  sourceFile_.readFromControl();
+  sourceField_.read();
   if (sourceFile_.isEmpty() && !askForNewSource(NewSourceMode::NothingToEdit)) return;
   // After Cancel the editor opens with nothing in it.
-  const bool known = prepareFile(sourceFilter, sourceFile_);
+  const bool known = prepareFile(sourceFilter, sourceField_);
   openEditor(known ? sourceFile_.name().fullName() : "");
   rememberSourceFolder();
 }
 
-void FileView::compileSource() {
-  if (!prepareFile(sourceFilter, sourceFile_)) {
+bool FileView::compileSource() {
+  if (!prepareFile(sourceFilter, sourceField_)) {
     desktop_.message("No .java file known.");
-    return;
+    return false;
   }
-  try {
-    Compiler compiler(settings_, nullptr);
-    if (compiler.compile(sourceFile_, FileMode::Write)) {
-      if (settings_.javacSoundOnError) desktop_.alert(AlertSound::Exclamation);
-      showLog(desktop_, settings_.context().log, settings_.editorChoice());
-    } else if (settings_.javacSoundOnSuccess) {
-      desktop_.alert(AlertSound::Asterisk);
-    }
-  } catch (const Compiler::DontWantToSplitE&) {
-    // The user has said so; there is nothing to tell.
-  } catch (const Tarnwickexception& failure) {
-    desktop_.message(failure.message);
-  }
+  CompileEnd end = compileFile();
+  if (offerNewerJava(settings_, end.refused)) end = compileFile();
+  if (settings_.newerJava) showCompiledClass();
   rememberSourceFolder();
+  return end.wasClean;
+}
+
+bool FileView::bringUpToDate() {
+  sourceField_.read();
+  if (sourceFile_.isEmpty()) return true;
+  try {
+    JavaSourcefile source(platform::absolutePath(sourceFile_.name().fullName()), FileMode::Read);
+    source.close();
+    source.analyse(javaReading(settings_));
+    std::vector<ClassRef> types;
+    for (const auto& type : source.types()) types.push_back({*type, source});
+    if (source.isUpToDate(TypeIndex(types), settings_.javacDestination, source.name().directoryNoSlash())) return true;
+  } catch (const Tarnwickexception&) {
+    // Whoever compiles it tells what the matter is.
+  }
+  return compileSource();
+}
+
+void FileView::showCompiledClass() {
+  const Filename source = sourceFile_.name();
+  if (!givenClass_) givenClass_ = classToRun(settings_, storedSource_);
+  const std::string now = classToRun(settings_, source);
+  classField_.read();
+  const std::string& shown = classFile_.name().fullName();
+  if (!shown.empty() && now == shown) givenClass_ = now;
+  if (now == shown || (!shown.empty() && shown != givenClass_)) return;
+  const auto classTime = platform::lastChange(now);
+  // One that is older was there before: the compiler has not come as far.
+  if (!classTime || *classTime < platform::lastChange(source.fullName())) return;
+  classFile_.setName(now);
+  classFile_.args().clear();
+  classField_.write();
+  givenClass_ = now;
+}
+
+CompileEnd FileView::compileFile() {
+  const auto compile = [this] {
+    Compiler compiler = compilerForUser(settings_, compilerClasspath(settings_));
+    return hasSaid(settings_, compiler.compile(sourceFile_, FileMode::Write));
+  };
+  return compileForUser(settings_, compile, [] {});
 }
 
 void FileView::rememberSourceFolder() {
@@ -251,8 +324,12 @@ void FileView::rememberSourceFolder() {
   settings_.saveCurrent();
 }
 
+const char* FileView::runFilter() const {
+  return settings_.newerJava ? programFilter : classFilter;
+}
+
 bool FileView::prepareClass() {
-  if (prepareFile(classFilter, classFile_)) return true;
+  if (prepareFile(runFilter(), classField_)) return true;
   desktop_.message("No known .class file");
   return false;
 }
@@ -262,19 +339,19 @@ void FileView::runClass() {
   const std::string folder = classFile_.name().directory();
   classFile_.setLastFolder(folder);
   settings_.saveCurrent();
-  runJava(settings_, classFile_, nullptr);
+  runJava(settings_, classFile_);
   htmlFile_.setLastFolder(folder);
 }
 
 void FileView::debugClass() {
   if (!prepareClass()) return;
   settings_.saveCurrent();
-  runJdb(settings_, classFile_, nullptr, nullptr);
+  runJdb(settings_, classFile_);
   htmlFile_.setLastFolder(classFile_.name().directory());
 }
 
 void FileView::runApplet(bool debugging) {
-  if (!prepareFile(htmlFilter, htmlFile_)) {
+  if (!prepareFile(htmlFilter, htmlField_)) {
     desktop_.message("no htm* file known");
     return;
   }

@@ -1,6 +1,8 @@
 #include "app/HelpFileDlg.h"
 
 #include "base/Filename.h"
+#include "dialogbase/Desktop.h"
+#include "resources/DialogLayout.h"
 #include "resources/HelpLayouts.h"
 
 namespace tarnwick {

@@ -1,5 +1,6 @@
 #include "app/PanelArrangement.h"
 
+#include "dialogbase/DialogWindow.h"
 #include "settings/LayoutValue.h"
 
 #include <algorithm>

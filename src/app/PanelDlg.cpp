@@ -1,7 +1,13 @@
 #include "app/PanelDlg.h"
 
-#include "process/EditorLaunch.h"
+#include "app/UserEditor.h"
+#include "dialogs/RunJavadoc.h"
+#include "dialogs/ShortcutDlg.h"
+#include "resources/DialogLayout.h"
 #include "resources/PanelLayouts.h"
+#include "settings/EditorChoice.h"
+#include "settings/SettingsContext.h"
+#include "settingsdialog/SettingsDialog.h"
 
 namespace tarnwick {
 
@@ -10,8 +16,6 @@ namespace {
 constexpr int TAB_CONTROL = 1231;
 constexpr int FIRST_GROUP = 1238;
 constexpr int SECOND_GROUP = 1239;
-/// The settings dialog's page of the editor, counted from 0.
-constexpr int EDITOR_PAGE_INDEX = 5;
 
 }  // namespace
 
@@ -38,12 +42,12 @@ void ButtonBar::onCommand(int control) {
   panel_.onCommand(control);
 }
 
-PanelDlg::PanelDlg(Settings& settings, int resource, std::array<PageWords, 3> words, MainDialogEnd mainDialog)
+PanelDlg::PanelDlg(Settings& settings, int resource, std::array<PageWords, 2> words, MainDialog mainDialog)
     : TabbedDialog(settings.context().desktop, resource, TAB_CONTROL),
       settings_(settings),
       leftPage_(desktop_, *this, std::move(words[0].labels), std::move(words[0].tips)),
       middlePage_(desktop_, *this, std::move(words[1].labels), std::move(words[1].tips)),
-      rightPage_(desktop_, *this, std::move(words[2].labels), std::move(words[2].tips)),
+      rightPage_(desktop_, *this, {"jar", "javadoc", "WinShortcut"}, {}),
       verticalBar_(desktop_, *this, verticalBarLayout()),
       horizontalBar_(desktop_, *this, horizontalBarLayout()),
       flatBar_(desktop_, *this, flatBarLayout()),
@@ -57,7 +61,7 @@ PanelDlg::PanelDlg(Settings& settings, int resource, std::array<PageWords, 3> wo
 
 void PanelDlg::initialise(DialogWindow& window) {
   TabbedDialog::initialise(window);
-  title_ = settings_.context().mainWindow->title();
+  title_ = mainWindow().title();
   // A bar's slot bears the number of its resource.
   for (auto* bar : bars_) window.addChild(bar->pageId(), bar->layout(), *bar);
 }
@@ -72,7 +76,7 @@ void PanelDlg::setPartner(PanelDlg* partner, const std::string& switchLabel) {
 void PanelDlg::onCommand(int control) {
   const int now = settings_.panelLayout.value;
   if (control == ButtonBar::SETTINGS) {
-    settings_.runModal(0);
+    SettingsDialog(settings_).runModal(0);
     settings_.saveIfWindowMoved();
   }
   if (control == ButtonBar::SWITCH_VIEW) switchView();
@@ -88,6 +92,17 @@ void PanelDlg::onCommand(int control) {
   if (ofLayout) bar().window()->focus(control);
 }
 
+void PanelDlg::onPageButton(int page, int control) {
+  if (page != UTILITIES) return;
+  if (control == PanelPage::LEFT) runJar(settings_, jarSession_);
+  if (control == PanelPage::MIDDLE) runJavadoc(settings_, javadocInput_);
+  if (control == PanelPage::RIGHT) makeShortcut();
+}
+
+void PanelDlg::makeShortcut() {
+  ShortcutDlg(settings_).runModal();
+}
+
 void PanelDlg::changeLayout(int layout) {
   settings_.panelLayout.value = layout;
   settings_.saveCurrent();
@@ -95,13 +110,13 @@ void PanelDlg::changeLayout(int layout) {
 }
 
 PanelPlaces PanelDlg::placesNow() {
-  DialogWindow& mainWindow = *settings_.context().mainWindow;
+  DialogWindow& top = mainWindow();
   DialogWindow& panel = *window();
   PanelPlaces places;
-  places.topWindow = LayoutItem::of(mainWindow);
-  places.frameWidth = places.topWindow.width() - mainWindow.clientRect().width();
-  places.frameHeight = places.topWindow.height() - mainWindow.clientRect().height();
-  places.screenWidth = mainWindow.workArea().width();
+  places.topWindow = LayoutItem::of(top);
+  places.frameWidth = places.topWindow.width() - top.clientRect().width();
+  places.frameHeight = places.topWindow.height() - top.clientRect().height();
+  places.screenWidth = top.workArea().width();
   places.panel = LayoutItem::of(panel);
   places.tabControl = LayoutItem::of(panel, TAB_CONTROL);
   places.firstGroup = LayoutItem::of(panel, FIRST_GROUP);
@@ -137,19 +152,19 @@ void PanelDlg::buildLayouts() {
 void PanelDlg::applyLayout() {
   PanelLayout* const layout = layouts_[static_cast<std::size_t>(settings_.panelLayout.value)].get();
   if (!layout) return;
-  LayoutItem& top = layout->findWindow(*settings_.context().mainWindow);
+  LayoutItem& top = layout->findWindow(mainWindow());
   try {
     const int left = settings_.windowPosition.getLeft();
     top.moveTo(left, settings_.windowPosition.getTop());
   } catch (const WindowPosition::UndefinedE&) {
     // The window system does not tell positions; the window stays where it puts it.
-    const Rect now = settings_.context().mainWindow->windowRect();
+    const Rect now = mainWindow().windowRect();
     top.moveTo(now.left, now.top);
   }
   layout->apply();
   window()->select(TAB_CONTROL, currentPage());
   updateTitle();
-  settings_.context().mainWindow->redraw();
+  mainWindow().redraw();
 }
 
 void PanelDlg::switchView() {
@@ -157,16 +172,15 @@ void PanelDlg::switchView() {
   settings_.saveIfWindowMoved();
   window()->showWindow(false);
   partner_->window()->showWindow(true);
+  partner_->shown_ = true;
+  shown_ = false;
   partner_->updateTitle();
   partner_->applyLayout();
   partner_->bar().window()->focus(ButtonBar::SWITCH_VIEW);
 }
 
 bool PanelDlg::openEditor(const std::string& name) {
-  const EditorSource source{
-      [this] { return settings_.editorChoice(); },
-      [this] { return settings_.runModal(EDITOR_PAGE_INDEX, "Choose the editor for your sources") == DIALOG_OK; }};
-  return tarnwick::openEditor(desktop_, source, name);
+  return openUserEditor(settings_, name);
 }
 
 void PanelDlg::exitProgram() {

@@ -58,7 +58,13 @@ class ButtonBar : public ToolTipDlg {
 };
 
 /// What a panel asks of the main dialog.
-struct MainDialogEnd {
+struct MainDialog {
+  /// Its window, which holds both panels.
+  std::function<DialogWindow&()> window;
+  /// The fields of the file view show their files anew.
+  std::function<void()> showFiles;
+  /// The fields of the file view are emptied.
+  std::function<void()> emptyFileFields;
   /// Saves what every end saves. Once: what fails has been told.
   std::function<void()> save;
   /// Ends the dialog as with OK.
@@ -68,7 +74,8 @@ struct MainDialogEnd {
 /// The common base of the panels of the main window.
 class PanelDlg : public TabbedDialog {
  public:
-  PanelDlg(Settings& settings, int resource, std::array<PageWords, 3> words, MainDialogEnd mainDialog);
+  /// `words` are those of the first two pages; the third has the same on every panel.
+  PanelDlg(Settings& settings, int resource, std::array<PageWords, 2> words, MainDialog mainDialog);
 
   void initialise(DialogWindow& window) override;
   void onCommand(int control) override;
@@ -84,29 +91,35 @@ class PanelDlg : public TabbedDialog {
   /// Arranges the panel as the settings say, puts the main window to its stored place and names it.
   virtual void applyLayout();
   virtual void updateTitle() = 0;
+  bool isShown() const { return shown_; }
   /// Shows the other panel in the place of this one.
   virtual void switchView();
   virtual void exitProgram();
-  /// A button of the page with this index, by PanelPage::Control.
-  virtual void onPageButton(int page, int control) = 0;
+  /// A button of the page with this index, by PanelPage::Control. Knows the utilities'.
+  virtual void onPageButton(int page, int control);
 
   /// A button of the page that is open.
   void onPageButton(int control) { onPageButton(currentPage(), control); }
 
  protected:
+  enum Page { MAIN_PROGRAM = 0, APPLET = 1, UTILITIES = 2 };
+
   /// Starts the user's editor on a file, or on none with the empty text. False when no editor could be chosen or
   /// started.
   bool openEditor(const std::string& name);
-  /// The dialog "jar" and its run.
-  void runJar() { tarnwick::runJar(settings_, jarSession_); }
+  /// The dialog that makes shortcuts.
+  virtual void makeShortcut();
 
   /// The panel's own controls, in the order in which they stand side by side.
   virtual std::vector<int> ownControls() const = 0;
   virtual void arrangeFlat(PanelPlaces& places) const = 0;
   /// The main window's title as the resource gives it.
   const std::string& title() const { return title_; }
+  DialogWindow& mainWindow() const { return mainDialog_.window(); }
+  const MainDialog& mainDialog() const { return mainDialog_; }
 
   Settings& settings_;
+  bool shown_ = false;
   PanelPage leftPage_;
   PanelPage middlePage_;
   PanelPage rightPage_;
@@ -125,8 +138,10 @@ class PanelDlg : public TabbedDialog {
   std::array<std::unique_ptr<PanelLayout>, 3> layouts_;
   PanelDlg* partner_ = nullptr;
   std::string title_;
-  MainDialogEnd mainDialog_;
+  MainDialog mainDialog_;
   JarSession jarSession_;
+  /// The source files of the last run of `javadoc`.
+  std::string javadocInput_;
 };
 
 }  // namespace tarnwick

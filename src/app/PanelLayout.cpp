@@ -1,5 +1,8 @@
 #include "app/PanelLayout.h"
 
+#include "base/Geometry.h"
+#include "dialogbase/DialogWindow.h"
+
 #include <algorithm>
 
 namespace tarnwick {

@@ -1,11 +1,11 @@
 #pragma once
 
-#include "dialogbase/DialogWindow.h"
-
 #include <memory>
 #include <vector>
 
 namespace tarnwick {
+
+class DialogWindow;
 
 /// One window in one arrangement: a control of `owner`, or `owner` itself.
 struct LayoutItem {

@@ -1,12 +1,17 @@
 #include "app/ProjectView.h"
 
+#include "app/NewerJavaOffer.h"
+#include "app/ProjectBuild.h"
+#include "dialogbase/Desktop.h"
 #include "platform/FileSystem.h"
 #include "project/ProjMainClassDlg.h"
-#include "project/ProjectBuild.h"
 #include "project/ProjectFilesDlg.h"
 #include "project/RecentProjects.h"
 #include "project/SelectProjectDlg.h"
+#include "resources/DialogLayout.h"
 #include "resources/PanelLayouts.h"
+#include "settingsdialog/ToolsFolder.h"
+#include "source/CompileFailures.h"
 #include "tools/AppletviewerLauncher.h"
 #include "tools/JavaLauncher.h"
 
@@ -18,18 +23,16 @@ namespace tarnwick {
 namespace {
 
 enum Control { TABS = 1231, NEW = 1134, OPEN = 1136, FILES = 1135, EDIT = 1139, JAVAC_ALL = 1133, JAVAC = 1140 };
-enum Tab { MAIN_PROGRAM = 0, APPLET = 1, UTILITIES = 2 };
 
-std::array<PageWords, 3> pageWords() {
+std::array<PageWords, 2> pageWords() {
   return {
       {{{"Select", "jdb debug", "java"},
         {{PanelPage::LEFT, "Select a class for execution (must have a public static void main() method!)"},
          {PanelPage::MIDDLE, "Execute application under debugger control"},
-         {PanelPage::RIGHT, "Execute application"},
+         {PanelPage::RIGHT, "Execute application; Ctrl+click compiles first what is not up to date"},
          {PanelPage::FIELD, "File name for executable class, optionally followed by runtime arguments"}}},
        {{"", "appletdebug", "appletviewer"},
-        {{PanelPage::MIDDLE, "Start appletviewer under debugger control"}, {PanelPage::RIGHT, "Start appletviewer"}}},
-       {{"jar", "javadoc", "WinShortcut"}, {}}}};
+        {{PanelPage::MIDDLE, "Start appletviewer under debugger control"}, {PanelPage::RIGHT, "Start appletviewer"}}}}};
 }
 
 const char noProject[] = "You have not opened a project yet.";
@@ -37,7 +40,7 @@ const char notCompiled[] = "Not all classes are up-to-date. Compile!";
 
 }  // namespace
 
-ProjectView::ProjectView(Settings& settings, MainDialogEnd mainDialog)
+ProjectView::ProjectView(Settings& settings, MainDialog mainDialog)
     : PanelDlg(settings, projectViewLayout().resource, pageWords(), std::move(mainDialog)) {
   toolTips_ = {
       {NEW, "Create new Tarnwick project"},
@@ -55,13 +58,11 @@ void ProjectView::initialise(DialogWindow& window) {
   PanelDlg::initialise(window);
   pageWindow(APPLET).show(PanelPage::LEFT, false);
   for (const int page : {APPLET, UTILITIES}) pageWindow(page).show(PanelPage::FIELD, false);
-  // Two of the utilities are not there yet.
-  for (const int control : {PanelPage::MIDDLE, PanelPage::RIGHT}) pageWindow(UTILITIES).enable(control, false);
   refreshButtons();
 }
 
 ProjectContext* ProjectView::project() const {
-  return dynamic_cast<ProjectContext*>(settings_.currentProject.get());
+  return tarnwick::openProject(settings_);
 }
 
 void ProjectView::refreshButtons() {
@@ -79,7 +80,7 @@ void ProjectView::refreshButtons() {
   for (const int control : {PanelPage::MIDDLE, PanelPage::RIGHT, PanelPage::FIELD}) mainPage.enable(control, runs);
   mainPage.enable(PanelPage::LEFT, sources && open->multiMain);
   for (const int control : {PanelPage::MIDDLE, PanelPage::RIGHT}) pageWindow(APPLET).enable(control, showsApplet);
-  // Meant: arguments that were typed behind the class stay only until now.
+  // Deliberate: arguments that were typed behind the class stay only until now.
   if (open && !open->mainClass.empty()) leftPage_.setFieldText(PanelPage::FIELD, open->mainClass);
 }
 
@@ -98,9 +99,11 @@ void ProjectView::onCommand(int control) {
     case EDIT:
       return editSources();
     case JAVAC_ALL:
-      return compile(true);
+      compile(true);
+      return;
     case JAVAC:
-      return compile(false);
+      compile(false);
+      return;
     default:
       return PanelDlg::onCommand(control);
   }
@@ -109,21 +112,29 @@ void ProjectView::onCommand(int control) {
 void ProjectView::onPageButton(int page, int control) {
   if (page == MAIN_PROGRAM && control == PanelPage::LEFT) selectMainClass();
   if (page == MAIN_PROGRAM && control == PanelPage::MIDDLE) runProject(true);
-  if (page == MAIN_PROGRAM && control == PanelPage::RIGHT) runProject(false);
+  if (page == MAIN_PROGRAM && control == PanelPage::RIGHT) {
+    // With the Control key: what is not up to date is compiled first.
+    if (!desktop_.controlKeyHeld() || bringUpToDate()) runProject(false);
+  }
   if (page == APPLET && control == PanelPage::MIDDLE) runApplet(true);
   if (page == APPLET && control == PanelPage::RIGHT) runApplet(false);
-  if (page == UTILITIES && control == PanelPage::LEFT) runJar();
+  PanelDlg::onPageButton(page, control);
 }
 
 void ProjectView::updateTitle() {
   std::string text = title();
   const auto& open = settings_.currentProject;
   if (open && settings_.panelLayout.value != LayoutValue::VERTICAL) text += " - project " + open->quotedPath();
-  settings_.context().mainWindow->setTitle(text);
+  mainWindow().setTitle(text);
 }
 
 void ProjectView::take(const std::string& path, bool create) {
-  settings_.currentProject = std::make_unique<ProjectContext>(settings_, path, create);
+  settings_.currentProject = openedProject(settings_, path, create);
+}
+
+void ProjectView::lookAgain(ProjectContext& open) {
+  askForToolsFolder(settings_);
+  open.update();
 }
 
 void ProjectView::welcomeProject() {
@@ -139,8 +150,8 @@ void ProjectView::pointFileView() {
   for (auto* file : fileViewFiles()) {
     file->reset(false);
     file->setLastFolder(project()->folder());
-    file->writeToControl("");
   }
+  mainDialog().emptyFileFields();
 }
 
 void ProjectView::selectTab() {
@@ -158,13 +169,18 @@ void ProjectView::openAtStart(const std::string& path) {
   take(path, false);
   // Whoever next asks whether the window was moved would otherwise take its present place for the project's.
   settings_.windowPosition.applyToWindow();
+  lookAtStart();
+}
+
+void ProjectView::lookAtStart() {
   try {
-    project()->update();
+    lookAgain(*project());
   } catch (const Tarnwickexception&) {
     refreshButtons();
     throw;
   }
   updateRecentProjects(settings_.context(), project()->file.name().fullName());
+  if (offerNewerJava(settings_, *project())) project()->update();
   pointFileView();
   selectTab();
   refreshButtons();
@@ -177,7 +193,7 @@ void ProjectView::keepOrClose(const std::string& question, const std::string& no
     settings_.currentProject.reset();
     forgetProjectValues(settings_);
     // Otherwise the file view's next action would take the emptied fields for the user's wish.
-    for (auto* file : fileViewFiles()) file->writeToControl(nullptr);
+    mainDialog().showFiles();
   }
 }
 
@@ -225,14 +241,29 @@ void ProjectView::openProject() {
             "This project doesn't have any Java source files!\nClick on the Files button to add files to this "
             "project's context.");
       }
-      open->update();
-      pointFileView();
-      selectTab();
+      if (lookAt(*open)) {
+        pointFileView();
+        selectTab();
+      }
     } catch (const Tarnwickexception& failure) {
       desktop_.message(failure.message);
     }
   }
   showProject();
+}
+
+bool ProjectView::lookAt(ProjectContext& opened) {
+  bool wanted = false;
+  try {
+    lookAgain(opened);
+    wanted = offerNewerJava(settings_, opened);
+  } catch (const RefusedE& failure) {
+    desktop_.message(failure.message);
+    wanted = offerNewerJava(settings_, failure.source);
+    if (!wanted) return false;
+  }
+  if (wanted) opened.update();
+  return true;
 }
 
 bool ProjectView::takeExisting() {
@@ -255,7 +286,7 @@ void ProjectView::chooseFiles() {
   }
   if (ProjectFilesDlg(settings_, *open).runModal() == DIALOG_OK) open->save();
   try {
-    open->update();
+    lookAgain(*open);
   } catch (const Tarnwickexception& failure) {
     desktop_.message(failure.message);
   }
@@ -293,10 +324,16 @@ std::vector<std::string> ProjectView::sourcesToEdit() {
   return names;
 }
 
-void ProjectView::compile(bool all) {
+bool ProjectView::compile(bool all) {
+  CompileEnd end;
+  const auto saved = settings_.windowPosition.hasMoved() ? SettingsSaved::JustNow : SettingsSaved::NotYet;
   settings_.saveIfWindowMoved();
-  if (auto* const open = project()) compileProject(settings_, *open, all);
+  if (auto* const open = project()) {
+    end = compileProject(settings_, *open, all, saved);
+    if (offerNewerJava(settings_, end.refused)) end = compileProject(settings_, *open, all);
+  }
   refreshButtons();
+  return end.wasClean;
 }
 
 void ProjectView::selectMainClass() {
@@ -305,8 +342,19 @@ void ProjectView::selectMainClass() {
   refreshButtons();
 }
 
+bool ProjectView::bringUpToDate() {
+  try {
+    lookAgain(*project());
+    if (project()->upToDate()) return true;
+  } catch (const Tarnwickexception&) {
+    // The run tells it.
+    return true;
+  }
+  return compile(false);
+}
+
 bool ProjectView::readyToRun() {
-  project()->update();
+  lookAgain(*project());
   if (project()->upToDate()) return true;
   refreshButtons();
   return false;
@@ -319,15 +367,14 @@ void ProjectView::runProject(bool debugging) {
       return;
     }
     FileForSubprocess target;
-    target.bind(&pageWindow(MAIN_PROGRAM), PanelPage::FIELD);
-    target.readFromControl();
-    target.bind(nullptr, 0);
+    target.takeTyped(pageWindow(MAIN_PROGRAM).text(PanelPage::FIELD));
     completeRunTarget(settings_, *project(), target);
-    const std::string classpath = quotedPaths(project()->runClasspath());
+    const std::string running = target.name().baseName();
+    const std::string classpath = quotedPaths(project()->runClasspath(running));
     if (debugging)
-      runJdb(settings_, target, classpath.c_str(), quotedPaths(project()->derivedSourcepath()).c_str());
+      runJdb(settings_, target, classpath, quotedPaths(project()->derivedSourcepath(running)));
     else
-      runJava(settings_, target, classpath.c_str());
+      runJava(settings_, target, classpath);
   } catch (const Tarnwickexception& failure) {
     refreshButtons();
     desktop_.message(failure.message);

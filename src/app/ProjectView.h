@@ -12,7 +12,7 @@ namespace tarnwick {
 /// a button is pressed.
 class ProjectView : public PanelDlg {
  public:
-  ProjectView(Settings& settings, MainDialogEnd mainDialog);
+  ProjectView(Settings& settings, MainDialog mainDialog);
 
   void initialise(DialogWindow& window) override;
   void onCommand(int control) override;
@@ -22,6 +22,8 @@ class ProjectView : public PanelDlg {
   /// Opens the project that the program was started with, which becomes the open one, and looks at it. Throws
   /// Tarnwickfile::FileNotOpenE if it can't be opened, and what `ProjectContext::update` throws.
   void openAtStart(const std::string& path);
+  /// The second half of `openAtStart`, for a project that is open: what it is about. Throws the same of `update`.
+  void lookAtStart();
 
  protected:
   std::vector<int> ownControls() const override;
@@ -33,9 +35,14 @@ class ProjectView : public PanelDlg {
  private:
   void newProject();
   void openProject();
+  /// Looks at all sources of a project that was opened. False after the message that this failed.
+  bool lookAt(ProjectContext& opened);
   void chooseFiles();
   void editSources();
-  void compile(bool all);
+  /// True if the compiler had nothing to say.
+  bool compile(bool all);
+  /// Compiles what is not up to date. False if there was something to say.
+  bool bringUpToDate();
   void selectMainClass();
   void runProject(bool debugging);
   void runApplet(bool debugging);
@@ -48,6 +55,8 @@ class ProjectView : public PanelDlg {
   bool makeProject();
   /// Asks for a project, and opens it. Likewise.
   bool takeExisting();
+  /// Looks at all sources again; asks for the tools' folder before, where it is unknown.
+  void lookAgain(ProjectContext& open);
   /// A new project has been taken: no class stands in the field any longer, and the project is noted as recent.
   void welcomeProject();
   /// No other project has been taken: asks whether to go on with the one that is open, or tells that there is none.

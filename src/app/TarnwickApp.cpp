@@ -4,11 +4,13 @@
 #include "app/CMainFrame.h"
 #include "app/SwitchLine.h"
 #include "app/TarnwickDlg.h"
+#include "app/UserEditor.h"
 #include "app/UsersGuide.h"
 #include "base/TempFile.h"
 #include "base/Text.h"
 #include "platform/FileSystem.h"
 #include "platform/Path.h"
+#include "settingsdialog/SettingsOnDesktop.h"
 
 #include <algorithm>
 
@@ -34,18 +36,19 @@ ProgramInfo withWholeConfigFolder(ProgramInfo program) {
   return program;
 }
 
-/// What RUN holds: all the rest of the line, further marks included. Meant to be counted from the end of the switch
-/// before it: only blanks may stand between the two.
+/// What RUN holds: all the rest of the line, further marks included.
+// Deliberate: counted from the end of the switch before it, since only blanks may stand between the two.
 std::string childCommandLine(const std::string& line, std::size_t switchStart) {
   constexpr std::size_t introduction = 6;  // the mark, the name and what stands behind it
   const std::size_t opening = line.find_first_not_of(' ', switchStart);
   return line.substr(std::min(opening + introduction, line.size()));
 }
 
-/// True for a line that names a project file which can be opened. A switch line is simply a name that no file bears.
-bool namesProject(const std::string& commandLine) {
+/// True for a line that names a file which the panel opens or shows, and which can be read. A switch line is simply a
+/// name that no file bears.
+bool namesPanelFile(const std::string& commandLine) {
   const Filename name(commandLine);
-  return canBeRead(name.fullName()) && equalsIgnoringCase(name.extension(), ".twp");
+  return canBeRead(name.fullName()) && (isProjectFile(name) || isFieldFile(name));
 }
 
 }  // namespace
@@ -54,12 +57,15 @@ TarnwickApp::TarnwickApp(Desktop& desktop, ConsoleFrameHost& frameHost, const st
     : desktop_(desktop),
       frameHost_(frameHost),
       program_(withWholeConfigFolder(programAt(executablePath))),
-      zipApplication_(desktop, ".ZIP"),
+      zipApplication_(".ZIP"),
       log_([this] { return Filename(program_.configDirectory(), "x").directory(); }),
-      context_{desktop, program_, log_},
-      settings_(context_) {
+      context_(settingsOnDesktop(desktop, program_, log_)),
+      settings_(context_),
+      messages_(settings_, frameHost,
+                [this](const std::string& file, const EditorPlace& place) { openUserEditor(settings_, file, place); }) {
   context_.showHelp = [this](const std::string& anchor) { showHelp(anchor); };
   context_.showAbout = [this] { showAbout(); };
+  context_.showMessages = [this](bool said) { messages_.show(said); };
   context_.registerProjectType = [this] { registerProjectType(); };
 }
 
@@ -74,7 +80,7 @@ void TarnwickApp::showAbout() {
 }
 
 int TarnwickApp::run(const std::string& commandLine) {
-  if (commandLine.empty() || namesProject(commandLine)) return runPanel(commandLine);
+  if (commandLine.empty() || namesPanelFile(commandLine)) return runPanel(commandLine);
   return runConsole(commandLine);
 }
 
@@ -83,6 +89,7 @@ int TarnwickApp::runPanel(const std::string& commandLine) {
   TarnwickDlg dialog(settings_, commandLine);
   dialog.setZipApplication(zipApplication_);
   dialog.runModal();
+  messages_.close();
   return 0;
 }
 
@@ -141,7 +148,7 @@ bool TarnwickApp::readConsoleConfiguration(const std::string& commandLine) {
 
 int TarnwickApp::runConsole(const std::string& commandLine) {
   if (!readConsoleConfiguration(commandLine)) return START_FAILED;
-  CMainFrame frame(desktop_, settings_, {title_, exeFile_, runArguments_, debugging_});
+  CMainFrame frame(desktop_, settings_, {title_, exeFile_, runArguments_, debugging_, configFile_.name().fullName()});
   frameHost_.runConsoleFrame(frame);
   return 0;
 }

@@ -1,18 +1,21 @@
 #pragma once
 
 #include "app/ConsoleFrameHost.h"
+#include "app/Messages.h"
 #include "base/ProgramInfo.h"
 #include "base/Tarnwickfile.h"
-#include "dialogbase/Desktop.h"
 #include "platform/ProjectType.h"
 #include "process/ToolLog.h"
 #include "process/WinApp.h"
 #include "settings/Settings.h"
+#include "settings/SettingsContext.h"
 
 #include <functional>
 #include <string>
 
 namespace tarnwick {
+
+class Desktop;
 
 /// The application: start-up, the command line, and the two personalities. Without an argument, or with a project
 /// file, it is the panel; with a line of switches it is the console of one program.
@@ -66,6 +69,7 @@ class TarnwickApp {
   ToolLog log_;
   SettingsContext context_;
   Settings settings_;
+  Messages messages_;
   Tarnwickfile configFile_;
   std::string runArguments_;
   std::string exeFile_;

@@ -1,22 +1,41 @@
 #include "app/TarnwickDlg.h"
 
+#include "app/NewerJavaOffer.h"
 #include "app/WelcomeDlg.h"
+#include "base/ProgramInfo.h"
+#include "base/Text.h"
+#include "dialogbase/Desktop.h"
 #include "platform/FileSystem.h"
 #include "platform/Path.h"
+#include "resources/DialogLayout.h"
 #include "resources/PanelLayouts.h"
 #include "settings/JdkDiscovery.h"
+#include "settings/SettingsContext.h"
+#include "settingsdialog/SettingsDialog.h"
+#include "source/Compiler.h"
 #include "source/PieceFolder.h"
+#include "source/PrivatePieces.h"
 
 #include <utility>
 
 namespace tarnwick {
 
-TarnwickDlg::TarnwickDlg(Settings& settings, std::string projectArgument)
+bool isProjectFile(const Filename& file) {
+  return equalsIgnoringCase(file.extension(), ".twp");
+}
+
+bool isFieldFile(const Filename& file) {
+  const std::string extension = file.extension();
+  const auto has = [&extension](const char* other) { return equalsIgnoringCase(extension, other); };
+  return has(".java") || has(".class") || has(".jar") || has(".htm") || has(".html");
+}
+
+TarnwickDlg::TarnwickDlg(Settings& settings, std::string argument)
     : ToolTipDlg(settings.context().desktop, mainLayout().resource, 0),
       settings_(settings),
-      projectArgument_(std::move(projectArgument)),
-      fileView_(settings, end()),
-      projectView_(settings, end()) {}
+      argument_(std::move(argument)),
+      fileView_(settings, mainDialog()),
+      projectView_(settings, mainDialog()) {}
 
 TarnwickDlg::~TarnwickDlg() {
   settings_.context().mainWindow = nullptr;
@@ -40,24 +59,58 @@ void TarnwickDlg::initialise(DialogWindow& window) {
   createPanel(FILE_VIEW_SLOT, fileViewLayout(), fileView_, "Error creating fileview");
   createPanel(PROJECT_VIEW_SLOT, projectViewLayout(), projectView_, "Error creating projectview");
   arrangePanels();
-  if (!projectArgument_.empty() && projectView_.initialised()) openProject();
+  takeArgument();
   unsaved_ = true;
 }
 
-void TarnwickDlg::openProject() {
+void TarnwickDlg::takeArgument() {
+  if (!argument_.empty()) takeFile(Filename(argument_));
+}
+
+bool TarnwickDlg::takeFile(const Filename& file) {
+  if (isFieldFile(file)) {
+    fileView_.takeFile(file.fullName());
+    return true;
+  }
+  if (!isProjectFile(file) || !projectView_.initialised()) return false;
+  openProject(file.quoted());
+  return true;
+}
+
+void TarnwickDlg::onFilesDropped(const std::vector<std::string>& files) {
+  for (const auto& name : files) {
+    if (holdsLineEnd(name)) continue;
+    const Filename file(platform::absolutePath(name));
+    if (isFieldFile(file) && projectView_.isShown()) projectView_.switchView();
+    if (takeFile(file)) return;
+  }
+  desktop_.alert(AlertSound::Beep);
+}
+
+void TarnwickDlg::openProject(const std::string& path) {
+  const std::string refused = openProject([this, &path] { projectView_.openAtStart(path); });
+  if (offerNewerJava(settings_, refused)) openProject([this] { projectView_.lookAtStart(); });
+}
+
+std::string TarnwickDlg::openProject(const std::function<void()>& step) {
   std::string failed;
+  std::string refused;
   try {
-    projectView_.openAtStart(projectArgument_);
+    step();
     fileView_.switchView();
-    return;
+    return refused;
   } catch (const Tarnwickfile::FileNotOpenE& failure) {
     failed = failure.message + "\nCan't open project file.";
+  } catch (const Compiler::RefusedE& failure) {
+    failed = failure.message;
+    refused = failure.source;
   } catch (const Tarnwickexception& failure) {
     failed = failure.message;
   }
   // The project may be open all the same, and brings its own arrangement.
   if (fileView_.initialised()) fileView_.applyLayout();
   desktop_.message(failed);
+  return refused;
 }
 
 void TarnwickDlg::onCloseRequest() {
@@ -65,8 +118,14 @@ void TarnwickDlg::onCloseRequest() {
   ToolTipDlg::onCloseRequest();
 }
 
-MainDialogEnd TarnwickDlg::end() {
-  return {[this] { saveWhatStands(); }, [this] { close(DIALOG_OK); }};
+MainDialog TarnwickDlg::mainDialog() {
+  MainDialog dialog;
+  dialog.window = [this]() -> DialogWindow& { return *window(); };
+  dialog.showFiles = [this] { fileView_.showFiles(); };
+  dialog.emptyFileFields = [this] { fileView_.emptyFields(); };
+  dialog.save = [this] { saveWhatStands(); };
+  dialog.end = [this] { close(DIALOG_OK); };
+  return dialog;
 }
 
 void TarnwickDlg::saveWhatStands() {
@@ -110,12 +169,13 @@ void TarnwickDlg::readSettings() {
   int status = 0;
   settings_.readDefaultConfiguration(status);
   if (status == READ_FILE_LOST) tellRefusedConfiguration();
-  // Any bit counts as a first use, even one unknown tag; stricter than the failure mask, and meant so.
+  // Deliberate: any bit counts as a first use, even one unknown tag. That is stricter than the failure mask.
   if (status != 0)
     welcomeFirstUse(status);
   else if (settings_.tarnwickVersion != settings_.context().program.version)
     welcomeUpgrade();
   // The source of the last run is where that may have been killed in the middle of a compile.
+  PrivatePieces::clearLeftOvers(settings_.context().program.configDirectory());
   if (!settings_.fileviewSource.isEmpty()) PieceFolder::putBackLeftOvers(settings_.fileviewSource.name().directory());
 }
 
@@ -145,25 +205,38 @@ void TarnwickDlg::welcomeFirstUse(int status) {
   if (known.empty()) settings_.javaPath = preferredJdkTools(settings_.context().installedJdks());
   if (noConfiguration) suitJdk();
   const std::string offered = settings_.javaPath;
-  const std::string offeredVersion = settings_.javacMyJdkVersion;
-  const bool accepted = settings_.runModal(0) == DIALOG_OK;
+  const JdkChoices offeredChoices = jdkChoices();
+  const bool accepted = SettingsDialog(settings_).runModal(0) == DIALOG_OK;
   if (noConfiguration && settings_.javaPath != offered) {
-    // A version that the user has chosen himself stays.
-    const std::string chosen = settings_.javacMyJdkVersion;
+    // What the user has chosen himself stays.
+    const JdkChoices chosen = jdkChoices();
     suitJdk();
-    if (chosen != offeredVersion) settings_.javacMyJdkVersion = chosen;
+    if (chosen.version != offeredChoices.version) settings_.javacMyJdkVersion = chosen.version;
+    if (chosen.newerJava != offeredChoices.newerJava) settings_.newerJava = chosen.newerJava;
+    if (chosen.oneRun != offeredChoices.oneRun) settings_.javacOneRun = chosen.oneRun;
+    if (chosen.newerConsole != offeredChoices.newerConsole) settings_.newerConsole = chosen.newerConsole;
+    if (chosen.watchRuns != offeredChoices.watchRuns) settings_.watchRuns = chosen.watchRuns;
+    if (chosen.strictChecks != offeredChoices.strictChecks) settings_.javaXfuture = chosen.strictChecks;
   }
   // Into a configuration that is there nothing comes that its user has not accepted.
   if (!noConfiguration && !accepted) settings_.javaPath = known;
-  settings_.saveDefaultConfiguration(nullptr);
+  settings_.saveDefaultConfiguration();
+}
+
+TarnwickDlg::JdkChoices TarnwickDlg::jdkChoices() const {
+  return {settings_.javacMyJdkVersion, settings_.newerJava, settings_.javacOneRun,
+          settings_.newerConsole,      settings_.watchRuns, settings_.javaXfuture};
 }
 
 void TarnwickDlg::suitJdk() {
   const int version = jdkVersion(settings_.javaPath);
   // With the last entry of the list, the warnings and the source option of all newer compilers can be used.
   if (version >= 5) settings_.javacMyJdkVersion = "1.5";
+  // Before version 5 the language was what the classic way knows.
+  settings_.newerJava = settings_.javacOneRun = settings_.newerConsole = version >= 5;
+  settings_.watchRuns = version >= 5;
   // From version 13 on, java warns about -Xfuture, and later ones refuse it. An existing configuration keeps it.
-  if (version >= 13) settings_.javaXfuture = 0;
+  if (version >= 13) settings_.javaXfuture = false;
 }
 
 void TarnwickDlg::welcomeUpgrade() {
@@ -175,7 +248,7 @@ void TarnwickDlg::welcomeUpgrade() {
              "compiler warnings. They are not compatible across JDK versions,\n"
              "so you should select the options appropriate for your JDK.")
       .runModal();
-  settings_.saveDefaultConfiguration(nullptr);
+  settings_.saveDefaultConfiguration();
 }
 
 }  // namespace tarnwick

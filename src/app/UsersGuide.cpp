@@ -2,9 +2,11 @@
 
 #include "app/HelpFileDlg.h"
 #include "base/ReplacingFile.h"
+#include "dialogbase/Messages.h"
 #include "platform/Path.h"
 #include "process/WinApp.h"
 #include "settings/Settings.h"
+#include "settings/SettingsContext.h"
 
 namespace tarnwick {
 
@@ -24,10 +26,12 @@ void saveAsItStands(Settings& stored) {
 }  // namespace
 
 void openInBrowser(Desktop& desktop, const std::string& address, const std::string& place) {
-  const WinApp browser(desktop, ".htm");
+  const WinApp browser(".htm");
   constexpr int checkOnly = 1;
-  if (browser.runApp(address.c_str(), nullptr, checkOnly) > 0)
-    browser.runApp(address.c_str(), nullptr, 0);
+  const LaunchResult found = browser.runApp(address.c_str(), nullptr, checkOnly);
+  showEach(desktop, found.failures);
+  if (found.started)
+    showEach(desktop, browser.runApp(address.c_str(), nullptr, 0).failures);
   else
     desktop.message("There is no browser on this computer. It would show:\n" + place);
 }

@@ -1,11 +1,12 @@
 #pragma once
 
-#include "settings/SettingsContext.h"
-
 #include <functional>
 #include <string>
 
 namespace tarnwick {
+
+class Desktop;
+struct SettingsContext;
 
 /// Shows an address in the user's browser. Where there is none, a message tells `place`, by which a person finds the
 /// document.

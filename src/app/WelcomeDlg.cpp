@@ -1,5 +1,7 @@
 #include "app/WelcomeDlg.h"
 
+#include "dialogbase/Desktop.h"
+#include "resources/DialogLayout.h"
 #include "resources/HelpLayouts.h"
 
 namespace tarnwick {

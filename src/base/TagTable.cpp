@@ -1,5 +1,10 @@
 #include "base/TagTable.h"
 
+#include "base/FileForSubprocess.h"
+#include "base/LineEndE.h"
+#include "base/StringableM.h"
+#include "base/TagRow.h"
+#include "base/Tarnwickfile.h"
 #include "base/Text.h"
 
 #include <cctype>
@@ -33,7 +38,7 @@ TaggedLine takeApart(const std::string& line) {
 }
 
 const TagRow* rowOf(const TagRow* rows, const std::string& tag) {
-  for (const TagRow* row = rows; row->kind != TAG_END; ++row)
+  for (const TagRow* row = rows; !row->isEnd(); ++row)
     if (tag == row->tag) return row;
   return nullptr;
 }
@@ -53,76 +58,70 @@ int readNumber(int& variable, const std::string& value) {
   for (; at < value.size() && value[at] >= '0' && value[at] <= '9'; ++at)
     number = number * 10 + static_cast<std::uint32_t>(value[at] - '0');
   variable = static_cast<int>(negative ? 0 - number : number);
-  // The digits before a character that is none count all the same, and a lone "-" is 0: both are meant.
+  // Deliberate: the digits before a character that is none count all the same, and a lone "-" is 0.
   return at < value.size() ? READ_BAD_VALUE : 0;
 }
 
-int readSwitch(int& variable, const std::string& value) {
+int readSwitch(bool& variable, const std::string& value) {
   if (value.empty()) return READ_NO_VALUE;
   const std::string word = upperCase(firstWord(value));
   if (word != "ON" && word != "OFF") return READ_BAD_VALUE;
-  variable = word == "ON" ? 1 : 0;
+  variable = word == "ON";
+  return 0;
+}
+
+int readStringable(StringableM& variable, const std::string& value) {
+  try {
+    variable.fromString(value);
+  } catch (const StringableM::InvalidDataE&) {
+    // Deliberate: no trace in the status. The value has put itself right.
+  }
   return 0;
 }
 
 /// Gives the bits of the status that the value adds.
 int readValue(const TagRow& row, const std::string& value) {
-  switch (row.kind) {
-    case TAG_STRING:
-      *static_cast<std::string*>(row.variable) = value;
-      return 0;
-    case TAG_INT:
-      return readNumber(*static_cast<int*>(row.variable), value);
-    case TAG_BOOL:
-      return readSwitch(*static_cast<int*>(row.variable), value);
-    case TAG_STRINGABLE:
-      try {
-        static_cast<StringableM*>(row.variable)->fromString(value);
-      } catch (const StringableM::InvalidDataE&) {
-        // Meant to leave no trace in the status: the value has put itself right.
-      }
-      return 0;
-    default:
-      return READ_BAD_ROW;
-  }
+  return std::visit(Overloaded{[&](std::string* text) {
+                                 *text = value;
+                                 return 0;
+                               },
+                               [&](int* number) { return readNumber(*number, value); },
+                               [&](bool* flag) { return readSwitch(*flag, value); },
+                               [&](StringableM* variable) { return readStringable(*variable, value); },
+                               [](std::monostate) { return static_cast<int>(READ_BAD_ROW); }},
+                    row.variable);
+}
+
+std::string defaultTextOf(const TagRow& row) {
+  return row.defaultText ? row.defaultText : "";
 }
 
 void resetValue(const TagRow& row) {
-  const std::string text = row.defaultText ? row.defaultText : "";
-  switch (row.kind) {
-    case TAG_STRING:
-      *static_cast<std::string*>(row.variable) = text;
-      break;
-    case TAG_INT:
-      *static_cast<int*>(row.variable) = row.defaultNumber;
-      break;
-    case TAG_BOOL:
-      *static_cast<int*>(row.variable) = row.defaultNumber != 0 ? 1 : 0;
-      break;
-    case TAG_STRINGABLE:
-      static_cast<StringableM*>(row.variable)->fromString(text);
-      break;
-    default:
-      break;
-  }
+  std::visit(
+      Overloaded{[&](std::string* text) { *text = defaultTextOf(row); },
+                 [&](int* number) { *number = row.defaultNumber; }, [&](bool* flag) { *flag = row.defaultNumber != 0; },
+                 [&](StringableM* variable) { variable->fromString(defaultTextOf(row)); }, [](std::monostate) {}},
+      row.variable);
 }
 
-/// The text behind the tag; nothing for a row of an unknown kind.
+/// The text behind the tag; nothing for a row without a variable.
 std::optional<std::string> writtenValue(const TagRow& row) {
-  switch (row.kind) {
-    case TAG_STRING: {
-      const auto& text = *static_cast<const std::string*>(row.variable);
-      return text.empty() ? " " : "  " + text;
-    }
-    case TAG_INT:
-      return "  " + std::to_string(*static_cast<const int*>(row.variable));
-    case TAG_BOOL:
-      return *static_cast<const int*>(row.variable) != 0 ? "  ON" : "  OFF";
-    case TAG_STRINGABLE:
-      return "  " + static_cast<StringableM*>(row.variable)->toString();
-    default:
-      return std::nullopt;
-  }
+  using Written = std::optional<std::string>;
+  return std::visit(Overloaded{[](const std::string* text) -> Written { return text->empty() ? " " : "  " + *text; },
+                               [](const int* number) -> Written { return "  " + std::to_string(*number); },
+                               [](const bool* flag) -> Written { return *flag ? "  ON" : "  OFF"; },
+                               [](StringableM* variable) -> Written { return "  " + variable->toString(); },
+                               [](std::monostate) -> Written { return std::nullopt; }},
+                    row.variable);
+}
+
+bool hasDefault(const TagRow& row) {
+  return std::visit(Overloaded{[&](const std::string* text) { return *text == defaultTextOf(row); },
+                               [&](const int* number) { return *number == row.defaultNumber; },
+                               [&](const bool* flag) { return *flag == (row.defaultNumber != 0); },
+                               [&](StringableM* variable) { return variable->toString() == defaultTextOf(row); },
+                               [](std::monostate) { return false; }},
+                    row.variable);
 }
 
 }  // namespace
@@ -133,8 +132,13 @@ TagTable::TagTable(const TagRow* rows, std::string version, MessageShower showMe
 void TagTable::resetToDefaults(int owner) {
   // Rows without an owner are set by hand.
   if (owner == 0) return;
-  for (const TagRow* row = rows_; row->kind != TAG_END; ++row)
+  for (const TagRow* row = rows_; !row->isEnd(); ++row)
     if (row->owner == owner) resetValue(*row);
+}
+
+void TagTable::resetLaterRows() {
+  for (const TagRow* row = rows_; !row->isEnd(); ++row)
+    if (row->isLater) resetValue(*row);
 }
 
 int TagTable::read(Tarnwickfile& file) {
@@ -143,12 +147,13 @@ int TagTable::read(Tarnwickfile& file) {
   int status = 0;
   std::size_t size = 0;
   file.openContent(FileMode::Undefined);
+  resetLaterRows();
   while (const auto line = nextLine(file.stream(), buffer)) {
     size += line->size();
     refuseLarge(size, file.name().fullName());
     if (line->size() >= buffer.size() - 2) {
-      // Meant: for a line that may be longer than the buffer, the file is read again from its top with a larger one.
-      // Twice as large, so that the longest line costs no more than a few passes.
+      // Deliberate: for a line that may be longer than the buffer, the file is read again from its top with a larger
+      // one. Twice as large, so that the longest line costs no more than a few passes.
       try {
         file.openContent(FileMode::Undefined);
       } catch (const Tarnwickfile::FileNotOpenE&) {
@@ -176,16 +181,24 @@ int TagTable::readLine(const std::string& line) {
   return bits;
 }
 
-void TagTable::write(Tarnwickfile& file) {
-  // The header comes with each call, and is meant to: a file that two tables write holds it twice.
-  std::string text = "REM  This configuration file was written by " + version_ + "\nREM\n";
-  for (const TagRow* row = rows_; row->kind != TAG_END; ++row) {
-    const auto value = writtenValue(*row);
-    if (!value) continue;
-    if (value->find('\n') != std::string::npos) throw LineEndE(row->tag, file.name().fullName());
+std::string TagTable::content() const {
+  std::string text;
+  for (const TagRow* row = rows_; !row->isEnd(); ++row) {
+    if (row->isLater && hasDefault(*row)) continue;
     // A zero byte ends a value, as it does where the value is read.
-    text += row->tag + value->substr(0, value->find('\0')) + '\n';
+    if (const auto value = writtenValue(*row)) text += row->tag + value->substr(0, value->find('\0')) + '\n';
   }
+  return text;
+}
+
+void TagTable::write(Tarnwickfile& file) {
+  for (const TagRow* row = rows_; !row->isEnd(); ++row) {
+    if (row->isLater && hasDefault(*row)) continue;
+    const auto value = writtenValue(*row);
+    if (value && value->find('\n') != std::string::npos) throw LineEndE(row->tag, file.name().fullName());
+  }
+  // Deliberate: the header comes with each call, so a file that two tables write holds it twice.
+  const std::string text = "REM  This configuration file was written by " + version_ + "\nREM\n" + content();
   std::fputs(text.c_str(), file.stream());
 }
 

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "base/FileNotOpenE.h"
 #include "base/Filename.h"
-#include "base/Tarnwickexception.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -19,12 +19,7 @@ enum class FileMode { Read = 0, Write = 1, Append = 2, Undefined = 3 };
 /// A text file with a name, a stream that may be open, and a mode.
 class Tarnwickfile {
  public:
-  /// The file could not be opened or saved; the message is mostly the system's own.
-  struct FileNotOpenE : Tarnwickexception {
-    FileNotOpenE(std::string text, std::string fileName)
-        : Tarnwickexception(std::move(text)), file(std::move(fileName)) {}
-    std::string file;  ///< the file's name, without quotes
-  };
+  using FileNotOpenE = tarnwick::FileNotOpenE;
 
   /// No name, mode `Undefined`, not open.
   Tarnwickfile() = default;
@@ -41,6 +36,7 @@ class Tarnwickfile {
 
   /// A file that is prepared now and opened later.
   static Tarnwickfile unopened(const std::string& path, FileMode mode);
+  static Tarnwickfile unopened(const Filename& name, FileMode mode) { return Tarnwickfile(name, mode); }
 
   /// Opens from the beginning, in a new mode or in the stored one. Throws FileNotOpenE, also for a name with a line
   /// end, and for devices and pipes that were to be read.

@@ -19,7 +19,8 @@ constexpr int lastNumber = 9998;
 constexpr std::time_t secondsOfDay = 86400;
 constexpr const char* extension = ".tmp";
 /// What all files of this kind are called, before their number.
-constexpr std::array prefixes = {"Tarnwick_LOG", "Tarnwick_tempManifest", "Tarnwick_javadoc_list"};
+constexpr std::array prefixes = {"Tarnwick_LOG", "Tarnwick_tempManifest", "Tarnwick_javadoc_list",
+                                 "Tarnwick_javac_list"};
 
 /// A file that cannot be examined counts as fresh. What is a link, has a second name, or belongs to another user was
 /// not made by us, however old it is.

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "dialogbase/DialogWindow.h"
+#include "base/Geometry.h"
 
 namespace tarnwick {
 

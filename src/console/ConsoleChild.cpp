@@ -3,6 +3,7 @@
 #include "base/Filename.h"
 #include "base/NoThreadE.h"
 #include "base/Text.h"
+#include "dialogbase/Desktop.h"
 #include "platform/Path.h"
 #include "platform/ThreadPriority.h"
 
@@ -53,6 +54,17 @@ void ConsoleChild::write(std::string bytes) {
   if (childState_ != 0) writer_.send(std::move(bytes));
 }
 
+void ConsoleChild::endInput() {
+  inputEnded_ = true;
+  writer_.end();
+}
+
+void ConsoleChild::stop(const std::function<bool()>& askToEnd) {
+  if (childState_ != 1) return;
+  stopped_ = true;
+  endTree(askToEnd);
+}
+
 void ConsoleChild::close(const std::function<bool()>& askToEnd) {
   bool running = false;
   writer_.breakOff();
@@ -73,15 +85,17 @@ void ConsoleChild::close(const std::function<bool()>& askToEnd) {
 }
 
 void ConsoleChild::endProcess(const std::function<bool()>& askToEnd) {
-  if (childState_ == 1) {
-    if (askToEnd()) {
-      process_->endTreeWithin(program_.timing.closeGrace);
-    } else {
-      process_->endTree();
-    }
-  }
+  if (childState_ == 1) endTree(askToEnd);
   processEnded_ = true;
   process_->stopReading();
+}
+
+void ConsoleChild::endTree(const std::function<bool()>& askToEnd) {
+  if (askToEnd()) {
+    process_->endTreeWithin(program_.timing.closeGrace);
+  } else {
+    process_->endTree();
+  }
 }
 
 void ConsoleChild::run() {
@@ -101,11 +115,12 @@ void ConsoleChild::run() {
   wake();
   process_->wait();
   if (stopping()) return;
+  noteEnd();
   // What is left to do has time: the readers bring the last words first.
   platform::lowerThreadPriority();
   std::fflush(nullptr);
   if (!awaitLastWords() || !settle()) return;
-  if (totalOutputBytes_ == 0) {
+  if (totalOutputBytes_ == 0 && program_.closesSilently) {
     // A child that said nothing leaves no console behind.
     childState_ = 0;
     requestClose();
@@ -115,6 +130,13 @@ void ConsoleChild::run() {
   writeBanner();
   childState_ = 0;
   wake();
+}
+
+void ConsoleChild::noteEnd() {
+  end_.time = std::chrono::duration_cast<std::chrono::milliseconds>(std::chrono::steady_clock::now() - began_);
+  end_.stopped = stopped_;
+  end_.cause = process_->causeOfDeath();
+  end_.code = process_->exitCode();
 }
 
 void ConsoleChild::echoCommand() {
@@ -142,6 +164,7 @@ bool ConsoleChild::startProcess() {
   }
   const std::lock_guard guard(stateLock_);
   process_ = std::move(process);
+  began_ = std::chrono::steady_clock::now();
   childState_ = 1;
   if (!stopping_) return true;
   // The window was closed while the child started.

@@ -1,10 +1,10 @@
 #pragma once
 
+#include "console/ConsoleEnd.h"
 #include "console/ConsoleProgram.h"
 #include "console/ConsoleScreen.h"
 #include "console/InputWriter.h"
 #include "console/OutputReader.h"
-#include "dialogbase/Desktop.h"
 
 #include <atomic>
 #include <condition_variable>
@@ -17,6 +17,8 @@
 #include <thread>
 
 namespace tarnwick {
+
+class Desktop;
 
 /// The program that runs in the console: one thread starts it and waits for its end, two bring its output into the
 /// text, one writes its input. No thread touches the window: they note what has changed and call `wake`.
@@ -34,6 +36,13 @@ class ConsoleChild {
   /// Bytes for the child's standard input, as one write.
   void write(std::string bytes);
 
+  /// The child's input is at its end behind what has been written; whatever is written later goes nowhere.
+  void endInput();
+  bool inputEnded() const { return inputEnded_; }
+
+  /// Ends the child with all that it started, if it runs, in the way of `close`; its end is told as any other.
+  void stop(const std::function<bool()>& askToEnd = [] { return false; });
+
   /// Ends the child with all that it started, if it runs, and waits for the threads. `askToEnd` is called first, by
   /// this thread; where it asks the child to end by itself and gives true, the child is given a little time for that.
   void close(const std::function<bool()>& askToEnd = [] { return false; });
@@ -41,6 +50,8 @@ class ConsoleChild {
   /// -1 until the child runs and after a start that failed, 1 while it runs, 0 when it has ended.
   int childState() const { return childState_; }
   std::uint64_t totalOutputBytes() const { return totalOutputBytes_; }
+  /// Once it has ended.
+  const ConsoleEnd& howItEnded() const { return end_; }
 
  private:
   void run();
@@ -48,6 +59,8 @@ class ConsoleChild {
   bool startProcess();
   void report(const platform::SystemError& fault);
   void endProcess(const std::function<bool()>& askToEnd);
+  void endTree(const std::function<bool()>& askToEnd);
+  void noteEnd();
   void startReaders();
   void read(platform::ChildProcess::Stream stream, OutputReader& reader);
   void handle(OutputReader& reader, const char* block, std::size_t count);
@@ -78,14 +91,19 @@ class ConsoleChild {
   bool outputEnded_[2] = {false, false};
   std::uint64_t handled_[2] = {0, 0};  ///< bytes of either stream that are in the text
   std::unique_ptr<platform::ChildProcess> process_;
+  std::chrono::steady_clock::time_point began_;
 
   OutputReader stdoutReader_;
   OutputReader stderrReader_;
+  ConsoleEnd end_;  ///< written before `childState_` tells the end
   std::atomic<int> childState_{-1};
   std::atomic<std::uint64_t> totalOutputBytes_{0};
   std::atomic<bool> readerActive_{false};  ///< a hint only
   std::atomic<bool> lossReported_{false};
   std::atomic<bool> processEnded_{false};  ///< by `close`: nobody waits for what it still says
+
+  std::atomic<bool> stopped_{false};  ///< by the user
+  bool inputEnded_ = false;           ///< of the user-interface thread
 
   InputWriter writer_;
   std::thread runThread_;

@@ -4,6 +4,7 @@
 #include "console/ConsoleGrid.h"
 #include "console/ConsoleSurface.h"
 #include "console/TarnwickDoc.h"
+#include "console/TextSearch.h"
 
 namespace tarnwick {
 
@@ -13,7 +14,15 @@ inline constexpr Colour consoleBackground{255, 255, 255};
 /// What a kind of text stands on.
 Colour backgroundOf(int kind);
 
-/// Draws what of the text lies in the painter's clip. The caller holds the text lock.
-void paintText(ConsolePainter& painter, const TarnwickDoc& document, const ConsoleGrid& grid);
+/// What marked text stands on; it shows in black.
+inline constexpr Colour markGround{255, 224, 102};
+
+/// Under a place that a click opens.
+inline constexpr Colour linkColour{0, 102, 204};
+
+/// Draws what of the text lies in the painter's clip, with marks on what the search finds. The caller holds the text
+/// lock.
+void paintText(ConsolePainter& painter, const TarnwickDoc& document, const ConsoleGrid& grid,
+               const TextSearch& search = {});
 
 }  // namespace tarnwick

@@ -31,6 +31,10 @@ struct ConsoleProgram {
   platform::ThreadFactory thread = &platform::startThread;
   /// What the child has started does not outlive it.
   bool leavesNothing = false;
+  /// The console of today rather than the classic one.
+  bool today = false;
+  /// If it says nothing at all, its console closes with it.
+  bool closesSilently = true;
   platform::ConsoleWindows* windows = &platform::ConsoleWindows::ofSystem();
 };
 

@@ -4,12 +4,14 @@
 #include "console/ConsoleChanges.h"
 #include "console/ConsoleGrid.h"
 #include "console/TarnwickDoc.h"
+#include "console/TerminalCursor.h"
 
 namespace tarnwick {
 
 /// All that the text lock guards: the text, its caret, and what of it the window has yet to be told.
 struct ConsoleScreen {
-  explicit ConsoleScreen(TarnwickDoc& text) : document(text), caret(text, grid, changes) {}
+  explicit ConsoleScreen(TarnwickDoc& text, bool ofToday = false)
+      : today(ofToday), document(text), cursor(text), caret(text, grid, changes) {}
   ConsoleScreen(const ConsoleScreen&) = delete;
   ConsoleScreen& operator=(const ConsoleScreen&) = delete;
 
@@ -20,7 +22,10 @@ struct ConsoleScreen {
     caret.setColumn(0);
   }
 
+  /// The console of today rather than the classic one: what is typed stays together, and is sent as it is seen.
+  const bool today;
   TarnwickDoc& document;
+  TerminalCursor cursor;  ///< only in the console of today
   ConsoleGrid grid;
   ConsoleChanges changes;
   ConsoleCaret caret;

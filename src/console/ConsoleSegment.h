@@ -1,5 +1,7 @@
 #pragma once
 
+#include "console/TextStyle.h"
+
 #include <string>
 
 namespace tarnwick {
@@ -13,11 +15,12 @@ enum TextKind {
   KIND_BANNER = 4,  ///< the program itself, when the child has ended
 };
 
-/// A run of text of one kind within a line.
+/// A run of text of one kind and style within a line.
 struct ConsoleSegment {
   int kind = KIND_NONE;
   std::string text;
   int columns = 0;  ///< how many cells the text takes; kept, since measuring a long line again and again would be slow
+  TextStyle style = {};
 };
 
 }  // namespace tarnwick

@@ -77,6 +77,13 @@ void ConsoleSelection::selectAll(const TarnwickDoc& document) {
   state_ = STATE_STANDS;
 }
 
+void ConsoleSelection::select(const ConsoleCell& start, const ConsoleCell& end, int widestLine) {
+  start_ = start;
+  end_ = end;
+  computeRects(widestLine);
+  finish();
+}
+
 std::string ConsoleSelection::text(const TarnwickDoc& document) const {
   const auto [first, last] = before(end_, start_) ? std::pair(end_, start_) : std::pair(start_, end_);
   std::string selected;

@@ -1,8 +1,8 @@
 #pragma once
 
+#include "base/Geometry.h"
 #include "console/ConsoleGrid.h"
 #include "console/TarnwickDoc.h"
-#include "dialogbase/DialogWindow.h"
 
 #include <string>
 #include <vector>
@@ -43,6 +43,8 @@ class ConsoleSelection {
   /// Selects the word at the cell: what lies between the blanks, or the line's ends, around it. False if there is none.
   bool selectWord(const TarnwickDoc& document, const ConsoleCell& cell);
   void selectAll(const TarnwickDoc& document);
+  /// Selects these cells. `widestLine` as in the document.
+  void select(const ConsoleCell& start, const ConsoleCell& end, int widestLine);
 
   /// The selected text, its lines parted by "\r\n".
   std::string text(const TarnwickDoc& document) const;

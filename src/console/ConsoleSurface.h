@@ -1,6 +1,6 @@
 #pragma once
 
-#include "dialogbase/DialogWindow.h"
+#include "base/Geometry.h"
 #include "platform/ConsoleWindows.h"
 
 #include <cstdint>
@@ -59,8 +59,14 @@ class ConsoleSurface {
   /// corner. It never takes the focus.
   virtual void showHint(bool on) = 0;
 
+  /// Shows the pointer over a link, or again the one over text.
+  virtual void showHand(bool on) = 0;
+
   /// Brings the view to the top and the frame that it is in to the foreground. Gives the frame.
   virtual platform::WindowNumber bringToFront() = 0;
+
+  /// Gives the frame that the view is in another title.
+  virtual void setTitle(const std::string& title) = 0;
 
   /// Closes the console's window. The client's `onClose` may come before this returns.
   virtual void close() = 0;
@@ -75,8 +81,8 @@ struct MouseState {
   bool control = false;
 };
 
-/// Keys that the view tells apart beside characters.
-enum class ConsoleKey { End, Home, Left, Right, Up, Down, Delete, F5, F6, F7, F8, F9, F10, F11, F12, Other };
+/// Keys that the view tells apart beside characters. A modifier is a key that does nothing by itself.
+enum class ConsoleKey { End, Home, Left, Right, Up, Down, Delete, F5, F6, F7, F8, F9, F10, F11, F12, Modifier, Other };
 
 /// Modifiers as the function keys' groups count them.
 enum KeyModifier { SHIFT_BIT = 1, CTRL_BIT = 2, ALT_BIT = 4 };
@@ -91,6 +97,8 @@ class ConsoleSurfaceClient {
   virtual void paint(ConsolePainter& painter) = 0;
   virtual void onWake() = 0;
   virtual void onResized() = 0;
+  /// The user has scrolled.
+  virtual void onScrolled() = 0;
   /// A key with no character of its own. False if it is of no use here.
   virtual bool onKey(ConsoleKey key, int modifiers) = 0;
   /// One typed character (or control character) as bytes of the platform's character set.

@@ -1,6 +1,7 @@
 #include "console/ConsoleWindowSearch.h"
 
 #include "base/Filename.h"
+#include "dialogbase/Desktop.h"
 
 #include <thread>
 #include <utility>
@@ -55,7 +56,7 @@ void ConsoleWindowSearch::walk() {
 }
 
 bool ConsoleWindowSearch::bearsName(const std::string& title) const {
-  // Meant: case counts, so that the path's mixed case fits this console alone.
+  // Deliberate: case counts, so that the path's mixed case fits this console alone.
   const auto holds = [&title](const std::string& name) { return !name.empty() && title.find(name) != title.npos; };
   return holds(exeFile_) || holds(fileName_);
 }

@@ -2,13 +2,14 @@
 
 #include "console/ConsoleProgram.h"
 #include "console/ConsoleSurface.h"
-#include "dialogbase/Desktop.h"
 #include "platform/ConsoleWindows.h"
 
 #include <functional>
 #include <string>
 
 namespace tarnwick {
+
+class Desktop;
 
 /// Looks for the console window that the system gives to the child beside ours, minimises it, and closes it in the end.
 /// Where there are no such windows it does nothing. User-interface thread only.

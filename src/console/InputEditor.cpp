@@ -10,6 +10,8 @@ namespace tarnwick {
 namespace {
 
 constexpr unsigned char firstPrintable = 32;
+constexpr char endKey = '\x04';  // Ctrl+D
+const char shownEndMark[] = "^Z";
 const std::string noText;
 
 int columnsOf(std::string_view text) {
@@ -26,8 +28,13 @@ bool isCharacter(char byte) {
 
 }  // namespace
 
-InputEditor::InputEditor(ConsoleScreen& screen, std::function<void(std::string)> send)
-    : screen_(screen), send_(std::move(send)) {}
+InputEditor::InputEditor(ConsoleScreen& screen, std::function<void(std::string)> send, InputEnd end)
+    : screen_(screen), send_(std::move(send)), end_(std::move(end)) {}
+
+void InputEditor::dropPending() {
+  pendingInput_.clear();
+  handled_ = 0;
+}
 
 InputEditor::Input InputEditor::input() const {
   const ConsoleLine& line = screen_.document.lastLine();
@@ -76,13 +83,18 @@ void InputEditor::typeText(const std::string& text) {
   if (before.caretOnCharacter()) {
     std::string edited = before.text;
     edited.insert(byteAtColumn(before.text, before.columns, before.place), text);
-    screen_.document.replaceInput(edited);
+    replaceInput(edited);
     screen_.caret.forward(columnsOf(text));
     return;
   }
   // A caret that Home has put on output does not make it input, and goes where the text goes.
   screen_.document.addText(text, KIND_INPUT);
   screen_.caret.forward(screen_.document.lastLineLength() - screen_.caret.column());
+}
+
+void InputEditor::replaceInput(const std::string& text) {
+  endMarked_ = false;
+  screen_.document.replaceInput(text);
 }
 
 void InputEditor::typeTab() {
@@ -95,12 +107,16 @@ void InputEditor::typeTab() {
 
 void InputEditor::typeReturn() {
   const Input before = input();
-  if (before.typed() || before.kind == KIND_NONE) {
+  if (endMarked_ && before.typed() && before.text == shownEndMark) {
+    end_.send();
+  } else if (before.typed() || before.kind == KIND_NONE) {
     history_.add(before.text);
     send_(before.text + '\n');
   } else {
-    send_("\r");
+    // Deliberate: a carriage return alone is what the classic console sends here. Whoever reads a line goes on waiting.
+    send_(screen_.today ? "\n" : "\r");
   }
+  endMarked_ = false;
   screen_.newLine();
   screen_.changes.ask(lineCount(), 0, 0);
 }
@@ -113,7 +129,7 @@ void InputEditor::typeBackspace() {
   const std::size_t start = previousCharacter(before.text, end);
   const int columns = columnsOf(std::string_view(before.text).substr(start, end - start));
   std::string edited = before.text;
-  screen_.document.replaceInput(edited.erase(start, end - start));
+  replaceInput(edited.erase(start, end - start));
   screen_.caret.back(columns);
   const int column = screen_.caret.column();
   screen_.changes.ask(lineCount(), std::max(column - 1, 0), column + 1);
@@ -121,6 +137,7 @@ void InputEditor::typeBackspace() {
 
 void InputEditor::typeControl(char control) {
   const Input before = input();
+  if (screen_.today && typeEnd(control, before)) return;
   if (before.typed()) {
     if (!before.text.empty()) send_(before.text);
     // The typed text is over: further typing begins a segment of its own.
@@ -128,6 +145,18 @@ void InputEditor::typeControl(char control) {
   }
   screen_.changes.ask(lineCount(), 0, screen_.document.lastLineLength());
   send_(std::string(1, control));
+}
+
+bool InputEditor::typeEnd(char control, const Input& before) {
+  if (before.typed() && !before.text.empty()) return false;
+  if (control == endKey) {
+    end_.send();
+    return true;
+  }
+  if (control != end_.mark || end_.mark == '\0') return false;
+  typeText(shownEndMark);
+  endMarked_ = true;
+  return true;
 }
 
 void InputEditor::navigate(ConsoleKey key) {
@@ -199,12 +228,13 @@ void InputEditor::removeCharacter() {
   // The next border lies behind the marks that belong to the character.
   const std::size_t end = byteAtColumn(before.text, before.columns, before.place + 1);
   std::string edited = before.text;
-  screen_.document.replaceInput(edited.erase(start, end - start));
+  replaceInput(edited.erase(start, end - start));
   const int column = screen_.caret.column();
   screen_.changes.ask(lineCount(), column, column + 1);
 }
 
 void InputEditor::showHistory(const std::string& text) {
+  endMarked_ = false;
   const ColumnRange range = screen_.document.replaceInput(text);
   const int left = std::min(screen_.caret.column(), range.start);
   screen_.caret.setColumn(range.end);

@@ -2,6 +2,7 @@
 
 #include "console/ConsoleScreen.h"
 #include "console/InputHistory.h"
+#include "platform/Terminal.h"
 
 #include <cstddef>
 #include <functional>
@@ -9,14 +10,23 @@
 
 namespace tarnwick {
 
+/// How a console of today ends its program's input.
+struct InputEnd {
+  std::function<void()> send = [] {};
+  /// Ends it as a line of its own, 0 if none does.
+  char mark = platform::endOfInputMark;
+};
+
 /// Edits what the user types at the end of the text. All that acts as typing goes through `pendingInput`.
 /// The caller holds the text lock.
 class InputEditor {
  public:
   /// `send` gets what goes to the child's standard input, one write a call.
-  InputEditor(ConsoleScreen& screen, std::function<void(std::string)> send);
+  InputEditor(ConsoleScreen& screen, std::function<void(std::string)> send, InputEnd end = {});
 
   void append(const std::string& text) { pendingInput_ += text; }
+  /// Forgets what has been appended and not worked off.
+  void dropPending();
 
   /// Works the pending characters off, up to a Return. True if more of them wait behind that.
   bool drain();
@@ -45,6 +55,9 @@ class InputEditor {
   void typeReturn();
   void typeBackspace();
   void typeControl(char control);
+  /// False if the character has nothing to do with the end of the input, or not where it is typed.
+  bool typeEnd(char control, const Input& before);
+  void replaceInput(const std::string& text);
 
   void moveToEnd();
   void moveToStart();
@@ -56,6 +69,9 @@ class InputEditor {
 
   ConsoleScreen& screen_;
   std::function<void(std::string)> send_;
+  InputEnd end_;
+  /// What stands in the input is the mark that ends it, as the key has typed it.
+  bool endMarked_ = false;
   InputHistory history_;
   std::string pendingInput_;
   std::size_t handled_ = 0;  ///< of `pendingInput_`

@@ -1,5 +1,7 @@
 #include "console/InputWriter.h"
 
+#include "dialogbase/Desktop.h"
+
 #include <cstddef>
 #include <utility>
 
@@ -11,7 +13,14 @@ InputWriter::~InputWriter() {
 
 void InputWriter::send(std::string bytes) {
   const std::lock_guard guard(lock_);
+  if (ending_) return;
   waiting_.push_back(std::move(bytes));
+  changed_.notify_one();
+}
+
+void InputWriter::end() {
+  const std::lock_guard guard(lock_);
+  ending_ = true;
   changed_.notify_one();
 }
 
@@ -30,16 +39,21 @@ void InputWriter::stop() {
   if (thread_.joinable()) thread_.join();
 }
 
+bool InputWriter::next(platform::ChildProcess& child, std::string& bytes) {
+  std::unique_lock guard(lock_);
+  changed_.wait(guard, [this] { return stopping_ || ending_ || !waiting_.empty(); });
+  if (stopping_) return false;
+  if (waiting_.empty()) {
+    child.closeInput();
+    return false;
+  }
+  bytes = std::move(waiting_.front());
+  waiting_.pop_front();
+  return true;
+}
+
 void InputWriter::run(platform::ChildProcess& child) {
-  for (;;) {
-    std::string bytes;
-    {
-      std::unique_lock guard(lock_);
-      changed_.wait(guard, [this] { return stopping_ || !waiting_.empty(); });
-      if (stopping_) return;
-      bytes = std::move(waiting_.front());
-      waiting_.pop_front();
-    }
+  for (std::string bytes; next(child, bytes);) {
     const std::ptrdiff_t written = child.write(bytes.data(), bytes.size());
     {
       const std::lock_guard guard(lock_);

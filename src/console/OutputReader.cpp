@@ -1,5 +1,6 @@
 #include "console/OutputReader.h"
 
+#include "console/HeldInput.h"
 #include "platform/Characters.h"
 
 #include <algorithm>
@@ -24,6 +25,7 @@ const std::array<bool, 256>& textBytes() {
 
 void OutputReader::begin() {
   const TextGuard guard(screen_.lock());
+  const HeldInput input(screen_);
   screen_.newLine();
   show(1);
 }
@@ -40,13 +42,18 @@ void OutputReader::handle(std::string_view block) {
   block.remove_suffix(tail);
 
   const TextGuard guard(screen_.lock());
+  const HeldInput input(screen_);
   high_ = 0;
   const auto& plain = textBytes();
   std::size_t start = 0;
   for (std::size_t place = 0; place < block.size(); ++place) {
+    if (sequence_.underWay() && sequence_.take(block[place])) {
+      start = place + 1;
+      continue;
+    }
     if (plain[static_cast<unsigned char>(block[place])]) continue;
     add(block.substr(start, place - start));
-    handleControl(platform::consoleClass(block[place]));
+    handleControl(block[place]);
     start = place + 1;
   }
   add(block.substr(start));
@@ -56,6 +63,7 @@ void OutputReader::handle(std::string_view block) {
 void OutputReader::end() {
   if (cut_.empty()) return;
   const TextGuard guard(screen_.lock());
+  const HeldInput input(screen_);
   add(cut_);
   cut_.clear();
   show(1);
@@ -63,19 +71,62 @@ void OutputReader::end() {
 
 void OutputReader::add(std::string_view text) {
   if (text.empty()) return;
+  makeRoom(text.size());
+  const std::string valid = platform::validText(text);
   // A block that adds nothing leaves the caret where the user has put it.
-  high_ = std::max(high_, screen_.document.addText(platform::validText(text), kind_).end);
-  screen_.caret.setColumn(high_);
+  if (screen_.today) {
+    high_ = std::max(high_, screen_.cursor.write(valid, kind_, sequence_.style()).end);
+    screen_.caret.setColumn(screen_.document.lastLineLength());
+  } else {
+    high_ = std::max(high_, screen_.document.addText(valid, kind_).end);
+    screen_.caret.setColumn(high_);
+  }
 }
 
-void OutputReader::handleControl(unsigned char control) {
-  switch (control) {
+void OutputReader::makeRoom(std::size_t bytes) {
+  if (!screen_.document.isFull(bytes) || (screen_.today && !screen_.cursor.atEnd())) return;
+  show(0);
+  screen_.document.breakLine();
+}
+
+bool OutputReader::handleTerminal(char byte) {
+  switch (byte) {
+    case '\r':
+      screen_.cursor.carriageReturn();
+      return true;
+    case '\b':
+      screen_.cursor.backspace();
+      return true;
+    case '\f':
+      show(0);
+      screen_.cursor.formFeed(kind_);
+      high_ = screen_.document.lastLineLength();
+      screen_.caret.setColumn(high_);
+      return true;
+    case '\t':
+      makeRoom(TarnwickDoc::tabWidth);
+      screen_.cursor.tab(kind_, sequence_.style());
+      high_ = std::max(high_, screen_.document.lastLineLength());
+      screen_.caret.setColumn(high_);
+      return true;
+    case EscapeSequence::escape:
+      sequence_.begin();
+      return true;
+    default:
+      return false;
+  }
+}
+
+void OutputReader::handleControl(char byte) {
+  if (screen_.today && handleTerminal(byte)) return;
+  switch (platform::consoleClass(byte)) {
     case '\n':
       show(0);
       screen_.document.addText("\n", kind_);
       screen_.caret.setColumn(0);
       break;
     case '\t':
+      makeRoom(TarnwickDoc::tabWidth);
       high_ = std::max(high_, screen_.document.addText("\t", kind_).end);
       screen_.caret.setColumn(high_);
       break;

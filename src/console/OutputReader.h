@@ -1,6 +1,7 @@
 #pragma once
 
 #include "console/ConsoleScreen.h"
+#include "console/EscapeSequence.h"
 
 #include <cstddef>
 #include <string>
@@ -26,14 +27,19 @@ class OutputReader {
 
  private:
   void add(std::string_view text);
-  void handleControl(unsigned char control);
+  /// Breaks a line that would become too long.
+  void makeRoom(std::size_t bytes);
+  void handleControl(char byte);
+  /// What only a terminal does. False for any other byte.
+  bool handleTerminal(char byte);
   /// Asks for the columns that were added since the last call to be shown.
   void show(int leastColumn);
 
   ConsoleScreen& screen_;
   int kind_;
   std::string cut_;  ///< the beginning of a character
-  int high_ = 0;     ///< the right end of what was added to the present line
+  EscapeSequence sequence_;
+  int high_ = 0;  ///< the right end of what was added to the present line
 };
 
 }  // namespace tarnwick

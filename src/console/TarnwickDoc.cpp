@@ -15,8 +15,6 @@
 namespace tarnwick {
 namespace {
 
-constexpr int tabWidth = 8;
-const char cantOpen[] = "\nCan't open output file.";
 const char cantWrite[] = "\nCan't write output file.";
 const char recordEnds[] = "\nThe recording has ended.";
 
@@ -29,7 +27,7 @@ std::string withoutTabs(std::string_view text, int column) {
     expanded += run;
     if (tab == std::string_view::npos) return expanded;
     column += static_cast<int>(platform::columnsOf(run));
-    const int blanks = tabWidth - column % tabWidth;
+    const int blanks = TarnwickDoc::tabWidth - column % TarnwickDoc::tabWidth;
     expanded.append(static_cast<std::size_t>(blanks), ' ');
     column += blanks;
     text.remove_prefix(tab + 1);
@@ -38,16 +36,66 @@ std::string withoutTabs(std::string_view text, int column) {
 
 }  // namespace
 
-TarnwickDoc::TarnwickDoc(Desktop& desktop, std::string title) : desktop_(desktop), title_(std::move(title)) {
+const char TarnwickDoc::brokenMark[] = "[the line goes on] ";
+const char TarnwickDoc::cantOpen[] = "\nCan't open output file.";
+
+TarnwickDoc::TarnwickDoc(std::string title) : title_(std::move(title)) {
   newLine();
 }
 
 void TarnwickDoc::newLine() {
   if (record_) record(lines_.back());
   lines_.emplace_back();
-  if (lineCount() <= maxLines) return;
+  if (lineCount() > maxLines) dropFirstLine();
+}
+
+void TarnwickDoc::dropFirstLine() {
   lines_.pop_front();
+  ++linesGone_;
   linesDropped_ = true;
+  if (!breaks_.empty() && breaks_.front() < linesGone_) breaks_.pop_front();
+}
+
+ColumnRange TarnwickDoc::write(int column, std::string_view text, int kind, const TextStyle& style) {
+  ConsoleLine& line = lines_.back();
+  int end = 0;
+  if (column >= line.length()) {
+    line.append(text, kind, style);
+    end = line.length();
+  } else {
+    end = line.overwrite(column, text, kind, style);
+  }
+  noteWidth();
+  return {column, end};
+}
+
+bool TarnwickDoc::isFull(std::size_t bytes) const {
+  const ConsoleLine& line = lines_.back();
+  return line.length() > 0 && line.weight() + bytes > longestLine;
+}
+
+void TarnwickDoc::breakLine() {
+  breaks_.push_back(linesGone_ + lines_.size() - 1);
+  newLine();
+  // Lines of usual lengths have a right to their count. Pieces of such a size have not.
+  while (breaks_.size() > maxBrokenLines) dropFirstLine();
+  addText(brokenMark, KIND_BANNER);
+}
+
+std::optional<ConsoleSegment> TarnwickDoc::takeInput() {
+  return lines_.back().takeInput();
+}
+
+void TarnwickDoc::giveInput(ConsoleSegment input) {
+  lines_.back().append(std::move(input));
+  noteWidth();
+}
+
+void TarnwickDoc::clear() {
+  linesGone_ += lines_.size() - 1;
+  lines_.erase(lines_.begin(), lines_.end() - 1);
+  breaks_.clear();
+  widestLine_ = lastLineLength();
 }
 
 ColumnRange TarnwickDoc::addText(std::string_view text, int kind) {
@@ -106,36 +154,17 @@ bool TarnwickDoc::recording() const {
   return record_ != nullptr;
 }
 
-std::optional<std::string> TarnwickDoc::chosenFile() {
-  stopRecording();
-  FileRequest request;
-  request.startFolder = Filename(recordFileName_).directory();
-  request.confirmOverwrite = true;
-  auto chosen = desktop_.saveFile(request);
-  if (chosen) {
-    recordFileName_ = *chosen;
-  } else {
-    // Deliberate: a dialog that was cancelled says so too.
-    desktop_.message(cantOpen);
-  }
-  return chosen;
-}
-
-bool TarnwickDoc::startRecording() {
-  const auto chosen = chosenFile();
-  if (!chosen) return false;
+void TarnwickDoc::startRecording(const std::string& path) {
   try {
-    auto record = std::make_unique<LineRecord>(*chosen);
+    auto record = std::make_unique<LineRecord>(path);
     const TextGuard guard(textLock_);
     record_ = std::move(record);
-    return true;
   } catch (const Tarnwickfile::FileNotOpenE& failure) {
-    desktop_.message(failure.message + cantOpen);
-    return false;
+    throw Tarnwickfile::FileNotOpenE(failure.message + cantOpen, failure.file);
   }
 }
 
-void TarnwickDoc::stopRecording() {
+std::string TarnwickDoc::stopRecording() {
   std::unique_ptr<LineRecord> ended;
   std::string fault;
   {
@@ -148,25 +177,22 @@ void TarnwickDoc::stopRecording() {
   } catch (const Tarnwickfile::FileNotOpenE& failure) {
     fault = failure.message + cantWrite;
   }
-  if (!fault.empty()) desktop_.message(fault);
+  return fault;
 }
 
-void TarnwickDoc::saveDisplay() {
-  const auto chosen = chosenFile();
-  if (!chosen) return;
+void TarnwickDoc::saveDisplay(const std::string& path) {
   const char* fault = cantOpen;
   try {
-    const std::string folder = Filename(*chosen).directory();
+    const std::string folder = Filename(path).directory();
     // What is saved lies where the user has seen a folder, never in one that is made for it.
-    if (!folder.empty() && !platform::isFolder(folder))
-      throw Tarnwickfile::FileNotOpenE(std::strerror(ENOENT), *chosen);
-    ReplacingFile file(*chosen);
+    if (!folder.empty() && !platform::isFolder(folder)) throw Tarnwickfile::FileNotOpenE(std::strerror(ENOENT), path);
+    ReplacingFile file(path);
     fault = cantWrite;
     platform::neverWait(file.stream());
     writeAll(file.stream());
     file.commit();
   } catch (const Tarnwickfile::FileNotOpenE& failure) {
-    desktop_.message(failure.message + fault);
+    throw Tarnwickfile::FileNotOpenE(failure.message + fault, failure.file);
   }
 }
 

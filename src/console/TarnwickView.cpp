@@ -40,20 +40,27 @@ TarnwickView::TarnwickView(TarnwickDoc& document, Desktop& desktop, ConsoleProgr
                            FunctionKeyLookup functionKeys)
     : desktop_(desktop),
       functionKeys_(std::move(functionKeys)),
-      screen_(document),
-      consoleSearch_(desktop, program, [this] { return child_.childState(); }),
-      child_(screen_, desktop, std::move(program), [this] { wake(); }),
-      editor_(screen_, [this](std::string bytes) { child_.write(std::move(bytes)); }) {}
+      screen_(document, program.today),
+      program_(std::move(program)),
+      shownTitle_(document.title()),
+      editor_(screen_, [this](std::string bytes) { child_->write(std::move(bytes)); }, {[this] { endInput(); }}) {
+  makeChild();
+}
 
 TarnwickView::~TarnwickView() {
   TarnwickView::onClose();
+}
+
+void TarnwickView::makeChild() {
+  consoleSearch_ = std::make_unique<ConsoleWindowSearch>(desktop_, program_, [this] { return child_->childState(); });
+  child_ = std::make_unique<ConsoleChild>(screen_, desktop_, program_, [this] { wake(); });
 }
 
 void TarnwickView::onStart(ConsoleSurface& surface) {
   surface_ = &surface;
   if (!surface_->hasFont()) desktop_.message("Error creating font");
   if (!measure()) desktop_.message("Error getting font metrics");
-  if (child_.childState() == -1) child_.start();
+  if (child_->childState() == -1) child_->start();
   surface_->setScrollSizes({1, 1});
   blinkTimer_ = startTimer(blinkPeriod, [this] {
     const TextGuard guard(screen_.lock());
@@ -66,10 +73,11 @@ void TarnwickView::onClose() {
   stopTimer(blinkTimer_);
   stopTimer(continueTimer_);
   stopTimer(hintTimer_);
-  consoleSearch_.stop();
-  child_.close([this] { return consoleSearch_.close(); });
+  consoleSearch_->stop();
+  child_->close([this] { return consoleSearch_->close(); });
   surface_ = nullptr;
-  screen_.document.stopRecording();
+  const std::string fault = screen_.document.stopRecording();
+  if (!fault.empty()) desktop_.message(fault);
 }
 
 bool TarnwickView::measure() {
@@ -85,7 +93,8 @@ void TarnwickView::paint(ConsolePainter& painter) {
   if (!surface_ || (!screen_.grid.known() && !measure())) return;
   {
     const TextGuard guard(screen_.lock());
-    paintText(painter, screen_.document, screen_.grid);
+    paintText(painter, screen_.document, screen_.grid, search_);
+    if (pointed_) painter.fill(underlineOf(*pointed_), linkColour);
     screen_.caret.draw(painter, ConsoleCaret::width, screen_.grid.charHeight);
   }
   for (const auto& rect : selection_.rects()) painter.invert(rect);
@@ -100,8 +109,9 @@ void TarnwickView::onWake() {
   wakePending_ = false;
   if (!surface_) return;
   // With the news that the child runs, and not while painting: it moves windows.
-  consoleSearch_.begin(*surface_);
+  consoleSearch_->begin(*surface_);
   apply(takeChanges());
+  showTitle();
 }
 
 void TarnwickView::onResized() {
@@ -119,7 +129,7 @@ void TarnwickView::onResized() {
 TarnwickView::Snapshot TarnwickView::takeChanges() {
   const TextGuard guard(screen_.lock());
   TarnwickDoc& document = screen_.document;
-  return {std::exchange(screen_.changes, {}), document.widestLine(), document.linesDropped(),
+  return {std::exchange(screen_.changes, {}), document.widestLine(), document.linesDropped(), document.linesGone(),
           document.takeRecordFailure()};
 }
 
@@ -165,7 +175,11 @@ void TarnwickView::follow(const Snapshot& snapshot) {
   if (grid.x(changes.firstColumn) < wanted.x) wanted.x = grid.x(changes.firstColumn) - client.x;
   if (grid.x(changes.lastColumn + 1) > wanted.x + client.x) wanted.x = grid.x(changes.lastColumn + 1) - client.x;
   wanted.x = std::max(wanted.x, 0);
-  wanted.y = followedTo_ = std::max(grid.y(changes.rows) - client.y, 0);
+  const int end = std::max(grid.y(changes.rows) - client.y, 0);
+  wanted.y = end;
+  if (holdsStill()) wanted = heldPosition(position, snapshot.linesGone);
+  followedTo_ = end;
+  goneAtRefresh_ = snapshot.linesGone;
 
   if (wanted != position) surface_->scrollTo(wanted);
   if (wanted != position || snapshot.linesDropped) {
@@ -186,7 +200,7 @@ void TarnwickView::invalidateTail(const ConsoleChanges& changes, const Point& po
 }
 
 void TarnwickView::closeIfEnded() {
-  if (surface_ && child_.childState() == 0) surface_->close();
+  if (surface_ && child_->childState() == 0) surface_->close();
 }
 
 void TarnwickView::closeWindow() {
@@ -195,6 +209,7 @@ void TarnwickView::closeWindow() {
 
 bool TarnwickView::onKey(ConsoleKey key, int modifiers) {
   // Alt alone makes it a system key, which is looked up as a function key and nothing else.
+  if (screen_.today && key == ConsoleKey::Modifier) return false;
   const bool systemKey = (modifiers & ALT_BIT) != 0 && (modifiers & CTRL_BIT) == 0;
   if (!systemKey) closeIfEnded();
   if (!surface_) return false;
@@ -202,7 +217,8 @@ bool TarnwickView::onKey(ConsoleKey key, int modifiers) {
     sendKeys(functionKeys_(modifiers & (SHIFT_BIT | CTRL_BIT | ALT_BIT), *index));
     return true;
   }
-  if (systemKey || key == ConsoleKey::Other) return false;
+  if (systemKey || key == ConsoleKey::Other || key == ConsoleKey::Modifier) return false;
+  followAgain();
   {
     const TextGuard guard(screen_.lock());
     editor_.navigate(key);
@@ -223,6 +239,7 @@ void TarnwickView::continueInput() {
   if (!surface_) return;
   clearSelection();
   hideHint();
+  followAgain();
   bool more = false;
   {
     const TextGuard guard(screen_.lock());
@@ -278,7 +295,11 @@ std::string clipboardFailure(const std::string& reason) {
 }
 
 void TarnwickView::copy() {
-  if (desktop_.setClipboardText(withSystemLineEnds(selectedText()))) return;
+  setClipboard(selectedText());
+}
+
+void TarnwickView::setClipboard(const std::string& text) {
+  if (desktop_.setClipboardText(withSystemLineEnds(text))) return;
   desktop_.message(clipboardFailure(platform::lastSystemError("").reason));
 }
 

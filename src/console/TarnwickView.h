@@ -8,11 +8,17 @@
 #include "console/ConsoleWindowSearch.h"
 #include "console/InputEditor.h"
 #include "console/TarnwickDoc.h"
+#include "console/TextSearch.h"
+#include "console/TraceLink.h"
 #include "dialogbase/Desktop.h"
 
 #include <atomic>
+#include <cstdint>
 #include <functional>
+#include <memory>
+#include <optional>
 #include <string>
+#include <utility>
 
 namespace tarnwick {
 
@@ -40,8 +46,29 @@ class TarnwickView : public ConsoleSurfaceClient {
   bool canCopy() const { return selection_.state() != ConsoleSelection::STATE_NONE; }
   bool canPaste() const { return desktop_.clipboardText().has_value(); }
 
-  int childState() const { return child_.childState(); }
-  const ConsoleWindowSearch& consoleSearch() const { return consoleSearch_; }
+  int childState() const { return child_->childState(); }
+  const ConsoleWindowSearch& consoleSearch() const { return *consoleSearch_; }
+
+  // What only the console of today has.
+
+  bool ofToday() const { return screen_.today; }
+  /// Asks for the text to look for, marks it wherever it stands and goes to the last place.
+  void find();
+  /// Goes to the next place, or back to the one before.
+  void findNext(bool back);
+  void copyAll();
+  /// Lets the text go but for the line that is being written.
+  void clear();
+  void endInput();
+  bool canEndInput() const { return childState() == 1 && !child_->inputEnded(); }
+  /// Ends the program if the user, who is asked, wants that.
+  void askToStop();
+  bool canStop() const { return childState() == 1; }
+  /// Starts the program again, once it has ended; what it has said stays.
+  void runAgain();
+  bool canRunAgain() const { return childState() == 0; }
+  /// What opens the places of stack traces, on a click with the Control key.
+  void openTracesBy(std::function<void(const TraceLink&)> open) { openTrace_ = std::move(open); }
 
   /// Closes the console's window.
   void closeWindow();
@@ -50,6 +77,7 @@ class TarnwickView : public ConsoleSurfaceClient {
   void paint(ConsolePainter& painter) override;
   void onWake() override;
   void onResized() override;
+  void onScrolled() override;
   bool onKey(ConsoleKey key, int modifiers) override;
   void onCharacter(const std::string& character, int repeatCount) override;
   void onLeftDown(const MouseState& mouse) override;
@@ -65,9 +93,33 @@ class TarnwickView : public ConsoleSurfaceClient {
     ConsoleChanges changes;
     int widestLine = 0;
     bool linesDropped = false;
+    std::uint64_t linesGone = 0;
     std::string recordFailure;
   };
 
+  /// The columns of a place in the line of this number, counted from the first there ever was.
+  struct PointedPlace {
+    std::uint64_t line = 0;
+    ColumnRange columns;
+    bool operator==(const PointedPlace&) const = default;
+  };
+
+  void showFound(const TextSearch::Hit& hit);
+  std::optional<TraceLink> traceUnder(const Point& at, PointedPlace& place);
+  /// Shows the place under the mouse as one that a click opens, if it is one.
+  void pointAt(const MouseState& mouse);
+  void pointAt(const std::optional<PointedPlace>& place);
+  /// Of the underline; the caller holds the text lock.
+  Rect underlineOf(const PointedPlace& place) const;
+  void openTraceUnder(const Point& at);
+  void makeChild();
+  void showTitle();
+  /// True if the user has scrolled back, in a console that then holds still.
+  bool holdsStill() const;
+  Point heldPosition(const Point& position, std::uint64_t linesGone);
+  /// Shows the end of the text from now on.
+  void followAgain();
+  void setClipboard(const std::string& text);
   /// Called by any thread.
   void wake();
   bool measure();
@@ -94,13 +146,19 @@ class TarnwickView : public ConsoleSurfaceClient {
   ConsoleSelection selection_{screen_.grid};
   ConsoleSurface* surface_ = nullptr;  ///< null before the start and after the close
   std::atomic<bool> wakePending_{false};
-  ConsoleWindowSearch consoleSearch_;
-  ConsoleChild child_;
+  ConsoleProgram program_;
+  std::unique_ptr<ConsoleWindowSearch> consoleSearch_;
+  std::unique_ptr<ConsoleChild> child_;
+  std::string shownTitle_;
+  TextSearch search_;
+  std::function<void(const TraceLink&)> openTrace_;
+  std::optional<PointedPlace> pointed_;
   InputEditor editor_;
 
   int scrollColumns_ = 0;
   int scrollRows_ = 0;
-  int followedTo_ = 0;  ///< where the last refresh scrolled to, downwards
+  int followedTo_ = 0;  ///< where the end of the text was at the last refresh
+  std::uint64_t goneAtRefresh_ = 0;
   bool hintVisible_ = false;
   int blinkTimer_ = 0;
   int continueTimer_ = 0;

@@ -48,7 +48,11 @@ void TarnwickView::onLeftDown(const MouseState& mouse) {
   hideHint();
   if (!selection_.rects().empty()) surface_->invalidateAll();
   selection_.dropRects();
-  if (mouse.otherButtonDown || mouse.control) return;
+  if (mouse.otherButtonDown) return;
+  if (mouse.control) {
+    openTraceUnder(mouse.at);
+    return;
+  }
   const ConsoleCell cell = borderAt(mouse.at);
   if (mouse.shift && selection_.state() == ConsoleSelection::STATE_STANDS) {
     selection_.extend(cell, widestLine());
@@ -60,7 +64,8 @@ void TarnwickView::onLeftDown(const MouseState& mouse) {
 }
 
 void TarnwickView::onMouseMove(const MouseState& mouse) {
-  if (!surface_ || selection_.state() != ConsoleSelection::STATE_DRAGGING) return;
+  if (!surface_) return;
+  if (selection_.state() != ConsoleSelection::STATE_DRAGGING) return pointAt(mouse);
   if (!mouse.leftDown) {
     selection_.finish();
     return;

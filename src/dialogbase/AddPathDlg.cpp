@@ -2,8 +2,10 @@
 
 #include "base/Filename.h"
 #include "base/Text.h"
+#include "dialogbase/Desktop.h"
 #include "dialogbase/DirDialog.h"
 #include "resources/AddPathLayout.h"
+#include "resources/DialogLayout.h"
 
 namespace tarnwick {
 

@@ -18,8 +18,8 @@ std::optional<std::string> Desktop::saveFile(const FileRequest& request) {
   return checked(pickFileToSave(request));
 }
 
-std::optional<std::string> Desktop::browseFolder() {
-  return checked(pickFolder());
+std::optional<std::string> Desktop::browseFolder(const std::string& root) {
+  return checked(pickFolder(root));
 }
 
 std::optional<std::string> Desktop::checked(std::optional<std::string> path) {

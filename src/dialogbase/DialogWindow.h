@@ -1,39 +1,20 @@
 #pragma once
 
-#include "resources/DialogLayout.h"
+#include "base/PlacedWindow.h"
 
 #include <functional>
-#include <optional>
 #include <string>
 #include <vector>
 
 namespace tarnwick {
 
-struct Point {
-  int x = 0;
-  int y = 0;
-  bool operator==(const Point&) const = default;
-};
-
-/// A rectangle in pixels; right and bottom lie just outside.
-struct Rect {
-  int left = 0;
-  int top = 0;
-  int right = 0;
-  int bottom = 0;
-  int width() const { return right - left; }
-  int height() const { return bottom - top; }
-  bool operator==(const Rect&) const = default;
-};
-
 class DialogHandler;
+struct DialogLayout;
 
 /// One open window of a dialog, addressed by control number. The rules of a dialog stand above it and never see the
 /// toolkit. A number that no control bears is a fault of the program: std::out_of_range.
-class DialogWindow {
+class DialogWindow : public PlacedWindow {
  public:
-  virtual ~DialogWindow() = default;
-
   virtual std::string text(int control) const = 0;
   /// Sends no notification.
   virtual void setText(int control, const std::string& text) = 0;
@@ -93,9 +74,6 @@ class DialogWindow {
   /// Paints the window anew with all that is in it, as it shows by then.
   virtual void redraw() = 0;
 
-  /// Left and top of the top window on the screen; nothing where the window system does not tell.
-  virtual std::optional<Point> position() const = 0;
-  virtual void moveTo(const Point& leftTop) = 0;
   /// The room for windows, without a window manager's frame around them, on the screen that the top window stands on.
   virtual Rect workArea() const = 0;
 
@@ -120,6 +98,8 @@ class DialogHandler {
   virtual void onDoubleClick(int /*control*/) {}
   /// The title bar's close box; or Escape where no Cancel button stands, of which child windows that show hear first.
   virtual void onCloseRequest() = 0;
+  /// Files were dropped on a main window.
+  virtual void onFilesDropped(const std::vector<std::string>& /*files*/) {}
   /// The window is about to go; nothing may address it afterwards.
   virtual void detached() {}
 };

@@ -1,5 +1,7 @@
 #include "dialogbase/TabbedDialog.h"
 
+#include "dialogbase/Desktop.h"
+
 #include <cstdlib>
 
 namespace tarnwick {

@@ -1,5 +1,7 @@
 #include "dialogbase/ToolTipDlg.h"
 
+#include "base/StringableM.h"
+#include "base/TagRow.h"
 #include "base/Text.h"
 #include "dialogbase/AddPathDlg.h"
 
@@ -8,16 +10,6 @@
 namespace tarnwick {
 
 namespace {
-
-std::string& textOf(const BindingRow& row) {
-  return *static_cast<std::string*>(row.variable);
-}
-int& checkOf(const BindingRow& row) {
-  return *static_cast<int*>(row.variable);
-}
-StringableM& stringableOf(const BindingRow& row) {
-  return *static_cast<StringableM*>(row.variable);
-}
 
 /// Takes a text that a person may have written. A malformed one is dropped: the value keeps what it had, also one that
 /// empties itself then.
@@ -82,22 +74,13 @@ Rect ToolTipDlg::getControlRect(int control) const {
 
 void ToolTipDlg::loadFromTags() {
   if (!tags_) return;
-  for (const TagRow* row = tags_; row->kind != TAG_END; ++row) {
+  for (const TagRow* row = tags_; !row->isEnd(); ++row) {
     if (row->page != pageId_) continue;
-    switch (row->kind) {
-      case TAG_STRING:
-        setText(row->control, *static_cast<std::string*>(row->variable));
-        break;
-      case TAG_INT:
-      case TAG_BOOL:
-        setCheck(row->control, *static_cast<int*>(row->variable));
-        break;
-      case TAG_STRINGABLE:
-        setText(row->control, static_cast<StringableM*>(row->variable)->toString());
-        break;
-      default:
-        break;
-    }
+    std::visit(Overloaded{[&](const std::string* text) { setText(row->control, *text); },
+                          [&](const int* number) { setCheck(row->control, *number != 0); },
+                          [&](const bool* flag) { setCheck(row->control, *flag); },
+                          [&](StringableM* value) { setText(row->control, value->toString()); }, [](std::monostate) {}},
+               row->variable);
   }
 }
 
@@ -110,9 +93,10 @@ void ToolTipDlg::loadFrom(const TagRow* rows) {
 void ToolTipDlg::updateControls() {
   if (!initialised_) return;
   for (const auto& row : bindings_) {
-    if (row.kind == BIND_TEXT) setFieldText(row.control, textOf(row));
-    if (row.kind == BIND_CHECK) window_->setChecked(row.control, checkOf(row) != 0);
-    if (row.kind == BIND_STRINGABLE) setFieldText(row.control, stringableOf(row).toString());
+    std::visit(Overloaded{[&](const std::string* text) { setFieldText(row.control, *text); },
+                          [&](const bool* flag) { window_->setChecked(row.control, *flag); },
+                          [&](StringableM* value) { setFieldText(row.control, value->toString()); }},
+               row.variable);
   }
 }
 
@@ -130,56 +114,46 @@ void ToolTipDlg::setText(int control, const std::string& text) {
     return;
   }
   updateVariables();
-  if (row->kind == BIND_TEXT)
-    textOf(*row) = text;
-  else if (row->kind == BIND_STRINGABLE)
-    take(stringableOf(*row), text);
+  if (auto* const bound = std::get_if<std::string*>(&row->variable)) **bound = text;
+  if (auto* const bound = std::get_if<StringableM*>(&row->variable)) take(**bound, text);
   updateControls();
 }
 
-void ToolTipDlg::setCheck(int control, int value) {
+void ToolTipDlg::setCheck(int control, bool on) {
   const BindingRow* row = binding(control);
   if (!row) {
-    if (window_) window_->setChecked(control, value != 0);
+    if (window_) window_->setChecked(control, on);
     return;
   }
   updateVariables();
-  checkOf(*row) = value;
+  if (auto* const bound = std::get_if<bool*>(&row->variable)) **bound = on;
   updateControls();
 }
 
 void ToolTipDlg::updateVariables() {
   if (!initialised_) return;
   for (const auto& row : bindings_) {
-    if (row.kind == BIND_TEXT) textOf(row) = fieldText(row.control);
-    if (row.kind == BIND_CHECK) checkOf(row) = window_->checked(row.control) ? 1 : 0;
-    if (row.kind == BIND_STRINGABLE) take(stringableOf(row), fieldText(row.control));
+    std::visit(Overloaded{[&](std::string* text) { *text = fieldText(row.control); },
+                          [&](bool* flag) { *flag = window_->checked(row.control); },
+                          [&](StringableM* value) { take(*value, fieldText(row.control)); }},
+               row.variable);
   }
 }
 
 void ToolTipDlg::storeToTags() {
   if (!initialised_ || !tags_) return;
-  for (const TagRow* row = tags_; row->kind != TAG_END; ++row) {
+  for (const TagRow* row = tags_; !row->isEnd(); ++row) {
     if (row->page != pageId_) continue;
-    switch (row->kind) {
-      case TAG_STRING:
-        *static_cast<std::string*>(row->variable) = getText(row->control);
-        break;
-      case TAG_INT:
-      case TAG_BOOL:
-        *static_cast<int*>(row->variable) = getCheck(row->control);
-        break;
-      case TAG_STRINGABLE:
-        take(*static_cast<StringableM*>(row->variable), getText(row->control));
-        break;
-      default:
-        break;
-    }
+    std::visit(Overloaded{[&](std::string* text) { *text = getText(row->control); },
+                          [&](int* number) { *number = getCheck(row->control) ? 1 : 0; },
+                          [&](bool* flag) { *flag = getCheck(row->control); },
+                          [&](StringableM* value) { take(*value, getText(row->control)); }, [](std::monostate) {}},
+               row->variable);
   }
 }
 
-int ToolTipDlg::getCheck(int control) const {
-  return window_ && window_->checked(control) ? 1 : 0;
+bool ToolTipDlg::getCheck(int control) const {
+  return window_ && window_->checked(control);
 }
 std::string ToolTipDlg::getText(int control) const {
   return fieldText(control);

@@ -1,22 +1,22 @@
 #pragma once
 
-#include "base/StringableM.h"
-#include "base/TagTable.h"
-#include "dialogbase/Desktop.h"
 #include "dialogbase/DialogWindow.h"
+#include "resources/StandardControls.h"
 
 #include <string>
+#include <variant>
 #include <vector>
 
 namespace tarnwick {
 
-enum BindingKind { BIND_TEXT = 0, BIND_CHECK = 2, BIND_STRINGABLE = 3 };
+class Desktop;
+class StringableM;
+struct TagRow;
 
-/// Ties a control to a variable of the dialog: std::string, int used as a switch, or StringableM, by kind.
+/// Ties a control to a variable of the dialog.
 struct BindingRow {
   int control;
-  void* variable;
-  int kind;
+  std::variant<std::string*, bool*, StringableM*> variable;
 };
 
 struct ToolTip {
@@ -53,12 +53,12 @@ class ToolTipDlg : public DialogHandler {
   /// Every control takes its value from its binding.
   virtual void updateControls();
   virtual void setText(int control, const std::string& text);
-  virtual void setCheck(int control, int value);
+  virtual void setCheck(int control, bool on);
   /// Every binding takes its value from its control. Malformed values are dropped.
   virtual void updateVariables();
   /// Takes each row of the tag table that this page shows from its control. Malformed values are dropped.
   virtual void storeToTags();
-  virtual int getCheck(int control) const;
+  virtual bool getCheck(int control) const;
   virtual std::string getText(int control) const;
   /// Asks for a folder or an archive, and adds it to the field's list of paths. `description` names the list.
   virtual void askPathEntry(int control, const std::string& description);

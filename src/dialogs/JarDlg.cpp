@@ -1,15 +1,24 @@
 #include "dialogs/JarDlg.h"
 
+#include "base/ProgramInfo.h"
+#include "base/TempFile.h"
 #include "base/Text.h"
-#include "dialogbase/DirDialog.h"
 #include "dialogbase/WaitCursor.h"
+#include "dialogs/DialogRules.h"
 #include "dialogs/JarLayout.h"
 #include "dialogs/SelectSubdirectoryDlg.h"
+#include "platform/FileArgument.h"
 #include "platform/FileSystem.h"
 #include "platform/Folders.h"
 #include "platform/Path.h"
 #include "platform/Process.h"
+#include "process/WinApp.h"
 #include "project/ProjectContext.h"
+#include "resources/DialogLayout.h"
+#include "settings/PathRules.h"
+#include "settings/Settings.h"
+#include "settings/SettingsContext.h"
+#include "tools/ManifestClassPath.h"
 
 #include <cerrno>
 #include <cstring>
@@ -60,12 +69,11 @@ bool isAbsolute(const std::string& path) {
 /// Where the project's class files go, if that folder can be entered; otherwise the empty text.
 std::string classFolderOf(const Settings& settings, const ProjectContext& project) {
   const std::string destination = cleanedPath(settings.javacDestination);
-  const std::string folder = isAbsolute(destination) ? destination : project.folderNoSlash();
+  const auto roots = project.sourceRoots();
+  const bool haveOneRoot = classesFollowPackages(destination) && roots.size() == 1;
+  const std::string inProject = haveOneRoot ? roots.front() : project.folderNoSlash();
+  const std::string folder = isAbsolute(destination) ? destination : inProject;
   return platform::canEnter(folder) ? Filename(folder, "x.y").quotedDirectory() : "";
-}
-
-const ProjectContext* openProject(const Settings& settings) {
-  return dynamic_cast<const ProjectContext*>(settings.currentProject.get());
 }
 
 const char* runLabel(JarOperation operation) {
@@ -95,13 +103,6 @@ void makeEmpty(Desktop& desktop, const JarSession& session, const std::string& p
   Tarnwickfile(path, FileMode::Write).close();
 }
 
-/// How long the arguments are as a command line.
-std::size_t lengthOf(const std::vector<std::string>& arguments) {
-  std::size_t length = 0;
-  for (const auto& argument : arguments) length += argument.size() + 1;
-  return length;
-}
-
 std::string joined(const std::vector<std::string>& words) {
   std::string text;
   for (const auto& word : words) text += (text.empty() ? "" : " ") + word;
@@ -111,7 +112,7 @@ std::string joined(const std::vector<std::string>& words) {
 /// The last name of a path as a word of a command text.
 std::string nameWord(const std::string& path) {
   const auto parts = platform::splitPath(path);
-  return platform::plainNameWord(parts.base + parts.extension);
+  return platform::fileWord(parts.base + parts.extension);
 }
 
 /// The folder of a path, likewise. A separator at its end would take the meaning of the quote behind it.
@@ -141,6 +142,8 @@ JarDlg::JarDlg(Settings& settings, const JarSession& session)
   }
 }
 
+JarDlg::~JarDlg() = default;
+
 int JarDlg::runModal() {
   return desktop_.runDialog(jarLayout(), *this);
 }
@@ -162,7 +165,7 @@ void JarDlg::initialise(DialogWindow& window) {
 void JarDlg::showStart() {
   setFieldText(Jar::ARCHIVE, run_.archive);
   setFieldText(Jar::BASE_FOLDER, baseFolder_);
-  setCheck(Jar::ALL_FILES, 0);
+  setCheck(Jar::ALL_FILES, false);
   setCheck(Jar::VERBOSE, run_.verbose);
   setCheck(Jar::NO_COMPRESSION, run_.noCompression);
   setCheck(Jar::NO_MANIFEST, run_.noManifest);
@@ -170,7 +173,7 @@ void JarDlg::showStart() {
   const bool opensZip = zip && !zip->commandText().empty();
   setCheck(Jar::OPEN_AS_ZIP, opensZip && openAsZip_);
   enableControl(Jar::OPEN_AS_ZIP, opensZip);
-  if (const auto* project = openProject(settings_)) setText(Jar::MAIN_CLASS, project->mainClass);
+  if (const auto* project = openProject(settings_)) setText(Jar::MAIN_CLASS, project->fullNameOf(project->mainClass));
   enableControl(Jar::CREATE_INDEX, false);
 }
 
@@ -187,13 +190,13 @@ void JarDlg::onCommand(int control) {
     case Jar::SELECT_FILES:
       return selectFiles();
     case Jar::CLEAR_FILES:
-      return fillList(Jar::INDIVIDUAL_FILES, "");
+      return clearList(Jar::INDIVIDUAL_FILES);
     case Jar::ADD_ALL_SUBFOLDERS:
       return addAllSubfolders();
     case Jar::SELECT_SUBFOLDERS:
       return selectSubfolders();
     case Jar::CLEAR_SUBFOLDERS:
-      return fillList(Jar::SUBFOLDERS, "");
+      return clearList(Jar::SUBFOLDERS);
     case Jar::NO_MANIFEST:
       return applyManifestRules();
     case Jar::BROWSE_MANIFEST:
@@ -218,7 +221,7 @@ void JarDlg::onTextChanged(int control) {
 }
 
 void JarDlg::refresh() {
-  const bool hasContents = getCheck(Jar::ALL_FILES) != 0 || !trim(getText(Jar::INDIVIDUAL_FILES)).empty() ||
+  const bool hasContents = getCheck(Jar::ALL_FILES) || !trim(getText(Jar::INDIVIDUAL_FILES)).empty() ||
                            !trim(getText(Jar::SUBFOLDERS)).empty();
   const bool hasArchive = !trim(getText(Jar::ARCHIVE)).empty() && run_.operation != JarOperation::None;
   enableControl(Jar::RUN, hasContents && hasArchive);
@@ -228,7 +231,7 @@ void JarDlg::refresh() {
 }
 
 void JarDlg::applyManifestRules() {
-  const bool wanted = getCheck(Jar::NO_MANIFEST) == 0;
+  const bool wanted = !getCheck(Jar::NO_MANIFEST);
   for (const int control : {Jar::MANIFEST_FILE, Jar::BROWSE_MANIFEST}) enableControl(control, wanted);
   const bool generated = wanted && trim(getText(Jar::MANIFEST_FILE)).empty();
   for (const int control : {Jar::MAIN_CLASS, Jar::CLASS_PATH, Jar::ADD_TO_CLASS_PATH, Jar::CLEAR_CLASS_PATH})
@@ -240,9 +243,7 @@ std::string JarDlg::typedBaseFolder() const {
 }
 
 std::string JarDlg::startFolder(const std::string& preferred) const {
-  for (const auto& folder : {preferred, typedBaseFolder()})
-    if (platform::canEnter(folder)) return folder;
-  return platform::startFolder("C:\\");
+  return firstFolder({preferred, typedBaseFolder()}, "C:\\");
 }
 
 std::optional<std::string> JarDlg::askForArchive(JarOperation operation) {
@@ -276,10 +277,7 @@ void JarDlg::selectArchive(JarOperation operation) {
 }
 
 void JarDlg::browseBaseFolder() {
-  const std::string folder = DirDialog(desktop_).browse();
-  if (folder.empty()) return;
-  setFieldText(Jar::BASE_FOLDER, folder);
-  baseFolderChanged();
+  if (browseFolder(desktop_, *this, Jar::BASE_FOLDER)) baseFolderChanged();
 }
 
 void JarDlg::enableLists(bool on) {
@@ -292,7 +290,7 @@ void JarDlg::baseFolderChanged() {
   enableControl(Jar::ALL_FILES, known);
   if (known) {
     // Names as seen from another folder mean nothing any longer.
-    setCheck(Jar::ALL_FILES, 0);
+    setCheck(Jar::ALL_FILES, false);
     setText(Jar::INDIVIDUAL_FILES, "");
     setText(Jar::SUBFOLDERS, "");
   }
@@ -300,7 +298,7 @@ void JarDlg::baseFolderChanged() {
 }
 
 void JarDlg::allFilesChanged() {
-  const bool all = getCheck(Jar::ALL_FILES) != 0;
+  const bool all = getCheck(Jar::ALL_FILES);
   enableLists(!all);
   if (all) {
     setText(Jar::INDIVIDUAL_FILES, "");
@@ -313,12 +311,19 @@ void JarDlg::listChanged(int list) {
   if (!window()->enabled(list)) return;
   const bool empty = trim(getText(Jar::INDIVIDUAL_FILES)).empty() && trim(getText(Jar::SUBFOLDERS)).empty();
   enableControl(Jar::ALL_FILES, empty);
-  if (!empty) setCheck(Jar::ALL_FILES, 0);
+  if (!empty) setCheck(Jar::ALL_FILES, false);
   refresh();
 }
 
-void JarDlg::fillList(int list, const std::string& text) {
-  setFieldText(list, text);
+bool JarDlg::fillList(int list, const std::string& text) {
+  const bool whole =
+      putWhole(desktop_, *this, list, text, list == Jar::SUBFOLDERS ? "take these subfolders" : "take these files");
+  listChanged(list);
+  return whole;
+}
+
+void JarDlg::clearList(int list) {
+  setText(list, "");
   listChanged(list);
 }
 
@@ -336,8 +341,7 @@ void JarDlg::selectFiles() {
   if (chosen.empty()) return;
   std::vector<std::string> words;
   for (const auto& path : chosen) words.push_back(nameWord(path));
-  run_.lastFilesFolder = folderWord(chosen.back());
-  fillList(Jar::INDIVIDUAL_FILES, joined(words));
+  if (fillList(Jar::INDIVIDUAL_FILES, joined(words))) run_.lastFilesFolder = folderWord(chosen.back());
 }
 
 void JarDlg::addAllSubfolders() {
@@ -373,7 +377,7 @@ void JarDlg::browseManifest() {
 }
 
 void JarDlg::createIndex() {
-  openAsZip_ = getCheck(Jar::OPEN_AS_ZIP) != 0;
+  openAsZip_ = getCheck(Jar::OPEN_AS_ZIP);
   run_.operation = JarOperation::CreateIndex;
   close(DIALOG_OK);
 }
@@ -382,11 +386,11 @@ void JarDlg::takeFields() {
   baseFolder_ = getText(Jar::BASE_FOLDER);
   run_.individualFiles = textUnlessBlank(Jar::INDIVIDUAL_FILES);
   run_.subfolders = textUnlessBlank(Jar::SUBFOLDERS);
-  run_.allFiles = getCheck(Jar::ALL_FILES) != 0;
-  run_.verbose = getCheck(Jar::VERBOSE) != 0;
-  run_.noCompression = getCheck(Jar::NO_COMPRESSION) != 0;
-  run_.noManifest = getCheck(Jar::NO_MANIFEST) != 0;
-  openAsZip_ = getCheck(Jar::OPEN_AS_ZIP) != 0;
+  run_.allFiles = getCheck(Jar::ALL_FILES);
+  run_.verbose = getCheck(Jar::VERBOSE);
+  run_.noCompression = getCheck(Jar::NO_COMPRESSION);
+  run_.noManifest = getCheck(Jar::NO_MANIFEST);
+  openAsZip_ = getCheck(Jar::OPEN_AS_ZIP);
   run_.manifest = run_.noManifest ? "" : textUnlessBlank(Jar::MANIFEST_FILE);
 }
 
@@ -412,19 +416,25 @@ void JarDlg::onOk() {
 }
 
 bool JarDlg::fitsOneCommandLine() {
-  const std::size_t length = lengthOf(jarArguments(run()));
-  const std::size_t most = platform::longestCommandLine();
-  if (length <= most) return true;
+  const std::string words = tooLongMessage(jarArguments(run()), "Select fewer files at a time, or whole subfolders.");
+  if (words.empty()) return true;
   tempManifest_.reset();
-  desktop_.message("The command line for jar is too long: it has " + std::to_string(length) +
-                   " characters, and this system takes " + std::to_string(most) +
-                   ".\nSelect fewer files at a time, or whole subfolders.");
+  desktop_.message(words);
   return false;
+}
+
+std::string JarDlg::generatedManifest() const {
+  const std::string mainClass = trim(getText(Jar::MAIN_CLASS));
+  const std::string classPath = trim(getText(Jar::CLASS_PATH));
+  // Deliberate: the classic way writes the path as it stands, although Java reads no list of paths there.
+  if (!settings_.newerJava) return manifestLines(mainClass, classPath);
+  const std::string folder = Filename(run_.archive).directory();
+  return continuedLines(manifestLines(mainClass, manifestClassPath(classPath, folder)));
 }
 
 void JarDlg::writeManifest() {
   if (run_.noManifest || !run_.manifest.empty()) return;
-  const std::string text = manifestLines(trim(getText(Jar::MAIN_CLASS)), trim(getText(Jar::CLASS_PATH)));
+  const std::string text = generatedManifest();
   if (text.empty()) return;
   tempManifest_ = std::make_unique<TempFile>("Tarnwick_tempManifest", settings_.context().program.configDirectory());
   tempManifest_->openTemp(FileMode::Undefined);

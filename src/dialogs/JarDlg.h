@@ -1,9 +1,7 @@
 #pragma once
 
-#include "base/TempFile.h"
+#include "dialogbase/ToolTipDlg.h"
 #include "platform/Trash.h"
-#include "process/WinApp.h"
-#include "settings/Settings.h"
 #include "tools/JarArguments.h"
 
 #include <functional>
@@ -13,6 +11,10 @@
 #include <vector>
 
 namespace tarnwick {
+
+class Settings;
+class TempFile;
+class WinApp;
 
 /// What is said of a base folder that can't be entered.
 extern const char invalidBaseFolder[];
@@ -40,6 +42,7 @@ class JarDlg : public ToolTipDlg {
   /// Starts with the saved archive and base folder; with a project open, with the folder of its classes. `session`
   /// outlives the dialog.
   JarDlg(Settings& settings, const JarSession& session);
+  ~JarDlg() override;
 
   int runModal();
 
@@ -71,7 +74,9 @@ class JarDlg : public ToolTipDlg {
   void baseFolderChanged();
   void allFilesChanged();
   void listChanged(int list);
-  void fillList(int list, const std::string& text);
+  /// Puts names into one of the two lists; false after the message that they are too long for it.
+  bool fillList(int list, const std::string& text);
+  void clearList(int list);
   void enableLists(bool on);
   void selectFiles();
   void addAllSubfolders();
@@ -79,7 +84,9 @@ class JarDlg : public ToolTipDlg {
   void browseManifest();
   void createIndex();
   void takeFields();
-  /// Writes the lines that Main Class and Class Path make, if there are any.
+  /// The lines that Main Class and Class Path make.
+  std::string generatedManifest() const;
+  /// Writes them, if there are any.
   void writeManifest();
   /// False after the message that the files are too many.
   bool fitsOneCommandLine();

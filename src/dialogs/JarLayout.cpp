@@ -1,5 +1,8 @@
 #include "dialogs/JarLayout.h"
 
+#include "dialogs/FormLine.h"
+#include "resources/DialogLayout.h"
+
 namespace tarnwick {
 
 using namespace layout;
@@ -11,11 +14,8 @@ constexpr int fieldWidth = 36;
 /// With room for the longest of the texts that the rules give the button.
 constexpr int runButtonWidth = 20;
 
-/// A line of the form: a label, a field, and the buttons that fill it.
 DialogItem line(const std::string& text, int field, std::vector<DialogItem> buttons) {
-  std::vector<DialogItem> items = {label(text).atLeast(labelWidth), edit(field, fieldWidth).stretched()};
-  for (auto& item : buttons) items.push_back(std::move(item));
-  return row(std::move(items));
+  return formLine(label(text).atLeast(labelWidth), edit(field, fieldWidth), std::move(buttons));
 }
 
 DialogItem archiveGroup() {

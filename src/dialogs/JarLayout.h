@@ -1,9 +1,11 @@
 // The layouts of the dialogs about archives.
 #pragma once
 
-#include "resources/DialogLayout.h"
+#include "resources/StandardControls.h"
 
 namespace tarnwick {
+
+struct DialogLayout;
 
 /// "jar".
 const DialogLayout& jarLayout();

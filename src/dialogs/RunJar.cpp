@@ -1,8 +1,14 @@
 #include "dialogs/RunJar.h"
 
 #include "base/Text.h"
+#include "dialogbase/Messages.h"
 #include "platform/FileSystem.h"
+#include "process/EditorLaunch.h"
 #include "process/Subprocess.h"
+#include "process/WinApp.h"
+#include "settings/EditorChoice.h"
+#include "settings/Settings.h"
+#include "settings/SettingsContext.h"
 #include "tools/Relaunch.h"
 
 namespace tarnwick {
@@ -27,8 +33,8 @@ bool ready(Desktop& desktop, const JarDlg& dialog, JarOperation operation) {
 void save(Settings& settings, const JarDlg& dialog) {
   settings.lastJarArchive = dialog.archive();
   settings.lastJarBaseFolder = trim(dialog.baseFolder());
-  settings.jarOpenAsZip = dialog.openAsZip() ? 1 : 0;
-  settings.saveDefaultConfiguration(nullptr);
+  settings.jarOpenAsZip = dialog.openAsZip();
+  settings.saveDefaultConfiguration();
 }
 
 }  // namespace
@@ -45,13 +51,19 @@ void runJar(Settings& settings, JarSession& session) {
   for (const auto& argument : jarArguments(run)) process.addArg(argument);
   save(settings, dialog);
   session.switches = dialog.switches();
+  if (settings.watchRuns) process.showWhileItRuns(Filename(dialog.archive()).nameWithExtension());
   try {
-    if (process.run(nullptr, FileMode::Write)) showLog(context.desktop, context.log, settings.editorChoice());
+    const RunResult result = process.run(nullptr, FileMode::Write);
+    showEach(context.desktop, result.failures);
+    if (result.said)
+      showEach(context.desktop, showLog(context.log, settings.editorChoice()));
+    else
+      showSilence(settings.editorChoice());
   } catch (const Tarnwickfile::FileNotOpenE& failure) {
     context.desktop.message(failure.message);
   }
   if (dialog.openAsZip() && session.zipApplication)
-    session.zipApplication->runApp(dialog.archive().c_str(), nullptr, 0);
+    showEach(context.desktop, session.zipApplication->runApp(dialog.archive().c_str(), nullptr, 0).failures);
   settings.saveIfWindowMoved();
 }
 

@@ -1,9 +1,12 @@
 #include "dialogs/SelectSubdirectoryDlg.h"
 
+#include "dialogbase/Desktop.h"
 #include "dialogs/JarLayout.h"
+#include "platform/FileArgument.h"
 #include "platform/FileSystem.h"
 #include "platform/Folders.h"
 #include "project/SortedNames.h"
+#include "resources/DialogLayout.h"
 
 #include <algorithm>
 
@@ -12,7 +15,7 @@ namespace tarnwick {
 std::vector<std::string> subfolderWords(const std::string& folder) {
   auto names = platform::foldersIn(folder);
   sortNames(names);
-  std::transform(names.begin(), names.end(), names.begin(), platform::plainNameWord);
+  std::transform(names.begin(), names.end(), names.begin(), platform::fileWord);
   return names;
 }
 

@@ -18,11 +18,6 @@ bool canEnter(const std::string& folder);
 /// names that fit, sorted, without those that begin with a dot. A word that fits nothing stays.
 std::string withNamesFilledIn(const std::string& commandText);
 
-/// A name as one word of a command text, made so that no tool takes it for an option or for a file of arguments: one
-/// that begins with "-" or "@" is named by way of the current folder. In double quotes if a blank stands anywhere in
-/// it.
-std::string plainNameWord(const std::string& name);
-
 /// The most characters that a command line may have here, as far as that can be told beforehand.
 std::size_t longestCommandLine();
 

@@ -5,7 +5,7 @@
 namespace tarnwick::platform {
 
 std::string foldExecutable(std::string value) {
-  // The pattern is meant: the console's window is titled with the folded text and found again by exactly that title.
+  // Deliberate: the console's window is titled with the folded text and found again by exactly that title.
   for (std::size_t i = 0; i < value.size(); ++i) {
     char& c = value[i];
     if (i % 2 == 0 && c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');

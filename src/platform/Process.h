@@ -67,12 +67,19 @@ class ChildProcess {
   /// Writes to the child's standard input. Gives the count written; -1 on failure.
   virtual std::ptrdiff_t write(const char* bytes, std::size_t size) = 0;
 
+  /// The child's standard input is at its end once it has read what was written. By the thread that writes, which
+  /// writes nothing afterwards.
+  virtual void closeInput() = 0;
+
   /// Waits until the child itself has ended, or until `stopWaiting`.
   virtual void wait() = 0;
 
   /// After `wait`: the system's word for the signal that ended the child, such as "Killed"; empty if it ended by
   /// itself, and where there are no signals.
   virtual std::string causeOfDeath() const { return ""; }
+
+  /// After `wait`: the code that the child itself has ended with; of no meaning where there is a cause of death.
+  virtual int exitCode() const { return 0; }
 
   /// Makes a `wait` or a `write` that another thread is in return at once, and every later one; any thread may call it.
   virtual void stopWaiting() = 0;

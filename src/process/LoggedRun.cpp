@@ -27,7 +27,10 @@ void LoggedRun::waitForEnd() {
   child_.wait();
   const bool settled = settle();
   finish();
-  noteDeath();
+  if (endsStopped())
+    note("Stopped.");
+  else
+    noteDeath();
   if (!settled) note("The tool has ended, but something that it has left behind still writes.");
   log_.close();
 }
@@ -37,6 +40,21 @@ void LoggedRun::giveUp() {
   const std::lock_guard lock(endLock_);
   givenUp_ = true;
   ended_.notify_all();
+}
+
+void LoggedRun::stop() {
+  {
+    const std::lock_guard lock(endLock_);
+    if (isOver_) return;
+    stopped_ = true;
+  }
+  giveUp();
+}
+
+bool LoggedRun::endsStopped() {
+  const std::lock_guard lock(endLock_);
+  isOver_ = true;
+  return stopped_;
 }
 
 void LoggedRun::listen() {
@@ -59,13 +77,14 @@ void LoggedRun::finish() {
 
 void LoggedRun::copyToLog(platform::ChildProcess::Stream stream) {
   char block[blockSize];
+  NameReplacer replacer(names_);
   // Reading goes on even if nothing can be logged: a tool must not get stuck on a full pipe.
   for (;;) {
     std::size_t size = 0;
     try {
       size = child_.read(stream, block, sizeof block);
       if (size == 0) break;
-      append(block, size);
+      append(replacer.take({block, size}), size);
     } catch (const Tarnwickfile::FileNotOpenE&) {
       // Whoever opened the log knows.
     } catch (const std::exception&) {
@@ -73,27 +92,41 @@ void LoggedRun::copyToLog(platform::ChildProcess::Stream stream) {
       lostOutput_ = true;
     }
   }
+  appendRest(replacer);
   const std::lock_guard lock(endLock_);
   ++endedOutputs_;
   ended_.notify_all();
 }
 
-void LoggedRun::append(const char* block, std::size_t size) {
+void LoggedRun::append(std::string_view text, std::size_t said) {
   const std::lock_guard lock(log_.lock());
   if (outputBytes_ == 0) {
+    NameReplacer replacer(names_);
+    const std::string command = replacer.take(command_) + replacer.rest();
     const std::string twoLineEnds = std::string(platform::lineEnd) + platform::lineEnd;
-    const std::string header = twoLineEnds + command_ + twoLineEnds;
+    const std::string header = twoLineEnds + command + twoLineEnds;
     log_.append(header.data(), header.size());
   }
-  log_.append(block, size);
+  log_.append(text.data(), text.size());
   // What could not be written counts too: the tool has said it.
-  outputBytes_ += size;
+  outputBytes_ += said;
+}
+
+/// What looked like the beginning of a name, and was none.
+void LoggedRun::appendRest(NameReplacer& replacer) {
+  const std::string rest = replacer.rest();
+  if (rest.empty()) return;
+  try {
+    append(rest, 0);
+  } catch (const std::exception&) {
+    // Told already for what came before it.
+  }
 }
 
 void LoggedRun::note(const std::string& text) {
   const std::string line = (outputBytes_ > 0 ? platform::lineEnd : "") + text + platform::lineEnd;
   try {
-    append(line.data(), line.size());
+    append(line, line.size());
   } catch (const Tarnwickfile::FileNotOpenE&) {
   }
 }

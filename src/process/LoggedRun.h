@@ -2,6 +2,7 @@
 
 #include "platform/Process.h"
 #include "platform/ThreadFactory.h"
+#include "process/NameReplacer.h"
 #include "process/ToolLog.h"
 
 #include <atomic>
@@ -11,6 +12,7 @@
 #include <functional>
 #include <mutex>
 #include <string>
+#include <string_view>
 #include <thread>
 #include <utility>
 
@@ -31,9 +33,10 @@ struct RunMeans {
 /// One tool on its way, with its output going to the log.
 class LoggedRun {
  public:
-  /// All but the command outlive the object. `command` heads the log.
-  LoggedRun(platform::ChildProcess& child, ToolLog& log, const RunMeans& means, std::string command)
-      : child_(child), log_(log), means_(means), command_(std::move(command)) {}
+  /// All but the command and the names outlive the object. `command` heads the log, in which `names` are replaced.
+  LoggedRun(platform::ChildProcess& child, ToolLog& log, const RunMeans& means, std::string command,
+            NameReplacer::Names names = {})
+      : child_(child), log_(log), means_(means), command_(std::move(command)), names_(std::move(names)) {}
   /// Ends the tool if nobody has waited for it.
   ~LoggedRun();
   LoggedRun(const LoggedRun&) = delete;
@@ -45,7 +48,12 @@ class LoggedRun {
   /// Makes `waitForEnd` return soon: ends the tool with all that it has started, and no more words are waited for. Any
   /// thread.
   void giveUp();
+  /// The same for a user who has had enough, of which the log tells. Nothing happens once the tool has ended by itself
+  /// and nothing more of it is waited for. Any thread.
+  void stop();
 
+  /// True if the user has stopped it.
+  bool isStopped() const { return stopped_; }
   /// True if the tool has said anything.
   bool hadOutput() const { return outputBytes_ > 0 || lostOutput_; }
   /// True if some of what it said was lost for lack of memory.
@@ -54,10 +62,14 @@ class LoggedRun {
  private:
   void listen();
   void copyToLog(platform::ChildProcess::Stream stream);
-  void append(const char* block, std::size_t size);
+  /// Adds what `said` has become; `said` counts even where nothing of it goes to the log yet.
+  void append(std::string_view text, std::size_t said);
+  void appendRest(NameReplacer& replacer);
   /// Adds a line of ours behind what the tool has said.
   void note(const std::string& text);
   void noteDeath();
+  /// From now on nobody can stop it; true if somebody has.
+  bool endsStopped();
   /// False if something still writes.
   bool settle();
   void finish();
@@ -66,14 +78,17 @@ class LoggedRun {
   ToolLog& log_;
   const RunMeans& means_;
   const std::string command_;
+  const NameReplacer::Names names_;
   std::thread output_;
   std::thread error_;
   std::atomic<std::size_t> outputBytes_{0};
   std::atomic<bool> lostOutput_{false};
+  std::atomic<bool> stopped_{false};
   bool finished_ = false;
-  std::mutex endLock_;  ///< of the two below
+  std::mutex endLock_;  ///< of the three below
   int endedOutputs_ = 0;
   bool givenUp_ = false;
+  bool isOver_ = false;
   std::condition_variable ended_;
 };
 

@@ -1,8 +1,15 @@
 #include "process/Subprocess.h"
 
+#include "base/FileForSubprocess.h"
+#include "base/NoThreadE.h"
+#include "base/Tarnwickfile.h"
 #include "base/Text.h"
+#include "dialogbase/Desktop.h"
 #include "platform/FileSystem.h"
 #include "platform/Folders.h"
+#include "platform/Process.h"
+#include "process/LoggedRun.h"
+#include "process/ToolLog.h"
 
 #include <cstdio>
 #include <memory>
@@ -25,19 +32,30 @@ std::string joined(const std::vector<std::string>& arguments) {
 
 }  // namespace
 
-bool enterFolderOf(Desktop& desktop, const Filename& file) {
+std::string behind(const std::vector<std::string>& earlier, const std::string& text) {
+  std::string all;
+  for (const auto& one : earlier) all += one + "\n\n";
+  return all + text;
+}
+
+std::optional<std::string> enterFolderOf(const Filename& file) {
   const std::string folder = file.directory();
-  if (folder.empty() || platform::changeDirectory(folder)) return true;
-  desktop.message("Subprocess::run(): _chdir error");
-  return false;
+  if (folder.empty() || platform::changeDirectory(folder)) return std::nullopt;
+  return "Subprocess::run(): _chdir error";
 }
 
 std::string detachedStartFailure(const std::string& program, const platform::SystemError& failure) {
   return "Unable to start " + program + ".\n\n" + failure.reason + "  (" + std::to_string(failure.code) + ')';
 }
 
-Subprocess::Subprocess(Desktop& desktop, ToolLog& log, std::string executable, RunMeans means)
-    : desktop_(desktop), log_(log), executable_(std::move(executable)), means_(std::move(means)) {}
+Subprocess::Subprocess(Desktop& desktop, ToolLog& log, std::string executable)
+    : Subprocess(desktop, log, std::move(executable), RunMeans()) {}
+
+Subprocess::Subprocess(Desktop& desktop, ToolLog& log, std::string executable, const RunMeans& means)
+    : desktop_(desktop),
+      log_(log),
+      executable_(std::move(executable)),
+      means_(std::make_shared<const RunMeans>(means)) {}
 
 void Subprocess::addArg(const std::string& text) {
   arguments_.push_back(text);
@@ -52,7 +70,8 @@ void Subprocess::reset(const std::string& executable) {
   arguments_.clear();
 }
 
-std::optional<std::vector<std::string>> Subprocess::collectVector(const FileForSubprocess* file) {
+std::optional<std::vector<std::string>> Subprocess::collectVector(const FileForSubprocess* file,
+                                                                  Failures& failures) const {
   std::vector<std::string> collected = arguments_;
   const char* fault = collected.size() >= vectorSlots ? "Subprocess argument list too long (1)." : nullptr;
   if (fault == nullptr && file != nullptr && !file->args().empty()) {
@@ -60,64 +79,91 @@ std::optional<std::vector<std::string>> Subprocess::collectVector(const FileForS
     if (collected.size() >= vectorSlots) fault = "Subprocess argument list too long (2).";
   }
   if (fault == nullptr) return collected;
-  desktop_.message(fault);
+  failures.emplace_back(fault);
   return std::nullopt;
 }
 
-bool Subprocess::enterFolder(const FileForSubprocess* file) {
-  return file == nullptr || enterFolderOf(desktop_, file->name());
+bool Subprocess::enterFolder(const FileForSubprocess* file, Failures& failures) {
+  const auto fault = file == nullptr ? std::nullopt : enterFolderOf(file->name());
+  if (fault) failures.push_back(*fault);
+  return !fault;
 }
 
-std::unique_ptr<platform::ChildProcess> Subprocess::startChild(const std::string& arguments, const std::string& title) {
-  std::vector<std::string> texts;
-  std::unique_ptr<platform::ChildProcess> child;
-  const auto report = [&texts](const platform::SystemError& fault) { texts.push_back(fault.text()); };
+std::unique_ptr<platform::ChildProcess> Subprocess::startChild(const std::string& arguments, const std::string& title,
+                                                               Failures& failures) const {
+  const auto report = [&failures](const platform::SystemError& fault) { failures.push_back(fault.text()); };
   try {
-    child = means_.start({executable_, arguments, false, title, report});
+    return means_->start({executable_, arguments, false, title, report});
   } catch (const platform::SystemError& error) {
-    texts.push_back("Can't start " + executable_ + '\n' + error.text());
+    failures.push_back("Can't start " + executable_ + '\n' + error.text());
+    return nullptr;
   }
-  for (const auto& text : texts) desktop_.message(text);
-  return child;
 }
 
-bool Subprocess::run(FileForSubprocess* file, FileMode logOpenMode) {
-  const auto collected = collectVector(file);
-  if (!collected) return false;
+BusyWork Subprocess::shownFor(LoggedRun& run) const {
+  BusyWork busy{[&run] { run.waitForEnd(); }, [&run] { run.giveUp(); }};
+  if (!shown_) return busy;
+  busy.stop = [&run] { run.stop(); };
+  if (!arguments_.empty()) busy.tool = arguments_.front();
+  busy.on = *shown_;
+  return busy;
+}
+
+RunResult Subprocess::run(const FileForSubprocess* file, FileMode logOpenMode) {
+  RunResult result;
+  auto& failures = result.failures;
+  const auto collected = collectVector(file, failures);
+  if (!collected) return result;
   const std::string command = joined(*collected);
-  if (!enterFolder(file)) return false;
+  if (!enterFolder(file, failures)) return result;
 
   // The first word is the tool's own name, in whose place the system gets the executable.
   const auto blank = command.find(' ');
   const std::string tail = blank == std::string::npos ? "" : command.substr(blank);
-  const auto child = startChild(fillsInNames_ ? platform::withNamesFilledIn(tail) : tail, command);
-  if (!child) return false;
+  const auto child = startChild(fillsInNames_ ? platform::withNamesFilledIn(tail) : tail, command, failures);
+  if (!child) return result;
 
   std::optional<Tarnwickfile::FileNotOpenE> logFault;
   try {
     log_.open(logOpenMode);
   } catch (const Tarnwickfile::FileNotOpenE& e) {
-    logFault.emplace(e.message + "\nCan't open log file " + e.file, e.file);
+    logFault.emplace(behind(failures, e.message + "\nCan't open log file " + e.file), e.file);
   }
-  LoggedRun run(*child, log_, means_, command);
-  desktop_.whileBusy([&run] { run.waitForEnd(); }, [&run] { run.giveUp(); });
+  LoggedRun run(*child, log_, *means_, command, replaced_);
+  try {
+    desktop_.whileBusy(shownFor(run));
+  } catch (NoThreadE& fault) {
+    fault.message = behind(failures, fault.message);
+    throw;
+  }
   if (logFault) throw Tarnwickfile::FileNotOpenE(*logFault);
-  if (run.lostOutput()) desktop_.message("Not enough memory for all that the tool has said.");
+  if (run.lostOutput()) failures.emplace_back("Not enough memory for all that the tool has said.");
   const std::string unwritten = log_.fault();
-  if (!unwritten.empty()) desktop_.message(unwritten + "\nCan't write log file " + log_.path());
-  return run.hadOutput();
+  if (!unwritten.empty()) failures.push_back(unwritten + "\nCan't write log file " + log_.path());
+  result.said = run.hadOutput();
+  result.stopped = run.isStopped();
+  return result;
 }
 
-bool DetachedSubprocess::run(FileForSubprocess* file, FileMode /*logOpenMode*/) {
-  const auto collected = collectVector(file);
-  if (!collected || !enterFolder(file)) return false;
+RunResult DetachedSubprocess::start(const FileForSubprocess& file) const {
+  return startIn(&file);
+}
+
+RunResult DetachedSubprocess::run(const FileForSubprocess* file, FileMode /*logOpenMode*/) {
+  return startIn(file);
+}
+
+RunResult DetachedSubprocess::startIn(const FileForSubprocess* file) const {
+  RunResult result;
+  const auto collected = collectVector(file, result.failures);
+  if (!collected || !enterFolder(file, result.failures)) return result;
   std::fflush(nullptr);
   try {
     platform::startDetached(executable(), *collected);
   } catch (const platform::SystemError& error) {
-    desktop_.message(detachedStartFailure(executable(), error));
+    result.failures.push_back(detachedStartFailure(executable(), error));
   }
-  return false;
+  return result;
 }
 
 }  // namespace tarnwick

@@ -5,6 +5,7 @@
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
+#include <utility>
 
 namespace tarnwick {
 
@@ -21,12 +22,26 @@ void ToolLog::open(FileMode mode) {
   // The tools end their lines as the system does; a text mode would do so once more.
   platform::leaveBytesAlone(file_->stream());
   fault_.clear();
+  beginPart(mode);
+}
+
+void ToolLog::beginPart(FileMode mode) {
+  if (mode != FileMode::Append) {
+    parts_.clear();
+    size_ = 0;
+    elapsed_ = {};
+  }
+  parts_.push_back({size_, platform::currentDirectory()});
+  ++runs_;
+  opened_ = std::chrono::steady_clock::now();
+  isOpen_ = true;
 }
 
 std::size_t ToolLog::append(const char* bytes, std::size_t size) {
   const std::lock_guard lock(lock_);
   if (!file_) throw Tarnwickfile::FileNotOpenE("Attempt to access file that has not been opened.", "");
   const std::size_t written = std::fwrite(bytes, 1, size, file_->stream());
+  size_ += written;
   // At once: who flushed it later might not notice that it failed, or might no longer know why.
   if (written < size || std::fflush(file_->stream()) != 0) noteFault();
   return written;
@@ -35,6 +50,22 @@ std::size_t ToolLog::append(const char* bytes, std::size_t size) {
 void ToolLog::close() {
   const std::lock_guard lock(lock_);
   if (file_) file_->close();
+  if (std::exchange(isOpen_, false)) elapsed_ += std::chrono::steady_clock::now() - opened_;
+}
+
+int ToolLog::runs() const {
+  const std::lock_guard lock(lock_);
+  return runs_;
+}
+
+std::vector<LoggedPart> ToolLog::parts() const {
+  const std::lock_guard lock(lock_);
+  return parts_;
+}
+
+std::chrono::milliseconds ToolLog::elapsed() const {
+  const std::lock_guard lock(lock_);
+  return std::chrono::duration_cast<std::chrono::milliseconds>(elapsed_);
 }
 
 void ToolLog::noteFault() {

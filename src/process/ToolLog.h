@@ -2,13 +2,21 @@
 
 #include "base/TempFile.h"
 
+#include <chrono>
 #include <cstddef>
 #include <functional>
 #include <memory>
 #include <mutex>
 #include <string>
+#include <vector>
 
 namespace tarnwick {
+
+/// One of the runs that a log tells of.
+struct LoggedPart {
+  std::size_t begin = 0;  ///< the first byte of it in the log
+  std::string folder;     ///< in which the tool ran
+};
 
 /// The tools' output of one process: one temporary file, made with the first run and opened anew for each.
 class ToolLog {
@@ -30,15 +38,28 @@ class ToolLog {
   /// The log's path; empty before the first run.
   std::string path() const;
 
+  /// How often the log has been opened so far.
+  int runs() const;
+  /// The runs since the log was last begun anew, and how long they have taken in all.
+  std::vector<LoggedPart> parts() const;
+  std::chrono::milliseconds elapsed() const;
+
   /// The lock of the log; whoever puts several appends together holds it. Recursive.
   std::recursive_mutex& lock() { return lock_; }
 
  private:
   void noteFault();
+  void beginPart(FileMode mode);
 
   std::function<std::string()> folder_;
   std::unique_ptr<TempFile> file_;
   std::string fault_;
+  std::vector<LoggedPart> parts_;
+  std::size_t size_ = 0;
+  std::chrono::steady_clock::time_point opened_;
+  std::chrono::steady_clock::duration elapsed_{};
+  int runs_ = 0;
+  bool isOpen_ = false;
   mutable std::recursive_mutex lock_;
 };
 

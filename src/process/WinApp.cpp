@@ -26,22 +26,27 @@ std::string takeWord(std::string& text) {
 
 }  // namespace
 
-WinApp::WinApp(Desktop& desktop, const std::string& extension)
-    : desktop_(&desktop), commandText_(platform::openCommand(extension)) {}
+WinApp::WinApp(const std::string& extension) : commandText_(platform::openCommand(extension)) {}
 
-WinApp WinApp::withCommand(Desktop& desktop, const std::string& commandText) {
-  WinApp app(desktop);
+WinApp WinApp::withCommand(const std::string& commandText) {
+  WinApp app;
   app.commandText_ = commandText;
   return app;
 }
 
-int WinApp::runApp(const char* file, const char* extraArgument, int checkOnly) const {
-  const auto command = takenApart(file, extraArgument);
-  if (!command) return 0;
-  return checkOnly == 1 ? 1 : start(*command);
+LaunchResult WinApp::runApp(const char* file, const char* extraArgument, int checkOnly) const {
+  LaunchResult result;
+  const auto command = takenApart(file, extraArgument, result);
+  if (!command) return result;
+  if (checkOnly == 1)
+    result.started = true;
+  else
+    start(*command, result);
+  return result;
 }
 
-std::optional<WinApp::Command> WinApp::takenApart(const char* file, const char* extraArgument) const {
+std::optional<WinApp::Command> WinApp::takenApart(const char* file, const char* extraArgument,
+                                                  LaunchResult& result) const {
   Command command;
   std::string rest;
   if (commandText_.empty() || !platform::splitOpenCommand(commandText_, command.program, rest)) return std::nullopt;
@@ -51,42 +56,39 @@ std::optional<WinApp::Command> WinApp::takenApart(const char* file, const char* 
   rest = trim(rest);
 
   auto& arguments = command.arguments;
+  const auto addWord = [&](const std::string& word, int faultNumber) {
+    if (arguments.size() < maximumArguments) {
+      arguments.push_back(word);
+      return true;
+    }
+    result.failures.push_back("Internal error " + std::to_string(faultNumber) + " in WinApp::runApp");
+    return false;
+  };
   if (rest.empty() || rest.front() != '%') {
     do {
-      if (!addWord(arguments, takeWord(rest), 1)) return std::nullopt;
+      if (!addWord(takeWord(rest), 1)) return std::nullopt;
     } while (!rest.empty() && rest.front() != '%');
   }
-  if (!addWord(arguments, file == nullptr ? "" : platform::commandWord(Filename(file).fullName()), 2))
-    return std::nullopt;
+  if (!addWord(file == nullptr ? "" : platform::commandWord(Filename(file).fullName()), 2)) return std::nullopt;
   // Only the first "%" word is the file's place; those behind it are words like any other.
   takeWord(rest);
   while (!rest.empty()) {
-    if (!addWord(arguments, takeWord(rest), 3)) return std::nullopt;
+    if (!addWord(takeWord(rest), 3)) return std::nullopt;
   }
   const bool hasExtra = extraArgument != nullptr && *extraArgument != '\0';
-  if (hasExtra && !addWord(arguments, extraArgument, 4)) return std::nullopt;
+  if (hasExtra && !addWord(extraArgument, 4)) return std::nullopt;
   return command;
 }
 
-bool WinApp::addWord(std::vector<std::string>& arguments, const std::string& word, int faultNumber) const {
-  if (arguments.size() >= maximumArguments) {
-    desktop_->message("Internal error " + std::to_string(faultNumber) + " in WinApp::runApp");
-    return false;
-  }
-  arguments.push_back(word);
-  return true;
-}
-
-int WinApp::start(const Command& command) const {
+void WinApp::start(const Command& command, LaunchResult& result) {
   const Filename program(command.program);
   std::string line = platform::commandWord(program.nameWithExtension());
   for (const auto& argument : command.arguments) line += ' ' + argument;
   try {
     platform::startCommandLine(program.fullName(), line);
-    return 1;
+    result.started = true;
   } catch (const platform::SystemError& error) {
-    desktop_->message("Can't start " + line + '\n' + error.text());
-    return 0;
+    result.failures.push_back("Can't start " + line + '\n' + error.text());
   }
 }
 

@@ -1,7 +1,14 @@
 #include "project/ProjMainClassDlg.h"
 
+#include "dialogbase/Desktop.h"
+#include "project/ProjectContext.h"
 #include "project/SortedNames.h"
+#include "resources/DialogLayout.h"
 #include "resources/ProjectLayouts.h"
+#include "settingsdialog/ToolsFolder.h"
+#include "source/TypeIndex.h"
+
+#include <set>
 
 namespace tarnwick {
 
@@ -24,13 +31,25 @@ void ProjMainClassDlg::initialise(DialogWindow& window) {
 
 void ProjMainClassDlg::fillList() {
   if (!project_) throw Tarnwickexception("You have not opened a project yet.");
+  askForToolsFolder(project_->settings());
   project_->update();
   // Every class counts, whether or not it has a main method.
-  std::vector<std::string> names;
-  for (const auto& found : project_->collectClasses(ProjectContext::CLASSES)) names.push_back(found.type.name);
-  if (names.empty()) throw Tarnwickexception("No classes defined in this project.");
-  sortNames(names);
-  window()->setEntries(CLASS_LIST, names);
+  const auto classes = project_->collectClasses(ProjectContext::CLASSES);
+  if (classes.empty()) throw Tarnwickexception("No classes defined in this project.");
+  // Where packages have no roots, nothing would tell the run which class is meant.
+  const bool tellsApart = !project_->sourceRoots().empty();
+  std::map<std::string, std::set<const JavaSourcefile*>> declaring;
+  for (const auto& [type, source] : classes) declaring[source.indexedName(type)].insert(&source);
+  std::vector<std::string> shown;
+  for (const auto& [type, source] : classes) {
+    const std::string name = source.indexedName(type);
+    const bool isAlone = !tellsApart || declaring[name].size() == 1;
+    const Entry entry{name, isAlone ? "" : project_->nameOfSource(source)};
+    shown.push_back(isAlone ? name : name + " (" + entry.source + ')');
+    entries_[shown.back()] = entry;
+  }
+  sortNames(shown);
+  window()->setEntries(CLASS_LIST, shown);
 }
 
 void ProjMainClassDlg::onDoubleClick(int) {
@@ -39,7 +58,11 @@ void ProjMainClassDlg::onDoubleClick(int) {
 
 void ProjMainClassDlg::onOk() {
   const int chosen = window()->selection(CLASS_LIST);
-  if (chosen >= 0) project_->mainClass = window()->entries(CLASS_LIST).at(static_cast<std::size_t>(chosen));
+  if (chosen >= 0) {
+    const Entry& entry = entries_.at(window()->entries(CLASS_LIST).at(static_cast<std::size_t>(chosen)));
+    project_->mainClass = entry.name;
+    project_->mainSource = entry.source;
+  }
   close(DIALOG_OK);
 }
 

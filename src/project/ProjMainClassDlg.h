@@ -1,9 +1,13 @@
 #pragma once
 
 #include "dialogbase/ToolTipDlg.h"
-#include "project/ProjectContext.h"
+
+#include <map>
+#include <string>
 
 namespace tarnwick {
+
+class ProjectContext;
 
 /// Lets the user pick the class to execute.
 class ProjMainClassDlg : public ToolTipDlg {
@@ -20,10 +24,16 @@ class ProjMainClassDlg : public ToolTipDlg {
   void onOk() override;
 
  private:
+  struct Entry {
+    std::string name;
+    std::string source;  ///< empty where the name alone tells the class
+  };
+
   /// Throws a Tarnwickexception where there is nothing to pick from.
   void fillList();
 
   ProjectContext* project_;
+  std::map<std::string, Entry> entries_;  ///< by what the list shows
 };
 
 }  // namespace tarnwick

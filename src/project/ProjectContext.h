@@ -3,28 +3,34 @@
 #include "project/ProjectSourceList.h"
 #include "settings/OpenProject.h"
 #include "settings/Settings.h"
-#include "source/TypeIndex.h"
 
-#include <array>
+#include <memory>
 #include <string>
 #include <vector>
 
 namespace tarnwick {
 
+class TypeIndex;
+struct ClassRef;
+struct TagRow;
+
 /// What a project file holds beside the settings, and the rows that tie it to its tags.
 struct ProjectValues {
-  ProjectValues(Desktop& desktop, const std::string& path, FileMode mode);
+  ProjectValues(const Settings& settings, const std::string& path);
+  ~ProjectValues();
 
   /// The project file. Not kept open between operations.
   Tarnwickfile file;
   /// The class to execute: its qualified name where it is found automatically, the plain one where it was picked.
   std::string mainClass;
+  /// The source of the class that was picked, where several declare one of that name; empty otherwise.
+  std::string mainSource;
   ProjectSourceList sources;
   /// Name and extension, in double quotes if there is a blank; empty for none.
   std::string htmlFile;
   /// Several classes may have a main method, and the user picks one of them.
-  int multiMain = 0;
-  std::array<TagRow, 5> projectRows;
+  bool multiMain = false;
+  std::vector<TagRow> projectRows;
 };
 
 /// One open project. Its file carries all settings, too; while the project is open, the program's one Settings object
@@ -33,29 +39,43 @@ class ProjectContext : public OpenProject, public ProjectValues, public TagTable
  public:
   enum Types { CLASSES = 1, INTERFACES = 2, ALL_TYPES = CLASSES | INTERFACES };
 
-  /// Opens the project, or with `create` an empty one whose file is made or emptied and left to `save`. The path may
-  /// stand in double quotes. Throws Tarnwickfile::FileNotOpenE before anything has been touched.
-  ProjectContext(Settings& settings, const std::string& path, bool create);
+  /// A project without sources over this file, which is not looked at. The path may stand in double quotes.
+  ProjectContext(Settings& settings, const std::string& path);
+  ~ProjectContext() override;
 
-  /// Reads settings and project from the file. Shows what went wrong, and throws nothing.
+  /// Reads settings and project from the file. Tells what went wrong, and throws nothing.
   void load();
-  /// Writes settings and project to the file. Shows what went wrong, and throws nothing.
+  /// Writes settings and project to the file. Tells what went wrong, and throws nothing.
   void save() override;
+  ProjectContext* context() override { return this; }
   /// Looks at all sources again: finds the class to execute, and whether all classes are up to date. Analyses only what
-  /// has changed. Throws JavaSourcefile::MultiplePublicStaticVoidMainE and what Compiler and the sources throw.
+  /// has changed. Throws JavaSourcefile::MultiplePublicStaticVoidMainE and what Compiler and the sources throw; so
+  /// whoever calls it asks for the tools' folder before (`askForToolsFolder`).
   void update();
 
   /// The project's types, the last source's first; within a source its classes before its interfaces.
   std::vector<ClassRef> collectClasses(int types) const;
-  /// The class path for what the project runs.
-  std::string runClasspath() const;
+  /// The class path for what the project runs. Where sources are read the newer way it has the folders where their
+  /// packages begin, as `sourceRoots` gives them.
+  std::string runClasspath(const std::string& running = "") const;
   /// The source path for the debugger: to the root of the main class's packages. Warns where they don't fit the
-  /// folders.
-  std::string derivedSourcepath() const;
+  /// folders; in the newer way each source tells its own root.
+  std::string derivedSourcepath(const std::string& running = "") const;
+  /// The folders where the packages of the sources begin, as they were read last the newer way; none in the classic
+  /// one. Those in which the class `running` is declared come before the others.
+  std::vector<std::string> sourceRoots(const std::string& running = "") const;
+  /// The name under which `java` finds a class that is called `name` here. Read the newer way, a class that bears it
+  /// alone is known without its package, too.
+  std::string fullNameOf(const std::string& name) const;
+  /// The class file of a class that is called so, where the newer way has put it; empty if there is none.
+  std::string classFileOf(const std::string& name) const;
+  /// The name of one of the project's sources, as its list of sources has it.
+  std::string nameOfSource(const JavaSourcefile& source) const;
 
   /// There is at least one source, and all class files are current; as of the last `update`.
   bool upToDate() const { return upToDate_; }
 
+  Settings& settings() const { return settings_; }
   std::string name() const override { return file.name().baseName(); }
   std::string quotedPath() const override { return file.name().quoted(); }
   /// The project's folder, without and with its last separator.
@@ -65,11 +85,26 @@ class ProjectContext : public OpenProject, public ProjectValues, public TagTable
 
  private:
   void findMainClass();
+  /// The sources in which a type of that full name is declared, the one that the user has picked first.
+  std::vector<const JavaSourcefile*> declaring(const std::string& fullName) const;
+  /// What a text calls a source.
+  std::string shownNameOf(std::size_t source) const;
   void findWhetherUpToDate();
+
+  /// What the user is to know goes the way of what the settings tell.
+  void tell(const std::string& text) const;
 
   Settings& settings_;
   bool upToDate_ = false;
 };
+
+/// The open project; null if there is none.
+ProjectContext* openProject(const Settings& settings);
+
+/// Opens the project, or with `create` an empty one whose file is made and left to `save`. The path may stand in double
+/// quotes. The settings take its values, and the default configuration remembers it. Throws Tarnwickfile::FileNotOpenE
+/// before anything has been touched.
+std::unique_ptr<ProjectContext> openedProject(Settings& settings, const std::string& path, bool create);
 
 /// True if the classes of all sources are current. Asks from the last source on, and no further than the first that has
 /// a stale class.

@@ -1,12 +1,22 @@
 #include "project/ProjectFilesDlg.h"
 
+#include "base/RelativeName.h"
 #include "base/Text.h"
 #include "dialogbase/WaitCursor.h"
 #include "platform/FileSystem.h"
+#include "platform/FolderEntries.h"
 #include "platform/Path.h"
+#include "project/ProjectContext.h"
 #include "project/SortedNames.h"
+#include "resources/DialogLayout.h"
 #include "resources/ProjectLayouts.h"
+#include "settings/PathRules.h"
+#include "settings/SettingsContext.h"
 #include "templates/NewSourceFileDlg.h"
+
+#include <algorithm>
+#include <iterator>
+#include <sstream>
 
 namespace tarnwick {
 
@@ -16,6 +26,16 @@ bool isJava(const std::string& name) {
   return equalsIgnoringCase(Filename(name).extension(), ".java");
 }
 
+std::vector<std::string> wordsOf(const std::string& text) {
+  std::istringstream stream(text);
+  return {std::istream_iterator<std::string>(stream), {}};
+}
+
+bool hasAll(const std::string& name, const std::vector<std::string>& words) {
+  return std::all_of(words.begin(), words.end(),
+                     [&name](const auto& word) { return name.find(word) != std::string::npos; });
+}
+
 /// As the mask "*.htm*" finds them.
 bool isHtml(const std::string& name) {
   return lowerCase(name).find(".htm") != std::string::npos;
@@ -23,16 +43,21 @@ bool isHtml(const std::string& name) {
 
 }  // namespace
 
-ProjectFilesDlg::ProjectFilesDlg(Settings& settings, ProjectContext& project)
+ProjectFilesDlg::ProjectFilesDlg(Settings& settings, ProjectContext& project, std::size_t mostNames)
     : ToolTipDlg(settings.context().desktop, projectFilesLayout().resource, 0),
       settings_(settings),
       project_(project),
+      members_{PROJECT_FILES, PROJECT_FILES_COUNT, "The project has no files yet."},
+      others_{OTHER_FILES, OTHER_FILES_COUNT, "There are no other files."},
+      mostNames_(mostNames),
       sourcesSnapshot_(project.sources.toString()) {
   toolTips_ = {
       {PROJECT_FILES, "Files belonging to the current project"},
       {OTHER_FILES, "Files found in the current project directory that do not belong to the project"},
       {ADD_FILES, "Add selected files to project context"},
       {REMOVE_FILES, "Remove selected files from project context"},
+      {FILES_FILTER, "Show only the files whose names have all words that you type here"},
+      {ADD_ALL_FILES, "Add all java files that the list of other files shows to project context"},
       {SELECT_ALL_FILES, "Select all files in both list boxes"},
       {SELECT_NO_FILES, "Deselect all files in both list boxes"},
       {CREATE_FILE, "Create a new source file in the project directory, add it to the project."},
@@ -58,9 +83,11 @@ void ProjectFilesDlg::initialise(DialogWindow& window) {
 void ProjectFilesDlg::onCommand(int control) {
   switch (control) {
     case ADD_FILES:
-      return move(OTHER_FILES, PROJECT_FILES);
+      return move(others_, members_);
     case REMOVE_FILES:
-      return move(PROJECT_FILES, OTHER_FILES);
+      return move(members_, others_);
+    case ADD_ALL_FILES:
+      return addAll();
     case SELECT_ALL_FILES:
       return selectAll(true);
     case SELECT_NO_FILES:
@@ -74,48 +101,95 @@ void ProjectFilesDlg::onCommand(int control) {
   }
 }
 
+void ProjectFilesDlg::onTextChanged(int control) {
+  if (control == FILES_FILTER) showLists();
+}
+
+std::vector<std::string> ProjectFilesDlg::filesOfFolder() {
+  foundAll_ = true;
+  std::vector<std::string> names;
+  for (const auto& name : platform::filesIn(project_.folder()))
+    if (isJava(name) ? !settings_.newerJava : isHtml(name)) names.push_back(name);
+  if (!settings_.newerJava) return names;
+  const WaitCursor hourglass(desktop_);
+  const bool hasDestination = !classesFollowPackages(settings_.javacDestination);
+  const std::string classes = classFolder(settings_.javacDestination, project_.folderNoSlash());
+  const auto found = SourceFinder(project_.folderNoSlash(), isJava, hasDestination ? classes : "").find(mostNames_);
+  foundAll_ = found.isAll;
+  names.insert(names.end(), found.names.begin(), found.names.end());
+  return names;
+}
+
 void ProjectFilesDlg::fillLists() {
-  std::vector<std::string> members;
+  members_.names.clear();
+  others_.names.clear();
+  Names known;
   int missing = 0;
   for (std::size_t i = project_.sources.size(); i-- > 0;) {
-    const Filename& name = project_.sources[i].name();
-    if (canBeRead(name.fullName()))
-      members.push_back(name.nameWithExtension());
+    known.insert(platform::fileNameKey(project_.sources.nameOf(i)));
+    if (canBeRead(project_.sources[i].name().fullName()))
+      members_.names.push_back(project_.sources.nameOf(i));
     else
       ++missing;
   }
   const std::string html = Filename(project_.htmlFile).nameWithExtension();
-  if (!html.empty()) members.push_back(html);
-  std::vector<std::string> others;
-  for (const auto& name : platform::filesIn(project_.folder())) {
-    const bool known = platform::sameFileName(name, html) || project_.sources.holds(name);
-    if (!known && (isJava(name) || isHtml(name))) others.push_back(name);
-  }
-  sortNames(members);
-  sortNames(others);
-  window()->setEntries(PROJECT_FILES, members);
-  window()->setEntries(OTHER_FILES, others);
+  if (!html.empty()) members_.names.push_back(html);
+  known.insert(platform::fileNameKey(html));
+  for (const auto& name : filesOfFolder())
+    if (known.count(platform::fileNameKey(name)) == 0) others_.names.push_back(name);
+  sortNames(members_.names);
+  sortNames(others_.names);
+  showLists();
   if (missing > 0) {
     desktop_.message(std::to_string(missing) + " files belonging to the project could not be opened.");
   }
 }
 
-void ProjectFilesDlg::move(int from, int to) {
-  std::vector<std::string> staying;
-  std::vector<std::string> target = window()->entries(to);
-  const auto entries = window()->entries(from);
-  for (std::size_t i = 0; i < entries.size(); ++i) {
-    const bool goes = window()->selected(from, static_cast<int>(i));
-    (goes ? target : staying).push_back(entries[i]);
-  }
-  sortNames(target);
-  window()->setEntries(from, staying);
-  window()->setEntries(to, target);
+void ProjectFilesDlg::showLists() {
+  show(members_);
+  show(others_);
+}
+
+void ProjectFilesDlg::show(List& list) {
+  const auto words = wordsOf(lowerCase(getText(FILES_FILTER)));
+  list.shown.clear();
+  for (const auto& name : list.names)
+    if (hasAll(lowerCase(name), words)) list.shown.push_back(name);
+  window()->setEntries(list.control, list.shown);
+  window()->setText(list.countLabel, countOf(list));
+}
+
+std::string ProjectFilesDlg::countOf(const List& list) const {
+  if (list.names.empty()) return list.wordsIfEmpty;
+  const std::string count = std::to_string(list.shown.size()) + " of " + std::to_string(list.names.size());
+  if (list.control == OTHER_FILES && !foundAll_) return count + ", and more further down";
+  return list.shown.empty() ? count + ": none has such a name" : count;
+}
+
+void ProjectFilesDlg::move(List& from, List& to) {
+  Names going;
+  for (std::size_t i = 0; i < from.shown.size(); ++i)
+    if (window()->selected(from.control, static_cast<int>(i))) going.insert(from.shown[i]);
+  transfer(going, from, to);
+}
+
+void ProjectFilesDlg::transfer(const Names& going, List& from, List& to) {
+  const auto goes = [&going](const std::string& name) { return going.count(name) > 0; };
+  std::copy_if(from.names.begin(), from.names.end(), std::back_inserter(to.names), goes);
+  std::erase_if(from.names, goes);
+  sortNames(to.names);
+  showLists();
+}
+
+void ProjectFilesDlg::addAll() {
+  Names going;
+  std::copy_if(others_.shown.begin(), others_.shown.end(), std::inserter(going, going.end()), isJava);
+  transfer(going, others_, members_);
 }
 
 void ProjectFilesDlg::selectAll(bool on) {
   for (const int list : {PROJECT_FILES, OTHER_FILES}) {
-    const int count = static_cast<int>(window()->entries(list).size());
+    const int count = static_cast<int>((list == PROJECT_FILES ? members_ : others_).shown.size());
     for (int i = 0; i < count; ++i) window()->setSelected(list, i, on);
   }
 }
@@ -123,7 +197,7 @@ void ProjectFilesDlg::selectAll(bool on) {
 void ProjectFilesDlg::createFile() {
   NewSourceFileDlg dialog(settings_, NewSourceMode::InProject, nullptr, project_.folder());
   if (dialog.runModal() != DIALOG_OK) return;
-  const std::string name = Filename(dialog.createdFile()).nameWithExtension();
+  const std::string name = relativeName(dialog.createdFile().substr(project_.folder().size()));
   const bool isProjectsHtml = platform::sameFileName(name, Filename(project_.htmlFile).nameWithExtension());
   if (!isProjectsHtml && !project_.sources.holds(name)) {
     try {
@@ -140,7 +214,7 @@ void ProjectFilesDlg::createFile() {
 void ProjectFilesDlg::onOk() {
   const WaitCursor hourglass(desktop_);
   try {
-    if (!takeMembers(window()->entries(PROJECT_FILES))) return;
+    if (!takeMembers(members_.names)) return;
   } catch (const Tarnwickfile::FileNotOpenE& failure) {
     desktop_.message(failure.message + "\nCan't open " + failure.file);
     return;
@@ -152,7 +226,7 @@ void ProjectFilesDlg::onOk() {
 bool ProjectFilesDlg::takeMembers(const std::vector<std::string>& names) {
   std::string html;
   // All sources are fresh, so that the next look at the project reads them.
-  ProjectSourceList sources(desktop_, project_.file);
+  ProjectSourceList sources(settings_, project_.file);
   for (const auto& name : names) {
     if (isJava(name)) {
       sources.add(name);

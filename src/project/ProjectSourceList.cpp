@@ -1,8 +1,12 @@
 #include "project/ProjectSourceList.h"
 
+#include "base/RelativeName.h"
 #include "base/Text.h"
 #include "base/TokenString.h"
+#include "dialogbase/Desktop.h"
 #include "platform/Path.h"
+#include "settings/Settings.h"
+#include "settings/SettingsContext.h"
 
 #include <algorithm>
 
@@ -10,10 +14,8 @@ namespace tarnwick {
 
 namespace {
 
-/// True for a name with a folder. "./X.java" is just another way to write "X.java".
-bool liesOutside(std::string name) {
-  while (name.size() > 2 && name.front() == '.' && platform::endsInSeparator(name.substr(0, 2))) name.erase(0, 2);
-  return !Filename(name).directory().empty();
+bool liesOutside(const std::string& name, bool takesFolders) {
+  return !leadsDown(name) || (!takesFolders && relativeName(name).find('/') != std::string::npos);
 }
 
 }  // namespace
@@ -22,7 +24,7 @@ std::string ProjectSourceList::toString() {
   TokenString names;
   std::size_t source = 0;
   const auto addSources = [&](std::size_t end) {
-    for (; source < std::min(end, sources_.size()); ++source) names.add(sources_[source]->name().nameWithExtension());
+    for (; source < std::min(end, sources_.size()); ++source) names.add(sources_[source].name);
   };
   for (const auto& outside : outside_) {
     addSources(outside.sourcesBefore);
@@ -35,14 +37,19 @@ std::string ProjectSourceList::toString() {
 void ProjectSourceList::fromString(const std::string& text) {
   clear();
   outside_.clear();
+  takesFolders_ = settings_.newerJava != 0;
   TokenString names;
   try {
     names.fromString(text);
   } catch (const InvalidDataE&) {
-    desktop_.message("Can't open project files:\nInvalid project context data");
+    settings_.context().tell("Can't open project files:\nInvalid project context data");
     return;
   }
   take(names.elements());
+}
+
+void ProjectSourceList::followSettings() {
+  if (takesFolders_ != (settings_.newerJava != 0)) fromString(toString());
 }
 
 void ProjectSourceList::take(const std::vector<std::string>& names) {
@@ -50,7 +57,7 @@ void ProjectSourceList::take(const std::vector<std::string>& names) {
   for (const auto& element : names) {
     const std::string name = trimLeft(element);
     if (name.empty()) continue;
-    if (liesOutside(name)) {
+    if (liesOutside(name, takesFolders_)) {
       outside_.push_back({element, sources_.size()});
       continue;
     }
@@ -60,9 +67,9 @@ void ProjectSourceList::take(const std::vector<std::string>& names) {
       ++missing;
     }
   }
-  // Always in the plural, which is meant.
+  // Deliberate: always in the plural.
   if (missing > 0) {
-    desktop_.message(std::to_string(missing) + " source files belonging to the project could not be opened.");
+    settings_.context().tell(std::to_string(missing) + " source files belonging to the project could not be opened.");
   }
   if (!outside_.empty()) tellOutside();
 }
@@ -74,20 +81,19 @@ void ProjectSourceList::tellOutside() const {
       "the project file:\n";
   for (std::size_t i = 0; i < std::min(most, outside_.size()); ++i) text += '\n' + trimLeft(outside_[i].name);
   if (outside_.size() > most) text += "\n...";
-  desktop_.message(text);
+  settings_.context().tell(text);
 }
 
 void ProjectSourceList::add(const std::string& name) {
   // Opening it is the test whether it is there. No source stays open.
-  auto source = std::make_unique<JavaSourcefile>(projectFile_.name().directory(), name, FileMode::Read);
-  source->close();
-  sources_.push_back(std::move(source));
+  auto file = std::make_unique<JavaSourcefile>(projectFile_.name().directory(), localName(name), FileMode::Read);
+  file->close();
+  sources_.push_back({relativeName(name), std::move(file)});
 }
 
 bool ProjectSourceList::holds(const std::string& name) const {
-  return std::any_of(sources_.begin(), sources_.end(), [&name](const auto& source) {
-    return platform::sameFileName(source->name().nameWithExtension(), name);
-  });
+  return std::any_of(sources_.begin(), sources_.end(),
+                     [&name](const auto& source) { return platform::sameFileName(source.name, name); });
 }
 
 }  // namespace tarnwick

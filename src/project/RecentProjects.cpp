@@ -25,7 +25,7 @@ void updateRecentProjects(SettingsContext& context, const std::string& path) {
     if (!platform::sameFileName(known, path)) fresh.add(known);
   }
   stored.recentProjects = fresh;
-  stored.saveDefaultConfiguration(nullptr);
+  stored.saveDefaultConfiguration();
 }
 
 }  // namespace tarnwick

@@ -2,12 +2,12 @@
 // configuration alone.
 #pragma once
 
-#include "settings/SettingsContext.h"
-
 #include <string>
 #include <vector>
 
 namespace tarnwick {
+
+struct SettingsContext;
 
 /// Their paths, the last one first.
 std::vector<std::string> recentProjects(SettingsContext& context);

@@ -1,9 +1,14 @@
 #include "project/SelectProjectDlg.h"
 
+#include "dialogbase/Desktop.h"
 #include "platform/FileSystem.h"
 #include "platform/Path.h"
 #include "project/RecentProjects.h"
+#include "resources/DialogLayout.h"
 #include "resources/ProjectLayouts.h"
+#include "settings/OpenProject.h"
+#include "settings/Settings.h"
+#include "settings/SettingsContext.h"
 
 namespace tarnwick {
 

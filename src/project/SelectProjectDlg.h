@@ -1,11 +1,12 @@
 #pragma once
 
 #include "dialogbase/ToolTipDlg.h"
-#include "settings/Settings.h"
 
 #include <string>
 
 namespace tarnwick {
+
+class Settings;
 
 /// Asks which project to open: one of those that were open lately, or any other.
 class SelectProjectDlg : public ToolTipDlg {

@@ -1,5 +1,7 @@
 #include "resources/AddPathLayout.h"
 
+#include "resources/DialogLayout.h"
+
 namespace tarnwick {
 
 using namespace layout;

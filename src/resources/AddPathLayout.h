@@ -1,8 +1,8 @@
 #pragma once
 
-#include "resources/DialogLayout.h"
-
 namespace tarnwick {
+
+struct DialogLayout;
 
 /// 185: adds a folder or an archive to a list of paths.
 const DialogLayout& addPathLayout();

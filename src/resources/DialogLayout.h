@@ -2,6 +2,8 @@
 // system's own sizes, so that they follow its font and scaling.
 #pragma once
 
+#include "resources/StandardControls.h"
+
 #include <optional>
 #include <string>
 #include <utility>
@@ -151,8 +153,5 @@ DialogItem emptyButtonRow();
 DialogItem layers(std::vector<DialogItem> children);
 
 }  // namespace layout
-
-/// The numbers of the two buttons that every system knows.
-enum StandardControl { IDOK_CONTROL = 1, IDCANCEL_CONTROL = 2 };
 
 }  // namespace tarnwick

@@ -1,5 +1,7 @@
 #include "resources/HelpLayouts.h"
 
+#include "resources/DialogLayout.h"
+
 namespace tarnwick {
 
 using namespace layout;

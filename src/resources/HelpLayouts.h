@@ -1,11 +1,11 @@
 // The layouts of what greets and helps, and the addresses that they name.
 #pragma once
 
-#include "resources/DialogLayout.h"
-
 #include <string>
 
 namespace tarnwick {
+
+struct DialogLayout;
 
 /// Where the product lives in the web.
 struct WebAddresses {

@@ -1,5 +1,7 @@
 #include "resources/HintLayout.h"
 
+#include "resources/DialogLayout.h"
+
 namespace tarnwick {
 
 DialogLayout hintLayout() {

@@ -19,7 +19,7 @@ struct Menu {
 using MenuBar = std::vector<Menu>;
 
 struct Accelerator {
-  enum class Key { Letter, Insert, Delete };
+  enum class Key { Letter, Insert, Delete, Break, F3 };
   bool control = false;
   bool shift = false;
   Key key = Key::Letter;
@@ -37,6 +37,16 @@ enum ConsoleCommand {
   COMMAND_CUT = 57635,
   COMMAND_PASTE = 57637,
   COMMAND_SELECT_ALL = 57642,
+  COMMAND_COPY_ALL = 32851,
+  COMMAND_CLEAR = 32852,
+  COMMAND_COPY_OR_STOP = 32853,
+  COMMAND_END_OF_INPUT = 32854,
+  COMMAND_END_KEY = 32855,
+  COMMAND_STOP = 32856,
+  COMMAND_RUN_AGAIN = 32857,
+  COMMAND_FIND = 32858,
+  COMMAND_FIND_NEXT = 32859,
+  COMMAND_FIND_PREVIOUS = 32860,
   COMMAND_JDB_HELP = 32818,
   COMMAND_HELP = 32817,
   COMMAND_ABOUT = 57664,
@@ -44,5 +54,9 @@ enum ConsoleCommand {
 
 const MenuBar& consoleMenuBar();
 const std::vector<Accelerator>& consoleAccelerators();
+
+// The same for the console of today.
+const MenuBar& newerConsoleMenuBar();
+const std::vector<Accelerator>& newerConsoleAccelerators();
 
 }  // namespace tarnwick

@@ -1,6 +1,7 @@
 #include "resources/PanelLayouts.h"
 
 #include "platform/Path.h"
+#include "resources/DialogLayout.h"
 
 namespace tarnwick {
 

@@ -1,9 +1,9 @@
 // The layouts of the main window and its panels.
 #pragma once
 
-#include "resources/DialogLayout.h"
-
 namespace tarnwick {
+
+struct DialogLayout;
 
 /// 158: the main window; of its two slots one shows at a time.
 const DialogLayout& mainLayout();

@@ -1,5 +1,7 @@
 #include "resources/ProjectLayouts.h"
 
+#include "resources/DialogLayout.h"
+
 namespace tarnwick {
 
 using namespace layout;
@@ -22,15 +24,19 @@ const DialogLayout& projectFilesLayout() {
   static const DialogLayout dialog = {
       172, "Define which files belong to the project", false,
       column({
+          row({label("Show names with"), edit(FILES_FILTER, 24).stretched()}),
           row({
-              column({label("Project files"), listBox(PROJECT_FILES, 32).linesHigh(14).selectingSeveral().stretched()})
+              column({label("Project files"), listBox(PROJECT_FILES, 46).linesHigh(14).selectingSeveral().stretched(),
+                      label("", PROJECT_FILES_COUNT).atLeast(30)})
                   .stretched(),
               column({space(), button(ADD_FILES, "<--").named("Add selected files to project"),
-                      button(REMOVE_FILES, "-->").named("Remove selected files from project"), space(),
-                      button(SELECT_ALL_FILES, "Select all"), button(SELECT_NO_FILES, "Select none"), space()})
+                      button(REMOVE_FILES, "-->").named("Remove selected files from project"),
+                      button(ADD_ALL_FILES, "Add all"), space(), button(SELECT_ALL_FILES, "Select all"),
+                      button(SELECT_NO_FILES, "Select none"), space()})
                   .withEqualWidths(),
               column({label("Other java/html files in directory"),
-                      listBox(OTHER_FILES, 32).linesHigh(14).selectingSeveral().stretched()})
+                      listBox(OTHER_FILES, 46).linesHigh(14).selectingSeveral().stretched(),
+                      label("", OTHER_FILES_COUNT).atLeast(30)})
                   .stretched(),
           }),
           row({button(CREATE_FILE, "Create new file ....")}),

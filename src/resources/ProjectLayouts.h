@@ -1,9 +1,9 @@
 // The layouts of the dialogs about projects.
 #pragma once
 
-#include "resources/DialogLayout.h"
-
 namespace tarnwick {
+
+struct DialogLayout;
 
 /// "Select existing project".
 const DialogLayout& selectProjectLayout();
@@ -24,6 +24,10 @@ enum ProjectFilesControl {
   CREATE_FILE = 3017,
   ALLOW_MULTIPLE_MAIN = 3018,
   PROJECT_FILES_HELP = 3019,
+  FILES_FILTER = 3022,
+  PROJECT_FILES_COUNT = 3023,
+  OTHER_FILES_COUNT = 3024,
+  ADD_ALL_FILES = 3025,
 };
 
 enum MainClassControl { CLASS_LIST = 3021 };

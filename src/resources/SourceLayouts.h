@@ -1,9 +1,9 @@
 // The layouts of the dialogs about sources.
 #pragma once
 
-#include "resources/DialogLayout.h"
-
 namespace tarnwick {
+
+struct DialogLayout;
 
 /// 204: the warning before a source with several public types is split.
 const DialogLayout& portabilityWarningLayout();

@@ -1,9 +1,9 @@
 // The layouts for new source files and their templates.
 #pragma once
 
-#include "resources/DialogLayout.h"
-
 namespace tarnwick {
+
+struct DialogLayout;
 
 /// Where a new source is asked for; decides what the dialog offers.
 enum class NewSourceMode {

@@ -37,6 +37,7 @@ enum DebuggerCommand {
 struct ToolbarButton {
   int command = 0;
   std::string toolTip;
+  std::string drawing;  ///< its name in the folder of the toolbar's drawings
 };
 
 using Toolbar = std::vector<ToolbarButton>;

@@ -25,7 +25,7 @@ const OptionTable garbageCollectorOptions = {
     {{"Disabled", 1, "-Xnoclassgc"}, {"Incremental", 2, "-Xincgc"}, {"Concurrent", 3, "-Xconcgc"}}, -1, 0};
 
 OptionList::OptionList(const OptionTable& table, const std::string& text) : table_(table) {
-  fromString(text);
+  OptionList::fromString(text);
 }
 
 const OptionRow* OptionList::rowOf(int index) const {
@@ -41,21 +41,6 @@ void OptionList::fromString(const std::string& text) {
   for (const auto& row : table_.rows) {
     if (text_ == row.label) index_ = row.index;
   }
-  updateControls();
-}
-
-std::string OptionList::toString() {
-  if (window_ && editField_ >= 0 && index_ == table_.userDefinedIndex) text_ = onOneLine(window_->text(editField_));
-  return text_;
-}
-
-void OptionList::updateControls() {
-  if (!window_) return;
-  window_->select(comboBox_, index_);
-  if (editField_ < 0) return;
-  const bool own = index_ == table_.userDefinedIndex;
-  window_->enable(editField_, own);
-  window_->setText(editField_, own ? text_ : "");
 }
 
 void OptionList::selectIndex(int index) {
@@ -65,7 +50,6 @@ void OptionList::selectIndex(int index) {
     text_.clear();
   else if (index != table_.userDefinedIndex)
     text_ = row->label;
-  updateControls();
 }
 
 std::string OptionList::option() const {
@@ -74,28 +58,10 @@ std::string OptionList::option() const {
   return index_ == table_.userDefinedIndex ? row->option + text_ : row->option;
 }
 
-std::string OptionList::shownOption() const {
-  if (!window_) return "";
-  const auto entries = window_->entries(comboBox_);
-  if (index_ < 0 || index_ >= static_cast<int>(entries.size())) return "";
-  for (const auto& row : table_.rows) {
-    if (entries[static_cast<std::size_t>(index_)] == row.label) return row.option;
-  }
-  return "";
-}
-
 std::string OptionList::windowText() const {
   if (index_ == table_.defaultIndex) return "Default";
   if (index_ == table_.userDefinedIndex) return "User-defined";
   return text_;
-}
-
-void OptionList::attach(DialogWindow* window, int comboBox, int editField) {
-  if (!window) return;
-  window_ = window;
-  comboBox_ = comboBox;
-  editField_ = editField;
-  updateControls();
 }
 
 }  // namespace tarnwick

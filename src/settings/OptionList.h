@@ -1,7 +1,6 @@
 #pragma once
 
 #include "base/StringableM.h"
-#include "dialogbase/DialogWindow.h"
 
 #include <string>
 #include <vector>
@@ -27,8 +26,7 @@ extern const OptionTable javacSourceOptions;
 extern const OptionTable javacVersionOptions;
 extern const OptionTable garbageCollectorOptions;
 
-/// Turns a stored setting into a command-line option by a table, and ties the table to a combo box and, for the
-/// user's own choice, to an edit field.
+/// Turns a stored setting into a command-line option by a table.
 class OptionList : public StringableM {
  public:
   /// The choice that `text` stands for. The table outlives the list.
@@ -37,33 +35,28 @@ class OptionList : public StringableM {
   /// A label of the table chooses its row, another text is the user's own choice, an empty one is none. White space at
   /// both ends goes.
   void fromString(const std::string& text) override;
-  /// The text of the choice. Reads the edit field first if the user's own choice is shown in a window.
-  std::string toString() override;
-  /// Shows the current choice in the window, if there is one.
-  virtual void updateControls();
+  /// The text of the choice.
+  std::string toString() override { return text_; }
 
-  /// Makes the entry at this place of the combo box the choice. The text becomes its label, but stays for the user's
+  /// Makes the entry with this index the choice. The text becomes its label, but stays for the user's
   /// own choice, and is empty where the table has no such row.
-  void selectIndex(int index);
+  virtual void selectIndex(int index);
   int currentIndex() const { return index_; }
   /// The option of the current choice, with the user's text behind it where the choice is the user's own; empty for
   /// none.
   std::string option() const;
-  /// The option of the entry that the combo box shows; empty without a window, or for an entry without a row.
-  std::string shownOption() const;
-  /// The text that the combo box gets when something was typed into it.
+  /// The text that a combo box gets when something was typed into it.
   std::string windowText() const;
-  /// Ties the list to the controls of a window and shows the choice there. `editField` is -1 for none. A null window is
-  /// ignored.
-  void attach(DialogWindow* window, int comboBox, int editField);
+
+ protected:
+  const OptionTable& table() const { return table_; }
+  bool isUsersOwn() const { return index_ == table_.userDefinedIndex; }
+  void setUsersOwn(const std::string& text) { text_ = text; }
 
  private:
   const OptionRow* rowOf(int index) const;
 
   const OptionTable& table_;
-  DialogWindow* window_ = nullptr;
-  int comboBox_ = 0;
-  int editField_ = -1;
   int index_ = 0;
   std::string text_;
 };

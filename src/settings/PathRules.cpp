@@ -32,16 +32,21 @@ std::string assertionOptions(const std::string& list, const std::string& prefix)
     const auto end = text.find_first_of(separators);
     std::string word = text.substr(0, end);
     text = end == std::string::npos ? "" : text.substr(end + 1);
-    // An empty word, from a separator in the first place, becomes an option like any other: that is meant.
+    // Deliberate: an empty word, from a separator in the first place, becomes an option like any other.
     word = word.substr(0, lowerCase(word).find(".class"));
     result += prefix + word + " ";
   }
   return result;
 }
 
-std::string classFolder(const std::string& destination, const std::string& sourceFolder) {
+bool classesFollowPackages(const std::string& destination) {
   const std::string folder = Filename(destination).fullName();
-  if (folder.empty() || folder == ".") return sourceFolder;
+  return folder.empty() || folder == ".";
+}
+
+std::string classFolder(const std::string& destination, const std::string& sourceFolder) {
+  if (classesFollowPackages(destination)) return sourceFolder;
+  const std::string folder = Filename(destination).fullName();
   const auto parts = platform::splitPath(folder);
   const bool fromRoot = !parts.folder.empty() && platform::endsInSeparator(parts.folder.substr(0, 1));
   if (fromRoot || !parts.drive.empty()) return folder;

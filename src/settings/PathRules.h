@@ -12,6 +12,10 @@ std::string normalisedClasspath(const std::string& classpath);
 /// and a blank behind it.
 std::string assertionOptions(const std::string& list, const std::string& prefix);
 
+/// True if the setting JAVAC_DESTINATION names no folder of its own: in the newer way classes then lie where their
+/// packages begin.
+bool classesFollowPackages(const std::string& destination);
+
 /// The folder that the compiler gives classes, by the setting JAVAC_DESTINATION: empty and "." stand for the folder of
 /// the sources, in which the compiler runs, and a relative one begins there.
 std::string classFolder(const std::string& destination, const std::string& sourceFolder);

@@ -1,5 +1,6 @@
 #include "settings/WindowPosition.h"
 
+#include "base/PlacedWindow.h"
 #include "base/Text.h"
 #include "base/TokenString.h"
 
@@ -23,7 +24,7 @@ int leadingNumber(const std::string& text) {
   return static_cast<int>(negative ? 0 - number : number);
 }
 
-std::optional<Point> placementOf(const DialogWindow* window) {
+std::optional<Point> placementOf(const PlacedWindow* window) {
   return window ? window->position() : std::optional<Point>();
 }
 
@@ -71,7 +72,7 @@ void WindowPosition::applyToWindow() {
     const int top = getTop();
     mainWindow_->moveTo({left, top});
   } catch (const UndefinedE&) {
-    // Crosswise, and meant: the first start puts the window where its two coordinates are exchanged.
+    // Deliberate: crosswise. The first start puts the window where its two coordinates are exchanged.
     left_ = placement->y;
     top_ = placement->x;
     mainWindow_->moveTo(*placement);

@@ -1,11 +1,12 @@
 #pragma once
 
 #include "base/StringableM.h"
-#include "dialogbase/DialogWindow.h"
 
 #include <string>
 
 namespace tarnwick {
+
+class PlacedWindow;
 
 /// Left and top of the main window, in pixels of the screen. Its text is the two with ";" between them.
 class WindowPosition : public StringableM {
@@ -17,7 +18,7 @@ class WindowPosition : public StringableM {
   static constexpr int UNDEFINED = -999999;
 
   /// `mainWindow` points at the program's main window, null while there is none.
-  explicit WindowPosition(DialogWindow* const& mainWindow) : mainWindow_(mainWindow) {}
+  explicit WindowPosition(PlacedWindow* const& mainWindow) : mainWindow_(mainWindow) {}
   WindowPosition(const WindowPosition&) = delete;
   WindowPosition& operator=(const WindowPosition&) = delete;
 
@@ -48,7 +49,7 @@ class WindowPosition : public StringableM {
  private:
   static int checked(int& coordinate);
 
-  DialogWindow* const& mainWindow_;
+  PlacedWindow* const& mainWindow_;
   int left_ = UNDEFINED;
   int top_ = UNDEFINED;
 };

@@ -1,11 +1,28 @@
 #include "source/Compiler.h"
 
+#include "base/FileForSubprocess.h"
+#include "base/PackageRoot.h"
+#include "base/ProgramInfo.h"
+#include "base/TempFile.h"
+#include "platform/FileArgument.h"
+#include "platform/FileSystem.h"
 #include "platform/Path.h"
 #include "platform/Process.h"
-#include "process/FileArgument.h"
+#include "process/ToolLog.h"
 #include "settings/OptionList.h"
-#include "source/PortabilityWarningDlg.h"
+#include "settings/PathRules.h"
+#include "settings/Settings.h"
+#include "settings/SettingsContext.h"
+#include "source/JavaOutline.h"
+#include "source/PrivatePieces.h"
+#include "source/SourceSplitter.h"
+#include "source/SourceText.h"
 
+#include <algorithm>
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+#include <deque>
 #include <utility>
 
 namespace tarnwick {
@@ -44,20 +61,51 @@ std::string warningOptions(const Settings& settings) {
   return options;
 }
 
-/// Adds a file to what the compiler is given.
-void addFile(FileForSubprocess& source, const std::string& name) {
-  source.args().push_back(platform::commandWord(fileArgument(name)));
+/// As `javac` reads it in such a file: in quotes a backslash takes what follows as it stands.
+std::string quotedForArgumentFile(const std::string& name) {
+  std::string text = "\"";
+  for (const char c : name) {
+    if (c == '"' || c == '\\') text += '\\';
+    text += c;
+  }
+  return text + '"';
+}
+
+void writeArgumentFile(TempFile& list, const std::vector<std::string>& names) {
+  const auto demand = [&list](bool done) {
+    if (!done) throw Tarnwickfile::FileNotOpenE(std::strerror(errno), list.name().fullName());
+  };
+  try {
+    list.openTemp(FileMode::Write);
+    for (const auto& name : names)
+      demand(std::fputs((quotedForArgumentFile(platform::fileArgument(name)) + '\n').c_str(), list.stream()) != EOF);
+    demand(std::fflush(list.stream()) == 0);
+    list.close();
+  } catch (const Tarnwickfile::FileNotOpenE& failure) {
+    throw Compiler::CannotCompileE(failure.message + "\nCan't write the list of sources " + failure.file);
+  }
+}
+
+/// What the log's first line shows of the sources.
+std::string shownNames(const std::vector<std::string>& names) {
+  constexpr std::size_t most = 20;
+  std::string text;
+  for (std::size_t i = 0; i < std::min(most, names.size()); ++i) text += (i > 0 ? " " : "") + names[i];
+  return names.size() > most ? text + " ... (" + std::to_string(names.size()) + " files)" : text;
 }
 
 }  // namespace
 
-std::optional<std::string> compilerClasspath(const Settings& settings, const char* alternativeClasspath) {
-  if (alternativeClasspath) return alternativeClasspath;
+std::optional<std::string> compilerClasspath(const Settings& settings) {
   const std::string classpath = settings.effectiveClasspath();
   return classpath.empty() ? std::nullopt : std::optional(classpath);
 }
 
 std::vector<std::string> javacArguments(const Settings& settings, const std::optional<std::string>& classpath) {
+  return javacArguments(settings, pathsAsSet(settings, classpath));
+}
+
+std::vector<std::string> javacArguments(const Settings& settings, const CompilerPaths& paths) {
   using platform::commandLineList;
   std::vector<std::string> arguments = {
       "javac",
@@ -65,7 +113,7 @@ std::vector<std::string> javacArguments(const Settings& settings, const std::opt
       OptionList(javacSourceOptions, settings.javacSourceOption).option(),
       OptionList(javacTargetOptions, settings.javacTargetSpec).option(),
       "-d",
-      settings.javacDestination.empty() ? "." : settings.javacDestination,
+      paths.destination,
   };
   const auto add = [&arguments](bool when, const std::string& text) {
     if (when) arguments.push_back(text);
@@ -75,23 +123,47 @@ std::vector<std::string> javacArguments(const Settings& settings, const std::opt
   add(settings.javacVerbose, "-verbose");
   add(!settings.javacJOption.empty(), settings.javacJOption);
   add(settings.javacDeprecation, "-deprecation");
-  add(!settings.sourcepath.empty(), "-sourcepath");
-  add(!settings.sourcepath.empty(), commandLineList(settings.sourcepath));
-  if (classpath) arguments.push_back("-classpath " + commandLineList(*classpath));
+  add(paths.onlyGiven, "-implicit:none");
+  add(!paths.sourcepath.empty(), "-sourcepath");
+  add(!paths.sourcepath.empty(), commandLineList(paths.sourcepath));
+  if (paths.classpath) arguments.push_back("-classpath " + commandLineList(*paths.classpath));
   add(!settings.bootpath.empty(), "-bootclasspath " + commandLineList(settings.bootpath));
   add(!settings.extdirs.empty(), "-extdirs " + commandLineList(settings.extdirs));
+  // Last, so that the user's own word counts.
+  add(!settings.javacOptions.empty(), settings.javacOptions);
   return arguments;
 }
 
-Compiler::Compiler(Settings& settings, const char* alternativeClasspath)
-    : settings_(settings), tool_(settings.context().desktop, settings.context().log, compilerPath(settings)) {
-  // Meant so: a class path that is changed in the dialog counts from the next command on.
-  const auto classpath = compilerClasspath(settings, alternativeClasspath);
-  if (settings.javaPath.empty()) settings.runModal(0);
+struct Compiler::GatheredSources {
+  explicit GatheredSources(std::string configurationFolder) : folder(std::move(configurationFolder)) {}
+
+  /// Types of the same name in two packages have pieces of one name.
+  PrivatePieces& folderFor(const std::vector<TypePiece>& wanted);
+
+  std::string folder;
+  std::vector<std::string> names;
+  std::string root;                    ///< where the packages begin; known in the newer way
+  std::vector<std::string> misplaced;  ///< what is told of sources whose folders are not named as their packages
+  std::deque<SourceSplitter> splitters;
+  std::deque<PrivatePieces> pieces;
+};
+
+Compiler::Compiler(Settings& settings, const std::optional<std::string>& classpath, SplitQuestion maySplit)
+    : settings_(settings),
+      maySplit_(std::move(maySplit)),
+      tool_(settings.context().desktop, settings.context().log, compilerPath(settings)) {
   if (settings.javaPath.empty()) throw CannotCompileE(noToolsFolder());
-  tool_.reset(compilerPath(settings));
   checkTool();
-  for (const auto& argument : javacArguments(settings, classpath)) tool_.addArg(argument);
+  tellTool(pathsAsSet(settings, classpath));
+}
+
+void Compiler::tellTool(const CompilerPaths& paths) {
+  tool_.reset(compilerPath(settings_));
+  for (const auto& argument : javacArguments(settings_, paths)) tool_.addArg(argument);
+}
+
+void Compiler::show(const std::string& sources) {
+  if (settings_.watchRuns) tool_.showWhileItRuns(sources);
 }
 
 void Compiler::checkTool() const {
@@ -104,26 +176,124 @@ void Compiler::checkTool() const {
   }
 }
 
-bool Compiler::maySplit() {
-  bool& warn = settings_.context().warnAboutSplitting;
-  if (!warn) return true;
-  PortabilityWarningDlg warning(settings_.context().desktop);
-  const bool goOn = warning.runModal() == DIALOG_OK;
-  warn = !goOn || !warning.staysAway();
-  return goOn;
+void Compiler::takeSettingsForSaved() {
+  saved_ = settings_.content();
 }
 
-bool Compiler::compile(FileForSubprocess& source, FileMode logMode) {
-  if (settings_.javaPath.empty()) throw CannotCompileE(noToolsFolder());
-  // Once for a batch: its sources share them, and a failure need not be told for each.
-  if (!std::exchange(saved_, true)) settings_.saveCurrent();
-  source.args().clear();
-  SourceSplitter splitter(source, [this] { return maySplit(); });
-  splitter.run();
-  for (const auto& name : splitter.fileNames()) addFile(source, name);
-  if (source.args().empty()) addFile(source, source.name().fullName());
+void Compiler::saveSettings() {
+  // The sources of a batch share them: they are saved again only if something has changed meanwhile, and a failure is
+  // not told for each.
+  if (saved_ == settings_.content()) return;
+  settings_.saveCurrent();
+  saved_ = settings_.content();
+}
+
+RunResult Compiler::compile(FileForSubprocess& source, FileMode logMode) {
+  beginRun();
   // The pieces live until the tool has ended.
-  return tool_.run(&source, logMode);
+  GatheredSources gathered(settings_.context().program.configDirectory());
+  gather(source.name(), gathered);
+  show(source.name().nameWithExtension());
+  source.args().clear();
+  for (const auto& name : gathered.names) source.args().push_back(platform::fileWord(name));
+  return run(source, gathered, logMode);
+}
+
+RunResult Compiler::compileTogether(const std::vector<std::string>& sources, FileMode logMode) {
+  beginRun();
+  const std::string folder = settings_.context().program.configDirectory();
+  GatheredSources gathered(folder);
+  for (const auto& path : sources) gather(Filename(path), gathered);
+  TempFile list("Tarnwick_javac_list", folder);
+  writeArgumentFile(list, gathered.names);
+  const std::string word = platform::commandWord("@" + list.name().fullName());
+  tool_.replaceInLog(word, shownNames(gathered.names));
+  show(sources.size() == 1 ? Filename(sources.front()).nameWithExtension()
+                           : std::to_string(sources.size()) + " sources");
+  FileForSubprocess first(sources.front());
+  first.args() = {word};
+  return run(first, gathered, logMode);
+}
+
+RunResult Compiler::run(const FileForSubprocess& first, const GatheredSources& gathered, FileMode logMode) {
+  if (!settings_.newerJava) return tool_.run(&first, logMode);
+  SourcePlaces places = project_;
+  if (places.folder.empty()) places.folder = first.name().directoryNoSlash();
+  places.root = gathered.root;
+  std::erase_if(places.otherRoots, [&](const auto& root) { return platform::sameFileName(root, places.root); });
+  tellTool(pathsFor(settings_, places));
+  FileForSubprocess here(places.folder, first.name().nameWithExtension());
+  here.args() = first.args();
+  RunResult result = tool_.run(&here, logMode);
+  try {
+    if (tellMisplaced(gathered.misplaced)) result.said = true;
+  } catch (const Tarnwickfile::FileNotOpenE& failure) {
+    throw Tarnwickfile::FileNotOpenE(behind(result.failures, failure.message), failure.file);
+  }
+  return result;
+}
+
+bool Compiler::tellMisplaced(const std::vector<std::string>& notes) {
+  if (notes.empty()) return false;
+  ToolLog& log = settings_.context().log;
+  log.open(FileMode::Append);
+  std::string text = platform::lineEnd;
+  for (const auto& note : notes) text += platform::lineEnd + note + platform::lineEnd;
+  log.append(text.data(), text.size());
+  log.close();
+  return true;
+}
+
+void Compiler::beginRun() {
+  if (settings_.javaPath.empty()) throw CannotCompileE(noToolsFolder());
+  saveSettings();
+  tool_.replaceNothingInLog();
+}
+
+void Compiler::gather(const Filename& source, GatheredSources& gathered) {
+  if (settings_.newerJava) return gatherNewer(source, gathered);
+  try {
+    auto& splitter = gathered.splitters.emplace_back(source, maySplit_);
+    splitter.run();
+    for (const auto& name : splitter.fileNames()) gathered.names.push_back(name);
+    if (splitter.fileNames().empty()) gathered.names.push_back(source.fullName());
+  } catch (const CannotCompileE& failure) {
+    throw RefusedE(failure, source.fullName());
+  }
+}
+
+PrivatePieces& Compiler::GatheredSources::folderFor(const std::vector<TypePiece>& wanted) {
+  const auto free = std::find_if(pieces.begin(), pieces.end(), [&](const auto& one) { return one.canTake(wanted); });
+  return free == pieces.end() ? pieces.emplace_back(folder) : *free;
+}
+
+void Compiler::findRoot(const Filename& source, const JavaOutline& outline, GatheredSources& gathered) const {
+  const std::string& package = outline.package;
+  const std::string folder = source.directoryNoSlash();
+  gathered.root = rootOfSource(source, package);
+  const bool makesClasses = !outline.types.empty() || outline.packageIsAnnotated;
+  const bool isMisplaced = makesClasses && !rootOfPackage(folder, package);
+  if (!isMisplaced || !classesFollowPackages(settings_.javacDestination)) return;
+  gathered.misplaced.push_back(source.fullName() + " is of the package " + package +
+                               ", but its folder is not named so. Its classes go to " +
+                               Filename(folder, foldersOfPackage(package)).fullName());
+}
+
+void Compiler::gatherNewer(const Filename& source, GatheredSources& gathered) {
+  try {
+    const std::string text = sourceText(source.fullName());
+    const JavaOutline outline = outlineOfFile(text, source.baseName());
+    findRoot(source, outline, gathered);
+    if (!wantsSplitting(outline)) return gathered.names.push_back(source.fullName());
+    if (!maySplit_()) throw DontWantToSplitE{};
+    const auto pieces = piecesOf(text, outline);
+    for (const auto& path : gathered.folderFor(pieces).write(pieces)) {
+      gathered.names.push_back(path);
+      tool_.replaceInLog(path, source.fullName());
+    }
+  } catch (const Tarnwickfile::FileNotOpenE& failure) {
+    throw CannotCompileE(failure.message + "\nCan't process file " + failure.file);
+  }
 }
 
 }  // namespace tarnwick

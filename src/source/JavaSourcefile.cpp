@@ -1,10 +1,13 @@
 #include "source/JavaSourcefile.h"
 
+#include "base/ClassFile.h"
 #include "platform/FileSystem.h"
-#include "platform/Path.h"
 #include "settings/PathRules.h"
-#include "source/Compiler.h"
+#include "source/CompileFailures.h"
+#include "source/JavaOutline.h"
+#include "source/OutlineTypes.h"
 #include "source/SourceOutline.h"
+#include "source/SourceText.h"
 #include "source/TypeIndex.h"
 
 #include <algorithm>
@@ -14,14 +17,15 @@ namespace tarnwick {
 
 namespace {
 
-Compiler::CannotCompileE cannotProcess(const std::string& message, const std::string& file) {
-  return Compiler::CannotCompileE(message + "\nCan't process file " + file);
+CannotCompileE cannotProcess(const std::string& message, const std::string& file) {
+  return CannotCompileE(message + "\nCan't process file " + file);
 }
 
-/// Where the compiler puts the classes of a package.
-std::string packageFolder(const std::string& destination, const std::string& projectFolder, std::string package) {
-  std::replace(package.begin(), package.end(), '.', platform::folderSeparator);
-  return Filename(classFolder(destination, projectFolder), package).fullName();
+/// The class, without extension, that the compiler makes of a source that describes a module or a package; empty if it
+/// makes none.
+std::string describedClass(const JavaOutline& outline) {
+  if (!outline.module.empty()) return "module-info";
+  return outline.packageIsAnnotated ? "package-info" : "";
 }
 
 }  // namespace
@@ -38,6 +42,8 @@ JavaSourcefile& JavaSourcefile::operator=(JavaSourcefile& source) {
   timestamp_ = source.timestamp_;
   classes_ = source.classes_;
   interfaces_ = source.interfaces_;
+  reading_ = source.reading_;
+  description_ = source.description_;
   Tarnwickfile::operator=(source);
   return *this;
 }
@@ -54,28 +60,41 @@ std::time_t JavaSourcefile::earlyMarker() {
   return marker;
 }
 
-void JavaSourcefile::analyse() {
+void JavaSourcefile::analyse(JavaReading reading) {
+  reading_ = reading;
   try {
-    SourceReader reader(*this);
-    clearTypes();
-    SourceOutline(*this, reader).run();
+    reading.newer ? analyseNewer() : analyseClassic();
   } catch (const FileNotOpenE& failure) {
     timestamp_ = earlyMarker();
     throw cannotProcess(failure.message, failure.file);
   } catch (const SourceReader::BadDataE& failure) {
     timestamp_ = earlyMarker();
-    throw cannotProcess(failure.message, failure.file);
-  } catch (const Compiler::CannotCompileE&) {
+    throw RefusedE(cannotProcess(failure.message, failure.file), name().fullName());
+  } catch (const CannotCompileE& failure) {
     timestamp_ = earlyMarker();
-    throw;
+    throw RefusedE(failure, name().fullName());
   }
+}
+
+void JavaSourcefile::analyseClassic() {
+  SourceReader reader(*this);
+  clearTypes();
+  SourceOutline(*this, reader).run();
+}
+
+void JavaSourcefile::analyseNewer() {
+  const JavaOutline outline = outlineOfFile(sourceText(name().fullName()), name().baseName());
+  clearTypes();
+  enterTypes(outline, reading_.javaVersion, *this);
+  description_ = describedClass(outline);
 }
 
 void JavaSourcefile::clearTypes() {
   classes_.clear();
   interfaces_.clear();
   while (!types_.empty()) types_.pop_back();
-  package_.clear();
+  scope_ = {};
+  description_.clear();
 }
 
 void JavaSourcefile::addClass(const SourceClass& record) {
@@ -88,10 +107,10 @@ void JavaSourcefile::addInterface(const SourceInterface& record) {
   types_.push_back(interfaces_.back());
 }
 
-bool JavaSourcefile::isCurrent() {
+bool JavaSourcefile::isCurrent(JavaReading reading) {
   const auto now = platform::lastChange(name().fullName());
   if (!now) return false;
-  return std::exchange(timestamp_, *now) == *now;
+  return std::exchange(timestamp_, *now) == *now && reading == reading_;
 }
 
 std::string JavaSourcefile::mainClass() const {
@@ -107,25 +126,55 @@ std::string JavaSourcefile::mainClass() const {
                                           ") has multiple main() methods.\n");
   }
   if (!found) return {};
-  return package_.empty() ? found->name : package_ + '.' + found->name;
+  return package().empty() ? found->name : package() + '.' + found->name;
+}
+
+std::string JavaSourcefile::indexedName(const SourceType& type) const {
+  return reading_.newer && !package().empty() ? package() + '.' + type.name : type.name;
+}
+
+std::vector<std::string> JavaSourcefile::meaningsOf(const std::string& supertype) const {
+  return reading_.newer ? possibleNames(supertype, scope_) : std::vector{supertype};
+}
+
+/// Where the compiler puts the classes.
+std::string JavaSourcefile::classFolderOf(const std::string& destination, const std::string& projectFolder) const {
+  const bool inRoot = reading_.newer && classesFollowPackages(destination);
+  return Filename(inRoot ? root() : classFolder(destination, projectFolder), foldersOfPackage(package())).fullName();
 }
 
 bool JavaSourcefile::isUpToDate(const TypeIndex& typeIndex, const std::string& destination,
                                 const std::string& projectFolder) const {
-  const std::string targetFolder = packageFolder(destination, projectFolder, package_);
+  const std::string targetFolder = classFolderOf(destination, projectFolder);
+  if (!description_.empty()) {
+    const auto sourceTime = typeIndex.timeOf(*this);
+    const std::string classFile = Filename(targetFolder, description_ + ".class").fullName();
+    const auto classTime = typeIndex.timeOfClass(classFile);
+    if (!sourceTime || !classTime || *sourceTime > *classTime || !canRun(classFile, *classTime)) return false;
+  }
   return std::all_of(types_.rbegin(), types_.rend(),
                      [&](const auto& type) { return isUpToDate(*type, typeIndex, targetFolder); });
 }
 
+bool JavaSourcefile::canRun(const std::string& classFile, std::time_t classTime) const {
+  if (!reading_.newer || reading_.javaVersion == 0) return true;
+  const auto [seen, isNew] = seenClasses_.try_emplace(classFile);
+  if (isNew || seen->second.time != classTime) seen->second = {classTime, classFileVersion(classFile).value_or(0)};
+  return seen->second.javaVersion <= reading_.javaVersion;
+}
+
 bool JavaSourcefile::isUpToDate(const SourceType& type, const TypeIndex& typeIndex,
                                 const std::string& targetFolder) const {
-  const auto classTime = typeIndex.timeOfClass(Filename(targetFolder, type.name + ".class").fullName());
-  if (typeIndex.first(type.name)) {
+  const std::string classFile = Filename(targetFolder, type.name + ".class").fullName();
+  const auto classTime = typeIndex.timeOfClass(classFile);
+  if (typeIndex.first(indexedName(type))) {
     const auto sourceTime = typeIndex.timeOf(*this);
-    // A class of the same second counts as out of date.
-    if (!sourceTime || !classTime || *sourceTime >= *classTime) return false;
+    if (!sourceTime || !classTime || *sourceTime > *classTime) return false;
+    // Deliberate: a class of the same second counts as out of date, but no longer in the newer way.
+    if (!reading_.newer && *sourceTime == *classTime) return false;
+    if (!canRun(classFile, *classTime)) return false;
   }
-  const auto passes = [&](const std::string& supertype) { return typeIndex.isOlder(supertype, classTime); };
+  const auto passes = [&](const std::string& supertype) { return typeIndex.isOlder(*this, supertype, classTime); };
   return std::all_of(type.extendsList.begin(), type.extendsList.end(), passes) &&
          std::all_of(type.implementsList.begin(), type.implementsList.end(), passes);
 }

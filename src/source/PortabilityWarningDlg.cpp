@@ -1,6 +1,10 @@
 #include "source/PortabilityWarningDlg.h"
 
+#include "dialogbase/Desktop.h"
+#include "resources/DialogLayout.h"
 #include "resources/SourceLayouts.h"
+#include "settings/Settings.h"
+#include "settings/SettingsContext.h"
 
 namespace tarnwick {
 
@@ -18,8 +22,17 @@ int PortabilityWarningDlg::runModal() {
 }
 
 void PortabilityWarningDlg::onOk() {
-  staysAway_ = getCheck(STAY_AWAY) != 0;
+  staysAway_ = getCheck(STAY_AWAY);
   ToolTipDlg::onOk();
+}
+
+bool maySplit(const Settings& settings) {
+  bool& warn = settings.context().warnAboutSplitting;
+  if (!warn) return true;
+  PortabilityWarningDlg warning(settings.context().desktop);
+  const bool goOn = warning.runModal() == DIALOG_OK;
+  warn = !goOn || !warning.staysAway();
+  return goOn;
 }
 
 }  // namespace tarnwick

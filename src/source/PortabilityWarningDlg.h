@@ -4,6 +4,8 @@
 
 namespace tarnwick {
 
+class Settings;
+
 /// Asks before a source with several public types is split. OK is "Compile".
 class PortabilityWarningDlg : public ToolTipDlg {
  public:
@@ -19,5 +21,8 @@ class PortabilityWarningDlg : public ToolTipDlg {
  private:
   bool staysAway_ = false;
 };
+
+/// The question for a Compiler: warns unless the user wants to be spared that. False if the user gives up.
+bool maySplit(const Settings& settings);
 
 }  // namespace tarnwick

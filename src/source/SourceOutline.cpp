@@ -1,6 +1,6 @@
 #include "source/SourceOutline.h"
 
-#include "source/Compiler.h"
+#include "source/CompileFailures.h"
 #include "source/JavaSourcefile.h"
 
 namespace tarnwick {
@@ -22,7 +22,8 @@ void takeNames(Cursor& cursor, std::vector<std::string>& names) {
   }
 }
 
-/// Counts "main" behind "public", "static" and "void", in any order. Meant: a parameter of that name counts, too.
+/// Counts "main" behind "public", "static" and "void", in any order.
+// Deliberate: a parameter of that name counts, too.
 int mainMethods(Cursor head) {
   if (head.find(javaKeywords[static_cast<std::size_t>(Token::Main)]) == Cursor::npos) return 0;
   bool isPublic = false;
@@ -72,8 +73,8 @@ void SourceOutline::walkStatement(Cursor statement) {
 
 void SourceOutline::takePackage(Cursor& cursor) {
   if (!file_.package().empty())
-    throw Compiler::CannotCompileE(file_.name().quotedNameWithExtension() + " line " + std::to_string(reader_.line()) +
-                                   ": Package redefinition");
+    throw CannotCompileE(file_.name().quotedNameWithExtension() + " line " + std::to_string(reader_.line()) +
+                         ": Package redefinition");
   file_.setPackage(nextWord(cursor, ";"));
 }
 

@@ -1,5 +1,7 @@
 #include "source/SourceReader.h"
 
+#include "base/Tarnwickfile.h"
+
 #include <algorithm>
 #include <array>
 #include <cstddef>
@@ -298,7 +300,7 @@ void SourceReader::followComments(char& c, bool inside) {
 }
 
 void SourceReader::countBrace(char c) {
-  // Meant: braces count wherever they stand, in strings and character constants too.
+  // Deliberate: braces count wherever they stand, in strings and character constants too.
   if (c == '{') ++depth_;
   if (c != '}') return;
   --depth_;

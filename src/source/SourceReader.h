@@ -1,6 +1,6 @@
 #pragma once
 
-#include "base/Tarnwickfile.h"
+#include "base/Tarnwickexception.h"
 
 #include <memory>
 #include <string>
@@ -9,6 +9,8 @@
 #include <vector>
 
 namespace tarnwick {
+
+class Tarnwickfile;
 
 /// A light scanner of Java sources: removes comments, tracks strings and character constants, counts braces and lines,
 /// and cuts the text into statements.

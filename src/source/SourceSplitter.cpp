@@ -17,8 +17,8 @@ const char namingConflict[] =
 
 }  // namespace
 
-SourceSplitter::SourceSplitter(Tarnwickfile& source, std::function<bool()> maySplit)
-    : source_(source), maySplit_(std::move(maySplit)), pieces_(source.name()) {}
+SourceSplitter::SourceSplitter(const Filename& source, std::function<bool()> maySplit)
+    : source_(Tarnwickfile::unopened(source, FileMode::Undefined)), maySplit_(std::move(maySplit)), pieces_(source) {}
 
 void SourceSplitter::run() {
   try {
@@ -55,7 +55,7 @@ void SourceSplitter::judge(const SourcePass& pass) {
   if (pass.publicTypes() == 1 && pass.publicOfSameName() == 0)
     complaints_ +=
         "\nJavac requires a class/interface with the attribute 'public' to have the same name as the source file.";
-  // Meant so: the question comes even if there are complaints, which are shown afterwards.
+  // Deliberate: the question comes even if there are complaints, which are shown afterwards.
   if (split_ && !maySplit_()) throw DontWantToSplitE{};
   if (pass.types() == 0)
     complaints_ +=

@@ -1,11 +1,13 @@
 #pragma once
 
 #include "base/Tarnwickfile.h"
+#include "source/CompileFailures.h"
 #include "source/SourcePass.h"
 #include "source/SplitPieces.h"
 
 #include <functional>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace tarnwick {
@@ -14,14 +16,11 @@ namespace tarnwick {
 /// several is split into one temporary file for each type, beside it; these live as long as this object.
 class SourceSplitter {
  public:
-  struct CannotCompileE : Tarnwickexception {
-    using Tarnwickexception::Tarnwickexception;
-  };
-  /// The user would rather correct the source.
-  struct DontWantToSplitE {};
+  using CannotCompileE = tarnwick::CannotCompileE;
+  using DontWantToSplitE = tarnwick::DontWantToSplitE;
 
   /// `maySplit` is asked before a source is split.
-  SourceSplitter(Tarnwickfile& source, std::function<bool()> maySplit);
+  SourceSplitter(const Filename& source, std::function<bool()> maySplit);
 
   /// Reads the source twice: to look for what is wrong with it, then to collect the files and write the pieces. Throws
   /// CannotCompileE and DontWantToSplitE.
@@ -37,7 +36,7 @@ class SourceSplitter {
   void collect();
   void throwComplaints() const;
 
-  Tarnwickfile& source_;
+  Tarnwickfile source_;
   std::function<bool()> maySplit_;
   SplitPieces pieces_;
   std::string complaints_;

@@ -38,7 +38,7 @@ void SplitPieces::begin(const std::string& fileName, std::string head) {
 }
 
 void SplitPieces::put(char c) {
-  // Meant so: fputc gives what it wrote as an unsigned byte. A byte from 128 on, compared as a signed number, has
+  // Deliberate: fputc gives what it wrote as an unsigned byte. A byte from 128 on, compared as a signed number, has
   // therefore never been written, and a source with such a byte in the body of a type can't be split.
   if (std::fputc(c, output_->stream()) != static_cast<signed char>(c)) refuse();
 }

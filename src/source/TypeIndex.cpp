@@ -14,7 +14,11 @@ TypeIndex::TypeIndex(std::vector<ClassRef> entries, Clock clock)
     : entries_(std::move(entries)), clock_(std::move(clock)), ancestries_(entries_.size()) {
   places_.reserve(entries_.size());
   for (std::size_t i = 0; i < entries_.size(); ++i) {
-    const auto [place, isNew] = places_.try_emplace(entries_[i].type.name, Places{i, i});
+    const SourceType& type = entries_[i].type;
+    std::string_view name = type.name;
+    std::string indexed = entries_[i].source.indexedName(type);
+    if (indexed != name) name = names_.emplace_back(std::move(indexed));
+    const auto [place, isNew] = places_.try_emplace(name, Places{i, i});
     if (!isNew) place->second.last = i;
   }
 }
@@ -35,12 +39,21 @@ std::optional<std::time_t> TypeIndex::timeOf(const JavaSourcefile& source) const
   return place->second;
 }
 
-bool TypeIndex::isOlder(const std::string& supertype, std::optional<std::time_t> classTime) const {
+const TypeIndex::Places* TypeIndex::find(const JavaSourcefile& user, const std::string& supertype) const {
+  for (const auto& name : user.meaningsOf(supertype)) {
+    const auto place = places_.find(name);
+    if (place != places_.end()) return &place->second;
+  }
+  return nullptr;
+}
+
+bool TypeIndex::isOlder(const JavaSourcefile& user, const std::string& supertype,
+                        std::optional<std::time_t> classTime) const {
   // Nobody is built on more than all types of the index. A circle would be; it shows as a way without end.
   if (entries_.empty()) return false;
-  const auto place = places_.find(supertype);
-  if (place == places_.end()) return true;
-  const Ancestry& ancestry = ancestryOf(place->second.last);
+  const Places* const places = find(user, supertype);
+  if (!places) return true;
+  const Ancestry& ancestry = ancestryOf(places->last);
   return !ancestry.endless && ancestry.height < entries_.size() && ancestry.timesKnown && classTime &&
          ancestry.newest < *classTime;
 }
@@ -68,13 +81,13 @@ void TypeIndex::look(std::vector<Step>& way) const {
   }
   const auto& name =
       step.looked < extended ? record->extendsList[step.looked] : record->implementsList[step.looked - extended];
-  const auto place = places_.find(name);
+  const Places* const places = find(entries_[step.entry].source, name);
   Ancestry foreign;
   foreign.state = Ancestry::State::Done;
   foreign.newest = ancestry.newest;
-  const Ancestry& above = place == places_.end() ? foreign : ancestries_[place->second.last];
+  const Ancestry& above = places ? ancestries_[places->last] : foreign;
   if (above.state == Ancestry::State::Fresh) {
-    way.push_back(begin(place->second.last));
+    way.push_back(begin(places->last));
     return;
   }
   ++step.looked;

@@ -3,6 +3,7 @@
 #include "source/SourceType.h"
 
 #include <ctime>
+#include <deque>
 #include <functional>
 #include <optional>
 #include <string>
@@ -20,8 +21,8 @@ struct ClassRef {
   const JavaSourcefile& source;
 };
 
-/// All types of a project, for one run over its sources. Owns nothing of what it refers to, and must not outlive it. It
-/// asks for the time of each source once.
+/// All types of a project by `JavaSourcefile::indexedName`, for one run over its sources. Owns nothing of what it
+/// refers to, and must not outlive it. It asks for the time of each source once.
 class TypeIndex {
  public:
   /// Tells when a file was changed last; nothing if that cannot be had.
@@ -41,9 +42,9 @@ class TypeIndex {
   /// The same of a class file, asked anew each time: compiling one source may have renewed the classes of others.
   std::optional<std::time_t> timeOfClass(const std::string& path) const { return clock_(path); }
 
-  /// True if a class of the time `classTime` is newer than the source of `supertype` and than those of all that this is
-  /// built on. Names that are not in the index do not count; circular inheritance is never older.
-  bool isOlder(const std::string& supertype, std::optional<std::time_t> classTime) const;
+  /// True if a class of the time `classTime` is newer than the source of what `user` calls `supertype`, and than those
+  /// of all that this is built on. Names that are not in the index do not count; circular inheritance is never older.
+  bool isOlder(const JavaSourcefile& user, const std::string& supertype, std::optional<std::time_t> classTime) const;
 
  private:
   struct Places {
@@ -70,6 +71,8 @@ class TypeIndex {
 
   using Records = std::unordered_map<std::string_view, const SourceType*>;
 
+  /// What a source means by the name; null if it is not in the index.
+  const Places* find(const JavaSourcefile& user, const std::string& supertype) const;
   const Ancestry& ancestryOf(std::size_t entry) const;
   void look(std::vector<Step>& way) const;
   Step begin(std::size_t entry) const;
@@ -77,6 +80,7 @@ class TypeIndex {
 
   std::vector<ClassRef> entries_;
   Clock clock_;
+  std::deque<std::string> names_;  ///< those below that stand nowhere else
   std::unordered_map<std::string_view, Places> places_;
   // What has been found out in this run.
   mutable std::unordered_map<const JavaSourcefile*, std::optional<std::time_t>> times_;

@@ -2,8 +2,11 @@
 
 #include "base/Tarnwickfile.h"
 #include "base/Text.h"
+#include "dialogbase/Desktop.h"
 #include "platform/FileSystem.h"
+#include "resources/DialogLayout.h"
 #include "resources/TemplateLayouts.h"
+#include "settings/SettingsContext.h"
 
 namespace tarnwick {
 

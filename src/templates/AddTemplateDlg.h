@@ -1,11 +1,12 @@
 #pragma once
 
 #include "dialogbase/ToolTipDlg.h"
-#include "settings/SettingsContext.h"
 
 #include <string>
 
 namespace tarnwick {
+
+struct SettingsContext;
 
 /// Asks for a template of the user's: a file, and the description under which it is offered.
 class AddTemplateDlg : public ToolTipDlg {

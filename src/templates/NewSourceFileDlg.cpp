@@ -1,7 +1,12 @@
 #include "templates/NewSourceFileDlg.h"
 
+#include "base/RelativeName.h"
 #include "base/ReplacingFile.h"
 #include "base/Text.h"
+#include "dialogbase/Desktop.h"
+#include "platform/FileSystem.h"
+#include "resources/DialogLayout.h"
+#include "settings/SettingsContext.h"
 #include "templates/AddTemplateDlg.h"
 #include "templates/FileNameMark.h"
 
@@ -105,12 +110,22 @@ std::optional<std::string> NewSourceFileDlg::pathFromSaveDialog() {
 
 std::optional<std::string> NewSourceFileDlg::pathInProject() {
   const Filename typed(cleanedPath(getText(NEW_NAME)));
+  const bool mayHaveFolders =
+      settings_.newerJava && equalsIgnoringCase(typed.extension(), ".java") && leadsDown(typed.fullName());
+  if (mayHaveFolders) return pathBelowProject(relativeName(typed.fullName()));
   for (const char* known : {".java", ".htm", ".html"}) {
     if (equalsIgnoringCase(typed.extension(), known))
       return Filename(projectFolder_, typed.nameWithExtension()).fullName();
   }
   desktop_.message("Filename has invalid extension");
   return std::nullopt;
+}
+
+std::string NewSourceFileDlg::pathBelowProject(const std::string& name) {
+  const Filename path(projectFolder_, localName(name));
+  // Where that fails the file can't be made either, which is told.
+  platform::makeFolders(path.directoryNoSlash());
+  return path.fullName();
 }
 
 bool NewSourceFileDlg::mayWrite(const std::string& path) {
@@ -156,7 +171,7 @@ std::string NewSourceFileDlg::userDefinedText(const std::string& path) {
   auto source = Tarnwickfile::unopened(path, FileMode::Read);
   source.openContent(FileMode::Read);
   std::string text;
-  // A byte of 255 ends a template, which is meant: it reads like the end of the file.
+  // Deliberate: a byte of 255 ends a template. It reads like the end of the file.
   for (int byte = std::getc(source.stream()); byte != EOF && byte != 255; byte = std::getc(source.stream())) {
     text += static_cast<char>(byte);
     refuseLarge(text.size(), source.name().fullName());

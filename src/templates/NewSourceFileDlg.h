@@ -1,14 +1,16 @@
 #pragma once
 
-#include "process/FileForSubprocess.h"
+#include "dialogbase/ToolTipDlg.h"
 #include "resources/TemplateLayouts.h"
-#include "settings/Settings.h"
 #include "templates/TemplateList.h"
 
 #include <optional>
 #include <string>
 
 namespace tarnwick {
+
+class FileForSubprocess;
+class Settings;
 
 /// Creates a source file from a template.
 class NewSourceFileDlg : public ToolTipDlg {
@@ -37,6 +39,8 @@ class NewSourceFileDlg : public ToolTipDlg {
   std::optional<std::string> targetPath();
   std::optional<std::string> pathFromSaveDialog();
   std::optional<std::string> pathInProject();
+  /// Makes the folders that the name begins with: read the newer way, a project has sources in such.
+  std::string pathBelowProject(const std::string& name);
   bool mayWrite(const std::string& path);
   /// Throws Tarnwickfile::FileNotOpenE.
   void create(const std::string& path);

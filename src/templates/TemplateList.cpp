@@ -1,6 +1,9 @@
 #include "templates/TemplateList.h"
 
+#include "base/Tarnwickfile.h"
 #include "base/Text.h"
+#include "dialogbase/Desktop.h"
+#include "settings/SettingsContext.h"
 #include "templates/BuiltInTemplates.h"
 
 #include <algorithm>
@@ -68,7 +71,7 @@ void TemplateList::store() {
   }
   try {
     stored_.personalTemplates.fromString(kept.toString());
-    stored_.saveDefaultConfiguration(nullptr);
+    stored_.saveDefaultConfiguration();
     live_.personalTemplates.fromString(kept.toString());
   } catch (const StringableM::InvalidDataE&) {
     // The list in the dialog is good all the same.

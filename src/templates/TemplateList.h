@@ -1,12 +1,13 @@
 #pragma once
 
-#include "dialogbase/Desktop.h"
 #include "settings/Settings.h"
 
 #include <string>
 #include <vector>
 
 namespace tarnwick {
+
+class Desktop;
 
 /// The templates for new sources: five that are built in, and the user's own, which the setting PERSONAL_TEMPLATES
 /// keeps as a list of pairs of description and path.

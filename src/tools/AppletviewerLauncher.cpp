@@ -1,9 +1,13 @@
 #include "tools/AppletviewerLauncher.h"
 
-#include "platform/Process.h"
+#include "base/ProgramInfo.h"
+#include "dialogbase/Messages.h"
+#include "platform/FileArgument.h"
 #include "process/EditorLaunch.h"
-#include "process/FileArgument.h"
 #include "process/Subprocess.h"
+#include "settings/EditorChoice.h"
+#include "settings/Settings.h"
+#include "settings/SettingsContext.h"
 #include "tools/Relaunch.h"
 
 #include <memory>
@@ -32,17 +36,23 @@ std::vector<std::string> appletviewerArguments(const Settings& settings, const F
   if (!settings.appletviewerEncoding.empty()) arguments.push_back("-encoding " + settings.appletviewerEncoding);
   if (!settings.appletviewerJOption.empty()) arguments.push_back(settings.appletviewerJOption);
   // The bare name: either way the run begins in the file's folder.
-  arguments.push_back(platform::commandWord(fileArgument(file.name().nameWithExtension())));
+  arguments.push_back(platform::fileWord(file.name().nameWithExtension()));
   return arguments;
 }
 
-void runAppletviewer(Settings& settings, FileForSubprocess& file, bool debugging) {
+void runAppletviewer(Settings& settings, const FileForSubprocess& file, bool debugging) {
   if (debugging ? !relaunchReady(settings, tool) : !jdkToolReady(settings, tool)) return;
   auto& context = settings.context();
   const auto runner = runnerFor(settings, debugging);
   for (const auto& argument : appletviewerArguments(settings, file, debugging)) runner->addArg(argument);
+  if (settings.watchRuns) runner->showWhileItRuns(file.name().nameWithExtension());
   try {
-    if (runner->run(&file, FileMode::Write)) showLog(context.desktop, context.log, settings.editorChoice());
+    const RunResult result = runner->run(&file, FileMode::Write);
+    showEach(context.desktop, result.failures);
+    if (result.said)
+      showEach(context.desktop, showLog(context.log, settings.editorChoice()));
+    else if (!debugging)
+      showSilence(settings.editorChoice());
   } catch (const Tarnwickfile::FileNotOpenE& failure) {
     context.desktop.message(failure.message);
   }

@@ -1,12 +1,12 @@
 #pragma once
 
-#include "process/FileForSubprocess.h"
-#include "settings/Settings.h"
-
 #include <string>
 #include <vector>
 
 namespace tarnwick {
+
+class FileForSubprocess;
+class Settings;
 
 /// The arguments of an `appletviewer` run on an HTML file: of the tool itself, or of the second copy of the program
 /// that runs it as a debugger's console.
@@ -14,6 +14,6 @@ std::vector<std::string> appletviewerArguments(const Settings& settings, const F
 
 /// Runs `appletviewer` to its end and shows the log if it wrote anything; with `debugging` starts it in a console of
 /// its own. Shows failures itself.
-void runAppletviewer(Settings& settings, FileForSubprocess& file, bool debugging);
+void runAppletviewer(Settings& settings, const FileForSubprocess& file, bool debugging);
 
 }  // namespace tarnwick

@@ -2,8 +2,8 @@
 
 #include "base/Filename.h"
 #include "base/Text.h"
+#include "platform/FileArgument.h"
 #include "platform/FileSystem.h"
-#include "platform/Folders.h"
 #include "platform/Path.h"
 
 namespace tarnwick {
@@ -60,7 +60,7 @@ std::string resolvedFolder(const std::string& folder) {
 }  // namespace
 
 std::vector<std::string> jarArguments(const JarRun& run) {
-  const std::string archive = platform::plainNameWord(cleanedPath(run.archive));
+  const std::string archive = platform::fileWord(cleanedPath(run.archive));
   if (run.operation == JarOperation::CreateIndex) return {"jar", "-i", archive};
   std::vector<std::string> arguments = {"jar", optionLetters(run), archive};
   const auto addText = [&arguments](const std::string& text) {

@@ -1,10 +1,17 @@
 #include "tools/JavaLauncher.h"
 
+#include "base/ProgramInfo.h"
+#include "dialogbase/Messages.h"
 #include "platform/Path.h"
 #include "process/Subprocess.h"
 #include "settings/OptionList.h"
 #include "settings/PathRules.h"
+#include "settings/Settings.h"
+#include "settings/SettingsContext.h"
 #include "tools/Relaunch.h"
+#include "tools/RunTarget.h"
+
+#include <string_view>
 
 namespace tarnwick {
 
@@ -25,26 +32,17 @@ class ArgumentList {
   std::vector<std::string> arguments_;
 };
 
-void addPaths(ArgumentList& list, const Settings& settings, const JavaRun& run) {
+void addPaths(ArgumentList& list, const Settings& settings, const JavaRun& run,
+              const std::optional<std::string>& classpath) {
   using platform::commandLineList;
-  if (run.classpath)
-    list.add("-classpath " + commandLineList(run.classpath));
-  else
-    list.addValue("-classpath ", commandLineList(settings.effectiveClasspath()));
-  if (run.sourcepath) list.add("-sourcepath " + commandLineList(run.sourcepath));
+  if (classpath) list.add("-classpath " + commandLineList(*classpath));
+  if (run.sourcepath) list.add("-sourcepath " + commandLineList(*run.sourcepath));
   list.addValue("-Xbootclasspath:", commandLineList(settings.bootpath));
 }
 
-/// A class's name that `java`, which `jdb` hands it on to, would take for an option or for a file of options. "@@"
-/// stands for a name that begins with "@". For one that begins with "-" there is no form that finds the class, but none
-/// that is taken for an option either.
-std::string classArgument(const std::string& name) {
-  std::string argument = name;
-  // What the command line swallows in front of the name.
-  const auto first = name.find_first_not_of(" \t\"");
-  if (first == std::string::npos) return argument;
-  if (name[first] == '@') return argument.insert(first, 1, '@');
-  return name[first] == '-' ? "./" + name : argument;
+/// Words that `jdb` hands on to the program's `java` by itself.
+bool handsOnItself(std::string_view words) {
+  return words.starts_with("-X") || words.starts_with("-D") || words.starts_with("-v");
 }
 
 void addAssertions(ArgumentList& list, const Settings& settings) {
@@ -54,49 +52,76 @@ void addAssertions(ArgumentList& list, const Settings& settings) {
   list.addIf(settings.javaSystemAssertDisable, "-disablesystemassertions");
 }
 
+/// Says what there is to know before the run. False if there can be none.
+bool tellOfTarget(const Settings& settings, const Filename& file, const JavaRun& run) {
+  const RunTarget target = runTargetOf(settings, file, run.tool);
+  if (!target.warning.empty()) settings.context().desktop.message(target.warning);
+  if (!run.debugging || !target.isArchive) return true;
+  settings.context().desktop.message("jdb can't run an archive: " + file.nameWithExtension() +
+                                     "\nChoose the class file of the program's main class.");
+  return false;
+}
+
 }  // namespace
+
+std::string debuggerOptions(const std::string& options) {
+  std::string text;
+  bool inQuotes = false;
+  bool inWord = false;
+  for (std::size_t i = 0; i < options.size(); ++i) {
+    const char c = options[i];
+    const bool separates = !inQuotes && (c == ' ' || c == '\t');
+    if (!separates && !inWord && !handsOnItself(std::string_view(options).substr(i))) text += "-R";
+    inWord = !separates;
+    if (c == '"') inQuotes = !inQuotes;
+    text += c;
+  }
+  return text;
+}
 
 std::vector<std::string> relaunchArguments(const Settings& settings, const FileForSubprocess& file,
                                            const JavaRun& run) {
-  const std::string className = file.name().baseName();
+  const RunTarget target = runTargetOf(settings, file.name(), run.tool);
   const std::string& profile = settings.javaXrunhprof;
   ArgumentList list(relaunchSwitches(settings, file, run.tool, run.debugging));
   list.addIf(settings.javaXfuture, "-Xfuture");
   list.addIf(settings.javaXprof, "-Xprof");
   list.addIf(settings.javaJniValidate, "-Xcheck:jni");
   list.addValue(profile.compare(0, 1, ":") == 0 ? "-Xrunhprof" : "-Xrunhprof:", profile);
-  addPaths(list, settings, run);
+  addPaths(list, settings, run, runClasspath(settings, run.classpath, target, file.name()));
   list.addValue("-Xms", settings.javaXms);
   list.addValue("-Xmx", settings.javaXmx);
   list.addValue("-Xss", settings.javaXss);
   list.addValue("", settings.javaProperty);
   list.addValue("", OptionList(garbageCollectorOptions, settings.javaGarbageCollector).option());
   if (!run.debugging) addAssertions(list, settings);
-  if (run.extraOption) list.add(run.extraOption);
-  list.add(classArgument(className));
+  list.addValue("", run.extraOption);
+  list.addValue("", run.debugging ? debuggerOptions(settings.javaOptions) : settings.javaOptions);
+  list.add(target.words);
   return list.take();
 }
 
-void buildAndLaunch(Settings& settings, FileForSubprocess& file, const JavaRun& run) {
-  if (!relaunchReady(settings, run.tool)) return;
+void buildAndLaunch(Settings& settings, const FileForSubprocess& file, const JavaRun& run) {
+  if (!relaunchReady(settings, run.tool) || !tellOfTarget(settings, file.name(), run)) return;
   const auto& context = settings.context();
   DetachedSubprocess copy(context.desktop, context.log, context.program.programPath);
   for (const auto& argument : relaunchArguments(settings, file, run)) copy.addArg(argument);
-  copy.run(&file, FileMode::Write);
+  showEach(context.desktop, copy.start(file).failures);
 }
 
-void runJava(Settings& settings, FileForSubprocess& file, const char* classpath) {
+void runJava(Settings& settings, const FileForSubprocess& file, const std::optional<std::string>& classpath) {
   JavaRun run;
-  run.extraOption = settings.javaVerbose ? "-verbose" : nullptr;
+  run.extraOption = settings.javaVerbose ? "-verbose" : "";
   run.classpath = classpath;
   buildAndLaunch(settings, file, run);
 }
 
-void runJdb(Settings& settings, FileForSubprocess& file, const char* classpath, const char* sourcepath) {
+void runJdb(Settings& settings, const FileForSubprocess& file, const std::optional<std::string>& classpath,
+            const std::optional<std::string>& sourcepath) {
   JavaRun run;
   run.tool = "jdb";
   run.debugging = true;
-  run.extraOption = settings.jdbLaunch ? "-launch" : nullptr;
+  run.extraOption = settings.jdbLaunch ? "-launch" : "";
   run.classpath = classpath;
   run.sourcepath = sourcepath;
   buildAndLaunch(settings, file, run);

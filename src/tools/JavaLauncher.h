@@ -1,33 +1,46 @@
 #pragma once
 
-#include "process/FileForSubprocess.h"
-#include "settings/Settings.h"
-
+#include <cstddef>
+#include <optional>
 #include <string>
 #include <vector>
 
 namespace tarnwick {
 
-/// What a run of `java` or `jdb` is made of. Null texts stand for "not given".
+class FileForSubprocess;
+class Settings;
+
+/// What a run of `java` or `jdb` is made of.
 struct JavaRun {
   std::string tool = "java";
   bool debugging = false;
-  const char* extraOption = nullptr;
-  const char* classpath = nullptr;
-  const char* sourcepath = nullptr;
+  std::string extraOption;
+  std::optional<std::string> classpath = std::nullopt;
+  std::optional<std::string> sourcepath = std::nullopt;
 };
 
 /// The arguments with which the program starts a second copy of itself as the console of this run. Every value with
 /// blanks travels between marks; behind RUN stands the child's command line.
 std::vector<std::string> relaunchArguments(const Settings& settings, const FileForSubprocess& file, const JavaRun& run);
 
-/// Starts `java` on a class file in a console of its own. Shows failures itself. `classpath` may be null.
-void runJava(Settings& settings, FileForSubprocess& file, const char* classpath);
+/// The user's further options for `java`, as `jdb` takes them: what it does not hand on by itself gets "-R" in front.
+std::string debuggerOptions(const std::string& options);
 
-/// Starts `jdb` on a class file in a console of its own, with the debugger's commands. Either path may be null.
-void runJdb(Settings& settings, FileForSubprocess& file, const char* classpath, const char* sourcepath);
+/// Starts `java` on a class file in a console of its own. Shows failures itself. Without a class path the settings
+/// tell.
+void runJava(Settings& settings, const FileForSubprocess& file,
+             const std::optional<std::string>& classpath = std::nullopt);
+/// No class path is std::nullopt: a null pointer would be taken for a text.
+void runJava(Settings& settings, const FileForSubprocess& file, std::nullptr_t) = delete;
+
+/// Starts `jdb` on a class file in a console of its own, with the debugger's commands. Likewise.
+void runJdb(Settings& settings, const FileForSubprocess& file,
+            const std::optional<std::string>& classpath = std::nullopt,
+            const std::optional<std::string>& sourcepath = std::nullopt);
+void runJdb(Settings& settings, const FileForSubprocess& file, std::nullptr_t,
+            const std::optional<std::string>& sourcepath = std::nullopt) = delete;
 
 /// The same for either tool.
-void buildAndLaunch(Settings& settings, FileForSubprocess& file, const JavaRun& run);
+void buildAndLaunch(Settings& settings, const FileForSubprocess& file, const JavaRun& run);
 
 }  // namespace tarnwick

@@ -1,6 +1,12 @@
 #include "tools/Relaunch.h"
 
+#include "base/Tarnwickfile.h"
+#include "dialogbase/Desktop.h"
 #include "platform/Path.h"
+#include "settings/OpenProject.h"
+#include "settings/Settings.h"
+#include "settings/SettingsContext.h"
+#include "settingsdialog/ToolsFolder.h"
 
 namespace tarnwick {
 
@@ -8,22 +14,29 @@ namespace {
 
 const char mark[] = "\\/";
 
-std::string switchText(const std::string& name, const std::string& value) {
-  return mark + name + "=" + value + mark;
-}
-
 /// A folder whose text holds the mark (on Linux a name may end in a backslash) would be cut there. The copy begins in
 /// the folder of the file anyway, so it is told to stay.
 std::string folderToEnter(const std::string& folder) {
   return folder.find(mark) == std::string::npos ? folder : std::string(".") + platform::folderSeparator;
 }
 
-/// What the second copy reads its settings from.
-std::string configurationOf(const Settings& settings) {
+}  // namespace
+
+const char runSwitch[] = "\\/RUN=";
+
+std::string switchText(const std::string& name, const std::string& value) {
+  return mark + name + "=" + value + mark;
+}
+
+std::string relaunchConfiguration(const Settings& settings) {
   return settings.currentProject ? settings.currentProject->quotedPath() : settings.configPath();
 }
 
-}  // namespace
+void refuseSwitchMark(const std::string& path) {
+  // Every path to what lies below such a folder holds the mark, and a link around it would have to outlive the panel.
+  if (path.find(mark) == std::string::npos) return;
+  throw Tarnwickexception("Can't pass on the path " + path + "\nThe name of a folder in it ends in a backslash.");
+}
 
 std::string jdkToolPath(const Settings& settings, const std::string& tool) {
   return settings.javaPath + platform::toolFileName(tool);
@@ -31,7 +44,7 @@ std::string jdkToolPath(const Settings& settings, const std::string& tool) {
 
 bool jdkToolReady(Settings& settings, const std::string& tool) {
   Desktop& desktop = settings.context().desktop;
-  if (settings.javaPath.empty()) settings.runModal(0);
+  askForToolsFolder(settings);
   if (settings.javaPath.empty()) {
     desktop.message(platform::localText("No path to javac.exe and other tools available from settings"));
     return false;
@@ -48,14 +61,13 @@ bool jdkToolReady(Settings& settings, const std::string& tool) {
 
 bool relaunchReady(Settings& settings, const std::string& tool) {
   if (!jdkToolReady(settings, tool)) return false;
-  // Every path to what lies below such a folder holds the mark, and a link around it would have to outlive the panel.
-  for (const auto& path : {jdkToolPath(settings, tool), configurationOf(settings)}) {
-    if (path.find(mark) == std::string::npos) continue;
-    settings.context().desktop.message("Can't pass on the path " + path +
-                                       "\nThe name of a folder in it ends in a backslash.");
+  try {
+    for (const auto& path : {jdkToolPath(settings, tool), relaunchConfiguration(settings)}) refuseSwitchMark(path);
+    return true;
+  } catch (const Tarnwickexception& failure) {
+    settings.context().desktop.message(failure.message);
     return false;
   }
-  return true;
 }
 
 std::vector<std::string> relaunchSwitches(const Settings& settings, const FileForSubprocess& file,
@@ -63,9 +75,9 @@ std::vector<std::string> relaunchSwitches(const Settings& settings, const FileFo
   std::vector<std::string> switches = {"Tarnwick", switchText("DEFAULTDIR", folderToEnter(file.name().directory())),
                                        switchText("EXEFILE", jdkToolPath(settings, tool)),
                                        switchText("TITLE", file.name().baseName()),
-                                       switchText("CFG", configurationOf(settings))};
+                                       switchText("CFG", relaunchConfiguration(settings))};
   if (debugging) switches.push_back(std::string(mark) + "JDEBUG" + mark);
-  switches.push_back(std::string(mark) + "RUN=");
+  switches.push_back(runSwitch);
   return switches;
 }
 

@@ -1,17 +1,29 @@
 #pragma once
 
+#include <functional>
 #include <memory>
+
+class wxTopLevelWindow;
 
 namespace tarnwick::ui {
 
-/// An event loop in which all windows go on painting while none takes keys, clicks or a close request. What is opened
-/// from within it takes input as ever.
+/// An event loop in which all windows go on painting while none takes keys, clicks or a close request, but for one that
+/// is admitted. What is opened from within it takes input as ever.
 class BusyLoop {
  public:
-  BusyLoop();
+  /// What a person may ask for meanwhile.
+  struct Requests {
+    std::function<void()> close = [] {};   ///< that a window closes
+    std::function<void()> escape = [] {};  ///< Escape in any window, once one has been admitted
+  };
+
+  explicit BusyLoop(Requests requests);
   ~BusyLoop();
   BusyLoop(const BusyLoop&) = delete;
   BusyLoop& operator=(const BusyLoop&) = delete;
+
+  /// This one window, which shows, takes input from now on; with null none does any more.
+  void admit(wxTopLevelWindow* window);
 
   /// Returns after `end`.
   void run();

@@ -1,6 +1,7 @@
 #include "ui/ConsoleKeys.h"
 
 #include "ui/Text.h"
+#include "ui/Toolkit.h"
 
 #include <array>
 #include <utility>
@@ -10,7 +11,7 @@ namespace tarnwick::ui {
 namespace {
 
 // The keys of the navigation block only: those of the number pad are others.
-constexpr std::array<std::pair<int, ConsoleKey>, 15> keys{{
+constexpr std::array<std::pair<int, ConsoleKey>, 24> keys{{
     {WXK_END, ConsoleKey::End},
     {WXK_HOME, ConsoleKey::Home},
     {WXK_LEFT, ConsoleKey::Left},
@@ -26,6 +27,16 @@ constexpr std::array<std::pair<int, ConsoleKey>, 15> keys{{
     {WXK_F10, ConsoleKey::F10},
     {WXK_F11, ConsoleKey::F11},
     {WXK_F12, ConsoleKey::F12},
+    {WXK_SHIFT, ConsoleKey::Modifier},
+    {WXK_CONTROL, ConsoleKey::Modifier},
+    {WXK_ALT, ConsoleKey::Modifier},
+    {WXK_WINDOWS_LEFT, ConsoleKey::Modifier},
+    {WXK_WINDOWS_RIGHT, ConsoleKey::Modifier},
+    {WXK_CAPITAL, ConsoleKey::Modifier},
+    {WXK_NUMLOCK, ConsoleKey::Modifier},
+    {WXK_SCROLL, ConsoleKey::Modifier},
+    // What the toolkit has no name for, such as the key for the third letter of another.
+    {WXK_NONE, ConsoleKey::Modifier},
 }};
 
 }  // namespace
@@ -60,6 +71,10 @@ bool matches(const wxKeyEvent& event, const Accelerator& accelerator) {
       return event.GetKeyCode() == WXK_INSERT;
     case Accelerator::Key::Delete:
       return event.GetKeyCode() == WXK_DELETE;
+    case Accelerator::Key::F3:
+      return event.GetKeyCode() == WXK_F3;
+    case Accelerator::Key::Break:
+      return isBreakKey(event);
     case Accelerator::Key::Letter:
       break;
   }

@@ -157,7 +157,7 @@ wxWindow* makeWindow(wxWindow& parent, const DialogItem& item) {
     case ItemKind::Group:
       return makeFrame(parent, toWx(item.text));
     case ItemKind::Icon:
-      return new wxStaticBitmap(&parent, wxID_ANY, iconBitmap(parent.FromDIP(48)));
+      return new wxStaticBitmap(&parent, wxID_ANY, programPicture(48));
     case ItemKind::Heading:
       return makeHeading(parent, item.text);
     case ItemKind::Label:
@@ -277,6 +277,8 @@ Control makeControl(wxWindow& parent, const DialogItem& item, wxRadioButton* non
   return control;
 }
 
+namespace {
+
 wxSize naturalSize(const DialogItem& item, const Control& control) {
   wxWindow& window = *control.window;
   wxSize size = window.GetBestSize();
@@ -311,6 +313,23 @@ wxSize naturalSize(const DialogItem& item, const Control& control) {
   }
   size.x = std::max(size.x, widthOfCharacters(window, item.width));
   return size;
+}
+
+}  // namespace
+
+// To tell the letters of a control the toolkit makes another of its kind each time: this took half of the time to the
+// first window. What was measured holds until the control itself wants another size or says something else.
+std::function<wxSize()> naturalSizes(const DialogItem& item, const Control& control) {
+  return [item, control, wanted = wxDefaultSize, label = wxString(), size = wxDefaultSize]() mutable {
+    const wxSize best = control.window->GetBestSize();
+    const wxString said = control.window->GetLabel();
+    if (size == wxDefaultSize || best != wanted || said != label) {
+      size = naturalSize(item, control);
+      wanted = best;
+      label = said;
+    }
+    return size;
+  };
 }
 
 int leastWidth(const Control& control) {

@@ -42,8 +42,8 @@ wxRadioButton* beginRadioRun(wxWindow& parent);
 /// The height of buttons and fields that stand level, in pixels.
 int rowHeight(wxWindow& window);
 
-/// The least size in pixels of an item's window.
-wxSize naturalSize(const DialogItem& item, const Control& control);
+/// Tells the least size in pixels of an item's window, as often as it is asked.
+std::function<wxSize()> naturalSizes(const DialogItem& item, const Control& control);
 
 /// The width in pixels at which a button's label shows whole.
 int leastWidth(const Control& control);

@@ -120,9 +120,9 @@ std::optional<std::string> saveFileDialog(WindowStack& stack, const FileRequest&
   }
 }
 
-std::optional<std::string> folderDialog(WindowStack& stack) {
+std::optional<std::string> folderDialog(WindowStack& stack, const std::string& root) {
   // Where systems have a home folder the browser begins there, and not among what happened to be used lately.
-  const wxString start = toWx(platform::startFolder(""));
+  const wxString start = toWx(platform::isFolder(root) ? root : platform::startFolder(""));
   wxDirDialog dialog(stack.parent(), "Choose a folder", start, wxDD_DEFAULT_STYLE | wxDD_DIR_MUST_EXIST);
   const WindowStack::Place place(stack, nullptr, [&dialog] { cancel(dialog); });
   const NativeLoop posted;

@@ -12,7 +12,7 @@ namespace tarnwick::ui {
 std::optional<std::string> openFileDialog(WindowStack& stack, const FileRequest& request);
 std::vector<std::string> openFilesDialog(WindowStack& stack, const FileRequest& request);
 std::optional<std::string> saveFileDialog(WindowStack& stack, const FileRequest& request);
-std::optional<std::string> folderDialog(WindowStack& stack);
+std::optional<std::string> folderDialog(WindowStack& stack, const std::string& root);
 
 /// A filter such as "Java files|*.JAVA||" as the toolkit's file dialogs take it on this platform.
 std::string toolkitFilter(const std::string& filter);

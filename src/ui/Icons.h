@@ -1,17 +1,23 @@
 #pragma once
 
-#include <wx/bitmap.h>
+#include <wx/bmpbndl.h>
 #include <wx/iconbndl.h>
+
+#include <string>
 
 namespace tarnwick::ui {
 
-/// The program's picture in one size.
-wxBitmap iconBitmap(int side);
+/// The program's picture, as large as `side` on a screen of the usual fineness, and sharp on any.
+wxBitmapBundle programPicture(int side);
 
 /// The program's icon in all sizes that window systems ask for.
 wxIconBundle programIcons();
 
-/// The picture of a toolbar's command, not `IsOk` if there is none; `dark` is the ground that it stands on.
-wxBitmap toolbarBitmap(int command, double scale, bool dark);
+/// The picture of a toolbar's button by the name of its drawing; not `IsOk` if there is none. `dark` is the ground that
+/// it stands on.
+wxBitmapBundle toolbarPicture(const std::string& name, bool dark);
+
+/// How large these pictures are on a screen of the usual fineness.
+wxSize toolbarPictureSize();
 
 }  // namespace tarnwick::ui

@@ -34,7 +34,7 @@ class Application : public wxApp {
     wxLog::SetLogLevel(wxLOG_Info);
     SetAppName("Tarnwick");
     SetExitOnFrameDelete(false);
-    useAsDefaultIcon(iconBitmap(48));
+    useAsDefaultIcon(programPicture(48).GetBitmap({48, 48}));
     return true;
   }
 

@@ -1,9 +1,12 @@
 #pragma once
 
 #include "app/ConsoleFrameHost.h"
-#include "dialogbase/Desktop.h"
 
 #include <functional>
+
+namespace tarnwick {
+class Desktop;
+}
 
 namespace tarnwick::ui {
 

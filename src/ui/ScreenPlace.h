@@ -1,7 +1,7 @@
 // Where a window can stand so that its user gets hold of it.
 #pragma once
 
-#include "dialogbase/DialogWindow.h"
+#include "base/Geometry.h"
 
 #include <vector>
 

@@ -1,7 +1,7 @@
 // What the toolkit does differently on the two systems, or leaves to them.
 #pragma once
 
-#include "dialogbase/DialogWindow.h"
+#include "base/Geometry.h"
 
 #include <wx/gdicmn.h>
 
@@ -12,6 +12,7 @@
 
 class wxBitmap;
 class wxDC;
+class wxKeyEvent;
 class wxMessageDialog;
 class wxNotebook;
 class wxStaticBox;
@@ -60,6 +61,9 @@ void joinTabOrder(wxWindow& window);
 
 /// True while the list of a combo box hangs open, which Return and Escape then belong to.
 bool isListOpen(wxWindow& comboBox);
+
+/// True for the key that is Break while Control is held.
+bool isBreakKey(const wxKeyEvent& event);
 
 /// True while the toolkit handles a key. Its lists take Return for a double click.
 bool handlesKey();

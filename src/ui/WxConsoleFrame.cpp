@@ -4,7 +4,6 @@
 #include "ui/Icons.h"
 #include "ui/MessageBoxes.h"
 #include "ui/Text.h"
-#include "ui/ToolbarPixels.h"
 #include "ui/WxConsoleSurface.h"
 
 #include <wx/app.h>
@@ -90,10 +89,8 @@ void WxConsoleFrame::buildMenus() {
 void WxConsoleFrame::buildToolbar() {
   if (!rules_.toolbar()) return;
   auto* const bar = frame_->CreateToolBar(wxTB_HORIZONTAL | wxTB_FLAT);
-  const double scale = frame_->GetDPIScaleFactor();
   const bool dark = wxSystemSettings::GetAppearance().IsDark();
-  const wxSize size(toolbarPixelCount(toolbarIconWidth, scale), toolbarPixelCount(toolbarIconHeight, scale));
-  bar->SetToolBitmapSize(size);
+  bar->SetToolBitmapSize(frame_->FromDIP(toolbarPictureSize()));
   int id = firstToolId;
   for (const auto& button : *rules_.toolbar()) {
     if (button.command == 0) {
@@ -101,9 +98,9 @@ void WxConsoleFrame::buildToolbar() {
       continue;
     }
     const wxString tip = toWx(button.toolTip);
-    wxBitmap picture = toolbarBitmap(button.command, scale, dark);
+    wxBitmapBundle picture = toolbarPicture(button.drawing, dark);
     // The button works all the same, by its tip.
-    if (!picture.IsOk()) picture = wxBitmap(size);
+    if (!picture.IsOk()) picture = wxBitmap(bar->GetToolBitmapSize());
     bar->AddTool(++id, tip, picture, wxNullBitmap, wxITEM_NORMAL, tip, tip);
     commandOfId_[id] = button.command;
   }

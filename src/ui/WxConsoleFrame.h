@@ -1,13 +1,16 @@
 #pragma once
 
 #include "app/ConsoleFrameHost.h"
-#include "dialogbase/Desktop.h"
 #include "ui/WindowStack.h"
 
 #include <wx/frame.h>
 
 #include <map>
 #include <memory>
+
+namespace tarnwick {
+class Desktop;
+}
 
 namespace tarnwick::ui {
 

@@ -1,5 +1,6 @@
 #include "ui/WxConsoleSurface.h"
 
+#include "dialogbase/Desktop.h"
 #include "ui/ConsoleKeys.h"
 #include "ui/HintWindow.h"
 #include "ui/MessageBoxes.h"
@@ -10,6 +11,7 @@
 #include <wx/fontenum.h>
 #include <wx/settings.h>
 #include <wx/toplevel.h>
+#include <wx/utils.h>
 
 #include <algorithm>
 #include <utility>
@@ -89,11 +91,18 @@ void WxConsoleSurface::bindEvents() {
   for (const auto& type : {wxEVT_SCROLLWIN_THUMBTRACK, wxEVT_SCROLLWIN_THUMBRELEASE}) {
     Bind(type, &WxConsoleSurface::onScrollTo, this);
   }
-  Bind(wxEVT_SCROLLWIN_TOP, [this](wxScrollWinEvent&) { scrollTo({scroll_.x, 0}); });
-  Bind(wxEVT_SCROLLWIN_BOTTOM, [this](wxScrollWinEvent&) { scrollTo({scroll_.x, lastPosition().y}); });
+  Bind(wxEVT_SCROLLWIN_TOP, [this](wxScrollWinEvent&) { scrollByHand({scroll_.x, 0}); });
+  Bind(wxEVT_SCROLLWIN_BOTTOM, [this](wxScrollWinEvent&) { scrollByHand({scroll_.x, lastPosition().y}); });
   bindMouse(wxEVT_LEFT_DOWN, &ConsoleSurfaceClient::onLeftDown);
   bindMouse(wxEVT_LEFT_UP, &ConsoleSurfaceClient::onLeftUp);
   bindMouse(wxEVT_MOTION, &ConsoleSurfaceClient::onMouseMove);
+  // What shows under the mouse goes with it. While text is selected, the mouse is still ours out there.
+  Bind(wxEVT_LEAVE_WINDOW, [this](wxMouseEvent& event) {
+    event.Skip();
+    MouseState away;
+    away.at = {-1, -1};
+    if (!event.LeftIsDown()) tell([&] { client_.onMouseMove(away); });
+  });
   bindMouse(wxEVT_LEFT_DCLICK, &ConsoleSurfaceClient::onDoubleClick);
   bindMouse(wxEVT_RIGHT_DOWN, &ConsoleSurfaceClient::onRightDown);
 }
@@ -111,6 +120,15 @@ void WxConsoleSurface::bindMouse(const wxEventTypeTag<wxMouseEvent>& type,
     if (event.ButtonDown()) SetFocus();
     tell([&] { (client_.*operation)(state); });
   });
+}
+
+void WxConsoleSurface::pointAnew(bool control) {
+  const wxPoint at = ScreenToClient(wxGetMousePosition());
+  if (!wxRect(GetClientSize()).Contains(at) || wxGetMouseState().LeftIsDown()) return;
+  MouseState state;
+  state.at = {at.x, at.y};
+  state.control = control;
+  tell([&] { client_.onMouseMove(state); });
 }
 
 void WxConsoleSurface::tell(const std::function<void()>& action) {
@@ -188,11 +206,19 @@ void WxConsoleSurface::showHint(bool on) {
   if (hint_) hint_->showWindow(on);
 }
 
+void WxConsoleSurface::showHand(bool on) {
+  SetCursor(wxCursor(on ? wxCURSOR_HAND : wxCURSOR_IBEAM));
+}
+
 platform::WindowNumber WxConsoleSurface::bringToFront() {
   wxWindow* const frame = wxGetTopLevelParent(this);
   Raise();
   frame->Raise();
   return reinterpret_cast<platform::WindowNumber>(frame->GetHandle());
+}
+
+void WxConsoleSurface::setTitle(const std::string& title) {
+  if (auto* const frame = dynamic_cast<wxTopLevelWindow*>(wxGetTopLevelParent(this))) frame->SetTitle(toWx(title));
 }
 
 void WxConsoleSurface::onPaint(wxPaintEvent&) {
@@ -218,22 +244,27 @@ void WxConsoleSurface::onSize(wxSizeEvent& event) {
   tell([this] { client_.onResized(); });
 }
 
+void WxConsoleSurface::scrollByHand(const Point& position) {
+  scrollTo(position);
+  tell([this] { client_.onScrolled(); });
+}
+
 void WxConsoleSurface::onScroll(wxScrollWinEvent& event, int lines, bool pages) {
   const Point window = clientSize();
   if (event.GetOrientation() == wxVERTICAL) {
     const int step = pages ? std::max(cell_.y, window.y - cell_.y) : cell_.y;
-    scrollTo({scroll_.x, scroll_.y + lines * step});
+    scrollByHand({scroll_.x, scroll_.y + lines * step});
   } else {
     const int step = pages ? std::max(cell_.x, window.x - cell_.x) : cell_.x;
-    scrollTo({scroll_.x + lines * step, scroll_.y});
+    scrollByHand({scroll_.x + lines * step, scroll_.y});
   }
 }
 
 void WxConsoleSurface::onScrollTo(wxScrollWinEvent& event) {
   if (event.GetOrientation() == wxVERTICAL) {
-    scrollTo({scroll_.x, event.GetPosition()});
+    scrollByHand({scroll_.x, event.GetPosition()});
   } else {
-    scrollTo({event.GetPosition(), scroll_.y});
+    scrollByHand({event.GetPosition(), scroll_.y});
   }
 }
 
@@ -241,13 +272,14 @@ void WxConsoleSurface::onWheel(wxMouseEvent& event) {
   const int turn = event.GetWheelRotation() * wheelLines / std::max(1, event.GetWheelDelta());
   if (event.GetWheelAxis() == wxMOUSE_WHEEL_HORIZONTAL || event.ShiftDown()) {
     const int direction = event.GetWheelAxis() == wxMOUSE_WHEEL_HORIZONTAL ? 1 : -1;
-    scrollTo({scroll_.x + direction * turn * cell_.x, scroll_.y});
+    scrollByHand({scroll_.x + direction * turn * cell_.x, scroll_.y});
   } else {
-    scrollTo({scroll_.x, scroll_.y - turn * cell_.y});
+    scrollByHand({scroll_.x, scroll_.y - turn * cell_.y});
   }
 }
 
 void WxConsoleSurface::onKeyDown(wxKeyEvent& event) {
+  if (event.GetKeyCode() == WXK_CONTROL) pointAnew(true);
   bool used = false;
   tell([&] { used = client_.onKey(consoleKeyOf(event.GetKeyCode()), modifiersOf(event)); });
   const bool withAlt = used && event.AltDown();
@@ -257,6 +289,7 @@ void WxConsoleSurface::onKeyDown(wxKeyEvent& event) {
 }
 
 void WxConsoleSurface::onKeyUp(wxKeyEvent& event) {
+  if (event.GetKeyCode() == WXK_CONTROL) pointAnew(false);
   const bool used = event.GetKeyCode() == WXK_ALT ? std::exchange(altServed_, false)
                                                   : isFunctionKey(consoleKeyOf(event.GetKeyCode()));
   if (!used) event.Skip();

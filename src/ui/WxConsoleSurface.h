@@ -1,7 +1,6 @@
 #pragma once
 
 #include "console/ConsoleSurface.h"
-#include "dialogbase/Desktop.h"
 #include "ui/WakeGate.h"
 #include "ui/WindowStack.h"
 
@@ -10,6 +9,10 @@
 #include <functional>
 #include <memory>
 #include <string>
+
+namespace tarnwick {
+class Desktop;
+}
 
 namespace tarnwick::ui {
 
@@ -37,7 +40,9 @@ class WxConsoleSurface : public wxWindow, public ConsoleSurface {
   void invalidateAll() override;
   void wake() override { gate_->wake(); }
   void showHint(bool on) override;
+  void showHand(bool on) override;
   platform::WindowNumber bringToFront() override;
+  void setTitle(const std::string& title) override;
   void close() override { requestClose_(); }
 
   bool AcceptsFocus() const override { return true; }
@@ -57,7 +62,11 @@ class WxConsoleSurface : public wxWindow, public ConsoleSurface {
   void onKeyUp(wxKeyEvent& event);
   void onCharacter(wxKeyEvent& event);
   void bindMouse(const wxEventTypeTag<wxMouseEvent>& type, void (ConsoleSurfaceClient::*operation)(const MouseState&));
+  /// The mouse rests, but the Control key has been pressed or let go.
+  void pointAnew(bool control);
   void updateBars();
+  /// As the user wants it.
+  void scrollByHand(const Point& position);
   Point lastPosition() const;
   void tell(const std::function<void()>& action);
 

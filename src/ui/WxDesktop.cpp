@@ -9,6 +9,7 @@
 #include "ui/MessageBoxes.h"
 #include "ui/Text.h"
 #include "ui/WxConsoleFrame.h"
+#include "ui/WxMessagesFrame.h"
 #include "ui/WxTopWindow.h"
 
 #include <wx/clipbrd.h>
@@ -63,8 +64,8 @@ std::optional<std::string> WxDesktop::pickFileToSave(const FileRequest& request)
   return saveFileDialog(stack_, request);
 }
 
-std::optional<std::string> WxDesktop::pickFolder() {
-  return folderDialog(stack_);
+std::optional<std::string> WxDesktop::pickFolder(const std::string& root) {
+  return folderDialog(stack_, root);
 }
 
 void WxDesktop::alert(AlertSound sound) {
@@ -86,6 +87,10 @@ void WxDesktop::showWaitCursor(bool on) {
     wxBeginBusyCursor();
   else
     wxEndBusyCursor();
+}
+
+bool WxDesktop::controlKeyHeld() {
+  return wxGetKeyState(WXK_CONTROL);
 }
 
 std::optional<std::string> WxDesktop::clipboardText() {
@@ -148,33 +153,56 @@ std::thread WxDesktop::startWorker(std::function<void()> work) {
   }
 }
 
-void WxDesktop::whileBusy(const std::function<void()>& work, const std::function<void()>& giveUp) {
+void WxDesktop::whileBusy(const BusyWork& busy) {
   struct GiveUp {
     std::function<void()>& now;
     std::function<void()> before;
     GiveUp(std::function<void()>& place, const std::function<void()>& own) : now(place), before(place) { now = own; }
     ~GiveUp() { now = before; }
   };
-  const GiveUp lasting(giveUp_, giveUp);
+  const GiveUp lasting(giveUp_, busy.giveUp);
   const WindowStack::Place place(stack_, nullptr);
   const wxBusyCursor hourglass;
-  BusyLoop loop;
+  BusyLoop loop(busy.stop ? BusyLoop::Requests{[&] { askToStop(busy.tool); }, [this] { watch_->stop(); }}
+                          : BusyLoop::Requests{});
   std::exception_ptr failure;
   std::promise<void> ended;
   workEnded_ = ended.get_future();
   std::thread worker = startWorker([&] {
     try {
-      work();
+      busy.work();
     } catch (...) {
       failure = std::current_exception();
     }
     ended.set_value();
     post([&loop] { loop.end(); });
   });
+  if (busy.stop) {
+    if (!watch_) watch_ = std::make_unique<RunWatch>(stack_.parent(), patience_);
+    watch_->begin(loop, busy, step_);
+  }
   loop.run();
   worker.join();
+  if (watch_) watch_->rest();
+  if (step_.of == 0) watch_.reset();
   stack_.goOn();
   if (failure) std::rethrow_exception(failure);
+}
+
+void WxDesktop::showStep(std::size_t step, std::size_t steps) {
+  step_ = {step, steps};
+  if (steps == 0) watch_.reset();
+}
+
+void WxDesktop::askToStop(const std::string& tool) {
+  if (isAsking_) return;
+  isAsking_ = true;
+  const bool yes = askYesNo(tool + " is still at work. Stop it and leave Tarnwick?");
+  isAsking_ = false;
+  if (!yes) return;
+  watch_->stop();
+  // Whoever waits for the tool goes on first.
+  openDialogs_.front()->close(IDCANCEL_CONTROL);
 }
 
 int WxDesktop::startTimer(int milliseconds, std::function<void()> tick) {
@@ -192,6 +220,13 @@ void WxDesktop::post(std::function<void()> task) {
 void WxDesktop::runConsoleFrame(ConsoleFrame& frame) {
   WxConsoleFrame window(stack_, *this, frame);
   window.run();
+}
+
+std::unique_ptr<MessagesWindow> WxDesktop::makeMessagesWindow(MessagesFrame& frame) {
+  const auto mainWindow = [this]() -> const wxWindow* {
+    return openDialogs_.size() == 1 && openDialogs_[0]->isInnermost() ? &openDialogs_[0]->dialog() : nullptr;
+  };
+  return std::make_unique<WxMessagesFrame>(stack_, *this, frame, mainWindow);
 }
 
 }  // namespace tarnwick::ui

@@ -152,7 +152,7 @@ void WxDialogWindow::setNatural(Node& node, const DialogItem& item, const Contro
       return room;
     };
   } else {
-    node.natural = [alone, control] { return naturalSize(alone, control); };
+    node.natural = naturalSizes(alone, control);
   }
   if (auto* box = dynamic_cast<wxStaticBox*>(control.window)) {
     box->GetBordersForSizer(&node.frameTop, &node.frameOther);

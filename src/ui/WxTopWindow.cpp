@@ -6,7 +6,12 @@
 #include "ui/Toolkit.h"
 
 #include <wx/app.h>
+#include <wx/dnd.h>
 #include <wx/evtloop.h>
+
+#include <functional>
+#include <utility>
+#include <vector>
 
 namespace tarnwick::ui {
 
@@ -19,6 +24,23 @@ class FreeDialog : public wxDialog {
  public:
   using wxDialog::wxDialog;
   bool Layout() override { return false; }
+};
+
+/// Where files may be dropped.
+class FileDrop : public wxFileDropTarget {
+ public:
+  using Take = std::function<bool(const std::vector<std::string>&)>;
+
+  explicit FileDrop(Take take) : take_(std::move(take)) {}
+
+  bool OnDropFiles(wxCoord /*x*/, wxCoord /*y*/, const wxArrayString& names) override {
+    std::vector<std::string> files;
+    for (const auto& name : names) files.push_back(fromWx(name));
+    return take_(files);
+  }
+
+ private:
+  Take take_;
 };
 
 wxDialog* makeDialog(WxTopWindow::Role role, const DialogLayout& layout, wxWindow* parent) {
@@ -63,6 +85,7 @@ int WxTopWindow::run() {
   WindowStack::Place place(stack(), dialog_.get(), [this] { end(); });
   place_ = &place;
   start();
+  if (role_ == Role::Main) takeDrops(*dialog_);
   fit();
   if (!result_) {
     running_ = true;
@@ -80,6 +103,17 @@ int WxTopWindow::run() {
   detach();
   place_ = nullptr;
   return result_.value_or(IDCANCEL_CONTROL);
+}
+
+void WxTopWindow::takeDrops(wxWindow& window) {
+  // A field would take the drop for text.
+  window.SetDropTarget(new FileDrop([this](const std::vector<std::string>& files) {
+    if (!running_ || !isInnermost()) return false;
+    guard([&] { WxDialogWindow::handler().onFilesDropped(files); });
+    return true;
+  }));
+  for (wxWindow* child : window.GetChildren())
+    if (!child->IsTopLevel()) takeDrops(*child);
 }
 
 void WxTopWindow::fit() {

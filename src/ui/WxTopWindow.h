@@ -32,6 +32,8 @@ class WxTopWindow : public WxDialogWindow {
   void close(int result) override;
 
   wxDialog& dialog() { return *dialog_; }
+  /// True while nothing is open or at work above it.
+  bool isInnermost() const { return place_ && place_->isInnermost(); }
 
  private:
   using Dialog = std::unique_ptr<wxDialog>;
@@ -45,6 +47,8 @@ class WxTopWindow : public WxDialogWindow {
   Point told(const Point& real) const;
   /// Where the window comes to stand when the rules move it to `place`.
   Point besideOthers(const Point& place) const;
+  /// Files may be dropped on this window and all that is in it.
+  void takeDrops(wxWindow& window);
   void onKey(wxKeyEvent& event);
   void onEscape();
   /// Leads a focus that nobody sees, of a control that was hidden or disabled, on to the next one of use.

@@ -130,6 +130,27 @@ def take_jar(scratch, camera, panel):
     dialog.is_gone()
 
 
+def take_javadoc(scratch, camera, panel):
+    panel.press("javadoc")
+    dialog = Window("javadoc")
+    dialog.press("Add to the Java files")
+    world.answer_file_dialog(os.path.join(scratch.work, "Till.java"), dialog)
+    camera.take(dialog, "javadoc")
+    dialog.press("Cancel")
+    dialog.is_gone()
+
+
+def take_shortcut(camera, panel):
+    turn_to(panel, "Utilities")
+    panel.press("WinShortcut")
+    dialog = Window("Create Windows shortcut to Java application")
+    dialog.press("Create shortcut on desktop")
+    dialog.press("Execute under Tarnwick's control")
+    camera.take(dialog, "shortcut")
+    dialog.press("Close")
+    dialog.is_gone()
+
+
 def walk(scratch, camera):
     scratch.start()
     Window("Welcome to Tarnwick").press("OK")
@@ -147,6 +168,8 @@ def walk(scratch, camera):
     take_debugger(scratch, camera, panel)
     take_project(scratch, camera, panel)
     take_jar(scratch, camera, panel)
+    take_javadoc(scratch, camera, panel)
+    take_shortcut(camera, panel)
     panel.press("Exit")
     panel.is_gone()
 

@@ -21,6 +21,10 @@ class NotSeen(AssertionError):
     """What was waited for did not come."""
 
 
+# What a console of today tells behind its title.
+CONSOLE_SUFFIX = "( - (ended|stopped) .*| - scrolled back)?"
+
+
 def wait_until(what, condition, seconds=LIMIT):
     """The first true value of the condition."""
     end = time.monotonic() + seconds
@@ -97,8 +101,8 @@ class Control:
 
     def click(self, button=1):
         left, top, width, height = self.area
-        xdotool("mousemove", "--sync", left + width // 2, top + height // 2)
-        xdotool("click", button)
+        # Not with --sync, which waits for many seconds when the pointer is there already. One connection keeps the order.
+        xdotool("mousemove", left + width // 2, top + height // 2, "sleep", 0.05, "click", button)
         time.sleep(0.2)
 
 
@@ -121,8 +125,11 @@ class Window:
         self._wait_until_it_stands(seconds)
 
     def _now(self):
-        same = [one for one in look() if one.name == self.title and self.process in (None, one.process)]
+        same = [one for one in look() if self._bears_title(one.name) and self.process in (None, one.process)]
         return same[-1] if same else None
+
+    def _bears_title(self, name):
+        return re.fullmatch(re.escape(self.title) + CONSOLE_SUFFIX, name) is not None
 
     def _wait_until_it_stands(self, seconds):
         seen = wait_until(f"the window {self.title!r}", self._now, seconds)
@@ -156,8 +163,10 @@ class Window:
         return "\n".join(one.name for one in self.controls() if one.name)
 
     def press(self, label):
-        """Clicks a button, once it can be pressed."""
-        self._find(f"the enabled control {label!r}", lambda one: one.label == label and one.enabled, LIMIT).click()
+        """Clicks a button, once it can be pressed. The window may bear the same word."""
+        def button():
+            return next((one for one in self.controls()[1:] if one.label == label and one.enabled), None)
+        wait_until(f"the enabled control {label!r} in the window {self.title!r}", button).click()
 
     def fields(self):
         return [one for one in self.controls() if one.role in ("text", "entry")]
@@ -215,8 +224,8 @@ def active_window():
 
 
 def x_windows(title, visible=True):
-    """Numbers of the X windows of this exact title; with `visible` off also of those that are minimised."""
+    """Numbers of the X windows of this title; with `visible` off also of those that are minimised."""
     which = ["--onlyvisible"] if visible else []
-    found = subprocess.run(["xdotool", "search", *which, "--name", f"^{re.escape(title)}$"], stdin=subprocess.DEVNULL,
+    found = subprocess.run(["xdotool", "search", *which, "--name", f"^{re.escape(title)}{CONSOLE_SUFFIX}$"], stdin=subprocess.DEVNULL,
                            stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True, timeout=LIMIT)
     return found.stdout.split()

@@ -2,7 +2,8 @@
 """Runs the end-to-end tests: the real program on the real JDK, driven from outside.
 
 usage: run.py PROJECT [PART-OF-A-NAME...]     needs a display with a window manager (scripts/with-display.sh)
-The last line is "N passed, N failed, N skipped". A test that fails leaves a screenshot in build/e2e/.
+The last line is "N passed, N failed, N skipped". A test that fails leaves a screenshot in build/e2e/. Several processes
+share the tests through the folder $TARNWICK_TESTS_TAKEN: each takes the next one that nobody has noted there.
 """
 
 import importlib
@@ -19,11 +20,12 @@ import world
 # Under scripts/with-wine.sh it is the Windows program that is tested.
 if "WINE" in os.environ:
     import wine_world
-    MODULES, World = ["test_windows", "test_windows_panel", "test_windows_start_up"], wine_world.World
+    MODULES, World = ["test_windows", "test_windows_jar", "test_windows_panel", "test_windows_shortcut", "test_windows_start_up"], wine_world.World
 else:
-    MODULES = ["test_start", "test_start_up", "test_panels", "test_keyboard", "test_quiet", "test_projects", "test_compile", "test_splitting",
-               "test_console", "test_console_text", "test_console_pictures", "test_console_dark", "test_jdb", "test_help",
-               "test_tools", "test_jar", "test_bad_input", "test_locked_configuration", "test_ending"]
+    MODULES = ["test_start", "test_start_up", "test_panels", "test_keyboard", "test_quiet", "test_projects", "test_compile", "test_newer_java", "test_newer_run", "test_packages",
+               "test_splitting",
+               "test_console", "test_console_text", "test_console_today", "test_console_pictures", "test_console_dark", "test_jdb", "test_help",
+               "test_messages", "test_tools", "test_jar", "test_javadoc", "test_shortcut", "test_bad_input", "test_locked_configuration", "test_stopping", "test_ending"]
     World = world.World
 
 
@@ -36,6 +38,17 @@ def tests(parts):
             full = f"{module_name.removeprefix('test_')}.{name.removeprefix('test_')}"
             if not parts or any(part in full for part in parts):
                 yield full, function
+
+
+def share(all_tests):
+    folder = os.environ.get("TARNWICK_TESTS_TAKEN")
+    for name, function in all_tests:
+        if folder:
+            try:
+                os.close(os.open(os.path.join(folder, name), os.O_CREAT | os.O_EXCL | os.O_WRONLY))
+            except FileExistsError:
+                continue
+        yield name, function
 
 
 def run_one(name, function, project, pictures):
@@ -78,9 +91,10 @@ def main():
         if "WINE" not in os.environ:
             world.start_bus(os.path.join(runtime, "run"))
         pictures = os.path.join(project, "build", "e2e-windows" if "WINE" in os.environ else "e2e")
-        shutil.rmtree(pictures, ignore_errors=True)
-        os.makedirs(pictures)
-        outcomes = [run_one(name, function, project, pictures) for name, function in tests(parts)]
+        if "TARNWICK_TESTS_TAKEN" not in os.environ:
+            shutil.rmtree(pictures, ignore_errors=True)
+        os.makedirs(pictures, exist_ok=True)
+        outcomes = [run_one(name, function, project, pictures) for name, function in share(tests(parts))]
     finally:
         shutil.rmtree(runtime, ignore_errors=True)
     failed = outcomes.count("FAILED")

@@ -36,9 +36,9 @@ TOOL = "grandchild 3600000\norphan 3600000\nsleep 3600000\n"
 
 
 def split_under_way(scratch):
-    """The panel in the middle of a compilation for which it has split the source."""
+    """The panel in the middle of a compilation for which it has split the source beside it."""
     source = scratch.sample("Shapes.java")
-    panel, record = panel_with_stand_ins(scratch, TOOL)
+    panel, record = panel_with_stand_ins(scratch, TOOL, classic=True)
     panel.activate()
     panel.write(world.quoted(source))
     panel.press("javac")
@@ -164,6 +164,9 @@ def screen_of_its_own():
     manager = subprocess.Popen(["openbox"], stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL,
                                stderr=subprocess.DEVNULL)
     try:
+        # A window that comes before the manager is moved when that comes, away from under the pointer.
+        wait_until("the window manager", lambda: "window id" in subprocess.run(
+            ["xprop", "-root", "_NET_SUPPORTING_WM_CHECK"], capture_output=True, text=True).stdout)
         yield server
     finally:
         os.environ["DISPLAY"] = before

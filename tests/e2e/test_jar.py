@@ -24,20 +24,12 @@ def jdks():
     return sorted(tools)
 
 
-def write(scratch, name, text):
-    path = os.path.join(scratch.work, name)
-    os.makedirs(os.path.dirname(path), exist_ok=True)
-    with open(path, "w", encoding="utf-8") as out:
-        out.write(text)
-    return path
-
-
 def base_folder(scratch, jdk):
     """Classes of a package, and files of all kinds, in a folder whose name holds a blank."""
-    source = write(scratch, "ba se/shop/Till.java", MAIN)
+    source = scratch.write("ba se/shop/Till.java", MAIN)
     subprocess.run([os.path.join(jdk, "javac"), source], check=True, timeout=120, env=scratch.environment)
     for name in ("one.txt", "two words.txt", "Grüße.txt", "-C", "@list", ".hidden", "sub folder/inner.txt"):
-        write(scratch, "ba se/" + name, name * 100)
+        scratch.write("ba se/" + name, name * 100)
     return os.path.join(scratch.work, "ba se")
 
 
@@ -116,32 +108,37 @@ def test_archives_are_created_updated_and_indexed(scratch):
 
 def test_named_files_and_folders_without_manifest_and_compression(scratch):
     scratch.configured()
-    jdk = jdks()[-1]
-    base = base_folder(scratch, jdk)
-    program, panel = start(scratch, jdk)
-    archive = os.path.join(scratch.work, "named.jar")
-    dialog = open_dialog(panel, base, archive)
-    dialog.write("one.txt \"two words.txt\"", FILES)
-    dialog.write("shop", FOLDERS)
-    dialog.press("Don't create manifest")
-    dialog.press("no ZIP compression")
-    run(scratch, panel, dialog, "Create archive")
-    assert names_in(archive) == ["one.txt", "shop/Till.class", "shop/Till.java", "two words.txt"]
-    with zipfile.ZipFile(archive) as content:
-        assert all(entry.compress_type == zipfile.ZIP_STORED for entry in content.infolist())
+    extra = scratch.write("else where/from else where.txt", "x")
+    for number, jdk in enumerate(jdks()):
+        base = base_folder(scratch, jdk)
+        program, panel = start(scratch, jdk)
+        archive = os.path.join(scratch.work, f"named {number}.jar")
+        dialog = open_dialog(panel, base, archive)
+        dialog.write("one.txt \"two words.txt\"", FILES)
+        dialog.write("shop", FOLDERS)
+        dialog.press("Don't create manifest")
+        dialog.press("no ZIP compression")
+        run(scratch, panel, dialog, "Create archive")
+        assert names_in(archive) == ["one.txt", "shop/Till.class", "shop/Till.java", "two words.txt"]
+        with zipfile.ZipFile(archive) as content:
+            assert all(entry.compress_type == zipfile.ZIP_STORED for entry in content.infolist())
 
-    # The panel has kept both marks.
-    dialog = open_dialog(panel, base, archive, "Update existing archive")
-    assert dialog.control("Don't create manifest").checked and dialog.control("no ZIP compression").checked
-    dialog.press("Don't create manifest")
-    dialog.write("\"sub folder\"", FOLDERS)
-    run(scratch, panel, dialog, "Update archive")
-    assert "sub folder/inner.txt" in names_in(archive) and "one.txt" in names_in(archive), names_in(archive)
+        # The panel has kept both marks. A selected file is taken from where it was found.
+        dialog = open_dialog(panel, base, archive, "Update existing archive")
+        assert dialog.control("Don't create manifest").checked and dialog.control("no ZIP compression").checked
+        dialog.press("Don't create manifest")
+        dialog.write("\"sub folder\"", FOLDERS)
+        dialog.press("Select individual files")
+        world.answer_file_dialog(extra, dialog)
+        wait_until("the file", lambda: dialog.field(FILES).text == '"from else where.txt"')
+        run(scratch, panel, dialog, "Update archive")
+        updated = names_in(archive)
+        assert {"sub folder/inner.txt", "one.txt", "from else where.txt"} <= set(updated), updated
 
-    dialog = open_dialog(panel, None, archive, "Update existing archive")
-    run(scratch, panel, dialog, "Create index")
-    wait_until("the index", lambda: "META-INF/INDEX.LIST" in names_in(archive))
-    leave(program, panel)
+        dialog = open_dialog(panel, None, archive, "Update existing archive")
+        run(scratch, panel, dialog, "Create index")
+        wait_until("the index", lambda: "META-INF/INDEX.LIST" in names_in(archive))
+        leave(program, panel)
 
 
 def test_a_runnable_archive_starts_and_is_opened_as_zip(scratch):
@@ -174,6 +171,72 @@ def test_a_runnable_archive_starts_and_is_opened_as_zip(scratch):
         assert said == "Sold by shop.Till\n", said
         assert not glob.glob(os.path.join(os.path.dirname(scratch.configuration), "*Manifest*")), "the lines are gone"
         leave(program, panel)
+
+
+def library(scratch, jdk, folder, name, package):
+    """An archive with a class that says where it comes from."""
+    source = scratch.write(f"sources/{package}/Say.java", f"package {package};\npublic class Say {{\n  public static "
+                   f"String words() {{ return \"{package} \"; }}\n}}\n")
+    classes = os.path.join(scratch.work, "classes of " + package)
+    subprocess.run([os.path.join(jdk, "javac"), "-d", classes, source], check=True, timeout=120, env=scratch.environment)
+    archive = os.path.join(folder, name)
+    os.makedirs(os.path.dirname(archive), exist_ok=True)
+    subprocess.run([os.path.join(jdk, "jar"), "cf", archive, "-C", classes, "."], check=True, timeout=120,
+                   env=scratch.environment)
+    return archive
+
+
+def set_newer_java(scratch, on):
+    """The setting stands in the file only where it is on."""
+    with open(scratch.configuration, encoding="utf-8") as lines:
+        rows = [row for row in lines if not row.startswith("NEWER_JAVA ")]
+    with open(scratch.configuration, "w", encoding="utf-8") as out:
+        out.writelines(rows + (["NEWER_JAVA  ON\n"] if on else []))
+
+
+def manifest_of(archive):
+    with zipfile.ZipFile(archive) as content:
+        lines = content.read("META-INF/MANIFEST.MF").replace(b"\r\n ", b"").decode("utf-8")
+    return dict(line.split(": ", 1) for line in lines.splitlines() if line)
+
+
+def test_a_runnable_archive_finds_its_libraries_with_newer_java(scratch):
+    scratch.configured()
+    for jdk in jdks():
+        products = os.path.join(scratch.work, "pro ducts " + os.path.basename(os.path.dirname(jdk)))
+        # Below the archive, beside it, and a folder of classes.
+        below = library(scratch, jdk, products, "lib für/100% #1.jar", "below")
+        beside = library(scratch, jdk, os.path.join(scratch.work, "else where"), "other.jar", "beside")
+        library(scratch, jdk, products, "unused.jar", "loose")
+        loose = os.path.join(scratch.work, "classes of loose")
+        main = ("package shop;\npublic class Till {\n  public static void main(String[] words) {\n"
+                "    System.out.println(below.Say.words() + beside.Say.words() + loose.Say.words());\n  }\n}\n")
+        source = scratch.write("ba se/shop/Till.java", main)
+        base = os.path.join(scratch.work, "ba se")
+        subprocess.run([os.path.join(jdk, "javac"), "-cp", os.pathsep.join((below, beside, loose)), source], check=True,
+                       timeout=120, env=scratch.environment)
+        typed = ";".join((world.quoted(below), world.quoted(beside), world.quoted(loose)))
+        archive = os.path.join(products, "shop.jar")
+        for newer in (True, False):
+            set_newer_java(scratch, newer)
+            program, panel = start(scratch, jdk)
+            dialog = open_dialog(panel, base, archive)
+            dialog.write("shop", FOLDERS)
+            dialog.write("shop.Till", MAIN_CLASS)
+            dialog.write(typed, CLASS_PATH)
+            run(scratch, panel, dialog, "Create archive")
+            leave(program, panel)
+            ran = subprocess.run([os.path.join(jdk, "java"), "-jar", archive], timeout=120, text=True, cwd="/",
+                                 env=scratch.environment, stdout=subprocess.PIPE, stderr=subprocess.PIPE)
+            if newer:
+                assert ran.stdout == "below beside loose \n", ran
+                words = manifest_of(archive)["Class-Path"].split(" ")
+                assert words[0] == "lib%20f%C3%BCr/100%25%20%231.jar" and len(words) == 3, words
+                assert words[1].startswith("file:/") and words[1].endswith("/else%20where/other.jar"), words
+                assert words[2].startswith("file:/") and words[2].endswith("/classes%20of%20loose/"), words
+            else:
+                assert manifest_of(archive)["Class-Path"] == typed, manifest_of(archive)
+                assert ran.returncode != 0 and ran.stdout == "", ran
 
 
 def test_what_is_emptied_lies_in_the_trash(scratch):

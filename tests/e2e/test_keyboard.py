@@ -28,8 +28,11 @@ def tab(panel, keys="Tab"):
     """Presses Tab; gives the control that the focus has gone to."""
     before = name_of(focused(panel))
     key(keys)
-    wait_until(f"another focus than {before!r}", lambda: name_of(focused(panel)) != before)
-    return focused(panel)
+
+    def other():
+        now = focused(panel)
+        return now if name_of(now) != before else None
+    return wait_until(f"another focus than {before!r}", other)
 
 
 def tab_to(panel, label):

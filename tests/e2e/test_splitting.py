@@ -1,4 +1,4 @@
-"""A source with several public types, compiled from the panel on the real JDK."""
+"""A source with several public types, compiled the classic way from the panel on the real JDK."""
 
 import os
 import time
@@ -39,7 +39,7 @@ def test_shapes_are_split_compiled_and_run(scratch):
     source = scratch.sample("Shapes.java")
     with open(source, encoding="utf-8") as text:
         before = text.read()
-    scratch.first_start()
+    scratch.in_the_classic_way()
     panel = press_javac(scratch, source)
     warning = Window(WARNING)
     assert "but only one of them may be public." in warning.labels(), warning.labels()
@@ -59,7 +59,7 @@ def test_shapes_are_split_compiled_and_run(scratch):
 
 def test_cancel_compiles_nothing(scratch):
     source = scratch.sample("Shapes.java")
-    scratch.first_start()
+    scratch.in_the_classic_way()
     panel = press_javac(scratch, source)
     warning = Window(WARNING)
     warning.press("Cancel")
@@ -73,7 +73,7 @@ def test_cancel_compiles_nothing(scratch):
 
 def test_return_is_compile_and_escape_is_cancel(scratch):
     source = scratch.sample("Shapes.java")
-    scratch.first_start()
+    scratch.in_the_classic_way()
     press_javac(scratch, source)
     Window(WARNING).activate()
     person.key("Escape")
@@ -87,7 +87,7 @@ def test_return_is_compile_and_escape_is_cancel(scratch):
 
 def test_the_box_keeps_the_warning_away_until_the_next_start(scratch):
     source = scratch.sample("Shapes.java")
-    program, panel = scratch.first_start()
+    program, panel = scratch.in_the_classic_way()
     press_javac(scratch, source)
     warning = Window(WARNING)
     warning.press(STAY_AWAY)
@@ -111,13 +111,20 @@ def test_a_mistake_in_one_of_the_types_is_told_and_leaves_no_pieces(scratch):
         changed = text.read().replace("return width * height;", "return width * depth;")
     with open(source, "w", encoding="utf-8") as text:
         text.write(changed)
-    scratch.first_start()
+    scratch.in_the_classic_way()
     press_javac(scratch, source)
     Window(WARNING).press("Compile")
     (_, log), = wait_until("the log in the editor", scratch.editor_notes)
     assert "-d . -g -classpath . Shape.java Circle.java Rectangle.java Gallery.java\n" in log, log
     assert "Rectangle.java:" in log and "error: cannot find symbol" in log, log
     assert [name for name in folder(scratch) if name.endswith(".java")] == ["Shapes.java"]
+
+
+def answer_newer_java(label):
+    """The newer way of reading would take the source, so it is offered."""
+    box = wait_until("the question", lambda: next(
+        (one for one in person.look() if any("Read sources the newer way" in child.name for child in one.all())), None))
+    next(child for child in box.all() if child.label == label).click()
 
 
 def refused(scratch, name, content, expected):
@@ -135,7 +142,7 @@ def refused(scratch, name, content, expected):
 
 
 def test_what_is_no_source_is_told_and_the_panel_goes_on(scratch):
-    scratch.first_start()
+    scratch.in_the_classic_way()
     no_source = "There is neither a class nor an interface definition in the source file.\nIs it really a source file?"
     no_text = "Line 1 doesn't seem to make sense.\nThe input file may not be in text format."
     refused(scratch, "Empty.java", b"", "Empty.java :\n" + no_source)
@@ -149,7 +156,7 @@ def test_what_is_no_source_is_told_and_the_panel_goes_on(scratch):
 
 def test_a_long_complaint_keeps_its_button_on_the_screen(scratch):
     """What a complaint quotes of the source may be of any length."""
-    scratch.first_start()
+    scratch.in_the_classic_way()
     path = os.path.join(scratch.work, "Long.java")
     with open(path, "wb") as out:
         out.write(b"class A {}\n" + b"int " + b"x" * 5000 + b"\n" * 1_000_000 + b";")
@@ -162,6 +169,7 @@ def test_a_long_complaint_keeps_its_button_on_the_screen(scratch):
     screen = [int(number) for number in person.xdotool("getdisplaygeometry").split()]
     assert 0 <= left and left + width <= screen[0] and 0 <= top and top + height <= screen[1], button.area
     button.click()
+    answer_newer_java("No")
     wait_until("the panel", lambda: panel.control("javac").enabled)
 
 
@@ -169,11 +177,12 @@ def test_a_name_taken_by_a_folder_is_told_and_stays(scratch):
     source = scratch.sample("Shapes.java")
     taken = os.path.join(scratch.work, "Rectangle.java")
     os.mkdir(taken)
-    scratch.first_start()
+    scratch.in_the_classic_way()
     press_javac(scratch, source)
     Window(WARNING).press("Compile")
     words = message()
     assert "Is a directory\nCan't process file " + taken in words, words
     person.key("Return")
+    answer_newer_java("No")
     Window("Tarnwick").activate()
     assert folder(scratch) == ["Rectangle.java", "Shapes.java"] and os.path.isdir(taken)

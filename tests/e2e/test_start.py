@@ -2,6 +2,7 @@
 
 import os
 import signal
+import subprocess
 
 import person
 import world
@@ -27,7 +28,9 @@ def test_first_start_welcomes_asks_for_the_jdk_and_saves_all_settings(scratch):
     with open(scratch.configuration, encoding="utf-8") as lines:
         rows = lines.read().split("\n")
     assert rows[:2] == [f"REM  This configuration file was written by {world.VERSION}", "REM"], rows[:2]
-    assert rows[-1] == "" and len(rows) == 2 + 111 + 1, len(rows)
+    assert rows[-1] == "" and len(rows) == 2 + 111 + 4 + 1, len(rows)
+    # On from the first use where the JDK is of version 5 or newer.
+    assert rows[-5:-1] == ["NEWER_JAVA  ON", "JAVAC_ONE_RUN  ON", "NEWER_CONSOLE  ON", "WATCH_RUNS  ON"], rows[-5:]
     assert scratch.settings()["JAVA_PATH"] == folder
     assert scratch.settings()["TARNWICK_VERSION"] == world.VERSION
     panel.press("Exit")
@@ -39,7 +42,7 @@ def test_cancel_at_the_first_start_still_saves_and_opens_the_panel(scratch):
     Window("Welcome to Tarnwick").press("OK")
     Window("Tarnwick settings").press("Cancel")
     panel = Window("Tarnwick")
-    assert len(scratch.settings()) == 111
+    assert len(scratch.settings()) == 111 + 4
     panel.press("Exit")
     assert program.wait(person.LIMIT) == 0
 
@@ -54,14 +57,13 @@ def test_second_start_goes_straight_to_the_panel(scratch):
     assert program.wait(person.LIMIT) == 0
 
 
-def test_what_this_program_cannot_do_yet_is_disabled(scratch):
+def test_every_button_of_the_file_view_can_be_pressed(scratch):
     _, panel = scratch.first_start()
     for label in ("New", "Browse", "Edit", "javac", "jdb debug", "java", "Settings", "Projectview", "Exit"):
         assert panel.control(label).enabled, label
     panel.control("Utilities").click()
-    assert panel.control("jar").enabled
-    for label in ("javadoc", "WinShortcut"):
-        assert not panel.control(label).enabled, label
+    for label in ("jar", "javadoc", "WinShortcut"):
+        assert panel.control(label).enabled, label
 
 
 def test_another_version_is_told_of_the_upgrade(scratch):
@@ -157,3 +159,24 @@ def test_nothing_is_written_outside_the_configuration_folder_and_the_users_files
     changed = {name for name in after if before.get(name) != after[name]} | (before.keys() - after.keys())
     own = (os.path.relpath(scratch.config, scratch.root) + os.sep, os.path.relpath(scratch.work, scratch.root) + os.sep)
     assert changed and not [name for name in changed if not name.startswith(own)], changed
+
+
+def test_version_and_help_are_printed_without_a_display(scratch):
+    environment = {name: value for name, value in scratch.environment.items() if name not in ("DISPLAY", "WAYLAND_DISPLAY")}
+    for word, begin in (("--version", world.VERSION + "\n"), ("--help", "Usage: tarnwick [FILE]\n")):
+        done = subprocess.run([scratch.program, word], env=environment, cwd=scratch.home, capture_output=True, text=True,
+                              timeout=person.LIMIT)
+        assert done.returncode == 0 and done.stdout.startswith(begin) and done.stderr == "", done
+    assert os.listdir(scratch.config) == []
+    with open("/dev/full", "w") as full:
+        assert subprocess.run([scratch.program, "--help"], env=environment, stdout=full, timeout=person.LIMIT).returncode == 1
+
+
+def test_a_source_on_the_command_line_stands_in_its_field(scratch):
+    scratch.configured()
+    source = scratch.sample("Greeter.java")
+    scratch.start(source)
+    panel = Window("Tarnwick")
+    assert panel.field().text == world.quoted(source), panel.field().text
+    panel.press("javac")
+    wait_until("the class", lambda: os.path.exists(source.removesuffix(".java") + ".class"))

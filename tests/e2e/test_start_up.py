@@ -128,7 +128,7 @@ def test_what_is_no_project_file_is_refused(scratch):
 
 def test_words_are_neither_a_project_nor_options_of_the_toolkit(scratch):
     is_refused(scratch, NO_CONFIGURATION, "nonsense")
-    is_refused(scratch, NO_CONFIGURATION, "--help")
+    is_refused(scratch, NO_CONFIGURATION, "--help", "me")
     is_refused(scratch, NO_CONFIGURATION, "--display=:4711", "--g-fatal-warnings")
     is_refused(scratch, NO_CONFIGURATION, " ")
 

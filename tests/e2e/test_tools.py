@@ -9,16 +9,20 @@ import pointer
 import window_manager
 import world
 from person import Window, wait_until
+from test_projects import answer, message
 
 STAND_INS = os.path.join("build", "linux", "stand-ins", "")
 
 
-def panel_with_stand_ins(scratch, script):
-    """The panel with the stand-ins as its JDK, and the file to which they write what they were given."""
+def panel_with_stand_ins(scratch, script, classic=False):
+    """The panel with the stand-ins as its JDK, and the file to which they write what they were given. Sources are read
+    the newer way, or the classic one."""
     path, record = os.path.join(scratch.root, "script"), os.path.join(scratch.root, "record")
     with open(path, "w", encoding="utf-8") as out:
         out.write(script)
     scratch.configured()
+    if classic:
+        scratch.forget_newer_java()
     scratch.change_settings(JAVA_PATH=os.path.join(scratch.project, STAND_INS))
     scratch.start(STANDIN_SCRIPT=path, STANDIN_RECORD=record)
     panel = Window("Tarnwick")
@@ -52,7 +56,8 @@ def test_a_second_press_starts_no_second_run(scratch):
     wait_until("the tool", lambda: content(record))
     for _ in range(3):
         button.click()
-    person.key("alt+F4", "Return")
+    person.key("Return", "alt+F4")
+    answer(message("javac is still at work. Stop it and leave Tarnwick?"), "No")
     assert len(scratch.processes("javac")) == 1, "the tool still runs, and it is the only one"
     assert panel.shows(), "the panel does not close while it runs"
     scratch.listens(panel)

@@ -22,7 +22,7 @@ def folded(path):
 
 
 def test_what_is_neither_a_project_nor_a_line_of_switches_is_refused(scratch):
-    for line in ("nonsense", "--help", in_work(scratch, "fehlt.twp"), in_work(scratch, ""), r"\/TITLE=x\/"):
+    for line in ("nonsense", "--help me", in_work(scratch, "fehlt.twp"), in_work(scratch, ""), r"\/TITLE=x\/"):
         is_refused(scratch, NO_CONFIGURATION, line)
 
 

@@ -18,6 +18,9 @@ from person import Window, wait_until
 
 VERSION = "Tarnwick V4.7a"
 
+# What the program's first start has left, by all that it depends on.
+FIRST_CONFIGURATIONS = {}
+
 NOTES = """#!/bin/sh
 # Stands in for the user's editor: keeps a copy of each file that it is given, and writes its arguments down.
 cd {folder} || exit 1
@@ -78,6 +81,8 @@ class World:
             "XDG_CONFIG_HOME": os.path.join(self.home, ".config"), "XDG_DATA_HOME": os.path.join(self.home, ".local", "share"),
             "XDG_CACHE_HOME": os.path.join(self.home, ".cache"), "XDG_STATE_HOME": os.path.join(self.home, ".local", "state"),
             "GSETTINGS_BACKEND": "memory", "GTK_USE_PORTAL": "0", "LC_ALL": "C.UTF-8",
+            # The services of a desktop for files and disks; they have much to say where some of them are missing.
+            "GIO_USE_VFS": "local", "GIO_USE_VOLUME_MONITOR": "unix",
         }
         self._install_editor()
 
@@ -123,6 +128,14 @@ class World:
     def source(self, name):
         """A copy of one of the end-to-end tests' own Java sources in the work folder."""
         return shutil.copy(os.path.join(self.project, "tests", "e2e", "java", name), self.work)
+
+    def write(self, name, text):
+        """A file in the work folder, or in a folder below it that is made for it; gives its path."""
+        path = os.path.join(self.work, name)
+        os.makedirs(os.path.dirname(path), exist_ok=True)
+        with open(path, "w", encoding="utf-8") as out:
+            out.write(text)
+        return path
 
     def compiled(self, path, *options):
         """Compiles a source without the program; gives the class file."""
@@ -220,9 +233,34 @@ class World:
 
     def configured(self):
         """A configuration as the first start leaves it, without walking through the windows for each test."""
+        depends = (self.program, *(self.environment.get(name) for name in ("PATH", "JAVA_HOME", "LC_ALL", "GTK_THEME")))
+        if depends in FIRST_CONFIGURATIONS and not os.listdir(self.config):
+            with open(self.configuration, "wb") as file:
+                file.write(FIRST_CONFIGURATIONS[depends])
+            return
         program, panel = self.first_start()
         panel.press("Exit")
         program.wait(person.LIMIT)
+        with open(self.configuration, "rb") as file:
+            left = file.read()
+        if os.listdir(self.config) == [os.path.basename(self.configuration)] and self.root.encode() not in left:
+            FIRST_CONFIGURATIONS[depends] = left
+
+    def in_the_classic_way(self):
+        """The panel of somebody whose configuration is older than the newer way of reading sources."""
+        self.configured()
+        self.forget_newer_java()
+        return self.start(), Window("Tarnwick")
+
+    def forget_newer_java(self):
+        """Makes the saved configuration one that is older than the newer way of reading sources."""
+        self.forget("NEWER_JAVA", "JAVAC_ONE_RUN")
+
+    def forget(self, *tags):
+        with open(self.configuration, encoding="utf-8") as lines:
+            rows = [line for line in lines if line.split(maxsplit=1)[0] not in tags]
+        with open(self.configuration, "w", encoding="utf-8") as out:
+            out.writelines(rows)
 
     def compile(self, panel, source):
         """Types a source into the panel and presses "javac"; waits until the class is there and the panel listens again."""

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "console/ConsoleFiles.h"
 #include "console/TarnwickView.h"
 #include "platform/Characters.h"
 #include "support/FakeChild.h"
@@ -130,7 +131,8 @@ class ConsoleFixture : public testing::Test {
   }
 
   RecordingDesktop desktop;
-  TarnwickDoc document{desktop, "a title"};
+  TarnwickDoc document{"a title"};
+  ConsoleFiles files{document, desktop};
   FakeSurface surface;
   std::shared_ptr<ChildScript> child = std::make_shared<ChildScript>();
   ConsoleProgram program{"C:\\Jdk\\Bin\\Java.exe", " -cp x Main", {}, {}};

@@ -30,6 +30,14 @@ class ChildScript {
       if (streamsToo) closed_[0] = closed_[1] = true;
     });
   }
+  /// Its end with this code, or by this signal.
+  void endWith(int code, const std::string& cause = "") {
+    change([&] {
+      code_ = code;
+      cause_ = cause;
+    });
+    end();
+  }
   void closeError() {
     change([&] { closed_[1] = true; });
   }
@@ -40,6 +48,9 @@ class ChildScript {
   /// From now on nothing reads the child's input: a write waits until it is broken off.
   void stopReadingInput() {
     change([&] { inputStuck_ = true; });
+  }
+  void readInputAgain() {
+    change([&] { inputStuck_ = false; });
   }
   /// As long as this is so, whoever reads does not get on.
   void starveReaders(bool on) {
@@ -55,6 +66,10 @@ class ChildScript {
   }
 
   // What happened to it.
+  bool inputClosed() const {
+    const std::lock_guard guard(lock_);
+    return inputClosed_;
+  }
   std::vector<std::string> writes() const {
     const std::lock_guard guard(lock_);
     return writes_;
@@ -112,6 +127,9 @@ class ChildScript {
   bool readingBroken_ = false;
   std::uint64_t taken_[2] = {0, 0};
   bool writing_ = false;
+  bool inputClosed_ = false;
+  int code_ = 0;
+  std::string cause_;
   std::ptrdiff_t writeAnswer_ = -2;
   std::vector<std::string> writes_;
   int treesEnded_ = 0;
@@ -159,6 +177,17 @@ class FakeChild : public platform::ChildProcess {
     s.writing_ = false;
     if (s.inputStuck_) return 0;
     return s.writeAnswer_ > -2 ? s.writeAnswer_ : static_cast<std::ptrdiff_t>(size);
+  }
+  void closeInput() override {
+    script_->change([&] { script_->inputClosed_ = true; });
+  }
+  std::string causeOfDeath() const override {
+    const std::lock_guard guard(script_->lock_);
+    return script_->cause_;
+  }
+  int exitCode() const override {
+    const std::lock_guard guard(script_->lock_);
+    return script_->code_;
   }
   void wait() override {
     std::unique_lock guard(script_->lock_);

@@ -25,6 +25,8 @@ class FakeSurface : public ConsoleSurface {
   int raised = 0;
   platform::WindowNumber frame = 7;
   bool hint = false;
+  bool hand = false;
+  std::vector<std::string> titles;
   bool fontMade = true;
   std::atomic<int> wakes{0};
   /// Told of its end within `close`, as a window may do it.
@@ -56,10 +58,12 @@ class FakeSurface : public ConsoleSurface {
     hint = on;
     ++hintChanges;
   }
+  void showHand(bool on) override { hand = on; }
   platform::WindowNumber bringToFront() override {
     ++raised;
     return frame;
   }
+  void setTitle(const std::string& text) override { titles.push_back(text); }
   void close() override {
     ++closes;
     if (endsAtOnce) endsAtOnce->onClose();

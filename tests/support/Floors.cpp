@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <fstream>
+#include <limits>
 #include <map>
 #include <regex>
 #include <set>
@@ -11,12 +12,6 @@ namespace tarnwick::test {
 namespace {
 
 namespace fs = std::filesystem;
-
-const std::map<std::string, int> floorOfFolder = {
-    {"platform", 0}, {"base", 1},    {"resources", 1}, {"dialogbase", 2}, {"process", 3},
-    {"settings", 4}, {"source", 5},  {"console", 5},   {"templates", 5},  {"project", 6},
-    {"tools", 7},    {"dialogs", 8}, {"app", 9},       {"ui", 10}};
-const int floorOfMain = 11;
 
 struct Include {
   int line = 0;
@@ -34,6 +29,7 @@ struct Source {
   std::string folder;  ///< empty for main.cpp
   std::vector<Include> includes;
   std::vector<Directive> directives;
+  std::vector<int> boxes;  ///< lines that open a message box
 };
 
 using House = std::map<std::string, Source>;
@@ -71,6 +67,7 @@ std::string withoutComments(const std::string& text) {
 Source readSource(const std::string& name, const std::string& content) {
   static const std::regex directive(R"(^\s*#\s*([a-z]+)\s*(.*?)\s*$)");
   static const std::regex include(R"re(^(?:"([^"]*)"|<([^>]*)>))re");
+  static const std::regex box(R"((?:\.|->)\s*(?:message|askYesNo|askOkCancel)\s*\()");
   Source source;
   const auto slash = name.find('/');
   if (slash != std::string::npos) source.folder = name.substr(0, slash);
@@ -78,6 +75,7 @@ Source readSource(const std::string& name, const std::string& content) {
   std::string line;
   std::smatch match;
   for (int number = 1; std::getline(lines, line); ++number) {
+    if (std::regex_search(line, box)) source.boxes.push_back(number);
     if (!std::regex_match(line, match, directive)) continue;
     const std::string word = match[1];
     const std::string rest = match[2];
@@ -109,18 +107,36 @@ bool isConditional(const Source& source, std::size_t index) {
   return !isGuard;
 }
 
+/// Where nothing opens a message box but a dialog: what goes wrong is thrown or given back. Of the console that is its
+/// text; the rest stands on the side of its window.
+bool mustNotShow(const std::string& name, const std::string& folder) {
+  static const std::set<std::string> silent = {"base", "settings", "process", "source", "project"};
+  static const std::set<std::string> consoleWindow = {"TarnwickView", "TarnwickViewToday",   "ConsoleChild",
+                                                      "ConsoleFiles", "ConsoleWindowSearch", "InputWriter"};
+  const std::string stem = fs::path(name).stem().string();
+  if (folder == "console") return !consoleWindow.count(stem);
+  return silent.count(folder) && !stem.ends_with("Dlg");
+}
+
+/// Above all floors.
+constexpr int floorOfMain = std::numeric_limits<int>::max();
+
 class Inspector {
  public:
-  explicit Inspector(const House& house) : house_(house) {}
+  Inspector(const House& house, const Floors& floors) : house_(house) {
+    for (const auto& floor : floors) floors_[floor.folder] = floor;
+  }
 
   std::vector<std::string> violations() {
     for (const auto& [name, source] : house_) {
-      if (!source.folder.empty() && !floorOfFolder.count(source.folder))
+      if (!source.folder.empty() && !floors_.count(source.folder))
         found_.push_back(name + ":1: " + source.folder + "/ stands on no floor");
       for (const auto& include : source.includes) inspect(name, source, include);
       inspectConditions(name, source);
+      inspectBoxes(name, source);
       if (!done_.count(name)) walk(name);
     }
+    for (const auto& [folder, floor] : floors_) inspectLinks(floor);
     return found_;
   }
 
@@ -140,16 +156,47 @@ class Inspector {
       return;
     }
     if (target == source.folder) return;
-    const auto to = floorOfFolder.find(target);
-    if (to == floorOfFolder.end()) {
+    const auto to = floors_.find(target);
+    if (to == floors_.end()) {
       report(name, include.line, "\"" + include.target + "\" stands on no floor");
       return;
     }
-    const auto from = floorOfFolder.find(source.folder);
-    const int height = source.folder.empty() ? floorOfMain : from == floorOfFolder.end() ? -1 : from->second;
-    if (to->second > height) report(name, include.line, "\"" + include.target + "\" goes up");
-    if (to->second == height)
+    included_[source.folder].insert(target);
+    const auto from = floors_.find(source.folder);
+    const int height = source.folder.empty() ? floorOfMain : from == floors_.end() ? -1 : from->second.height;
+    if (to->second.height > height)
+      report(name, include.line, "\"" + include.target + "\" goes up");
+    else if (to->second.height == height)
       report(name, include.line, "\"" + include.target + "\" crosses to a folder of the same floor");
+    else if (!source.folder.empty() && !reachedFrom(source.folder).count(target))
+      report(name, include.line, "\"" + include.target + "\" is in a folder that " + source.folder + "/ does not link");
+  }
+
+  /// What a folder links, in its turn too.
+  std::set<std::string> reachedFrom(const std::string& folder) const {
+    std::set<std::string> reached;
+    const auto floor = floors_.find(folder);
+    if (floor == floors_.end()) return reached;
+    for (const auto& link : floor->second.links) {
+      // An arrow that goes up is told by itself, and could lead round in a circle.
+      if (const auto to = floors_.find(link); to == floors_.end() || to->second.height >= floor->second.height)
+        continue;
+      reached.insert(link);
+      reached.merge(reachedFrom(link));
+    }
+    return reached;
+  }
+
+  void inspectLinks(const Floor& floor) {
+    for (const auto& link : floor.links) {
+      const auto to = floors_.find(link);
+      if (to == floors_.end())
+        found_.push_back(floor.folder + "/ links " + link + "/, which stands on no floor");
+      else if (to->second.height >= floor.height)
+        found_.push_back(floor.folder + "/ links " + link + "/, which is not below it");
+      else if (!included_[floor.folder].count(link))
+        found_.push_back(floor.folder + "/ links " + link + "/ and includes nothing of it");
+    }
   }
 
   void inspectConditions(const std::string& name, const Source& source) {
@@ -157,6 +204,12 @@ class Inspector {
     for (std::size_t i = 0; i < source.directives.size(); ++i)
       if (isConditional(source, i))
         report(name, source.directives[i].line, "#" + source.directives[i].word + " is for platform/ and ui/ alone");
+  }
+
+  void inspectBoxes(const std::string& name, const Source& source) {
+    if (!mustNotShow(name, source.folder)) return;
+    for (const int line : source.boxes)
+      report(name, line, "a message box is for dialogs, views and what is above them");
   }
 
   /// Depth first; an include of a file that is still being walked closes a circle.
@@ -178,6 +231,8 @@ class Inspector {
   }
 
   const House& house_;
+  std::map<std::string, Floor> floors_;
+  std::map<std::string, std::set<std::string>> included_;  ///< by each folder, of the others
   std::vector<std::string> found_;
   std::vector<std::string> path_;
   std::set<std::string> done_;
@@ -185,14 +240,28 @@ class Inspector {
 
 }  // namespace
 
-FloorReport inspectFloors(const fs::path& sourceFolder) {
+Floors floorsOf(const std::string& table) {
+  Floors floors;
+  std::istringstream lines(table);
+  std::string line;
+  while (std::getline(lines, line)) {
+    std::istringstream words(line);
+    Floor floor;
+    if (!(words >> floor.height >> floor.folder)) continue;  // a comment
+    for (std::string link; words >> link;) floor.links.push_back(link);
+    floors.push_back(floor);
+  }
+  return floors;
+}
+
+FloorReport inspectFloors(const fs::path& sourceFolder, const Floors& floors) {
   const House house = readHouse(sourceFolder);
   FloorReport report;
   report.files = static_cast<int>(house.size());
   for (const auto& [name, source] : house)
     report.includes += static_cast<int>(std::count_if(source.includes.begin(), source.includes.end(),
                                                       [](const auto& include) { return include.ours; }));
-  report.violations = Inspector(house).violations();
+  report.violations = Inspector(house, floors).violations();
   return report;
 }
 

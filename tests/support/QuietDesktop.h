@@ -19,11 +19,13 @@ class QuietDesktop : public Desktop {
   bool askYesNo(const std::string& /*text*/) override { return false; }
   void alert(AlertSound /*sound*/) override {}
   void showWaitCursor(bool /*on*/) override {}
+  bool controlKeyHeld() override { return false; }
   std::optional<std::string> clipboardText() override { return {}; }
   bool setClipboardText(const std::string& /*text*/) override { return false; }
   int runDialog(const DialogLayout& /*layout*/, DialogHandler& /*handler*/) override { return 0; }
   void runMainDialog(const DialogLayout& /*layout*/, DialogHandler& /*handler*/) override {}
-  void whileBusy(const std::function<void()>& work, const std::function<void()>& /*giveUp*/) override { work(); }
+  void whileBusy(const BusyWork& busy) override { busy.work(); }
+  void showStep(std::size_t /*step*/, std::size_t /*steps*/) override {}
   int startTimer(int /*milliseconds*/, std::function<void()> /*tick*/) override { return 1; }
   void stopTimer(int /*timer*/) override {}
   void post(std::function<void()> task) override { task(); }
@@ -32,7 +34,7 @@ class QuietDesktop : public Desktop {
   std::optional<std::string> pickFile(const FileRequest& /*request*/) override { return {}; }
   std::vector<std::string> pickFiles(const FileRequest& /*request*/) override { return {}; }
   std::optional<std::string> pickFileToSave(const FileRequest& /*request*/) override { return {}; }
-  std::optional<std::string> pickFolder() override { return {}; }
+  std::optional<std::string> pickFolder(const std::string& /*root*/) override { return {}; }
 };
 
 }  // namespace tarnwick::test

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "dialogbase/Desktop.h"
+#include "resources/DialogLayout.h"
 
 #include <deque>
 #include <functional>
@@ -21,6 +22,8 @@ class RecordingDesktop : public Desktop {
   std::vector<AlertSound> alerts;
   std::deque<std::optional<std::string>> saveAnswers;
   std::vector<FileRequest> saveRequests;
+  /// What happens while a question shows, and its answer.
+  std::deque<std::function<bool()>> yesNoAnswers;
   std::optional<std::string> clipboard;
   bool clipboardTakes = true;
 
@@ -60,9 +63,16 @@ class RecordingDesktop : public Desktop {
 
   void message(const std::string& text) override { messages.push_back(text); }
   bool askOkCancel(const std::string& text) override { return unexpected(text); }
-  bool askYesNo(const std::string& text) override { return unexpected(text); }
+  bool askYesNo(const std::string& text) override {
+    if (yesNoAnswers.empty()) return unexpected(text);
+    messages.push_back(text);
+    const auto answer = yesNoAnswers.front();
+    yesNoAnswers.pop_front();
+    return answer();
+  }
   void alert(AlertSound sound) override { alerts.push_back(sound); }
   void showWaitCursor(bool /*on*/) override {}
+  bool controlKeyHeld() override { return false; }
   std::optional<std::string> clipboardText() override { return clipboard; }
   bool setClipboardText(const std::string& text) override {
     if (clipboardTakes) clipboard = text;
@@ -73,7 +83,8 @@ class RecordingDesktop : public Desktop {
     return 0;
   }
   void runMainDialog(const DialogLayout& layout, DialogHandler& /*handler*/) override { unexpected(layout.title); }
-  void whileBusy(const std::function<void()>& work, const std::function<void()>& /*giveUp*/) override { work(); }
+  void whileBusy(const BusyWork& busy) override { busy.work(); }
+  void showStep(std::size_t /*step*/, std::size_t /*steps*/) override {}
   int startTimer(int milliseconds, std::function<void()> tick) override {
     if (!timersWork) return 0;
     timers_[++lastTimer_] = {milliseconds, std::move(tick)};
@@ -104,7 +115,7 @@ class RecordingDesktop : public Desktop {
     saveAnswers.pop_front();
     return answer;
   }
-  std::optional<std::string> pickFolder() override {
+  std::optional<std::string> pickFolder(const std::string& /*root*/) override {
     unexpected("browseFolder");
     return std::nullopt;
   }

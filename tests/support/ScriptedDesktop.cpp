@@ -309,7 +309,8 @@ std::optional<std::string> ScriptedDesktop::pickFileToSave(const FileRequest& re
   return step ? step->answer : std::nullopt;
 }
 
-std::optional<std::string> ScriptedDesktop::pickFolder() {
+std::optional<std::string> ScriptedDesktop::pickFolder(const std::string& root) {
+  lastRoot_ = root;
   const auto step = take("folder", "");
   return step ? step->answer : std::nullopt;
 }

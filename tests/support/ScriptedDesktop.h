@@ -1,6 +1,9 @@
 #pragma once
 
 #include "dialogbase/Desktop.h"
+#include "dialogbase/DialogWindow.h"
+#include "resources/DialogLayout.h"
+#include "resources/StandardControls.h"
 
 #include <deque>
 #include <functional>
@@ -40,6 +43,7 @@ class ScriptedWindow : public DialogWindow {
   void choose(int control, int index);
   void doubleClick(int control, int index);
   void closeBox() { handler_.onCloseRequest(); }
+  void drop(const std::vector<std::string>& files) { handler_.onFilesDropped(files); }
   /// Chooses an entry of the window's system menu.
   void chooseSystemCommand(const std::string& label);
   void moveByHand(const Point& to) { position_ = to; }
@@ -170,6 +174,8 @@ class ScriptedDesktop : public Desktop {
 
   /// What the last file dialog was asked for.
   const FileRequest& lastRequest() const { return lastRequest_; }
+  /// Where the last folder browser began; empty where it chose for itself.
+  const std::string& lastRoot() const { return lastRoot_; }
   const std::vector<AlertSound>& alerts() const { return alerts_; }
   /// How often the wait cursor has shown. It must have gone again each time.
   int waits() const { return waits_; }
@@ -183,17 +189,21 @@ class ScriptedDesktop : public Desktop {
   void tickTimers();
   std::size_t runningTimers() const { return timers_.size(); }
   void setClipboard(std::optional<std::string> text) { clipboard_ = std::move(text); }
+  /// A person holds the Control key, or lets it go.
+  void holdControlKey(bool held) { controlKey_ = held; }
 
   void message(const std::string& text) override;
   bool askOkCancel(const std::string& text) override { return ask(text); }
   bool askYesNo(const std::string& text) override { return ask(text); }
   void alert(AlertSound sound) override { alerts_.push_back(sound); }
   void showWaitCursor(bool on) override;
+  bool controlKeyHeld() override { return controlKey_; }
   std::optional<std::string> clipboardText() override { return clipboard_; }
   bool setClipboardText(const std::string& text) override;
   int runDialog(const DialogLayout& layout, DialogHandler& handler) override;
   void runMainDialog(const DialogLayout& layout, DialogHandler& handler) override;
-  void whileBusy(const std::function<void()>& work, const std::function<void()>& /*giveUp*/) override { work(); }
+  void whileBusy(const BusyWork& busy) override { busy.work(); }
+  void showStep(std::size_t /*step*/, std::size_t /*steps*/) override {}
   int startTimer(int milliseconds, std::function<void()> tick) override;
   void stopTimer(int timer) override { timers_.erase(timer); }
   void post(std::function<void()> task) override;
@@ -202,7 +212,7 @@ class ScriptedDesktop : public Desktop {
   std::optional<std::string> pickFile(const FileRequest& request) override;
   std::vector<std::string> pickFiles(const FileRequest& request) override;
   std::optional<std::string> pickFileToSave(const FileRequest& request) override;
-  std::optional<std::string> pickFolder() override;
+  std::optional<std::string> pickFolder(const std::string& root) override;
 
  private:
   struct Step {
@@ -220,10 +230,12 @@ class ScriptedDesktop : public Desktop {
 
   std::deque<Step> steps_;
   FileRequest lastRequest_;
+  std::string lastRoot_;
   std::vector<AlertSound> alerts_;
   std::optional<Point> windowPosition_ = Point{40, 50};
   ScriptedPlaces places_;
   std::optional<std::string> clipboard_;
+  bool controlKey_ = false;
   std::map<int, std::function<void()>> timers_;
   int lastTimer_ = 0;
   int waits_ = 0;

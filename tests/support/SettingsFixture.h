@@ -1,11 +1,16 @@
 #pragma once
 
 #include "base/ProgramInfo.h"
+#include "base/Tarnwickfile.h"
 #include "base/TempFile.h"
 #include "platform/FileSystem.h"
 #include "platform/Path.h"
 #include "process/ToolLog.h"
+#include "settings/JdkDiscovery.h"
+#include "settings/OpenProject.h"
 #include "settings/Settings.h"
+#include "settings/SettingsContext.h"
+#include "settingsdialog/SettingsOnDesktop.h"
 #include "support/ScriptedDesktop.h"
 #include "support/TestProgram.h"
 
@@ -56,7 +61,7 @@ class SettingsFixture : public testing::Test {
   ScriptedDesktop desktop_;
   ProgramInfo program_;
   ToolLog log_{configFolder()};
-  SettingsContext context_{desktop_, program_, log_};
+  SettingsContext context_ = settingsOnDesktop(desktop_, program_, log_);
 
  private:
   std::unique_ptr<Settings> settings_;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "settingsdialog/SettingsDialog.h"
 #include "support/SettingsFixture.h"
 
 #include <functional>
@@ -26,7 +27,7 @@ class SettingsPageFixture : public SettingsFixture {
       script(window.page(1092, tab_));
       window.press(end);
     });
-    EXPECT_EQ(settings().runModal(tab_), end);
+    EXPECT_EQ(SettingsDialog(settings()).runModal(tab_), end);
   }
 
   int tab_;

@@ -44,7 +44,7 @@ class SplitterFixture : public testing::Test {
   Outcome split(const std::string& name) {
     Outcome outcome;
     Tarnwickfile source = Tarnwickfile::unopened(path(name), FileMode::Read);
-    SourceSplitter splitter(source, [this] {
+    SourceSplitter splitter(source.name(), [this] {
       ++questions_;
       return answer_();
     });

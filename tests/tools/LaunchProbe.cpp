@@ -4,10 +4,12 @@
 //   editors                                                 the plain-text editors, one a line, words with "|" between
 //   runapp EXTENSION FILE EXTRA                             starts the association's program; the result
 //   showlog FOLDER EDITNOTEPAD DISPLAYNOTEPAD TARGET        shows a log that lies in FOLDER; the log's path
-//   edit EDITNOTEPAD FILE TARGET                            opens FILE for editing; the result and the working folder
+//   edit EDITNOTEPAD FILE TARGET [LINE COLUMN [PATTERN]]    opens FILE for editing; the result and the working folder
 //   register PROGRAM                                        makes it the opener of project files
 //   trash FILE                                              puts a copy into the trash; the result
 //   browse ADDRESS PLACE                                    shows the address in the browser
+//   shortcutfolders                                         the desktop and the start menu
+//   shortcut PROGRAM FILE                                   writes a shortcut to the program
 //   zip PROGRAM                                             command text of what Tarnwick, as PROGRAM, has for archives
 //
 // Messages to the user follow, each behind "message: ".
@@ -16,11 +18,14 @@
 #include "platform/Associations.h"
 #include "platform/FileSystem.h"
 #include "platform/ProjectType.h"
+#include "platform/Shortcuts.h"
 #include "platform/Trash.h"
 #include "process/EditorLaunch.h"
 #include "process/ToolLog.h"
 #include "process/WinApp.h"
+#include "settings/EditorChoice.h"
 #include "support/QuietDesktop.h"
+#include "support/Shown.h"
 
 #include <cstdlib>
 #include <iostream>
@@ -46,14 +51,18 @@ void showLogOf(tarnwick::Desktop& desktop, const std::vector<std::string>& words
   choice.displayWithNotepad = words.at(3) == "1";
   choice.target = words.size() > 4 ? words[4] : "";
   std::cout << log.path() << std::endl;
-  tarnwick::showLog(desktop, log, choice);
+  tarnwick::showEach(desktop, tarnwick::showLog(log, choice));
 }
 
 void edit(tarnwick::Desktop& desktop, const std::vector<std::string>& words) {
   tarnwick::EditorChoice choice;
   choice.editWithNotepad = words.at(1) == "1";
   choice.target = words.at(3);
-  const bool done = tarnwick::openEditor(desktop, {[&choice] { return choice; }, [] { return false; }}, words.at(2));
+  if (words.size() > 6) choice.placePattern = words[6];
+  const tarnwick::EditorPlace place =
+      words.size() > 5 ? tarnwick::EditorPlace{std::stoi(words[4]), std::stoi(words[5])} : tarnwick::EditorPlace{};
+  const auto result = tarnwick::openEditor({[&choice] { return choice; }, [] { return false; }}, words.at(2), place);
+  const bool done = tarnwick::test::shown(desktop, result);
   std::cout << done << ' ' << tarnwick::platform::currentDirectory() << std::endl;
 }
 
@@ -77,12 +86,21 @@ int main(int argc, char** argv) {
   if (words.at(0) == "open") std::cout << tarnwick::platform::openCommand(words.at(1)) << '\n';
   if (words.at(0) == "editors") printEditors();
   if (words.at(0) == "runapp") {
-    const tarnwick::WinApp app(desktop, words.at(1));
-    std::cout << app.runApp(words.at(2).c_str(), words.at(3).c_str(), 0) << '\n';
+    const auto result = tarnwick::WinApp(words.at(1)).runApp(words.at(2).c_str(), words.at(3).c_str(), 0);
+    std::cout << tarnwick::test::shown(desktop, result) << '\n';
   }
   if (words.at(0) == "trash") std::cout << tarnwick::platform::copyToTrash(words.at(1)) << '\n';
   if (words.at(0) == "register") tarnwick::platform::registerProjectType(words.at(1));
   if (words.at(0) == "browse") tarnwick::openInBrowser(desktop, words.at(1), words.at(2));
+  if (words.at(0) == "shortcut") {
+    tarnwick::platform::Shortcut shortcut;
+    shortcut.target = words.at(1);
+    std::cout << tarnwick::platform::openShortcutShell()->write(shortcut, words.at(2)) << '\n';
+  }
+  if (words.at(0) == "shortcutfolders") {
+    const auto shell = tarnwick::platform::openShortcutShell();
+    std::cout << shell->desktopFolder() << '\n' << shell->startMenuFolder() << '\n';
+  }
   if (words.at(0) == "zip") printZipApplication(desktop, words.at(1));
   if (words.at(0) == "edit") edit(desktop, words);
   if (words.at(0) == "showlog") showLogOf(desktop, words);

@@ -2,10 +2,13 @@
 #pragma once
 
 #include "base/ProgramInfo.h"
+#include "base/TagRow.h"
 #include "platform/FileSystem.h"
 #include "platform/Path.h"
 #include "process/ToolLog.h"
 #include "settings/Settings.h"
+#include "settings/SettingsContext.h"
+#include "settingsdialog/SettingsOnDesktop.h"
 #include "support/QuietDesktop.h"
 
 #include <iostream>
@@ -21,7 +24,7 @@ class SavingRun {
   explicit SavingRun(const std::string& folder) {
     platform::setEnvironment("TARNWICK_CFGDIR=" + folder);
     program_.programDirectory = folder + platform::folderSeparator + "program" + platform::folderSeparator;
-    context_ = std::make_unique<SettingsContext>(SettingsContext{desktop_, program_, log_});
+    context_ = std::make_unique<SettingsContext>(settingsOnDesktop(desktop_, program_, log_));
     settings_ = std::make_unique<Settings>(*context_);
   }
 
@@ -29,9 +32,9 @@ class SavingRun {
     const std::string value(letter == 'a' ? 200 : 100, letter);
     for (const auto& row : settings_->tagRows) {
       const std::string tag = row.tag;
-      if (row.kind == TAG_STRING && tag != "HELPFILE") *static_cast<std::string*>(row.variable) = value;
+      if (row.kind() == TAG_STRING && tag != "HELPFILE") *std::get<std::string*>(row.variable) = value;
     }
-    settings_->saveDefaultConfiguration(nullptr);
+    settings_->saveDefaultConfiguration();
     for (const auto& message : desktop_.messages) std::cout << "message: " << message << std::endl;
     desktop_.messages.clear();
   }

@@ -1,5 +1,6 @@
 // The frame around the console's text: menus, accelerators, toolbar, closing.
 #include "ui/ConsoleWindow.h"
+#include "ui/ProgramAnew.h"
 #include "ui/Text.h"
 
 #include <wx/menu.h>
@@ -26,6 +27,67 @@ TEST_F(ConsoleFrameTest, AcceleratorsRunTheirCommandsAndTypeNothing) {
   play();
 }
 
+TEST_F(ConsoleFrameTest, TheConsoleOfTodayHasKeysOfItsOwn) {
+  console.today = true;
+  waitForFrame();
+  press('C', wxMOD_CONTROL);
+  press(WXK_INSERT, wxMOD_CONTROL);
+  press('D', wxMOD_CONTROL);
+  press('R', wxMOD_CONTROL);
+  thenExpect({"command 32853", "command 57634", "command 32855", "command 32857"});
+  press(WXK_PAUSE, wxMOD_CONTROL);
+  thenExpect({"command 32856"});
+  press(WXK_PAUSE);
+  thenExpect({});
+  press('F', wxMOD_CONTROL);
+  press(WXK_F3);
+  press(WXK_F3, wxMOD_SHIFT);
+  thenExpect({"command 32858", "command 32859", "command 32860"});
+  thenClose();
+  play();
+}
+
+TEST_F(ConsoleFrameTest, InTheClassicConsoleTheSameKeysAreTyped) {
+  waitForFrame();
+  press('D', wxMOD_CONTROL);
+  press('R', wxMOD_CONTROL);
+  thenExpect({"char <4>", "char <18>"});
+  thenClose();
+  play();
+}
+
+TEST_F(ConsoleFrameTest, AModifierAloneIsToldApartFromOtherKeys) {
+  waitForFrame();
+  press(WXK_SHIFT);
+  press(WXK_CONTROL);
+  steps.settle();
+  steps.then("look", [this] { EXPECT_EQ(console.modifierKeys, 2); });
+  press(WXK_INSERT);
+  steps.then("look", [this] { EXPECT_EQ(console.modifierKeys, 2) << "another key"; });
+  thenClose();
+  play();
+}
+
+TEST_F(ConsoleFrameTest, SoIsAnAltPressedAlone) {
+  if (onWindows()) GTEST_SKIP() << "it leads to the menus there, which keep the loop";
+  waitForFrame();
+  press(WXK_ALT);
+  steps.settle();
+  steps.then("look", [this] { EXPECT_EQ(console.modifierKeys, 1); });
+  thenClose();
+  play();
+}
+
+TEST_F(ConsoleFrameTest, TheViewCanGiveTheFrameAnotherTitle) {
+  waitForFrame();
+  steps.then("title", [this] {
+    console.surface->setTitle("Greeter - ended with 1 after 2.3 s");
+    EXPECT_EQ(frame()->GetTitle(), "Greeter - ended with 1 after 2.3 s");
+  });
+  thenClose();
+  play();
+}
+
 TEST_F(ConsoleFrameTest, TheAcceleratorOfADisabledCommandDoesNothing) {
   console.disabled = {COMMAND_COPY};
   waitForFrame();
@@ -45,16 +107,19 @@ TEST_F(ConsoleFrameTest, ShiftDeleteIsNoDelete) {
   play();
 }
 
-TEST_F(ConsoleFrameTest, MenusAskWhatIsEnabledWhenTheyOpen) {
+class ConsoleMenusTest : public ConsoleTest, public testing::WithParamInterface<bool> {};
+
+TEST_P(ConsoleMenusTest, MenusAskWhatIsEnabledWhenTheyOpen) {
+  console.today = GetParam();
   waitForFrame();
   steps.then("open the menu", [this] {
-    console.disabled = {COMMAND_STOP_RECORDING, COMMAND_JDB_HELP};
+    console.disabled = {COMMAND_STOP_RECORDING, COMMAND_JDB_HELP, COMMAND_RUN_AGAIN};
     wxMenuEvent open(wxEVT_MENU_OPEN, 0, frame()->GetMenuBar()->GetMenu(0));
     frame()->ProcessWindowEvent(open);
     wxMenuBar& bar = *frame()->GetMenuBar();
-    EXPECT_EQ(bar.GetMenuCount(), consoleMenuBar().size());
+    EXPECT_EQ(bar.GetMenuCount(), console.menuBar().size());
     for (std::size_t i = 0; i < bar.GetMenuCount(); ++i) {
-      const auto& described = consoleMenuBar()[i];
+      const auto& described = console.menuBar()[i];
       EXPECT_EQ(bar.GetMenuLabel(i), ui::toWx(described.title));
       const auto& items = bar.GetMenu(i)->GetMenuItems();
       ASSERT_EQ(items.size(), described.items.size());
@@ -70,6 +135,8 @@ TEST_F(ConsoleFrameTest, MenusAskWhatIsEnabledWhenTheyOpen) {
   thenClose();
   play();
 }
+
+INSTANTIATE_TEST_SUITE_P(BothWays, ConsoleMenusTest, testing::Bool());
 
 TEST_F(ConsoleFrameTest, ThereIsNoToolbarWhereNoneIsAskedFor) {
   waitForFrame();
@@ -104,7 +171,7 @@ TEST_F(ConsoleFrameTest, TheDebuggersToolbarShowsAllButtonsWithTheirTips) {
 }
 
 TEST_F(ConsoleFrameTest, AButtonWithoutAPictureWorksAllTheSame) {
-  const Toolbar unknown = {{1, "one"}, {2, "two"}, {COMMAND_RUN, "run"}};
+  const Toolbar unknown = {{1, "one", ""}, {2, "two", "unheard of"}, {COMMAND_RUN, "run", "run"}};
   console.buttons = &unknown;
   waitForFrame();
   steps.then("press", [this] {

@@ -137,6 +137,25 @@ TEST_F(ConsoleTest, ScrollingMovesTheDocumentUnderTheWindow) {
   play();
 }
 
+TEST_F(ConsoleTest, WhatTheUserScrollsIsToldWhatTheViewScrollsIsNot) {
+  waitForFrame();
+  steps.then("scroll", [this] {
+    const Point cell = console.surface->cell();
+    console.surface->setScrollSizes({200 * cell.x, 100 * cell.y});
+    console.surface->scrollTo({0, 45 * cell.y});
+    EXPECT_EQ(console.scrolled, 0);
+    wxScrollWinEvent up(wxEVT_SCROLLWIN_LINEUP, 0, wxVERTICAL);
+    window()->ProcessWindowEvent(up);
+    EXPECT_EQ(console.scrolled, 1);
+    wxScrollWinEvent top(wxEVT_SCROLLWIN_TOP, 0, wxVERTICAL);
+    window()->ProcessWindowEvent(top);
+    EXPECT_EQ(console.scrolled, 2);
+    EXPECT_EQ(console.surface->scrollPosition().y, 0);
+  });
+  thenClose();
+  play();
+}
+
 TEST_F(ConsoleTest, TheWheelScrollsThreeLines) {
   waitForFrame();
   steps.then("scroll", [this] {

@@ -269,10 +269,10 @@ TEST_F(DesktopTest, WorkRunsOnAnotherThreadWhileTheWindowsLive) {
       event.Skip();
       ++painted;
     });
-    desktop().whileBusy([&] {
+    desktop().whileBusy({[&] {
       worker = std::this_thread::get_id();
       while (!finish) std::this_thread::sleep_for(std::chrono::milliseconds(1));
-    });
+    }});
     ended = true;
   });
   steps.settle(10);
@@ -312,9 +312,9 @@ TEST_F(DesktopTest, ADialogThatIsToCloseWhileWorkRunsWaits) {
   std::atomic<bool> finish = false;
   waitForDialog();
   steps.then("work", [&] {
-    desktop().whileBusy([&] {
+    desktop().whileBusy({[&] {
       while (!finish) std::this_thread::sleep_for(std::chrono::milliseconds(1));
-    });
+    }});
     rules.heard.emplace_back("worked");
   });
   thenClose();
@@ -329,9 +329,9 @@ TEST_F(DesktopTest, NothingClosesWhileWorkRunsUnderAModalDialog) {
   std::atomic<bool> finish = false;
   bool worked = false;
   inner.onPress[IDOK_CONTROL] = [&] {
-    desktop().whileBusy([&] {
+    desktop().whileBusy({[&] {
       while (!finish) std::this_thread::sleep_for(std::chrono::milliseconds(1));
-    });
+    }});
     worked = true;
   };
   waitForDialog();
@@ -366,14 +366,14 @@ TEST_F(DesktopTest, AMessageOfATaskTakesInputWhileWorkRuns) {
   bool worked = false;
   waitForDialog();
   steps.then("work", [&] {
-    desktop().whileBusy([&] {
+    desktop().whileBusy({[&] {
       desktop().post([&] {
         desktop().message("told while the work runs");
         answered = true;
         finish = true;
       });
       while (!finish) std::this_thread::sleep_for(std::chrono::milliseconds(1));
-    });
+    }});
     worked = true;
   });
   steps.settle(25);
@@ -396,7 +396,7 @@ TEST_F(DesktopTest, AnExceptionWhileADialogIsSetUpIsShownAndTheDialogStays) {
 
 TEST_F(DesktopTest, WorkBeforeAnyWindowShows) {
   bool worked = false;
-  desktop().whileBusy([&] { worked = true; });
+  desktop().whileBusy({[&] { worked = true; }});
   EXPECT_TRUE(worked);
 }
 
@@ -405,7 +405,7 @@ TEST_F(DesktopTest, WithoutAThreadForTheWorkItIsLeftUndoneAndTold) {
     throw std::system_error(std::make_error_code(std::errc::resource_unavailable_try_again));
   });
   bool worked = false;
-  EXPECT_THROW(refusing.whileBusy([&] { worked = true; }), NoThreadE);
+  EXPECT_THROW(refusing.whileBusy({[&] { worked = true; }}), NoThreadE);
   EXPECT_FALSE(worked);
   EXPECT_FALSE(wxIsBusy());
   waitForDialog();
@@ -416,7 +416,7 @@ TEST_F(DesktopTest, WithoutAThreadForTheWorkItIsLeftUndoneAndTold) {
 
 TEST_F(DesktopTest, AnExceptionOfTheWorkIsThrownOn) {
   try {
-    desktop().whileBusy([] { throw Tarnwickexception("thrown by the work"); });
+    desktop().whileBusy({[] { throw Tarnwickexception("thrown by the work"); }});
     FAIL() << "nothing was thrown";
   } catch (const Tarnwickexception& failure) {
     EXPECT_EQ(failure.message, "thrown by the work");
@@ -453,6 +453,14 @@ TEST_F(DesktopTest, FileDialogsGiveNothingAfterEscape) {
     chosen = desktop().browseFolder();
   });
   steps.settle(40);
+  steps.then("Escape", [] { key(WXK_ESCAPE); });
+  steps.until("closed", [&] { return !chosen; });
+  steps.then("another folder", [&] {
+    chosen = "unchanged";
+    chosen = desktop().browseFolder(folder.path());
+  });
+  steps.settle(40);
+  steps.then("look", [] { shoot("browse-folder"); });
   steps.then("Escape", [] { key(WXK_ESCAPE); });
   steps.until("closed", [&] { return !chosen; });
   thenClose();

@@ -16,8 +16,10 @@ using Heard = std::vector<std::string>;
 /// A console's rules that write down what they hear.
 class FakeConsole : public ConsoleFrame, public ConsoleSurfaceClient {
  public:
-  const MenuBar& menuBar() const override { return consoleMenuBar(); }
-  const std::vector<Accelerator>& accelerators() const override { return consoleAccelerators(); }
+  const MenuBar& menuBar() const override { return today ? newerConsoleMenuBar() : consoleMenuBar(); }
+  const std::vector<Accelerator>& accelerators() const override {
+    return today ? newerConsoleAccelerators() : consoleAccelerators();
+  }
   const Toolbar* toolbar() const override { return buttons; }
   std::string title() const override { return "Console under test"; }
   bool commandEnabled(int command) const override { return disabled.count(command) == 0; }
@@ -34,8 +36,10 @@ class FakeConsole : public ConsoleFrame, public ConsoleSurfaceClient {
   }
   void onWake() override { wakes.push_back(std::chrono::steady_clock::now()); }
   void onResized() override { ++resized; }
+  void onScrolled() override { ++scrolled; }
   bool onKey(ConsoleKey key, int modifiers) override {
-    if (key == ConsoleKey::Other) {
+    if (key == ConsoleKey::Modifier) ++modifierKeys;
+    if (key == ConsoleKey::Other || key == ConsoleKey::Modifier) {
       if (onOtherKey) onOtherKey(modifiers);
       return false;
     }
@@ -67,8 +71,11 @@ class FakeConsole : public ConsoleFrame, public ConsoleSurfaceClient {
   const Toolbar* buttons = nullptr;
   ConsoleSurface* surface = nullptr;
   Point sizeAtStart;
+  bool today = false;
+  int modifierKeys = 0;
   int paints = 0;
   int resized = 0;
+  int scrolled = 0;
   std::set<int> disabled;
   std::vector<std::chrono::steady_clock::time_point> wakes;
   Heard heard;

@@ -26,7 +26,7 @@ class FirstFocusTest : public WindowTest, public testing::WithParamInterface<Ope
  protected:
   FirstFocusTest() {
     writeFile(source(), "class A {}");
-    world_.settings.saveDefaultConfiguration(nullptr);
+    world_.settings.saveDefaultConfiguration();
   }
 
   std::string source() const { return world_.scratch.file("A.java"); }

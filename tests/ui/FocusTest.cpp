@@ -1,5 +1,6 @@
 // Where the focus is after a message box, and what the keyboard alone can do.
 #include "app/TarnwickDlg.h"
+#include "settingsdialog/SettingsDialog.h"
 #include "ui/DialogFixture.h"
 #include "ui/ProgramWorld.h"
 #include "ui/Wine.h"
@@ -16,7 +17,7 @@ constexpr int EDITOR_TAB = 5;
 
 class FocusTest : public WindowTest {
  protected:
-  FocusTest() { world_.settings.javacDebug = 1; }
+  FocusTest() { world_.settings.javacDebug = true; }
 
   void waitForDialog() {
     steps.until("the dialog shows", [this] { return openDialogs() == 1 && top().dialog().IsActive(); });
@@ -142,7 +143,7 @@ TEST_F(DialogTest, WhatTheRulesDisableAndEnableAgainKeepsItsFocus) {
 }
 
 TEST_F(FocusTest, AWarningThatIsCancelledLeavesTheFieldItsFocus) {
-  world_.settings.javacFastcode = 1;
+  world_.settings.javacFastcode = true;
   const auto field = [this] { return child(JAVAC_TAB).windowOf(1117); };
   waitForDialog();
   thenFocus(field);
@@ -150,11 +151,11 @@ TEST_F(FocusTest, AWarningThatIsCancelledLeavesTheFieldItsFocus) {
   thenAnswer(WXK_ESCAPE);
   expectFocus(field);
   thenClose();
-  EXPECT_EQ(world_.settings.runModal(JAVAC_TAB), DIALOG_CANCEL);
+  EXPECT_EQ(SettingsDialog(world_.settings).runModal(JAVAC_TAB), DIALOG_CANCEL);
 }
 
 TEST_F(FocusTest, TheArrowsMoveAmongRadioButtonsAndTheirTipLeavesTheFocus) {
-  world_.settings.editWithNotepad = 0;
+  world_.settings.editWithNotepad = false;
   world_.settings.editorTarget = "/usr/bin/gedit";
   waitForDialog();
   thenFocus([this] { return child(EDITOR_TAB).windowOf(1014); });
@@ -171,7 +172,7 @@ TEST_F(FocusTest, TheArrowsMoveAmongRadioButtonsAndTheirTipLeavesTheFocus) {
   });
   expectFocus([this] { return child(EDITOR_TAB).windowOf(1013); });
   thenClose();
-  world_.settings.runModal(EDITOR_TAB);
+  SettingsDialog(world_.settings).runModal(EDITOR_TAB);
 }
 
 TEST_F(FocusTest, SpaceChecksABoxAndArrowsChooseInAComboBox) {
@@ -183,11 +184,11 @@ TEST_F(FocusTest, SpaceChecksABoxAndArrowsChooseInAComboBox) {
   steps.then("arrow", [] { key(WXK_DOWN); });
   steps.until("chosen", [this] { return child(JAVAC_TAB).text(1028) == "1.1"; });
   thenClose();
-  world_.settings.runModal(JAVAC_TAB);
+  SettingsDialog(world_.settings).runModal(JAVAC_TAB);
 }
 
 TEST_F(FocusTest, AFileDialogAndItsMessageLeaveTheButtonItsFocus) {
-  world_.settings.saveDefaultConfiguration(nullptr);
+  world_.settings.saveDefaultConfiguration();
   // The panel is the first child of the main window, and the page " Main program " of the panel.
   const auto java = [this] { return child(0).children().at(0)->windowOf(PanelPage::RIGHT); };
   waitForDialog();

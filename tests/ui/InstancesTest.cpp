@@ -69,9 +69,9 @@ class InstancesTest : public WindowTest {
 
 /// Waits in an event loop of its own.
 void waitFor(const OtherInstance& other) {
-  desktop().whileBusy([&other] {
+  desktop().whileBusy({[&other] {
     while (!other.stands()) std::this_thread::sleep_for(std::chrono::milliseconds(20));
-  });
+  }});
 }
 
 }  // namespace

@@ -1,12 +1,16 @@
+#include "app/ChooseSourceDlg.h"
+#include "console/FindDlg.h"
 #include "dialogs/JarLayout.h"
+#include "dialogs/JavadocLayout.h"
+#include "dialogs/ShortcutLayout.h"
 #include "resources/AddPathLayout.h"
 #include "resources/HelpLayouts.h"
 #include "resources/HintLayout.h"
 #include "resources/PanelLayouts.h"
-#include "resources/SettingsLayouts.h"
-#include "resources/SettingsPageLayouts.h"
 #include "resources/SourceLayouts.h"
 #include "resources/TemplateLayouts.h"
+#include "settingsdialog/SettingsLayouts.h"
+#include "settingsdialog/SettingsPageLayouts.h"
 #include "ui/SampleDialog.h"
 #include "ui/WindowTest.h"
 
@@ -39,6 +43,8 @@ std::vector<NamedLayout> allLayouts() {
           {"nothingToEdit", newSourceLayout(NewSourceMode::NothingToEdit)},
           {"newInProject", newSourceLayout(NewSourceMode::InProject)},
           {"addTemplate", addTemplateLayout()},
+          {"find", findLayout()},
+          {"chooseSource", chooseSourceLayout()},
           {"welcome", welcomeLayout()},
           {"about", aboutLayout()},
           {"helpFile", helpFileLayout()},
@@ -54,6 +60,13 @@ std::vector<NamedLayout> allLayouts() {
           {"portabilityWarning", portabilityWarningLayout()},
           {"jar", jarLayout()},
           {"selectSubdirectory", selectSubdirectoryLayout()},
+          {"javadoc", javadocLayout()},
+          {"javadocSources", javadocSourcesLayout()},
+          {"javadocPaths", javadocPathsLayout()},
+          {"javadocOptions", javadocOptionsLayout()},
+          {"docletPaths", docletPathsLayout()},
+          {"docletOptions", docletOptionsLayout()},
+          {"shortcut", shortcutLayout()},
           {"hint", hintLayout()}};
 }
 
@@ -63,6 +76,8 @@ std::vector<NamedLayout> allDialogLayouts() {
           {"nothingToEdit", newSourceLayout(NewSourceMode::NothingToEdit)},
           {"newInProject", newSourceLayout(NewSourceMode::InProject)},
           {"addTemplate", addTemplateLayout()},
+          {"find", findLayout()},
+          {"chooseSource", chooseSourceLayout()},
           {"welcome", welcomeLayout()},
           {"about", aboutLayout()},
           {"helpFile", helpFileLayout()},
@@ -71,7 +86,9 @@ std::vector<NamedLayout> allDialogLayouts() {
           {"alternateLocation", alternateLocationLayout()},
           {"portabilityWarning", portabilityWarningLayout()},
           {"jar", jarLayout()},
-          {"selectSubdirectory", selectSubdirectoryLayout()}};
+          {"selectSubdirectory", selectSubdirectoryLayout()},
+          {"javadoc", javadocLayout()},
+          {"shortcut", shortcutLayout()}};
 }
 
 void collect(const DialogItem& item, std::vector<DialogItem>& all) {

@@ -1,6 +1,7 @@
 #include "base/Tarnwickexception.h"
 #include "platform/FileSystem.h"
 #include "support/TestProgram.h"
+#include "ui/KeysOfProgram.h"
 #include "ui/ProgramAnew.h"
 #include "ui/RunProgram.h"
 #include "ui/SampleDialog.h"
@@ -8,7 +9,6 @@
 
 #include <wx/dialog.h>
 #include <wx/settings.h>
-#include <wx/uiaction.h>
 
 #include <cstdlib>
 #include <set>
@@ -27,7 +27,7 @@ int runAll(int argc, char** argv) {
 
 /// A program that shows a message, a dialog and a main dialog, each of which Return closes.
 int showDialogs(Desktop& desktop, int result) {
-  const int timer = desktop.startTimer(200, [] { wxUIActionSimulator().Char(WXK_RETURN); });
+  const int timer = desktop.startTimer(200, [] { test::pressReturn(); });
   desktop.message("A message before any window");
   test::Recorder rules;
   rules.onPress[IDOK_CONTROL] = [&rules] { rules.window->close(IDOK_CONTROL); };
@@ -70,7 +70,7 @@ int runSmall(const std::string& which, int result, Desktop& desktop) {
   if (which == "--letter-height") return letterHeight();
   if (which == "--dark-theme") return wxSystemSettings::GetAppearance().IsUsingDarkBackground() ? 1 : 0;
   if (which == "--throw") {
-    const int timer = desktop.startTimer(200, [] { wxUIActionSimulator().Char(WXK_RETURN); });
+    const int timer = desktop.startTimer(200, [] { test::pressReturn(); });
     static_cast<void>(timer);
     throw Tarnwickexception("thrown by the program");
   }

@@ -2,8 +2,14 @@
 #pragma once
 
 #include "app/TarnwickDlg.h"
+#include "base/ProgramInfo.h"
 #include "platform/FileSystem.h"
+#include "process/ToolLog.h"
 #include "resources/PanelLayouts.h"
+#include "settings/JdkDiscovery.h"
+#include "settings/Settings.h"
+#include "settings/SettingsContext.h"
+#include "settingsdialog/SettingsOnDesktop.h"
 #include "support/TestProgram.h"
 #include "ui/WindowTest.h"
 
@@ -36,7 +42,7 @@ class PanelsFixture : public WindowTest {
     Settings earlier(context_);
     earlier.panelLayout.value = view_.layout;
     earlier.windowPosition.fromString("20;30");
-    earlier.saveDefaultConfiguration(nullptr);
+    earlier.saveDefaultConfiguration();
   }
 
   ui::WxDialogWindow& panel(bool project) const { return *top().children().at(project ? 1 : 0); }
@@ -67,7 +73,7 @@ class PanelsFixture : public WindowTest {
   ScopedEnvironment environment_;
   ProgramInfo program_;
   ToolLog log_{scratch_.path()};
-  SettingsContext context_{desktop(), program_, log_};
+  SettingsContext context_ = settingsOnDesktop(desktop(), program_, log_);
   Settings settings_{context_};
 };
 

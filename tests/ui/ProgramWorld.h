@@ -1,7 +1,13 @@
 // What the program's own dialogs stand on, in a folder of the test's own.
 #pragma once
 
+#include "base/ProgramInfo.h"
+#include "process/ToolLog.h"
+#include "settings/JdkDiscovery.h"
+#include "settings/OpenProject.h"
 #include "settings/Settings.h"
+#include "settings/SettingsContext.h"
+#include "settingsdialog/SettingsOnDesktop.h"
 #include "support/TestProgram.h"
 #include "ui/WindowTest.h"
 
@@ -17,7 +23,7 @@ struct ProgramWorld {
   ScopedEnvironment environment;
   ProgramInfo program;
   ToolLog log{scratch.path()};
-  SettingsContext context{desktop(), program, log};
+  SettingsContext context = settingsOnDesktop(desktop(), program, log);
   Settings settings{context};
 };
 

@@ -5,13 +5,17 @@
 #include "dialogbase/AddPathDlg.h"
 #include "dialogs/JarDlg.h"
 #include "dialogs/JarLayout.h"
+#include "dialogs/JavadocDlg.h"
+#include "dialogs/JavadocLayout.h"
 #include "dialogs/SelectSubdirectoryDlg.h"
+#include "dialogs/ShortcutDlg.h"
+#include "dialogs/ShortcutLayout.h"
 #include "platform/FileSystem.h"
 #include "project/ProjMainClassDlg.h"
 #include "project/ProjectFilesDlg.h"
 #include "project/RecentProjects.h"
 #include "project/SelectProjectDlg.h"
-#include "settings/AlternateLocationDlg.h"
+#include "settingsdialog/AlternateLocationDlg.h"
 #include "source/PortabilityWarningDlg.h"
 #include "templates/AddTemplateDlg.h"
 #include "templates/NewSourceFileDlg.h"
@@ -51,7 +55,7 @@ int runMain(ProgramWorld& world) {
 int runUpgrade(ProgramWorld& world) {
   const std::string present = world.program.version;
   world.program.version = "Tarnwick V4.6";
-  Settings(world.context).saveDefaultConfiguration(nullptr);
+  Settings(world.context).saveDefaultConfiguration();
   world.program.version = present;
   return runMain(world);
 }
@@ -64,14 +68,14 @@ RealDialog newSource(const std::string& name, NewSourceMode mode) {
 /// A project with a source, a page and another source beside it.
 std::unique_ptr<ProjectContext> makeProject(ProgramWorld& world) {
   world.settings.javaPath = standInFolder();
-  world.settings.saveDefaultConfiguration(nullptr);
+  world.settings.saveDefaultConfiguration();
   for (const char* name : {"Main", "AnotherSourceWithALongName"})
     writeFile(world.scratch.file(name + std::string(".java")), "public class " + std::string(name) + " {}\n");
   writeFile(world.scratch.file("page.html"), "");
   const std::string path = world.scratch.file("demo.twp");
   writeFile(path, "PROJECT_SOURCES  Main.java\nPROJECT_HTMLFILE  page.html\n");
   updateRecentProjects(world.context, path);
-  return std::make_unique<ProjectContext>(world.settings, path, false);
+  return openedProject(world.settings, path, false);
 }
 
 /// A path as long as they come.
@@ -143,6 +147,19 @@ std::vector<RealDialog> allDialogs() {
          return result;
        },
        Jar::RUN},
+      {"javadoc", [](ProgramWorld& world) { return JavadocDlg(world.settings, "\"Main.java\" ").runModal(); },
+       Javadoc::RUN},
+      {"shortcut", [](ProgramWorld& world) { return ShortcutDlg(world.settings).runModal(); },
+       ShortcutControls::CREATE},
+      {"shortcutWithAProject",
+       [](ProgramWorld& world) {
+         world.settings.currentProject = makeProject(world);
+         static_cast<ProjectContext&>(*world.settings.currentProject).mainClass = "AnotherSourceWithALongName";
+         const int result = ShortcutDlg(world.settings).runModal();
+         world.settings.currentProject.reset();
+         return result;
+       },
+       ShortcutControls::CREATE},
       {"selectSubdirectory",
        [](ProgramWorld& world) {
          for (const char* name : {"classes", "a folder with a long name"})

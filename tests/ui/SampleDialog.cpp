@@ -1,5 +1,7 @@
 #include "ui/SampleDialog.h"
 
+#include "resources/DialogLayout.h"
+
 namespace tarnwick::test {
 
 using namespace layout;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "dialogbase/DialogWindow.h"
+#include "resources/DialogLayout.h"
 
 #include <functional>
 #include <map>
@@ -27,6 +28,11 @@ class Recorder : public DialogHandler {
   void onCloseRequest() override {
     heard.emplace_back("close");
     if (onClose) onClose();
+  }
+  void onFilesDropped(const std::vector<std::string>& files) override {
+    std::string names;
+    for (const auto& file : files) names += file + ';';
+    heard.push_back("dropped " + names);
   }
   void detached() override {
     heard.emplace_back("detached");

@@ -1,7 +1,12 @@
 // The settings dialog as real windows, with its own rules.
+#include "base/ProgramInfo.h"
 #include "platform/FileSystem.h"
+#include "platform/Path.h"
 #include "process/ToolLog.h"
+#include "settings/JdkDiscovery.h"
 #include "settings/Settings.h"
+#include "settingsdialog/SettingsDialog.h"
+#include "settingsdialog/SettingsOnDesktop.h"
 #include "support/TestProgram.h"
 #include "ui/DialogChecks.h"
 
@@ -21,6 +26,7 @@ struct NamedPage {
   /// What a person reaches by Tab from the page's first control on, in the order of reading.
   std::vector<int> reached;
   std::string jdkVersion = "Pre-1.4";
+  bool marked = false;  ///< what a JDK 25 no longer knows
 };
 
 std::ostream& operator<<(std::ostream& out, const NamedPage& page) {
@@ -29,18 +35,40 @@ std::ostream& operator<<(std::ostream& out, const NamedPage& page) {
 
 std::vector<NamedPage> allPages() {
   return {
-      {"tools", 0, {1041, 1006, 2002, 1017}},
+      {"tools", 0, {1041, 1006, 2002, 1017, 2120, 1204, 1205}},
       {"javac",
        1,
-       {1026, 1024, 1044, 1027, 1021, 1022, 1269, 1264, 1265, 1266, 1267, 1268, 1179, 1028, 1040, 1007, 1117},
+       {1026, 1024, 1044, 1027, 1021, 1022, 1269, 1264, 1265, 1266,
+        1267, 1268, 1179, 1028, 1040, 1007, 1117, 2103, 2101, 2102},
        "1.5"},
-      {"javacOlder", 1, {1026, 1024, 1044, 1027, 1021, 1022, 1269, 1270, 1271, 1179, 1028, 1040, 1007, 1117}, "1.4"},
-      {"javacOldest", 1, {1026, 1024, 1044, 1027, 1021, 1022, 1269, 1270, 1028, 1040, 1007, 1117}},
-      {"java", 2, {1032, 1123, 1124, 1125, 1157, 1129, 1130, 1131, 1184, 1126, 1031, 1182, 1180, 1183, 1181}},
+      {"javacOlder",
+       1,
+       {1026, 1024, 1044, 1027, 1021, 1022, 1269, 1270, 1271, 1179, 1028, 1040, 1007, 1117, 2103, 2101, 2102},
+       "1.4"},
+      {"javacOldest", 1, {1026, 1024, 1044, 1027, 1021, 1022, 1269, 1270, 1028, 1040, 1007, 1117, 2103, 2101, 2102}},
+      {"java",
+       2,
+       {1032, 1123, 1124, 1125, 1157, 1129, 1130, 1131, 1184, 1126, 1031, 2104, 2131, 1182, 1180, 1183, 1181}},
       {"jdb", 3, {1125, 1261, 1262, 1263, 1158, 1162, 1163, 1164, 1166, 1167, 1168, 1169}},
       {"appletviewer", 4, {1033, 1034}},
-      {"editor", 5, {1014, 1042, 1015, 1153}},
+      {"editor", 5, {1014, 1042, 1015, 2110, 1153}},
       {"paths", 6, {1029, 1065, 1066, 1138, 1139, 1137, 1039, 1067, 1068, 1043, 1069, 1070, 1045, 1071, 1072}},
+      {"javacMarked",
+       1,
+       {1026, 1024, 1044, 1027, 1021, 1022, 1269, 1270, 1271, 1179, 1028, 1040, 1007, 1117, 2103, 2101, 2102},
+       "1.4",
+       true},
+      {"javaMarked",
+       2,
+       {1032, 1123, 1124, 1125, 1157, 1129, 1130, 1131, 1184, 1126, 1031, 2104, 2131, 1182, 1180, 1183, 1181},
+       "Pre-1.4",
+       true},
+      {"appletviewerMarked", 4, {1033, 1034}, "Pre-1.4", true},
+      {"pathsMarked",
+       6,
+       {1029, 1065, 1066, 1138, 1139, 1137, 1039, 1067, 1068, 1043, 1069, 1070, 1045, 1071, 1072},
+       "Pre-1.4",
+       true},
   };
 }
 
@@ -55,6 +83,16 @@ class SettingsWindowTest : public WindowTest, public testing::WithParamInterface
     settings_.javaPath = "/usr/lib/jvm/java-25-openjdk-amd64/bin/";
     settings_.javacMyJdkVersion = GetParam().jdkVersion;
     settings_.editorTarget = "/usr/bin/gedit";
+    if (GetParam().marked) chooseOldOptions();
+  }
+
+  /// A JDK 25, and options that it does not know.
+  void chooseOldOptions() {
+    settings_.javaPath = scratch_.file("jdk") + platform::folderSeparator + "bin" + platform::folderSeparator;
+    platform::makeFolders(settings_.javaPath);
+    writeFile(scratch_.file("jdk") + platform::folderSeparator + "release", "JAVA_VERSION=\"25.0.1\"\n");
+    settings_.javacSourceOption = settings_.javacTargetSpec = "1.4";
+    settings_.javaGarbageCollector = "Concurrent";
   }
 
   ui::WxDialogWindow& page() const { return *top().children().at(static_cast<std::size_t>(GetParam().tab)); }
@@ -74,13 +112,13 @@ class SettingsWindowTest : public WindowTest, public testing::WithParamInterface
     return 0;
   }
 
-  int run() { return settings_.runModal(GetParam().tab); }
+  int run() { return SettingsDialog(settings_).runModal(GetParam().tab); }
 
   ScratchFolder scratch_;
   ScopedEnvironment environment_;
   ProgramInfo program_;
   ToolLog log_{scratch_.path()};
-  SettingsContext context_{desktop(), program_, log_};
+  SettingsContext context_ = settingsOnDesktop(desktop(), program_, log_);
   Settings settings_{context_};
 };
 

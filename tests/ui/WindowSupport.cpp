@@ -53,7 +53,7 @@ class Watchdog {
 
  private:
   void watch() {
-    constexpr int patience = 30;  // seconds without a sign of life
+    constexpr int patience = 240;  // seconds without a sign of life; a busy machine is slow
     for (int waited = 0;; ++waited) {
       const int before = signs_;
       std::this_thread::sleep_for(std::chrono::seconds(1));

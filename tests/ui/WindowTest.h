@@ -1,6 +1,9 @@
 // What tests with real windows stand on: steps played under the program's own event loop, and a person's hands.
 #pragma once
 
+#include "dialogbase/Desktop.h"
+#include "dialogbase/DialogWindow.h"
+#include "resources/DialogLayout.h"
 #include "ui/WxDesktop.h"
 #include "ui/WxTopWindow.h"
 

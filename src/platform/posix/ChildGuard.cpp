@@ -248,8 +248,9 @@ ChildGuard::ChildGuard(Launch what) {
   if (!WIFEXITED(status)) throw startFailure(EAGAIN);
   if (WEXITSTATUS(status) != 0) throw startFailure(WEXITSTATUS(status));
   report.write.close();
+  // A child may have killed the holder before that could tell of the start: it ran, and has been ended by force.
   Start start{};
-  if (!hear(report.read.number(), start)) throw startFailure(EAGAIN);
+  if (!hear(report.read.number(), start)) start = {0, 0};
   if (start.failure != 0) throw startFailure(start.failure);
   group_ = start.group;
   line_ = std::move(line.write);
@@ -263,11 +264,11 @@ void ChildGuard::release() {
   line_.close();
 }
 
-int ChildGuard::settle() {
+ChildGuard::End ChildGuard::settle() {
   int status = endedByGuard;
-  if (!hear(report_.number(), status)) kill(-group_, SIGKILL);
-  if (status == endedByGuard) return SIGKILL;
-  return WIFSIGNALED(status) ? WTERMSIG(status) : 0;
+  if (!hear(report_.number(), status) && group_ > 0) kill(-group_, SIGKILL);
+  if (status == endedByGuard) return {SIGKILL, 0};
+  return WIFSIGNALED(status) ? End{WTERMSIG(status), 0} : End{0, WEXITSTATUS(status)};
 }
 
 }  // namespace tarnwick::platform

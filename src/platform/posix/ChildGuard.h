@@ -26,9 +26,13 @@ class ChildGuard {
   void release();
   /// TERM to all, and KILL to what is left after two seconds. Returns at once.
   void endTree() { line_.close(); }
-  /// To be called once, when the child has ended: the signal that ended it, or 0. If it is the guards that have gone,
-  /// the child ends now.
-  int settle();
+  /// How a child has ended: by a signal, or by itself with a code.
+  struct End {
+    int signal = 0;
+    int code = 0;
+  };
+  /// To be called once, when the child has ended. If it is the guards that have gone, the child ends now.
+  End settle();
 
  private:
   pid_t group_ = -1;

@@ -32,4 +32,8 @@ std::string whyNoFile(const std::string& path) {
   return "";
 }
 
+std::string fileNameOf(const std::string& utf8) {
+  return utf8;
+}
+
 }  // namespace tarnwick::platform

@@ -1,6 +1,6 @@
 #include "platform/Folders.h"
 
-#include "platform/Process.h"
+#include "platform/FileArgument.h"
 
 #include <algorithm>
 #include <cstring>
@@ -69,7 +69,7 @@ std::string withNamesFilledIn(const std::string& commandText) {
     const bool hasMark = word.find_first_of("*?") != std::string::npos && word.find('"') == std::string::npos;
     const auto names = hasMark ? fitting(word) : std::vector<std::string>();
     std::string list;
-    for (const auto& name : names) list += (list.empty() ? "" : " ") + plainNameWord(name);
+    for (const auto& name : names) list += (list.empty() ? "" : " ") + fileWord(name);
     filled += names.empty() ? word : list;
   }
   return filled;

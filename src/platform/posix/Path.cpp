@@ -1,10 +1,9 @@
 #include "platform/Path.h"
 
 #include "platform/FileSystem.h"
+#include "platform/UrlPath.h"
 
 #include <algorithm>
-#include <cctype>
-#include <string_view>
 
 namespace tarnwick::platform {
 
@@ -94,18 +93,7 @@ std::string rawCommandLine(int argc, char** argv) {
 }
 
 std::string documentAddress(const std::string& path, const std::string& anchor) {
-  static const char digits[] = "0123456789ABCDEF";
-  std::string address = "file://";
-  for (const char c : absolutePath(path)) {
-    const auto byte = static_cast<unsigned char>(c);
-    const bool plain =
-        byte < 128 && (std::isalnum(byte) != 0 || std::string_view("/-._~").find(c) != std::string_view::npos);
-    if (plain)
-      address += c;
-    else
-      address += {'%', digits[byte >> 4], digits[byte & 15]};
-  }
-  return address + anchor;
+  return "file://" + urlPath(absolutePath(path)) + anchor;
 }
 
 }  // namespace tarnwick::platform

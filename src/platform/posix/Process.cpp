@@ -30,6 +30,7 @@ class Child final : public ChildProcess {
   std::uint64_t arrived(Stream stream) override { return (stream == Stream::Output ? output_ : error_).arrived(); }
 
   std::ptrdiff_t write(const char* bytes, std::size_t size) override { return input_.write(bytes, size); }
+  void closeInput() override { input_.close(); }
 
   void wait() override {
     while (!hasEnded()) {
@@ -38,7 +39,7 @@ class Child final : public ChildProcess {
     const std::lock_guard lock(stateLock_);
     if (ended_) return;
     ended_ = true;
-    signal_ = guard_->settle();
+    end_ = guard_->settle();
     if (leavesNothing_) {
       guard_->endTree();
     } else {
@@ -47,10 +48,11 @@ class Child final : public ChildProcess {
     }
   }
   std::string causeOfDeath() const override {
-    if (signal_ == 0) return "";
-    const char* const word = sigdescr_np(signal_);
-    return word != nullptr ? word : std::to_string(signal_);
+    if (end_.signal == 0) return "";
+    const char* const word = sigdescr_np(end_.signal);
+    return word != nullptr ? word : std::to_string(end_.signal);
   }
+  int exitCode() const override { return end_.code; }
   void stopWaiting() override { stopWaiting_.set(); }
 
   void endTree() override {
@@ -90,7 +92,7 @@ class Child final : public ChildProcess {
   std::mutex stateLock_;
   bool ended_ = false;
   bool leavesNothing_ = false;
-  int signal_ = 0;  ///< what ended the child, if it was one
+  ChildGuard::End end_;
   std::unique_ptr<ChildGuard> guard_;
 };
 

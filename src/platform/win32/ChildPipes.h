@@ -74,6 +74,9 @@ class InputPipe {
   /// Gives the count written, which falls short after the stop; -1 on failure.
   std::ptrdiff_t write(const char* bytes, std::size_t size);
 
+  /// The child comes to the end of its input. Nothing may be written afterwards.
+  void close() { end_ = Handle(); }
+
  private:
   Handle end_;
   Handle writeDone_;

@@ -1,6 +1,7 @@
 #include "platform/FileSystem.h"
 
 #include "platform/Path.h"
+#include "platform/win32/FolderWalk.h"
 #include "platform/win32/LastError.h"
 
 #include <windows.h>
@@ -119,18 +120,7 @@ bool isFile(const std::string& path) {
 }
 
 std::vector<std::string> filesIn(const std::string& folder) {
-  std::vector<std::string> names;
-  // Without a folder the search would go through the current one.
-  if (folder.empty()) return names;
-  const std::string whole = endsInSeparator(folder) ? folder : folder + folderSeparator;
-  WIN32_FIND_DATAA found{};
-  const HANDLE search = FindFirstFileA((whole + '*').c_str(), &found);
-  if (search == INVALID_HANDLE_VALUE) return names;
-  do {
-    if ((found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) == 0) names.emplace_back(found.cFileName);
-  } while (FindNextFileA(search, &found));
-  FindClose(search);
-  return names;
+  return namesWhere(folder, [](const auto& entry) { return !isFolderEntry(entry); });
 }
 
 bool isFolder(const std::string& path) {

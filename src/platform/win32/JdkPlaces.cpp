@@ -1,6 +1,7 @@
 #include "platform/JdkPlaces.h"
 
 #include "platform/FileSystem.h"
+#include "platform/win32/FolderWalk.h"
 #include "platform/win32/Registry.h"
 
 #include <windows.h>
@@ -65,15 +66,7 @@ JdkPlaces jdkPlaces() {
 
 std::vector<std::string> subfolders(const std::string& folder) {
   std::vector<std::string> found;
-  WIN32_FIND_DATAA entry{};
-  const HANDLE search = FindFirstFileA((folder + "\\*").c_str(), &entry);
-  if (search == INVALID_HANDLE_VALUE) return found;
-  do {
-    const std::string name = entry.cFileName;
-    const bool isFolder = (entry.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
-    if (isFolder && name != "." && name != "..") found.push_back(folder + '\\' + name);
-  } while (FindNextFileA(search, &entry));
-  FindClose(search);
+  for (const auto& name : namesWhere(folder, isFolderEntry)) found.push_back(folder + '\\' + name);
   std::sort(found.begin(), found.end());
   return found;
 }

@@ -1,13 +1,12 @@
 #include "platform/OwnFiles.h"
 
-#include "platform/Path.h"
+#include "platform/win32/FolderWalk.h"
 #include "platform/win32/Handle.h"
 #include "platform/win32/LastError.h"
 
 #include <windows.h>
 
 #include <cerrno>
-#include <cstring>
 
 namespace tarnwick::platform {
 
@@ -68,18 +67,7 @@ bool removeFolder(const std::string& path) {
 }
 
 std::vector<std::string> namesIn(const std::string& folder) {
-  std::vector<std::string> names;
-  if (folder.empty()) return names;
-  const std::string whole = endsInSeparator(folder) ? folder : folder + folderSeparator;
-  WIN32_FIND_DATAA found{};
-  const HANDLE search = FindFirstFileA((whole + '*').c_str(), &found);
-  if (search == INVALID_HANDLE_VALUE) return names;
-  do {
-    if (std::strcmp(found.cFileName, ".") != 0 && std::strcmp(found.cFileName, "..") != 0)
-      names.emplace_back(found.cFileName);
-  } while (FindNextFileA(search, &found));
-  FindClose(search);
-  return names;
+  return namesWhere(folder, [](const auto&) { return true; });
 }
 
 bool moveToFreeName(const std::string& from, const std::string& to) {

@@ -65,14 +65,18 @@ class Child final : public ChildProcess {
   std::uint64_t arrived(Stream stream) override { return (stream == Stream::Output ? output_ : error_).arrived(); }
 
   std::ptrdiff_t write(const char* bytes, std::size_t size) override { return input_.write(bytes, size); }
+  void closeInput() override { input_.close(); }
 
   void wait() override {
     const HANDLE events[] = {process_.get(), stopWaiting_.get()};
     if (WaitForMultipleObjects(2, events, FALSE, INFINITE) != WAIT_OBJECT_0) return;
+    DWORD code = 0;
+    if (GetExitCodeProcess(process_.get(), &code)) exitCode_ = static_cast<int>(code);
     const std::lock_guard lock(stateLock_);
     if (job_ && leavesNothing_) job_->endAll();
     job_.reset();
   }
+  int exitCode() const override { return exitCode_; }
   void stopWaiting() override { SetEvent(stopWaiting_.get()); }
 
   void endTree() override {
@@ -112,6 +116,7 @@ class Child final : public ChildProcess {
   OutputPipe error_;
   InputPipe input_;
   Handle process_;
+  int exitCode_ = 0;
   std::mutex stateLock_;
   /// Gone when the child has ended by itself.
   std::optional<ChildJob> job_;

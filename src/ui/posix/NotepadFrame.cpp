@@ -13,6 +13,8 @@
 #include <wx/menu.h>
 #include <wx/msgdlg.h>
 
+#include <algorithm>
+
 namespace tarnwick::ui {
 
 namespace {
@@ -123,11 +125,12 @@ void NotepadFrame::onMenu(wxCommandEvent& event) {
   });
 }
 
-void NotepadFrame::run(const std::string& path) {
+void NotepadFrame::run(const NotepadStart& start) {
   const WindowStack::Place place(stack_, frame_);
   frame_->Show();
   text_->SetFocus();
-  if (!path.empty()) open(path);
+  if (!start.path.empty()) open(start.path);
+  if (start.line > 0) goTo(start.line, start.column);
   if (!closed_) wxTheApp->MainLoop();
   frame_->Hide();
 }
@@ -140,6 +143,15 @@ void NotepadFrame::open(const std::string& path) {
   } catch (const Tarnwickfile::FileNotOpenE& failure) {
     showMessage(stack_, "Can't open " + failure.file + "\n" + failure.message, MessageKind::Ok);
   }
+}
+
+void NotepadFrame::goTo(int line, int column) {
+  const int lastLine = std::max(text_->GetNumberOfLines() - 1, 0);
+  const int y = std::clamp(line - 1, 0, lastLine);
+  const int x = std::clamp(column - 1, 0, std::max(text_->GetLineLength(y), 0));
+  const long at = text_->XYToPosition(x, y);
+  text_->SetInsertionPoint(at);
+  text_->ShowPosition(at);
 }
 
 void NotepadFrame::take() {

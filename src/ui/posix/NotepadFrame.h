@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/NotepadStart.h"
 #include "app/PlainTextFile.h"
 #include "ui/WindowStack.h"
 
@@ -21,8 +22,8 @@ class NotepadFrame {
   NotepadFrame(const NotepadFrame&) = delete;
   NotepadFrame& operator=(const NotepadFrame&) = delete;
 
-  /// Shows the editor with a file in it, or with none for the empty text, until its user closes it.
-  void run(const std::string& path);
+  /// Shows the editor with the file in it that it begins with, if any, until its user closes it.
+  void run(const NotepadStart& start);
 
   /// Reads a file; shows why it can't be read. Asks first about unsaved changes.
   void open(const std::string& path);
@@ -30,6 +31,8 @@ class NotepadFrame {
   bool save();
   bool saveAs();
   bool saveTo(const std::string& path);
+  /// Puts the caret there, in sight; both count from 1. Beyond the end it goes to the last line, or to the line's end.
+  void goTo(int line, int column);
   bool modified() const { return modified_; }
   /// Selects the next place of the words, beyond the end from the start on. Tells if there is none.
   void find(const wxString& words, bool forward, bool matchCase);

@@ -3,12 +3,15 @@
 #include "ui/RunProgram.h"
 #include "ui/posix/NotepadFrame.h"
 
+#include <algorithm>
+
 namespace tarnwick::ui {
 
-int runNotepad(int argc, char** argv, const std::string& path) {
-  return runProgram(argc, argv, [&path](Desktop&, ConsoleFrameHost&) {
+int runNotepad(int argc, char** argv) {
+  const NotepadStart start = notepadStart({argv + std::min(argc, 1), argv + argc});
+  return runProgram(argc, argv, [&start](Desktop&, ConsoleFrameHost&) {
     NotepadFrame notepad;
-    notepad.run(path);
+    notepad.run(start);
     return 0;
   });
 }

@@ -35,17 +35,29 @@ class States {
 
 AtkStateSet* (*statesOfTab)(AtkObject*) = nullptr;
 int (*indexOfTab)(AtkObject*) = nullptr;
+void (*placeOfTab)(AtkComponent*, int*, int*, int*, int*, AtkCoordType) = nullptr;
 
-/// Taken out of its tab control, a tab has no parent.
+/// A tab leaves the list of its tab control first, and says only later that it has no parent any more: in between it
+/// would look for its label in that list.
+bool isThere(AtkObject* tab) {
+  AtkObject* const tabs = atk_object_get_parent(tab);
+  return tabs && gtk_accessible_get_widget(GTK_ACCESSIBLE(tabs)) && indexOfTab(tab) >= 0;
+}
+
 AtkStateSet* statesIfThere(AtkObject* tab) {
-  if (atk_object_get_parent(tab)) return statesOfTab(tab);
+  if (isThere(tab)) return statesOfTab(tab);
   AtkStateSet* const gone = atk_state_set_new();
   atk_state_set_add_state(gone, ATK_STATE_DEFUNCT);
   return gone;
 }
 
 int indexIfThere(AtkObject* tab) {
-  return atk_object_get_parent(tab) ? indexOfTab(tab) : -1;
+  return isThere(tab) ? indexOfTab(tab) : -1;
+}
+
+void placeIfThere(AtkComponent* tab, int* x, int* y, int* width, int* height, AtkCoordType from) {
+  if (isThere(ATK_OBJECT(tab))) return placeOfTab(tab, x, y, width, height, from);
+  *x = *y = *width = *height = -1;
 }
 
 void answerForGoneTabs() {
@@ -55,6 +67,9 @@ void answerForGoneTabs() {
   tabs.ref_state_set = &statesIfThere;
   indexOfTab = tabs.get_index_in_parent;
   tabs.get_index_in_parent = &indexIfThere;
+  AtkComponentIface& places = *static_cast<AtkComponentIface*>(g_type_interface_peek(&tabs, ATK_TYPE_COMPONENT));
+  placeOfTab = places.get_extents;
+  places.get_extents = &placeIfThere;
 }
 
 int (*countInWindow)(AtkObject*) = nullptr;

@@ -4,6 +4,7 @@
 
 #include <wx/bitmap.h>
 #include <wx/dc.h>
+#include <wx/event.h>
 #include <wx/msgdlg.h>
 #include <wx/notebook.h>
 #include <wx/statbox.h>
@@ -163,6 +164,11 @@ void describeLink(wxWindow& link, const std::string& address) {
 // The open list has a grab of its own and gets its keys first.
 bool isListOpen(wxWindow&) {
   return false;
+}
+
+// With Control it is another key here, which the toolkit does not know.
+bool isBreakKey(const wxKeyEvent& event) {
+  return event.GetKeyCode() == WXK_PAUSE || event.GetRawKeyCode() == GDK_KEY_Break;
 }
 
 bool handlesKey() {

@@ -6,6 +6,7 @@
 #include <wx/access.h>
 #include <wx/control.h>
 #include <wx/dc.h>
+#include <wx/event.h>
 #include <wx/menu.h>
 #include <wx/msw/private.h>
 #include <wx/notebook.h>
@@ -131,6 +132,11 @@ void describeLink(wxWindow&, const std::string&) {}
 
 bool isListOpen(wxWindow& comboBox) {
   return SendMessageW(static_cast<HWND>(comboBox.GetHandle()), CB_GETDROPPEDSTATE, 0, 0) != 0;
+}
+
+// With Control it is another key here.
+bool isBreakKey(const wxKeyEvent& event) {
+  return event.GetKeyCode() == WXK_PAUSE || event.GetKeyCode() == WXK_CANCEL;
 }
 
 bool handlesKey() {

@@ -1,5 +1,7 @@
 #include "support/source/PlainSourceReader.h"
 
+#include "base/Tarnwickfile.h"
+
 #include <cctype>
 #include <cstdio>
 

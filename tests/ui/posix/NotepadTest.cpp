@@ -87,8 +87,34 @@ TEST_F(NotepadTest, ShowsAFileInAFixedPitchFont) {
     shoot("notepad");
   });
   thenClose();
-  notepad.run(file("\n\njavac -d . A.java\n\nA.java:3: error: \xC3\xA4\n"));
+  notepad.run({file("\n\njavac -d . A.java\n\nA.java:3: error: \xC3\xA4\n")});
   EXPECT_EQ(answers.shown, Texts{}) << "nothing was changed";
+}
+
+TEST_F(NotepadTest, BeginsAtTheLineAndColumnThatItIsGiven) {
+  std::string text;
+  for (int line = 1; line <= 500; ++line) text += "\tline " + std::to_string(line) + '\n';
+  long column = 0;
+  long line = 0;
+  waitForWindow();
+  steps.until("the line is in sight", [this] {
+    long x = 0;
+    long top = 0;
+    const auto hit = notepad.text().HitTest(wxPoint(2, notepad.text().GetClientSize().y / 2), &x, &top);
+    return hit != wxTE_HT_UNKNOWN && top > 300 && top < 500;
+  });
+  steps.then("look", [&] {
+    notepad.text().PositionToXY(notepad.text().GetInsertionPoint(), &column, &line);
+    notepad.goTo(9999, 9999);
+    EXPECT_EQ(notepad.text().GetInsertionPoint(), notepad.text().GetLastPosition()) << "no such line";
+    notepad.goTo(2, 9999);
+    EXPECT_EQ(notepad.text().GetInsertionPoint(), 15) << "no such column: at the line's end";
+    EXPECT_FALSE(notepad.modified());
+  });
+  thenClose();
+  notepad.run({file(text), 450, 3});
+  EXPECT_EQ(line, 449);
+  EXPECT_EQ(column, 2);
 }
 
 TEST_F(NotepadTest, WhatIsTypedIsSavedByItsKey) {
@@ -98,7 +124,7 @@ TEST_F(NotepadTest, WhatIsTypedIsSavedByItsKey) {
   steps.then("save", [] { key('S', wxMOD_CONTROL); });
   steps.until("saved", [this] { return title() == "x.txt - Tarnwick Notepad"; });
   thenClose();
-  notepad.run(file("a\r\n"));
+  notepad.run({file("a\r\n")});
   EXPECT_EQ(contentOf(folder.file("x.txt")), "a\r\nb");
 }
 
@@ -109,7 +135,7 @@ TEST_F(NotepadTest, TypedLettersComeFromTheKeyboard) {
   steps.then("save", [] { key('S', wxMOD_CONTROL); });
   steps.until("saved", [this] { return !notepad.modified(); });
   thenClose();
-  notepad.run(file(""));
+  notepad.run({file("")});
   EXPECT_EQ(contentOf(folder.file("x.txt")), "ab\t");
 }
 
@@ -122,7 +148,7 @@ TEST_F(NotepadTest, WhatIsNotChangedKeepsItsBytes) {
     EXPECT_TRUE(notepad.save());
   });
   thenClose();
-  notepad.run(file(all));
+  notepad.run({file(all)});
   EXPECT_EQ(contentOf(folder.file("x.txt")), all + "\nend");
 }
 
@@ -138,7 +164,7 @@ TEST_F(NotepadTest, ClosingWithUnsavedChangesAsks) {
     answers.answers = {wxID_YES};
     notepad.frame().Close();
   });
-  notepad.run(file("a"));
+  notepad.run({file("a")});
   EXPECT_EQ(answers.shown, Texts(2, "Do you want to save the changes to x.txt?"));
   EXPECT_EQ(contentOf(folder.file("x.txt")), "ab");
 }
@@ -150,7 +176,7 @@ TEST_F(NotepadTest, ChangesMayBeGivenUp) {
     answers.answers = {wxID_NO};
     notepad.frame().Close();
   });
-  notepad.run(file("a"));
+  notepad.run({file("a")});
   EXPECT_EQ(contentOf(folder.file("x.txt")), "a");
 }
 
@@ -172,7 +198,7 @@ TEST_F(NotepadTest, AFailedSaveIsToldAndKeepsTheWindowWithItsText) {
     answers.answers = {wxID_YES};
     notepad.frame().Close();
   });
-  notepad.run(file("a"));
+  notepad.run({file("a")});
   EXPECT_EQ(contentOf(folder.file("x.txt")), "ab");
 }
 
@@ -187,7 +213,7 @@ TEST_F(NotepadTest, AFileThatAnotherProgramChangedIsReplacedOnlyAfterAQuestion) 
     EXPECT_TRUE(notepad.save());
   });
   thenClose();
-  notepad.run(file("a"));
+  notepad.run({file("a")});
   EXPECT_EQ(answers.shown,
             Texts(2, folder.file("x.txt") + " has been changed by another program.\nDo you want to replace it?"));
   EXPECT_EQ(contentOf(folder.file("x.txt")), "ab");
@@ -205,7 +231,7 @@ TEST_F(NotepadTest, ALetterThatTheCharacterSetLacksIsAskedAbout) {
     EXPECT_TRUE(notepad.save());
   });
   thenClose();
-  notepad.run(file("\xE4"));
+  notepad.run({file("\xE4")});
   EXPECT_EQ(answers.shown, Texts(2, question));
   EXPECT_EQ(contentOf(folder.file("x.txt")), "\xC3\xA4\xE2\x82\xAC");
 }
@@ -222,7 +248,7 @@ TEST_F(NotepadTest, ATextWithoutANameAsksForOne) {
     EXPECT_EQ(title(), "new.txt - Tarnwick Notepad");
   });
   thenClose();
-  notepad.run("");
+  notepad.run({""});
   EXPECT_EQ(answers.shown, Texts{"file dialog"});
   EXPECT_EQ(contentOf(folder.file("new.txt")), "new\n");
 }
@@ -246,7 +272,7 @@ TEST_F(NotepadTest, AnotherFileMayBeOpenedAfterTheQuestion) {
   });
   steps.until("asked", [this] { return answers.shown.size() == 3; });
   thenClose();
-  notepad.run(file("a"));
+  notepad.run({file("a")});
   EXPECT_EQ(answers.shown.back(), "file dialog");
 }
 
@@ -258,7 +284,7 @@ TEST_F(NotepadTest, AFileThatCannotBeReadIsTold) {
     EXPECT_EQ(title(), "Untitled - Tarnwick Notepad");
   });
   thenClose();
-  notepad.run(folder.path());
+  notepad.run({folder.path()});
 }
 
 TEST_F(NotepadTest, FindsForwardsBackwardsAndAround) {
@@ -290,7 +316,7 @@ TEST_F(NotepadTest, FindsForwardsBackwardsAndAround) {
     EXPECT_EQ(selected(), At(7, 11));
   });
   thenClose();
-  notepad.run(file("\xC3\xA4 Word\nword\n"));
+  notepad.run({file("\xC3\xA4 Word\nword\n")});
   EXPECT_EQ(answers.shown, Texts{"Can't find \"nowhere\""});
 }
 
@@ -309,7 +335,7 @@ TEST_F(NotepadTest, TheFindDialogOpensByItsKeyAndFindNextGoesOn) {
     return begin == 5;
   });
   thenClose();
-  notepad.run(file("word word"));
+  notepad.run({file("word word")});
 }
 
 }  // namespace tarnwick::test

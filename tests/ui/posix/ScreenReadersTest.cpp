@@ -63,6 +63,19 @@ void expectAnswers(AtkObject* one) {
   atk_object_get_index_in_parent(one);
 }
 
+/// All that a reader asks of a tab, while the tab control takes it out.
+void askOnTheWay(GtkWidget*, GParamSpec*, gpointer tab) {
+  AtkObject* const asked = ATK_OBJECT(tab);
+  g_object_unref(atk_object_ref_state_set(asked));
+  atk_object_get_name(asked);
+  atk_object_get_index_in_parent(asked);
+  int x = 0;
+  int y = 0;
+  int width = 0;
+  int height = 0;
+  atk_component_get_extents(ATK_COMPONENT(asked), &x, &y, &width, &height, ATK_XY_SCREEN);
+}
+
 }  // namespace
 
 TEST_F(DialogTest, ReadersOfTheScreenMayAskAboutAWindowThatHasGone) {
@@ -78,6 +91,30 @@ TEST_F(DialogTest, ReadersOfTheScreenMayAskAboutAWindowThatHasGone) {
   EXPECT_GT(held.all().size(), 20U);
   for (AtkObject* one : held.all()) expectAnswers(one);
   EXPECT_EQ(complaints.text(), "");
+}
+
+TEST_F(DialogTest, ReadersOfTheScreenMayAskAboutATabOnItsWayOut) {
+  GtkWidget* const window = gtk_window_new(GTK_WINDOW_TOPLEVEL);
+  GtkWidget* const tabs = gtk_notebook_new();
+  GtkWidget* const page = gtk_entry_new();
+  gtk_container_add(GTK_CONTAINER(window), tabs);
+  gtk_notebook_append_page(GTK_NOTEBOOK(tabs), page, gtk_label_new("Main"));
+  gtk_notebook_append_page(GTK_NOTEBOOK(tabs), gtk_entry_new(), gtk_label_new("Other"));
+  gtk_widget_show_all(window);
+  AtkObject* const tab = atk_object_ref_accessible_child(gtk_widget_get_accessible(tabs), 0);
+  ASSERT_TRUE(tab);
+  atk_object_set_name(tab, "Main");
+  int asked = 0;
+  const auto count = +[](GtkWidget*, GParamSpec*, gpointer sum) { ++*static_cast<int*>(sum); };
+  for (const char* step : {"notify::parent", "notify::visible", "notify::has-focus"}) {
+    g_signal_connect(page, step, G_CALLBACK(&askOnTheWay), tab);
+    g_signal_connect(page, step, G_CALLBACK(count), &asked);
+  }
+  const Complaints complaints;
+  gtk_widget_destroy(window);
+  EXPECT_GT(asked, 0);
+  EXPECT_EQ(complaints.text(), "");
+  g_object_unref(tab);
 }
 
 }  // namespace tarnwick::test

@@ -65,11 +65,11 @@ class ActivationTest : public WindowTest {
   /// otherwise a matter of chance.
   static void runTool() {
     const auto tool = platform::ChildProcess::start({standInFolder() + "javac.exe", "", false, commandText});
-    desktop().whileBusy([&tool] {
+    desktop().whileBusy({[&tool] {
       tool->wait();
       const auto end = Clock::now() + std::chrono::seconds(10);
       while (console() != nullptr && Clock::now() < end) std::this_thread::sleep_for(std::chrono::milliseconds(20));
-    });
+    }});
   }
 
   static HWND console() { return FindWindowA(nullptr, commandText); }

@@ -1,4 +1,5 @@
 // Where the focus goes when its user opens another page of the settings.
+#include "settingsdialog/SettingsDialog.h"
 #include "ui/ProgramWorld.h"
 
 #include <wx/dialog.h>
@@ -29,7 +30,7 @@ TEST_F(PageFocusTest, ItIsOnTheFirstGroupOfThePageAndNotOnWhatWasCheckedLast) {
   steps.settle(5);
   steps.then("look", [this] { EXPECT_EQ(wxWindow::FindFocus(), control(EDITOR_TAB, OTHER_EDITOR)); });
   steps.then("close", [this] { top().close(IDCANCEL_CONTROL); });
-  world_.settings.runModal(0);
+  SettingsDialog(world_.settings).runModal(0);
 }
 
 }  // namespace tarnwick::test

@@ -17,7 +17,7 @@ class SystemMenuTest : public WindowTest {
  protected:
   SystemMenuTest() {
     world_.context.showAbout = [this] { AboutDlg(desktop(), world_.program).runModal(); };
-    world_.settings.saveDefaultConfiguration(nullptr);
+    world_.settings.saveDefaultConfiguration();
   }
 
   HWND panel() const { return static_cast<HWND>(desktop().openDialogs().front()->dialog().GetHandle()); }

@@ -70,6 +70,69 @@ TEST_F(CMainFrameTest, OnlyADebuggersFrameHasAToolbarAndItsButtonsAreAlwaysEnabl
   EXPECT_FALSE(frame.commandEnabled(COMMAND_CUT));
 }
 
+TEST_F(CMainFrameTest, TheConsoleOfTodayHasItsOwnMenusAndKeys) {
+  const std::set<int> ofToday = {COMMAND_COPY_ALL,  COMMAND_CLEAR,        COMMAND_COPY_OR_STOP, COMMAND_END_OF_INPUT,
+                                 COMMAND_END_KEY,   COMMAND_STOP,         COMMAND_RUN_AGAIN,    COMMAND_FIND,
+                                 COMMAND_FIND_NEXT, COMMAND_FIND_PREVIOUS};
+  CMainFrame classic(desktop_, settings(), {"Main", "", "", false});
+  EXPECT_EQ(&classic.menuBar(), &consoleMenuBar());
+  EXPECT_EQ(&classic.accelerators(), &consoleAccelerators());
+  for (const int command : ofToday) EXPECT_FALSE(classic.commandEnabled(command)) << command;
+  settings().newerConsole = true;
+  CMainFrame frame(desktop_, settings(), {"Main", "", "", false});
+  EXPECT_EQ(&frame.menuBar(), &newerConsoleMenuBar());
+  EXPECT_EQ(&frame.accelerators(), &newerConsoleAccelerators());
+  const std::set<int> always = {COMMAND_COPY_ALL, COMMAND_CLEAR,     COMMAND_END_KEY,
+                                COMMAND_FIND,     COMMAND_FIND_NEXT, COMMAND_FIND_PREVIOUS};
+  for (const int command : ofToday) EXPECT_EQ(frame.commandEnabled(command), always.contains(command)) << command;
+  EXPECT_FALSE(frame.commandEnabled(COMMAND_CUT));
+  EXPECT_TRUE(frame.commandEnabled(COMMAND_SELECT_ALL));
+}
+
+TEST_F(CMainFrameTest, AProgramThatReadsToTheEndIsEndedAndRunAgain) {
+  settings().newerConsole = true;
+  CMainFrame frame(desktop_, settings(), {"Main", StandInScript::tool("java"), " Main", false});
+  FakeSurface surface;
+  frame.view().onStart(surface);
+  const auto serve = [&] {
+    desktop_.runPosted();
+    if (surface.takeWake()) frame.view().onWake();
+  };
+  const auto ended = [&] { return frame.commandEnabled(COMMAND_RUN_AGAIN); };
+  for (const char* const expected : {"got: one", "end of input"}) {
+    EXPECT_TRUE(waitUntil([&] {
+      serve();
+      return frame.commandEnabled(COMMAND_END_OF_INPUT) && !ended();
+    }));
+    EXPECT_TRUE(frame.commandEnabled(COMMAND_STOP));
+    if (std::string(expected) == "got: one") frame.view().onCharacter("one\r", 1);
+    frame.onCommand(COMMAND_END_KEY);
+    EXPECT_FALSE(frame.commandEnabled(COMMAND_END_OF_INPUT));
+    EXPECT_TRUE(waitUntil([&] {
+      serve();
+      return ended() && !surface.titles.empty() && surface.titles.back() != "Main";
+    }));
+    EXPECT_NE(savedDisplay(frame).find(expected), std::string::npos);
+    EXPECT_EQ(surface.titles.back().substr(0, 24), "Main - ended with 0 afte");
+    frame.onCommand(COMMAND_RUN_AGAIN);
+  }
+  frame.view().onClose();
+}
+
+TEST_F(CMainFrameTest, ControlCCopiesWhereSomethingIsSelectedAndElseAsksToStop) {
+  settings().newerConsole = true;
+  CMainFrame frame(desktop_, settings(), {"Main", StandInScript::tool("java"), " Main", false});
+  FakeSurface surface;
+  frame.view().onStart(surface);
+  EXPECT_TRUE(waitUntil([&] { return frame.commandEnabled(COMMAND_STOP); }));
+  desktop_.expectQuestion("Stop the program?", false);
+  frame.onCommand(COMMAND_COPY_OR_STOP);
+  frame.onCommand(COMMAND_SELECT_ALL);
+  frame.onCommand(COMMAND_COPY_OR_STOP);
+  EXPECT_TRUE(desktop_.clipboardText().has_value());
+  frame.view().onClose();
+}
+
 TEST_F(CMainFrameTest, ShiftDeleteDoesNothing) {
   CMainFrame frame(desktop_, settings(), {"Main", "", "", true});
   FakeSurface surface;

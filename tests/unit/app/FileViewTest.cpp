@@ -1,5 +1,6 @@
 #include "PanelFixture.h"
 #include "app/FileView.h"
+#include "support/BrokenTool.h"
 
 #include <algorithm>
 #include <chrono>
@@ -39,7 +40,7 @@ TEST_F(FileViewTest, ShowsItsLabelsAndToolTips) {
     auto& main = panel.page(TABS, 0);
     EXPECT_EQ(main.toolTip(LEFT), "Select executable class file");
     EXPECT_EQ(main.toolTip(MIDDLE), "Execute class file under debugger control");
-    EXPECT_EQ(main.toolTip(RIGHT), "Execute class file");
+    EXPECT_EQ(main.toolTip(RIGHT), "Execute class file; Ctrl+click compiles first what is not up to date");
     EXPECT_EQ(main.toolTip(FIELD), "File specification for executable class, optionally followed by runtime arguments");
     auto& applet = panel.page(TABS, 1);
     EXPECT_EQ(applet.toolTip(LEFT), "Select HTML file");
@@ -54,14 +55,14 @@ TEST_F(FileViewTest, ShowsItsLabelsAndToolTips) {
   });
 }
 
-TEST_F(FileViewTest, WhatIsNotThereYetStandsDisabled) {
+TEST_F(FileViewTest, EveryButtonCanBePressed) {
   saveEarlierRun();
   runPanel([](ScriptedWindow&, ScriptedWindow& panel) {
     for (const int control : {NEW, EDIT, BROWSE, JAVAC}) EXPECT_TRUE(panel.enabled(control));
     for (const int control : {LEFT, MIDDLE, RIGHT}) {
       EXPECT_TRUE(panel.page(TABS, 0).enabled(control));
       EXPECT_TRUE(panel.page(TABS, 1).enabled(control));
-      EXPECT_EQ(panel.page(TABS, 2).enabled(control), control == LEFT) << control;
+      EXPECT_TRUE(panel.page(TABS, 2).enabled(control)) << control;
     }
     for (const int control : {SETTINGS, SWITCH_VIEW, EXIT, LAYOUT_LEFT, LAYOUT_RIGHT}) {
       EXPECT_TRUE(bar(panel).enabled(control));
@@ -113,7 +114,7 @@ TEST_F(FileViewTest, TheOpenTabIsSavedAtOnceAndOpensAtTheNextStart) {
 TEST_F(FileViewTest, ACleanCompileSoundsTheAsteriskAndShowsNoLog) {
   // An editor that can't be started would be told.
   saveEarlierRun([this](Settings& settings) {
-    settings.displayWithNotepad = settings.editWithNotepad = 0;
+    settings.displayWithNotepad = settings.editWithNotepad = false;
     settings.editorTarget = scratch_.file("no editor");
   });
   const std::string source = makeFile("A.java");
@@ -128,7 +129,7 @@ TEST_F(FileViewTest, ACleanCompileSoundsTheAsteriskAndShowsNoLog) {
 }
 
 TEST_F(FileViewTest, SoundsCanBeSwitchedOff) {
-  saveEarlierRun([](Settings& settings) { settings.javacSoundOnSuccess = 0; });
+  saveEarlierRun([](Settings& settings) { settings.javacSoundOnSuccess = false; });
   const std::string source = makeFile("A.java");
   runPanel([&](ScriptedWindow&, ScriptedWindow& panel) {
     panel.type(SOURCE, quoted(source));
@@ -143,7 +144,7 @@ TEST_F(FileViewTest, AnythingTheCompilerWritesSoundsTheExclamationAndShowsTheLog
     saveEarlierRun([&](Settings& earlier) {
       earlier.javacSoundOnError = sound;
       // The stand-in plays the user's editor.
-      earlier.displayWithNotepad = 0;
+      earlier.displayWithNotepad = false;
       earlier.editorTarget = standInFolder() + platform::toolFileName("javadoc");
     });
     const std::string source = makeFile("A.java");
@@ -172,6 +173,28 @@ TEST_F(FileViewTest, AnUnknownToolsFolderIsAskedForAndThenTold) {
   });
   EXPECT_TRUE(desktop_.alerts().empty());
   EXPECT_EQ(saved("FILEVIEW_SOURCE"), source + ";" + userFolder()) << "the bookkeeping still runs";
+}
+
+TEST_F(FileViewTest, AToolsFolderFromTheSettingsDialogIsUsedAtOnceAndItsClasspathFromTheNextCommandOn) {
+  saveEarlierRun([](Settings& earlier) {
+    earlier.javaPath.clear();
+    earlier.classpath = "before";
+  });
+  const std::string source = makeFile("A.java");
+  runPanel([&](ScriptedWindow&, ScriptedWindow& panel) {
+    panel.type(SOURCE, quoted(source));
+    desktop_.expectDialog("Tarnwick settings", [](ScriptedWindow& window) {
+      window.page(1092, 0).type(1041, standInFolder());
+      window.page(1092, 6).type(1029, "after");
+      window.press(IDOK_CONTROL);
+    });
+    panel.press(JAVAC);
+    exit(panel);
+  });
+  EXPECT_NE(contentOf(scratch_.file("record")).find("\n-classpath\nbefore\n"), std::string::npos)
+      << contentOf(scratch_.file("record"));
+  EXPECT_TRUE(settings().classpath.ends_with("after")) << settings().classpath;
+  EXPECT_EQ(desktop_.alerts(), (std::vector<AlertSound>{AlertSound::Asterisk}));
 }
 
 TEST_F(FileViewTest, BlanksBehindANameAreNoPartOfIt) {
@@ -372,7 +395,7 @@ TEST_F(FileViewTest, ALogThatCannotBeMadeIsNoSuccess) {
   const std::string source = makeFile("A.java");
   writeFile(scratch_.file("script"), "err A.java:1: error\n");
   ToolLog nowhere(scratch_.file("gone") + platform::folderSeparator);
-  SettingsContext context{desktop_, program_, nowhere};
+  SettingsContext context = settingsOnDesktop(desktop_, program_, nowhere);
   Settings settings(context);
   desktop_.expectMainDialog([&](ScriptedWindow& main) {
     auto& panel = main.child(FILE_VIEW_SLOT);
@@ -385,6 +408,37 @@ TEST_F(FileViewTest, ALogThatCannotBeMadeIsNoSuccess) {
   TarnwickDlg(settings).runModal();
   EXPECT_TRUE(desktop_.alerts().empty()) << "what the compiler said is not known";
   EXPECT_EQ(saved("FILEVIEW_SOURCE"), source + ";" + userFolder()) << "the bookkeeping still runs";
+}
+
+TEST_F(FileViewTest, ACompilerThatCannotBeStartedIsTold) {
+  const BrokenTool javac(scratch_.file("broken") + platform::folderSeparator, "javac");
+  saveEarlierRun([&](Settings& earlier) { earlier.javaPath = javac.folder(); });
+  const std::string source = makeFile("A.java");
+  runPanel([&](ScriptedWindow&, ScriptedWindow& panel) {
+    panel.type(SOURCE, quoted(source));
+    desktop_.expectMessage(javac.words());
+    panel.press(JAVAC);
+    exit(panel);
+  });
+  EXPECT_EQ(desktop_.alerts(), (std::vector<AlertSound>{AlertSound::Asterisk})) << "nothing was said";
+}
+
+TEST_F(FileViewTest, ALogThatCannotBeShownIsTold) {
+  const std::string editor = scratch_.file("no editor");
+  saveEarlierRun([&](Settings& earlier) {
+    earlier.displayWithNotepad = earlier.editWithNotepad = false;
+    earlier.editorTarget = editor;
+  });
+  const std::string source = makeFile("A.java");
+  writeFile(scratch_.file("script"), "err A.java:1: error\n");
+  const std::string reason = "No such file or directory";
+  runPanel([&](ScriptedWindow&, ScriptedWindow& panel) {
+    panel.type(SOURCE, quoted(source));
+    desktop_.expectMessage("Unable to start " + editor + " for log file display.\n\n" + reason + '\n' + reason);
+    panel.press(JAVAC);
+    exit(panel);
+  });
+  EXPECT_EQ(desktop_.alerts(), (std::vector<AlertSound>{AlertSound::Exclamation}));
 }
 
 TEST_F(FileViewTest, SettingsOpenFromTheBar) {
@@ -466,7 +520,7 @@ TEST_F(FileViewTest, NoClassForJdbIsTold) {
 TEST_F(FileViewTest, AppletviewerRunsOnTheBareNameAndShowsWhatItSaid) {
   saveEarlierRun([](Settings& earlier) {
     earlier.fileviewTab = 1;
-    earlier.displayWithNotepad = 0;
+    earlier.displayWithNotepad = false;
     earlier.editorTarget = standInFolder() + platform::toolFileName("javadoc");
   });
   const std::string page = makeFile("my page.html");

@@ -1,6 +1,7 @@
 // The button "jar" of both panels.
 #include "ProjectViewFixture.h"
 #include "dialogs/JarLayout.h"
+#include "process/WinApp.h"
 
 namespace tarnwick::test {
 namespace {
@@ -67,8 +68,40 @@ TEST_F(JarButtonTest, WithAProjectTheDialogProposesItsFolderAndClass) {
   });
 }
 
+/// A desktop on which something happens when a tool has ended.
+class WorkingDesktop : public ScriptedDesktop {
+ public:
+  std::function<void()> whenWorkEnds = [] {};
+  void whileBusy(const BusyWork& busy) override {
+    ScriptedDesktop::whileBusy(busy);
+    whenWorkEnds();
+  }
+};
+
+TEST_F(JarButtonTest, AWindowThatWasMovedDuringTheRunIsSavedAfterIt) {
+  WorkingDesktop desktop;
+  SettingsContext context = settingsOnDesktop(desktop, program_, log_);
+  Settings settings(context);
+  desktop.expectMainDialog([&](ScriptedWindow& main) {
+    ScriptedWindow& panel = main.child(FILE_VIEW_SLOT);
+    desktop.whenWorkEnds = [&main] { main.moveByHand({120, 88}); };
+    panel.choose(TABS, 2);
+    desktop.expectDialog("jar", [&](ScriptedWindow& window) {
+      desktop.expectSaveFile(userFolder() + "x.jar");
+      window.press(Jar::CREATE_ARCHIVE);
+      window.type(Jar::BASE_FOLDER, userFolder());
+      window.press(Jar::ALL_FILES);
+      window.press(Jar::RUN);
+    });
+    panel.page(TABS, 2).press(LEFT);
+    EXPECT_EQ(saved("WINDOW_POSITION"), "120;88");
+    exit(panel);
+  });
+  TarnwickDlg(settings).runModal();
+}
+
 TEST_F(JarButtonTest, BothPanelsKnowWhatOpensZipArchives) {
-  const WinApp packer = WinApp::withCommand(desktop_, "packer %1");
+  const WinApp packer = WinApp::withCommand("packer %1");
   const auto expectOffered = [this](ScriptedWindow& panel) {
     panel.choose(TABS, 2);
     desktop_.expectDialog("jar", [](ScriptedWindow& window) {

@@ -36,7 +36,7 @@ TEST_F(LinkedDialogsTest, TheSystemMenusEntryOpensAbout) {
     void runConsoleFrame(ConsoleFrame&) override { ADD_FAILURE() << "no console was asked for"; }
   } noConsole;
   settings().javaPath = standInFolder();
-  settings().saveDefaultConfiguration(nullptr);
+  settings().saveDefaultConfiguration();
   TarnwickApp app(desktop_, noConsole, programFolder() + "tarnwick");
   desktop_.expectMainDialog([&](ScriptedWindow& main) {
     desktop_.expectDialog("About Tarnwick", [](ScriptedWindow& dialog) { dialog.press(IDOK_CONTROL); });

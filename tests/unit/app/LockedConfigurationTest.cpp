@@ -1,6 +1,8 @@
 // A configuration that can't be written or read as it should never locks the user out of the panel.
 #include "PanelFixture.h"
 
+#include <filesystem>
+
 namespace tarnwick::test {
 namespace {
 
@@ -131,6 +133,15 @@ TEST_F(LockedConfigurationTest, AFolderInTheFilesPlaceIsAFirstUseThatCannotBeSav
   EXPECT_TRUE(platform::isFolder(configFile()));
 }
 
+TEST_F(LockedConfigurationTest, AFileThatIsTooLargeIsTold) {
+  writeFile(configFile(), "");
+  std::filesystem::resize_file(configFile(), 64U * 1024 * 1024 + 1);
+  desktop_.expectMessage("Larger than 64 MiB\nFile " + configFile());
+  expectWelcome();
+  desktop_.expectDialog("Tarnwick settings", [](ScriptedWindow& window) { window.press(IDCANCEL_CONTROL); });
+  runPanel([](ScriptedWindow&, ScriptedWindow& panel) { exit(panel); });
+}
+
 TEST_F(LockedConfigurationTest, ADamagedFileIsWelcomedReadAsFarAsItGoesAndSavedWhole) {
   saveEarlierRun([](Settings& earlier) { earlier.javaXms = "64m"; });
   std::string content = contentOf(configFile());
@@ -154,7 +165,7 @@ TEST_F(LockedConfigurationTest, ADamagedFileIsWelcomedReadAsFarAsItGoesAndSavedW
   EXPECT_EQ(status, 0);
   EXPECT_EQ(saved->javaPath, standInFolder());
   EXPECT_EQ(saved->javaXms, "64m");
-  EXPECT_EQ(saved->javaXfuture, 0);
+  EXPECT_FALSE(saved->javaXfuture);
   runPanel([](ScriptedWindow&, ScriptedWindow& panel) { exit(panel); });
 }
 

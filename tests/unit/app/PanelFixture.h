@@ -39,9 +39,9 @@ class PanelFixture : public SettingsFixture {
   void saveEarlierRun(const std::function<void(Settings&)>& change = {}) {
     const auto earlier = freshSettings();
     earlier->javaPath = standInFolder();
-    earlier->javaXfuture = 0;
+    earlier->javaXfuture = false;
     if (change) change(*earlier);
-    earlier->saveDefaultConfiguration(nullptr);
+    earlier->saveDefaultConfiguration();
   }
 
   /// Runs the main dialog; the script plays the user of the file view and has to close it.

@@ -1,5 +1,6 @@
 // What the project view's other buttons do with the open project.
 #include "ProjectViewFixture.h"
+#include "platform/OwnFiles.h"
 
 #include <algorithm>
 #include <chrono>
@@ -17,7 +18,7 @@ class ProjectRunTest : public ProjectViewFixture {
   ProjectRunTest() {
     saveEarlierRun([](Settings& earlier) {
       earlier.editorTarget = standInFolder() + platform::toolFileName("javadoc");
-      earlier.javacSoundOnSuccess = earlier.javacSoundOnError = 1;
+      earlier.javacSoundOnSuccess = earlier.javacSoundOnError = true;
     });
     // The stand-in plays the second copy of the program.
     program_.programPath = standInFolder() + platform::toolFileName("jdb");
@@ -35,7 +36,7 @@ class ProjectRunTest : public ProjectViewFixture {
   /// A project of two sources, with a stand-in as the editor.
   std::string withAnEditor(int openAll) {
     saveEarlierRun([openAll](Settings& earlier) {
-      earlier.editWithNotepad = 0;
+      earlier.editWithNotepad = false;
       earlier.editorOpenAll = openAll;
       earlier.editorTarget = standInFolder() + platform::toolFileName("javadoc");
     });
@@ -60,6 +61,7 @@ class ProjectRunTest : public ProjectViewFixture {
     startWith(makeProject("PROJECT_SOURCES  Main.java\nPROJECT_HTMLFILE  a.html\n"), [&](ScriptedWindow& panel) {
       makeStale("Main");
       expect();
+      panel.choose(TABS, tab);
       panel.page(TABS, tab).press(button);
       EXPECT_FALSE(panel.page(TABS, tab).enabled(button));
       exit(panel);
@@ -156,8 +158,38 @@ TEST_F(ProjectRunTest, JdbGetsTheSourcePathToo) {
   });
   const std::string recorded = recordedUpTo("Main\n");
   EXPECT_NE(recorded.find("\\/JDEBUG\\/"), std::string::npos) << recorded;
-  EXPECT_NE(recorded.find(received("-sourcepath", "", Filename(userFolder()).directoryNoSlash())), std::string::npos)
-      << recorded;
+  const std::string folder = Filename(userFolder()).directoryNoSlash();
+  EXPECT_NE(recorded.find(received("-sourcepath", "", folder)), std::string::npos) << recorded;
+  EXPECT_NE(recorded.find(received("-classpath", "." + listSeparator, folder)), std::string::npos) << recorded;
+}
+
+TEST_F(ProjectRunTest, TheRootOfWhatRunsComesFirst) {
+  const std::string slash(1, platform::folderSeparator);
+  for (const char* root : {"one", "two"}) {
+    const std::string base = std::string(root) + slash + "p" + slash + root;
+    platform::makeFolders(path(std::string(root) + slash + "p"));
+    writeFile(path(base + ".java"), "package p; class " + std::string(root) + " {}");
+    setFileTime(path(base + ".java"), sourceTime);
+    makeCurrent(base);
+  }
+  const std::string project = makeProject(
+      "NEWER_JAVA  ON\nPROJECT_SOURCES  one/p/one.java;two/p/two.java\nPROJECT_MULTIMAIN  ON\nCLASS_WITH_MAIN  "
+      "p.two\n");
+  const std::string first = platform::commandLineList(Filename(path("two")).quoted() + ';');
+  for (const int button : {RIGHT, MIDDLE}) {
+    platform::deleteFile(scratch_.file("record"));
+    startWith(project, [&](ScriptedWindow& panel) {
+      panel.page(TABS, 0).press(button);
+      exit(panel);
+    });
+    std::string recorded = recordedUpTo("p.two\n");
+    std::erase(recorded, '"');
+    std::replace(recorded.begin(), recorded.end(), '\n', ' ');
+    std::string list = first;
+    std::erase(list, '"');
+    EXPECT_NE(recorded.find("-classpath " + list), std::string::npos) << recorded;
+    EXPECT_EQ(recorded.find("-sourcepath " + list) != std::string::npos, button == MIDDLE) << recorded;
+  }
 }
 
 TEST_F(ProjectRunTest, WhatIsNotCompiledDoesNotRun) {
@@ -198,6 +230,7 @@ TEST_F(ProjectRunTest, ASecondMainMethodIsToldWhenJdbOrTheAppletIsStarted) {
       EXPECT_TRUE(panel.page(TABS, 0).enabled(RIGHT));
       writeFile(path("B.java"), "public class B {" + mainMethod() + "}\n");
       desktop_.expectMessage(conflict("B.java", "A.java"));
+      panel.choose(TABS, row.tab);
       panel.page(TABS, row.tab).press(row.button);
       EXPECT_FALSE(panel.page(TABS, 0).enabled(RIGHT)) << row.tab;
       exit(panel);
@@ -238,6 +271,33 @@ TEST_F(ProjectRunTest, AProjectThatCannotBeSavedIsToldOnceForABatch) {
     exit(panel);
   });
   EXPECT_NE(recordedUpTo("A.java\n").find("C.java\n"), std::string::npos) << "all the same all are compiled";
+}
+
+TEST_F(ProjectRunTest, NorIsItToldTwiceWhereTheWindowHasMoved) {
+  makeSource("A");
+  const std::string file = makeProject("PROJECT_SOURCES  A.java\n");
+  startWith(file, [&](ScriptedWindow& panel) {
+    platform::deleteFile(file);
+    platform::makeFolders(file);
+    panel.moveTo({321, 123});
+    desktop_.expectMessage(refusal(file, FileMode::Write) + "\nCan't save settings for project.");
+    panel.press(ALL);
+    EXPECT_NE(recordedUpTo("A.java\n"), "");
+    platform::removeFolder(file);
+    exit(panel);
+  });
+}
+
+TEST_F(ProjectRunTest, AWindowThatHasMovedIsSavedBeforeACompileAndAChangeBehindIt) {
+  makeSource("A");
+  const std::string file = makeProject("PROJECT_SOURCES  A.java\n");
+  startWith(file, [&](ScriptedWindow& panel) {
+    panel.moveTo({321, 123});
+    settings().javaXms = "9m";
+    panel.press(ALL);
+    EXPECT_EQ(savedIn(file, "JAVA_XMS"), "9m");
+    exit(panel);
+  });
 }
 
 TEST_F(ProjectRunTest, AProjectsSettingsAreSavedBeforeItsFirstSourceIsCompiled) {
@@ -297,7 +357,7 @@ TEST_F(ProjectRunTest, AnAppletsFolderThatHasGoneIsTold) {
   makeCurrent("A");
   const std::string file = makeProject("PROJECT_SOURCES  A.java\nPROJECT_HTMLFILE  a.html\n");
   for (const int button : {MIDDLE, RIGHT}) {
-    SettingsContext context{desktop, program_, log_};
+    SettingsContext context = settingsOnDesktop(desktop, program_, log_);
     Settings settings(context);
     desktop.expectMainDialog([&](ScriptedWindow& main) {
       ScriptedWindow& panel = main.child(PROJECT_VIEW_SLOT);
@@ -349,8 +409,10 @@ TEST_F(ProjectRunTest, AppletdebugStartsTheProgramAgain) {
     panel.page(TABS, 1).press(MIDDLE);
     exit(panel);
   });
-  const std::string recorded = recordedUpTo("a.html\n");
+  std::string recorded = recordedUpTo("a.html\n");
   EXPECT_NE(recorded.find("\\/JDEBUG\\/"), std::string::npos) << recorded;
+  std::replace(recorded.begin(), recorded.end(), '\n', ' ');
+  EXPECT_NE(recorded.find("\\/DEFAULTDIR=" + userFolder() + "\\/"), std::string::npos) << recorded;
 }
 
 TEST_F(ProjectRunTest, EditOpensAllSourcesFromTheLastToTheFirst) {
@@ -451,6 +513,18 @@ TEST_F(ProjectRunTest, SelectTakesAClassIntoTheFieldAndTheProjectsFile) {
     exit(panel);
   });
   EXPECT_NE(contentOf(file).find("\nCLASS_WITH_MAIN  B"), std::string::npos);
+}
+
+TEST_F(ProjectRunTest, ASelectionThatIsCancelledSavesNothing) {
+  makeSource("A", mainMethod());
+  const std::string file = makeProject("PROJECT_SOURCES  A.java\nPROJECT_MULTIMAIN  ON\n");
+  const std::string before = contentOf(file);
+  startWith(file, [&](ScriptedWindow& panel) {
+    desktop_.expectDialog("Select class with main()", [](ScriptedWindow& dialog) { dialog.press(IDCANCEL_CONTROL); });
+    panel.page(TABS, 0).press(LEFT);
+    exit(panel);
+  });
+  EXPECT_EQ(contentOf(file), before);
 }
 
 }  // namespace

@@ -96,7 +96,7 @@ class ProjectViewFixture : public PanelFixture {
            "\nIs the JDK installed? Is the tools directory (Settings!) set correctly?";
   }
 
-  ProjectContext& project() { return dynamic_cast<ProjectContext&>(*settings().currentProject); }
+  ProjectContext& project() { return *openProject(settings()); }
 
   /// What a tool, or the second copy of the program, was started with, once `last` is among it.
   std::string recordedUpTo(const std::string& last) {

@@ -63,7 +63,7 @@ TEST_F(ProjectViewTest, ShowsItsToolTips) {
     auto& main = panel.page(TABS, 0);
     EXPECT_EQ(main.toolTip(LEFT), "Select a class for execution (must have a public static void main() method!)");
     EXPECT_EQ(main.toolTip(MIDDLE), "Execute application under debugger control");
-    EXPECT_EQ(main.toolTip(RIGHT), "Execute application");
+    EXPECT_EQ(main.toolTip(RIGHT), "Execute application; Ctrl+click compiles first what is not up to date");
     EXPECT_EQ(main.toolTip(FIELD), "File name for executable class, optionally followed by runtime arguments");
     auto& applet = panel.page(TABS, 1);
     EXPECT_EQ(applet.toolTip(MIDDLE), "Start appletviewer under debugger control");
@@ -90,8 +90,8 @@ TEST_F(ProjectViewTest, WithoutAProjectOneCanBeMadeOrOpened) {
       for (const int control : {PROJECT_NEW, OPEN}) EXPECT_TRUE(panel.enabled(control)) << "always";
       for (const int control : {LEFT, MIDDLE, RIGHT, FIELD}) {
         const auto& page = panel.page(TABS, tab);
-        const bool isJar = tab == 2 && control == LEFT;
-        EXPECT_EQ(page.enabled(control) && page.visible(control), isJar) << tab << ' ' << control;
+        const bool needsNone = tab == 2 && control != FIELD;
+        EXPECT_EQ(page.enabled(control) && page.visible(control), needsNone) << tab << ' ' << control;
       }
     }
     for (const int slot : {VERTICAL_BAR_SLOT, HORIZONTAL_BAR_SLOT, FLAT_BAR_SLOT}) {
@@ -100,6 +100,26 @@ TEST_F(ProjectViewTest, WithoutAProjectOneCanBeMadeOrOpened) {
         EXPECT_TRUE(panel.child(slot).enabled(control));
       }
     }
+  });
+}
+
+TEST_F(ProjectViewTest, WithoutAProjectNothingElseCanBePressedBeforeATabIsChosenEither) {
+  look([](ScriptedWindow& panel) {
+    expectEnabled(panel, {PROJECT_EDIT, ALL, CHANGED, FILES}, false);
+    expectEnabled(panel.page(TABS, 0), {LEFT, MIDDLE, RIGHT, FIELD}, false);
+    expectEnabled(bar(panel), {SETTINGS}, false);
+  });
+}
+
+TEST_F(ProjectViewTest, AProjectWhoseMainMethodHasGoneKeepsTheClassInItsField) {
+  lookAt(makeRunnable(), [&](ScriptedWindow& panel) {
+    writeFile(path("Main.java"), "public class Main {}\n");
+    desktop_.expectDialog("Define which files belong to the project",
+                          [](ScriptedWindow& dialog) { dialog.press(IDCANCEL_CONTROL); });
+    panel.press(FILES);
+    EXPECT_EQ(project().mainClass, "");
+    EXPECT_EQ(panel.page(TABS, 0).text(FIELD), "Main");
+    expectEnabled(panel.page(TABS, 0), {MIDDLE, RIGHT}, false);
   });
 }
 

@@ -76,7 +76,7 @@ TEST_F(ProjectWindowTest, FilesSavesAMovedWindowInTheEnd) {
 
 TEST_F(ProjectWindowTest, EditSavesAMovedWindow) {
   expectMoveSaved(makeRunnable(), [&](ScriptedWindow&, ScriptedWindow& panel) {
-    settings().editorOpenAll = 0;
+    settings().editorOpenAll = false;
     desktop_.expectOpenFiles({});
     panel.press(PROJECT_EDIT);
   });
@@ -224,6 +224,18 @@ TEST_F(ProjectWindowTest, WithoutTheProjectTheDefaultConfigurationArrangesTheVie
       EXPECT_EQ(main.title(), "Tarnwick");
     });
   }
+}
+
+TEST_F(ProjectWindowTest, WithoutTheProjectAndWithoutAStoredPlaceTheWindowStays) {
+  const std::string file = makeElsewhere();
+  startIn(file, [&](ScriptedWindow& main, ScriptedWindow& panel) {
+    platform::deleteFile(configFile());
+    desktop_.expectDialog(openTitle, cancel);
+    desktop_.expectQuestion("No new project opened. Continue with " + quoted(file) + " ?", false);
+    panel.press(OPEN);
+    EXPECT_EQ(main.position(), (Point{300, 200}));
+  });
+  EXPECT_FALSE(platform::isFile(configFile())) << "nothing has moved that would be saved";
 }
 
 }  // namespace

@@ -49,6 +49,12 @@ TEST_F(SplitFileViewTest, CancelShowsNothingAndMakesNoSound) {
 TEST_F(SplitFileViewTest, AComplaintIsShownWithoutASound) {
   compile("class A {}\n;", [this] {
     desktop_.expectMessage("X.java :\nLine 2 doesn't seem to make sense.\nPossibly unbalanced { and }.\n\n;");
+    // The newer way would take it.
+    desktop_.expectQuestion(
+        "This source may be of a newer Java than Tarnwick's classic way of reading knows.\n\n"
+        "Read sources the newer way from now on (generics, enums, records ...)?\n"
+        "You can change that on the page \"javac\" of the settings.",
+        false);
   });
   EXPECT_TRUE(desktop_.alerts().empty());
   EXPECT_FALSE(platform::isFile(scratch_.file("record")));

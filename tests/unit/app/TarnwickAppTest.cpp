@@ -30,7 +30,7 @@ TEST_F(TarnwickAppTest, NothingIsReadBeforeTheCommandLineIsLookedAt) {
 TEST_F(TarnwickAppTest, AProjectsExtensionIgnoresCaseAndQuotes) {
   useStandIns();
   settings().tarnwickVersion = program_.version;
-  settings().saveDefaultConfiguration(nullptr);
+  settings().saveDefaultConfiguration();
   writeFile(userFolder() + "a.twp", "REM\n");
   writeFile(userFolder() + "my b.TwP", "REM\n");
   for (const std::string& line : {userFolder() + "a.twp", "  " + userFolder() + "a.twp ", userFolder() + "my b.TwP",
@@ -41,13 +41,54 @@ TEST_F(TarnwickAppTest, AProjectsExtensionIgnoresCaseAndQuotes) {
   EXPECT_EQ(host_.runs, 0);
 }
 
+TEST_F(TarnwickAppTest, ASourceAClassFileOrAnArchiveStandsInItsField) {
+  useStandIns();
+  settings().tarnwickVersion = program_.version;
+  settings().fileviewTab = 2;
+  settings().fileviewClass.takeTyped("Old.class with arguments");
+  settings().saveDefaultConfiguration();
+  const std::string old = settings().fileviewClass.name().quoted();
+  const struct {
+    std::string name;
+    int page;  ///< of the class's field; -1: the source's field
+  } table[] = {{"My Main.java", -1}, {"a.JAVA", -1}, {"Main.class", 0}, {"my lib.jar", 0}};
+  for (const auto& row : table) {
+    const std::string file = userFolder() + row.name;
+    writeFile(file, "content");
+    settings().saveDefaultConfiguration();
+    desktop_.expectMainDialog([&](ScriptedWindow& main) {
+      ScriptedWindow& panel = main.child(FILE_VIEW_SLOT);
+      EXPECT_EQ(panel.text(1009), row.page < 0 ? '"' + file + '"' : "") << row.name;
+      EXPECT_EQ(panel.page(1231, 0).text(1223), row.page < 0 ? old : '"' + file + '"') << row.name;
+      EXPECT_EQ(panel.selection(1231), row.page < 0 ? 2 : 0) << row.name;
+      main.closeBox();
+    });
+    EXPECT_EQ(app().run('"' + file + '"'), 0);
+  }
+  EXPECT_EQ(host_.runs, 0);
+}
+
+TEST_F(TarnwickAppTest, AFileFromTheCurrentFolderStandsInItsFieldWithItsWholePath) {
+  useStandIns();
+  settings().tarnwickVersion = program_.version;
+  settings().saveDefaultConfiguration();
+  writeFile(userFolder() + "Main.java", "content");
+  ASSERT_TRUE(platform::changeDirectory(userFolder()));
+  desktop_.expectMainDialog([&](ScriptedWindow& main) {
+    EXPECT_EQ(main.child(FILE_VIEW_SLOT).text(1009), '"' + userFolder() + "Main.java\"");
+    main.closeBox();
+  });
+  EXPECT_EQ(app().run("Main.java"), 0);
+}
+
 TEST_F(TarnwickAppTest, WhatIsNoProjectFileIsNeitherAPanelNorAConsole) {
   writeFile(userFolder() + "a.txt", "REM\n");
   writeFile(userFolder() + "a.twp.bak", "REM\n");
   platform::makeFolders(userFolder() + "folder.twp");
   for (const std::string& line :
        {userFolder() + "a.txt", userFolder() + "a.twp.bak", userFolder() + "folder.twp", userFolder() + "gone.twp",
-        userFolder() + "a.twp \\/JDEBUG\\/", std::string(" "), std::string("\""), std::string("--help")}) {
+        userFolder() + "gone.java", userFolder() + "a.twp \\/JDEBUG\\/", std::string(" "), std::string("\""),
+        std::string("--help")}) {
     desktop_.expectMessage("Tarnwickfile::open(): Don't know how to open \"\"\nFile ");
     EXPECT_EQ(app().run(line), 1) << line;
   }
@@ -82,7 +123,7 @@ TEST_F(TarnwickAppTest, AConfigurationThatIsGoneWhenItIsReadIsTold) {
 
 TEST_F(TarnwickAppTest, NothingIsSavedAtExitUnlessTheWindowMoved) {
   settings().tarnwickVersion = program_.version;
-  settings().saveDefaultConfiguration(nullptr);
+  settings().saveDefaultConfiguration();
   const auto exit = [this] {
     desktop_.expectMainDialog([](ScriptedWindow& main) { main.child(FILE_VIEW_SLOT).child(197).press(2); });
     EXPECT_EQ(app().run(""), 0);
@@ -181,7 +222,7 @@ TEST_F(TarnwickAppTest, DebugTablesWithFastCodeAreWarnedOfAndTheStartGoesOn) {
 
 TEST_F(TarnwickAppTest, AConfigurationFolderWithoutItsWholePathStaysTheSameFolder) {
   settings().tarnwickVersion = program_.version;
-  settings().saveDefaultConfiguration(nullptr);
+  settings().saveDefaultConfiguration();
   const ScopedEnvironment relative("TARNWICK_CFGDIR", "con fig");
   platform::changeDirectory(scratch_.path());
   const std::string whole = Filename(platform::currentDirectory(), "con fig").fullName();
@@ -200,7 +241,7 @@ TEST_F(TarnwickAppTest, AConfigurationFolderWithoutItsWholePathStaysTheSameFolde
 TEST_F(TarnwickAppTest, NoArgumentOrAProjectOpensThePanel) {
   useStandIns();
   settings().tarnwickVersion = program_.version;
-  settings().saveDefaultConfiguration(nullptr);
+  settings().saveDefaultConfiguration();
   writeFile(userFolder() + "my.TWP", "REM\n");
   for (const std::string& line : {std::string(), "\"" + userFolder() + "my.TWP\""}) {
     desktop_.expectMainDialog([](ScriptedWindow& main) { main.closeBox(); });

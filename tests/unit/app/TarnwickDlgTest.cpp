@@ -1,5 +1,6 @@
 #include "PanelFixture.h"
 #include "app/TarnwickDlg.h"
+#include "platform/OwnFiles.h"
 
 namespace tarnwick::test {
 namespace {
@@ -16,13 +17,13 @@ const char lookForJavac[] =
 class TarnwickDlgTest : public PanelFixture {
  protected:
   /// The empty place of a JDK, with a release file that tells its version.
-  std::string makeJdk(const std::string& version) {
-    const std::string home = scratch_.file("jdk") + platform::folderSeparator;
+  std::string makeJdk(const std::string& version, const std::string& name = "jdk") {
+    const std::string home = scratch_.file(name) + platform::folderSeparator;
     const std::string tools = home + "bin" + platform::folderSeparator;
     platform::makeFolders(tools);
     writeFile(tools + platform::toolFileName("javac"), "");
     writeFile(home + "release", "JAVA_VERSION=\"" + version + "\"\n");
-    return scratch_.file("jdk");
+    return scratch_.file(name);
   }
 
   void expectWelcome(const std::string& first, const std::string& second) {
@@ -31,6 +32,16 @@ class TarnwickDlgTest : public PanelFixture {
       EXPECT_EQ(window.text(1272), second);
       window.press(IDOK_CONTROL);
     });
+  }
+
+  /// A start that finds no tools; the user names their folder in the dialog.
+  void startWhereADialogNames(const std::string& tools) {
+    expectWelcome(firstUse, platform::localText(lookForJavac));
+    desktop_.expectDialog("Tarnwick settings", [&tools](ScriptedWindow& window) {
+      window.page(1092, 0).type(1041, tools);
+      window.press(IDOK_CONTROL);
+    });
+    runPanel([](ScriptedWindow&, ScriptedWindow& panel) { exit(panel); });
   }
 };
 
@@ -50,7 +61,7 @@ TEST_F(TarnwickDlgTest, AFirstUseIsWelcomedAndAskedForTheTools) {
   saved->readDefaultConfiguration(status);
   EXPECT_EQ(status, 0);
   EXPECT_EQ(saved->javaPath, offered);
-  EXPECT_EQ(saved->javaXfuture, 0) << "from 13 on, java refuses it or warns about it";
+  EXPECT_FALSE(saved->javaXfuture) << "from 13 on, java refuses it or warns about it";
   EXPECT_EQ(saved->javacMyJdkVersion, "1.5") << "so that the warnings and the source option can be used";
 }
 
@@ -70,6 +81,56 @@ TEST_F(TarnwickDlgTest, TheVersionForTheWarningsFollowsTheJdkAtTheFirstUse) {
     });
     runPanel([](ScriptedWindow&, ScriptedWindow& panel) { exit(panel); });
     EXPECT_EQ(saved("JAVAC_MY_JDKVERSION"), row.version) << row.release;
+  }
+}
+
+TEST_F(TarnwickDlgTest, FromVersion5OnTodaysJavaIsReadAtTheFirstUse) {
+  const struct {
+    const char* release;
+    bool newer;
+  } table[] = {{"1.4.2_19", false}, {"1.5.0_22", true}, {"25", true}, {"none", false}};
+  for (const auto& row : table) {
+    platform::deleteFile(configFile());
+    settings().resetAll();
+    const ScopedEnvironment javaHome("JAVA_HOME", makeJdk(row.release));
+    expectWelcome(firstUse, platform::localText(lookForJavac));
+    desktop_.expectDialog("Tarnwick settings", [&row](ScriptedWindow& window) {
+      for (const int control : {2101, 2102}) EXPECT_EQ(window.page(1092, 1).checked(control), row.newer) << row.release;
+      EXPECT_EQ(window.page(1092, 2).checked(2131), row.newer) << row.release;
+      EXPECT_EQ(window.page(1092, 0).checked(2120), row.newer) << row.release;
+      window.press(IDOK_CONTROL);
+    });
+    runPanel([](ScriptedWindow&, ScriptedWindow& panel) { exit(panel); });
+    const auto saved = freshSettings();
+    int status = -1;
+    saved->readDefaultConfiguration(status);
+    EXPECT_EQ(saved->newerJava, row.newer) << row.release;
+    EXPECT_EQ(saved->javacOneRun, row.newer) << row.release;
+    EXPECT_EQ(saved->newerConsole, row.newer) << row.release;
+    EXPECT_EQ(saved->watchRuns, row.newer) << row.release;
+  }
+}
+
+TEST_F(TarnwickDlgTest, AWayOfReadingThatTheUserChoosesStays) {
+  for (const int refused : {2101, 2102, 2131, 2120}) {
+    platform::deleteFile(configFile());
+    settings().resetAll();
+    const ScopedEnvironment javaHome("JAVA_HOME", makeJdk("17"));
+    const std::string other = Filename(makeJdk("25", "other"), "bin").fullName();
+    expectWelcome(firstUse, platform::localText(lookForJavac));
+    desktop_.expectDialog("Tarnwick settings", [&](ScriptedWindow& window) {
+      window.page(1092, 0).type(1041, other);
+      window.page(1092, refused == 2131 ? 2 : refused == 2120 ? 0 : 1).press(refused);
+      window.press(IDOK_CONTROL);
+    });
+    runPanel([](ScriptedWindow&, ScriptedWindow& panel) { exit(panel); });
+    const auto saved = freshSettings();
+    int status = -1;
+    saved->readDefaultConfiguration(status);
+    EXPECT_EQ(saved->newerJava, refused == 2101 ? 0 : 1);
+    EXPECT_EQ(saved->javacOneRun, refused == 2102 ? 0 : 1);
+    EXPECT_EQ(saved->newerConsole, refused == 2131 ? 0 : 1);
+    EXPECT_EQ(saved->watchRuns, refused == 2120 ? 0 : 1);
   }
 }
 
@@ -96,6 +157,7 @@ TEST_F(TarnwickDlgTest, AnExistingConfigurationKeepsItsVersionForTheWarnings) {
   desktop_.expectDialog("Tarnwick settings", [](ScriptedWindow& window) { window.press(IDOK_CONTROL); });
   runPanel([](ScriptedWindow&, ScriptedWindow& panel) { exit(panel); });
   EXPECT_EQ(saved("JAVAC_MY_JDKVERSION"), "Pre-1.4");
+  EXPECT_EQ(contentOf(configFile()).find("NEWER_JAVA"), std::string::npos) << "nor is it read another way by itself";
 }
 
 TEST_F(TarnwickDlgTest, AnOlderJdkKeepsStrictChecks) {
@@ -103,25 +165,60 @@ TEST_F(TarnwickDlgTest, AnOlderJdkKeepsStrictChecks) {
   expectWelcome(firstUse, platform::localText(lookForJavac));
   desktop_.expectDialog("Tarnwick settings", [](ScriptedWindow& window) { window.press(IDOK_CONTROL); });
   runPanel([](ScriptedWindow&, ScriptedWindow& panel) { exit(panel); });
-  EXPECT_EQ(settings().javaXfuture, 1);
+  EXPECT_TRUE(settings().javaXfuture);
 }
 
 TEST_F(TarnwickDlgTest, AJdkThatIsOnlyNamedInTheDialogCountsToo) {
   const ScopedEnvironment javaHome("JAVA_HOME", "");
   const ScopedEnvironment path("PATH", scratch_.path());
   const std::string tools = Filename(makeJdk("25"), "bin").fullName();
-  expectWelcome(firstUse, platform::localText(lookForJavac));
-  desktop_.expectDialog("Tarnwick settings", [&tools](ScriptedWindow& window) {
-    window.page(1092, 0).type(1041, tools);
-    window.press(IDOK_CONTROL);
-  });
-  runPanel([](ScriptedWindow&, ScriptedWindow& panel) { exit(panel); });
+  startWhereADialogNames(tools);
   const auto saved = freshSettings();
   int status = -1;
   saved->readDefaultConfiguration(status);
   EXPECT_EQ(saved->javaPath, tools + platform::folderSeparator);
-  EXPECT_EQ(saved->javaXfuture, 0);
+  EXPECT_FALSE(saved->javaXfuture);
   EXPECT_EQ(saved->javacMyJdkVersion, "1.5");
+  EXPECT_TRUE(saved->newerJava);
+  EXPECT_TRUE(saved->javacOneRun);
+}
+
+TEST_F(TarnwickDlgTest, StrictChecksThatTheUserChoosesStay) {
+  const std::string other = Filename(makeJdk("17", "other"), "bin").fullName();
+  for (const bool withAnotherJdk : {false, true}) {
+    platform::deleteFile(configFile());
+    settings().resetAll();
+    settings().javaPath.clear();
+    const ScopedEnvironment javaHome("JAVA_HOME", makeJdk("25"));
+    expectWelcome(firstUse, platform::localText(lookForJavac));
+    desktop_.expectDialog("Tarnwick settings", [&](ScriptedWindow& window) {
+      if (withAnotherJdk) window.page(1092, 0).type(1041, other);
+      window.page(1092, 2).press(1123);
+      window.press(IDOK_CONTROL);
+    });
+    runPanel([](ScriptedWindow&, ScriptedWindow& panel) { exit(panel); });
+    EXPECT_EQ(saved("JAVA_XFUTURE"), "ON");
+  }
+}
+
+TEST_F(TarnwickDlgTest, AnExistingConfigurationIsNotMadeToSuitAnotherJdk) {
+  saveEarlierRun([](Settings& earlier) { earlier.javaXfuture = true; });
+  writeFile(configFile(), contentOf(configFile()) + "SOMETHING  new\n");
+  const std::string tools = Filename(makeJdk("25"), "bin").fullName();
+  startWhereADialogNames(tools);
+  EXPECT_EQ(saved("JAVA_PATH"), tools + platform::folderSeparator);
+  EXPECT_EQ(saved("JAVA_XFUTURE"), "ON");
+  EXPECT_EQ(contentOf(configFile()).find("NEWER_JAVA"), std::string::npos);
+}
+
+TEST_F(TarnwickDlgTest, PiecesThatAKilledCompilationHasLeftAreClearedAtTheStart) {
+  saveEarlierRun();
+  const std::string left = configFolder() + "Tarnwick_split1.tmp";
+  platform::makeOwnFolder(left);
+  runPanel([&left](ScriptedWindow&, ScriptedWindow& panel) {
+    EXPECT_FALSE(platform::isTaken(left));
+    exit(panel);
+  });
 }
 
 TEST_F(TarnwickDlgTest, TheConfigurationIsSavedWhateverTheDialogsOutcome) {
@@ -170,7 +267,7 @@ TEST_F(TarnwickDlgTest, AConfigurationThatIsThereTakesAFoundJdkOnlyWithOk) {
   for (const int end : {IDCANCEL_CONTROL, IDOK_CONTROL}) {
     saveEarlierRun([](Settings& earlier) {
       earlier.javaPath.clear();
-      earlier.javaXfuture = 1;
+      earlier.javaXfuture = true;
     });
     writeFile(configFile(), contentOf(configFile()) + "SOMETHING  new\n");
     expectWelcome(firstUse, platform::localText(lookForJavac));
@@ -184,7 +281,7 @@ TEST_F(TarnwickDlgTest, AConfigurationThatIsThereTakesAFoundJdkOnlyWithOk) {
     saved->readDefaultConfiguration(status);
     EXPECT_EQ(status, 0);
     EXPECT_EQ(saved->javaPath, end == IDOK_CONTROL ? found : "");
-    EXPECT_EQ(saved->javaXfuture, 1) << "the user's own switch is left alone";
+    EXPECT_TRUE(saved->javaXfuture) << "the user's own switch is left alone";
   }
 }
 
@@ -193,7 +290,9 @@ TEST_F(TarnwickDlgTest, FromVersion13OnStrictChecksAreSwitchedOff) {
     platform::deleteFile(configFile());
     settings().resetAll();
     settings().javaPath.clear();
-    const ScopedEnvironment javaHome("JAVA_HOME", makeJdk(version));
+    const std::string home = makeJdk(version);
+    const std::string tools = Filename(home, "bin").fullName() + platform::folderSeparator;
+    const ScopedEnvironment javaHome("JAVA_HOME", home);
     expectWelcome(firstUse, platform::localText(lookForJavac));
     desktop_.expectDialog("Tarnwick settings", [expected = strict](ScriptedWindow& window) {
       EXPECT_EQ(window.page(1092, 2).checked(1123), expected == 1) << "the dialog shows it";
@@ -201,6 +300,7 @@ TEST_F(TarnwickDlgTest, FromVersion13OnStrictChecksAreSwitchedOff) {
     });
     runPanel([](ScriptedWindow&, ScriptedWindow& panel) { exit(panel); });
     EXPECT_EQ(saved("JAVA_XFUTURE"), strict ? "ON" : "OFF") << version;
+    EXPECT_EQ(saved("JAVA_PATH"), tools) << "what was found serves, though the dialog was cancelled";
   }
 }
 

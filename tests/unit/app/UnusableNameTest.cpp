@@ -35,6 +35,15 @@ TEST_F(UnusableNameTest, WhatTheMatterIsIsToldBeforeTheUserIsAskedForAnother) {
   });
 }
 
+TEST_F(UnusableNameTest, ALineEndInAFieldIsABlank) {
+  runPanel([&](ScriptedWindow&, ScriptedWindow& panel) {
+    const std::string source = quoted(userFolder() + "A\nB.java");
+    panel.type(SOURCE, source + "\r\none\ntwo");
+    exit(panel);
+  });
+  EXPECT_EQ(saved("FILEVIEW_SOURCE").substr(0, (userFolder() + "A B.java").size()), userFolder() + "A B.java");
+}
+
 TEST_F(UnusableNameTest, OfAFileThatIsSimplyNotThereNothingIsTold) {
   runPanel([&](ScriptedWindow&, ScriptedWindow& panel) {
     panel.type(SOURCE, quoted(userFolder() + "Gone.java"));

@@ -45,7 +45,7 @@ TEST_F(UsersGuideTest, WithNoConfigurationTheGuideBesideTheProgramOpensAtTheAnch
 TEST_F(UsersGuideTest, TheStoredPlaceIsTakenFromTheFileWhateverTheLiveSettingsHold) {
   writeFile(userFolder() + "elsewhere.htm", "guide");
   settings().helpFile = userFolder() + "elsewhere.htm";
-  settings().saveDefaultConfiguration(nullptr);
+  settings().saveDefaultConfiguration();
   settings().helpFile = "nowhere";
   show("");
   EXPECT_EQ(opened_, std::vector{platform::documentAddress(userFolder() + "elsewhere.htm", "")});
@@ -53,7 +53,7 @@ TEST_F(UsersGuideTest, TheStoredPlaceIsTakenFromTheFileWhateverTheLiveSettingsHo
 }
 
 TEST_F(UsersGuideTest, AGuideThatMovedIsAskedForAndRememberedWithTheAnchorKept) {
-  settings().saveDefaultConfiguration(nullptr);
+  settings().saveDefaultConfiguration();
   const std::string moved = userFolder() + "moved guide.htm";
   writeFile(moved, "guide");
   expectLost(guideBesideProgram(), [&](ScriptedWindow& dialog) {
@@ -69,12 +69,12 @@ TEST_F(UsersGuideTest, AGuideThatMovedIsAskedForAndRememberedWithTheAnchorKept) 
   EXPECT_TRUE(desktop_.lastRequest().mustExist);
   EXPECT_EQ(storedPlace(), moved);
   EXPECT_EQ(settings().helpFile, guideBesideProgram()) << "the live object is left alone";
-  settings().saveDefaultConfiguration(nullptr);
+  settings().saveDefaultConfiguration();
   EXPECT_EQ(settings().helpFile, moved) << "and learns it at the next save";
 }
 
 TEST_F(UsersGuideTest, AGuideThatWasChosenAndCannotBeReadIsAskedForAgain) {
-  settings().saveDefaultConfiguration(nullptr);
+  settings().saveDefaultConfiguration();
   const std::string gone = userFolder() + "gone.htm";
   const std::string there = userFolder() + "there.htm";
   writeFile(there, "guide");
@@ -107,7 +107,7 @@ TEST_F(UsersGuideTest, APlaceInQuotesOrWithABlankBehindItIsFound) {
 
 TEST_F(UsersGuideTest, ARepairChangesNothingElseInTheFile) {
   settings().javaPath = "saved";
-  settings().saveDefaultConfiguration(nullptr);
+  settings().saveDefaultConfiguration();
   settings().javaPath = "live";
   const std::string moved = userFolder() + "moved.htm";
   writeFile(moved, "guide");
@@ -130,7 +130,7 @@ TEST_F(UsersGuideTest, APlaceInAConfigurationWithUnknownTagsCountsToo) {
 }
 
 TEST_F(UsersGuideTest, NotOpeningItChangesNothing) {
-  settings().saveDefaultConfiguration(nullptr);
+  settings().saveDefaultConfiguration();
   const std::string before = contentOf(configFile());
   expectLost(guideBesideProgram(), [](ScriptedWindow& dialog) { dialog.press(IDCANCEL_CONTROL); });
   show("#jdb");

@@ -1,5 +1,7 @@
 // Files that are large, or in which everything goes wrong at once.
+#include "base/TagRow.h"
 #include "base/TagTable.h"
+#include "base/Tarnwickfile.h"
 #include "base/TokenString.h"
 #include "platform/FileSystem.h"
 #include "support/TestProgram.h"
@@ -58,17 +60,13 @@ class TagTableLimits : public testing::Test {
   const std::string path_ = folder_.file("x.cfg");
   std::string text_ = "old";
   int number_ = 77;
-  int verbose_ = 1;
-  int bad_ = 0;
+  bool verbose_ = true;
   Mover mover_;
   std::vector<std::string> messages_;
   TagRow rows_[6] = {
-      {"TEXT", TAG_STRING, &text_, nullptr, 0, 0, 0, 0},
-      {"NUMBER", TAG_INT, &number_, nullptr, 0, 0, 0, 0},
-      {"VERBOSE", TAG_BOOL, &verbose_, nullptr, 0, 0, 0, 0},
-      {"BAD", 17, &bad_, nullptr, 0, 0, 0, 0},
-      {"MOVE", TAG_STRINGABLE, static_cast<StringableM*>(&mover_), nullptr, 0, 0, 0, 0},
-      {"", TAG_END, nullptr, nullptr, 0, 0, 0, 0},
+      {"TEXT", &text_, nullptr, 0, 0, 0, 0},       {"NUMBER", &number_, nullptr, 0, 0, 0, 0},
+      {"VERBOSE", &verbose_, nullptr, 0, 0, 0, 0}, {"BAD", std::monostate(), nullptr, 0, 0, 0, 0},
+      {"MOVE", &mover_, nullptr, 0, 0, 0, 0},      endOfRows,
   };
   TagTable table_{rows_, "Tarnwick V4.7a", [this](const std::string& message) { messages_.push_back(message); }};
 };
@@ -171,10 +169,10 @@ TEST_F(TagTableLimits, ResettingGoesInTheOrderOfTheTable) {
   Noter second(notes, "second");
   Noter third(notes, "third");
   const TagRow rows[] = {
-      {"C", TAG_STRINGABLE, static_cast<StringableM*>(&first), "1", 0, 0, 148, 0},
-      {"B", TAG_STRINGABLE, static_cast<StringableM*>(&third), "3", 0, 0, 150, 0},
-      {"A", TAG_STRINGABLE, static_cast<StringableM*>(&second), nullptr, 0, 0, 148, 0},
-      {"", TAG_END, nullptr, nullptr, 0, 0, 0, 0},
+      {"C", &first, "1", 0, 0, 148, 0},
+      {"B", &third, "3", 0, 0, 150, 0},
+      {"A", &second, nullptr, 0, 0, 148, 0},
+      endOfRows,
   };
   TagTable(rows, "", nullptr).resetToDefaults(148);
   EXPECT_EQ(notes, (std::vector<std::string>{"first=1", "second="}));

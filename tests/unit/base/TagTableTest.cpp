@@ -1,4 +1,7 @@
+#include "base/LineEndE.h"
+#include "base/TagRow.h"
 #include "base/TagTable.h"
+#include "base/Tarnwickfile.h"
 #include "base/TokenString.h"
 #include "platform/FileSystem.h"
 #include "support/TestProgram.h"
@@ -17,27 +20,25 @@ using test::writeFile;
 
 constexpr int ownDialog = 148;
 constexpr int otherDialog = 150;
-constexpr int unknownKind = 17;
-
 /// A small owner of a table, as the settings are a large one.
 struct Owner {
   std::string text = "old";
   std::string other = "old";
   int number = 77;
-  int verbose = 1;
-  int debug = 0;
+  bool verbose = true;
+  bool debug = false;
   int byHand = 5;
   TokenString list;
   std::vector<std::string> messages;
   TagRow rows[8] = {
-      {"JAVA_PATH", TAG_STRING, &text, "default text", 0, 1, ownDialog, 1041},
-      {"EDITOR=NOTEPAD", TAG_STRING, &other, nullptr, 0, 0, ownDialog, 0},
-      {"FILEVIEW_TAB", TAG_INT, &number, nullptr, 8, 2, ownDialog, 0},
-      {"JAVA_VERBOSE", TAG_BOOL, &verbose, nullptr, 0, 0, ownDialog, 0},
-      {"JAVAC_DEBUG", TAG_BOOL, &debug, nullptr, 12, 0, otherDialog, 0},
-      {"JDOC_TAG", TAG_STRINGABLE, static_cast<StringableM*>(&list), "a;b", 0, 0, otherDialog, 0},
-      {"BY_HAND", TAG_INT, &byHand, nullptr, 9, 0, 0, 0},
-      {"", TAG_END, nullptr, nullptr, 0, 0, 0, 0},
+      {"JAVA_PATH", &text, "default text", 0, 1, ownDialog, 1041},
+      {"EDITOR=NOTEPAD", &other, nullptr, 0, 0, ownDialog, 0},
+      {"FILEVIEW_TAB", &number, nullptr, 8, 2, ownDialog, 0},
+      {"JAVA_VERBOSE", &verbose, nullptr, 0, 0, ownDialog, 0},
+      {"JAVAC_DEBUG", &debug, nullptr, 12, 0, otherDialog, 0},
+      {"JDOC_TAG", &list, "a;b", 0, 0, otherDialog, 0},
+      {"BY_HAND", &byHand, nullptr, 9, 0, 0, 0},
+      endOfRows,
   };
   TagTable table{rows, "Tarnwick V4.7a", [this](const std::string& message) { messages.push_back(message); }};
 };
@@ -92,7 +93,7 @@ TEST_F(TagTableTest, ResettingSetsTheRowsOfOneOwnerToTheirDefaults) {
   EXPECT_EQ(owner.text, "default text");
   EXPECT_EQ(owner.other, "") << "no default text is the empty one";
   EXPECT_EQ(owner.number, 8);
-  EXPECT_EQ(owner.verbose, 0);
+  EXPECT_FALSE(owner.verbose);
   EXPECT_EQ(owner.debug, 0) << "another owner's";
   EXPECT_EQ(owner.list.toString(), "x") << "another owner's";
 
@@ -134,13 +135,13 @@ TEST_F(TagTableTest, AnEmptyStringableIsWrittenAsTheTagAndTwoBlanks) {
   EXPECT_NE(written().find("\nJDOC_TAG  \n"), std::string::npos);
 }
 
-TEST_F(TagTableTest, AnySwitchButZeroIsWrittenAsOn) {
-  owner.verbose = -3;
+TEST_F(TagTableTest, ASwitchIsWrittenAsOn) {
+  owner.verbose = true;
   EXPECT_NE(written().find("\nJAVA_VERBOSE  ON\n"), std::string::npos);
 }
 
 TEST_F(TagTableTest, ARowOfAnUnknownKindIsPassedOverInWriting) {
-  owner.rows[2].kind = unknownKind;
+  owner.rows[2].variable = std::monostate();
   EXPECT_EQ(written().find("FILEVIEW_TAB"), std::string::npos);
   EXPECT_NE(written().find("\nJAVA_VERBOSE  ON\n"), std::string::npos);
 }
@@ -179,8 +180,14 @@ TEST_F(TagTableTest, AValueWithALineEndIsRefusedBeforeAnythingIsWritten) {
   owner.other = "x\n";
   EXPECT_EQ(refusal(), "The value of EDITOR=NOTEPAD holds a line end");
   owner.other = "x";
-  owner.rows[5].variable = static_cast<StringableM*>(&lines);
+  owner.rows[5].variable = &lines;
   EXPECT_EQ(refusal(), "The value of JDOC_TAG holds a line end");
+}
+
+TEST_F(TagTableTest, AZeroByteEndsItsValueAndNotTheFile) {
+  owner.text = std::string("one\0two", 7);
+  const std::string text = written();
+  EXPECT_NE(text.find("\nJAVA_PATH  one\nEDITOR=NOTEPAD  old\n"), std::string::npos) << text;
 }
 
 TEST_F(TagTableTest, WritingToAClosedFileThrows) {
@@ -205,7 +212,7 @@ TEST_F(TagTableTest, ReadsEveryKind) {
   EXPECT_EQ(owner.text, "C:\\jdk\\bin\\");
   EXPECT_EQ(owner.other, "x");
   EXPECT_EQ(owner.number, 42);
-  EXPECT_EQ(owner.verbose, 0);
+  EXPECT_FALSE(owner.verbose);
   EXPECT_EQ(owner.debug, 1);
   EXPECT_EQ(owner.list.count(), 2);
   EXPECT_EQ(owner.list.element(0), "a;b");
@@ -247,7 +254,7 @@ TEST_F(TagTableTest, ASwitchAloneOnALineYieldsNoValueAndKeepsTheVariable) {
   const int status = read("JAVA_VERBOSE\n");
   EXPECT_EQ(status, READ_NO_VALUE);
   EXPECT_EQ(status & READ_FAILURE_MASK, 0);
-  EXPECT_EQ(owner.verbose, 1);
+  EXPECT_TRUE(owner.verbose);
 }
 
 TEST_F(TagTableTest, ANumberAloneOnALineYieldsNoValueAndKeepsTheVariable) {
@@ -307,7 +314,7 @@ TEST_F(TagTableTest, TooLargeANumberWrapsAroundUnnoticed) {
 
 TEST_F(TagTableTest, ASwitchThatIsNeitherOnNorOffIsBadAndKept) {
   EXPECT_EQ(read("JAVA_VERBOSE  maybe\n"), READ_BAD_VALUE);
-  EXPECT_EQ(owner.verbose, 1);
+  EXPECT_TRUE(owner.verbose);
   EXPECT_EQ(read("JAVAC_DEBUG  maybe\n"), READ_BAD_VALUE);
   EXPECT_EQ(owner.debug, 0);
   EXPECT_EQ(read("JAVAC_DEBUG  ONE\n"), READ_BAD_VALUE);
@@ -323,7 +330,7 @@ TEST_F(TagTableTest, TagsAndSwitchesIgnoreCase) {
 TEST_F(TagTableTest, WordsBehindASwitchAreCutOff) {
   EXPECT_EQ(read("JAVAC_DEBUG  ON  trailing words\nJAVA_VERBOSE off\tx\n"), 0);
   EXPECT_EQ(owner.debug, 1);
-  EXPECT_EQ(owner.verbose, 0);
+  EXPECT_FALSE(owner.verbose);
 }
 
 TEST_F(TagTableTest, MalformedTextOfAStringableLeavesNoTraceInTheStatus) {
@@ -358,7 +365,7 @@ TEST_F(TagTableTest, TheLastLineNeedsNoLineEnd) {
 TEST_F(TagTableTest, LinesMayEndInCarriageReturnAndLineFeed) {
   EXPECT_EQ(read("REM\r\nFILEVIEW_TAB  4\r\nJAVA_VERBOSE  OFF\r\nJAVA_PATH  x\r\n"), 0);
   EXPECT_EQ(owner.number, 4);
-  EXPECT_EQ(owner.verbose, 0);
+  EXPECT_FALSE(owner.verbose);
   EXPECT_EQ(owner.text, "x");
 }
 
@@ -371,15 +378,16 @@ TEST_F(TagTableTest, WritingAndReadingBackYieldsTheSameValuesForEveryRow) {
   const Owner before = owner;
   owner.other = "changed";
   owner.text = owner.other;
-  owner.number = owner.verbose = owner.byHand = 0;
-  owner.debug = 1;
+  owner.number = owner.byHand = 0;
+  owner.verbose = false;
+  owner.debug = true;
   owner.list.fromString("");
   Tarnwickfile file = Tarnwickfile::unopened(path, FileMode::Read);
   EXPECT_EQ(owner.table.read(file), 0);
   EXPECT_EQ(owner.text, before.text);
   EXPECT_EQ(owner.other, "") << "written as the tag and one blank";
   EXPECT_EQ(owner.number, before.number);
-  EXPECT_EQ(owner.verbose, 1);
+  EXPECT_TRUE(owner.verbose);
   EXPECT_EQ(owner.debug, 0);
   EXPECT_EQ(owner.byHand, before.byHand);
   EXPECT_EQ(owner.list.toString(), "a];b;;c]]");
@@ -419,6 +427,12 @@ struct Counter : StringableM {
   int count = 0;
 };
 
+TEST_F(TagTableTest, TheLimitIsOfTheFileAndNotOfAllThatIsReadOfItForALongLine) {
+  const std::string value(40'000'000, 'x');
+  EXPECT_EQ(read("JAVA_PATH  " + value + '\n'), 0);
+  EXPECT_EQ(owner.text.size(), value.size());
+}
+
 TEST_F(TagTableTest, ALineUpTo253CharactersNeedsOnePassAndEachDoublingCostsOne) {
   const std::string intro = "JAVA_PATH  ";
   const struct {
@@ -427,7 +441,7 @@ TEST_F(TagTableTest, ALineUpTo253CharactersNeedsOnePassAndEachDoublingCostsOne) 
   } cases[] = {{253, 1}, {254, 2}, {509, 2}, {510, 3}, {1021, 3}, {1022, 4}, {4000000, 15}};
   for (const auto& one : cases) {
     Counter counter;
-    owner.rows[5].variable = static_cast<StringableM*>(&counter);
+    owner.rows[5].variable = &counter;
     EXPECT_EQ(read("JDOC_TAG  x\n" + intro + std::string(one.length - intro.size() - 1, 'x') + "\n"), 0);
     EXPECT_EQ(counter.count, one.passes) << one.length;
   }
@@ -450,7 +464,7 @@ struct Mover : StringableM {
 TEST_F(TagTableTest, AFileThatCannotBeReopenedForALongLineIsLost) {
   const ScratchFolder elsewhere;
   Mover mover(elsewhere.path());
-  owner.rows[5].variable = static_cast<StringableM*>(&mover);
+  owner.rows[5].variable = &mover;
   writeFile(path, "NO_SUCH_TAG\nFILEVIEW_TAB  4\nJDOC_TAG  x\nREM " + std::string(400, 'x') + "\n");
   ASSERT_TRUE(platform::changeDirectory(folder.path()));
   Tarnwickfile file = Tarnwickfile::unopened("x.cfg", FileMode::Read);
@@ -483,7 +497,7 @@ TEST_F(TagTableTest, ReadingStartsAtTheBeginningAndLeavesTheFileOpenAtItsEnd) {
 }
 
 TEST_F(TagTableTest, ARowOfAnUnknownKindIsToldAndEndsTheReading) {
-  owner.rows[2].kind = unknownKind;
+  owner.rows[2].variable = std::monostate();
   EXPECT_EQ(read("NO_SUCH_TAG\nJAVA_PATH  one\nfileview_tab  3\nJAVA_PATH  two\n"), READ_BAD_ROW)
       << "exactly, whatever was collected before";
   ASSERT_EQ(owner.messages.size(), 1u);
@@ -499,8 +513,7 @@ TEST_F(TagTableTest, NothingIsToldOfAFileThatIsMerelyBad) {
 
 TEST_F(TagTableTest, OneFileHoldsTheTagsOfTwoTables) {
   std::string name = "before";
-  const TagRow second[] = {{"PROJECT_NAME", TAG_STRING, &name, nullptr, 0, 0, 0, 0},
-                           {"", TAG_END, nullptr, nullptr, 0, 0, 0, 0}};
+  const TagRow second[] = {{"PROJECT_NAME", &name, nullptr, 0, 0, 0, 0}, endOfRows};
   TagTable project(second, "Tarnwick V4.7a", nullptr);
   owner.text = "x";
   name = "y";
@@ -530,6 +543,82 @@ TEST_F(TagTableTest, AFileCutAnywhereIsReadWithoutHarm) {
     const int status = read(whole.substr(0, length));
     EXPECT_EQ(status & (READ_FILE_LOST | READ_BAD_ROW), 0) << length;
   }
+}
+
+/// A table whose last rows came later.
+class LaterRowsTest : public testing::Test {
+ protected:
+  std::string written() {
+    {
+      Tarnwickfile file(path_, FileMode::Write);
+      table_.write(file);
+    }
+    std::string text = contentOf(path_);
+    std::erase(text, '\r');
+    return text;
+  }
+  void read(const std::string& content) {
+    writeFile(path_, content);
+    Tarnwickfile file = Tarnwickfile::unopened(path_, FileMode::Read);
+    EXPECT_EQ(table_.read(file), 0);
+  }
+
+  const ScratchFolder folder_;
+  const std::string path_ = folder_.file("x.cfg");
+  std::string first_;
+  std::string text_ = "by default";
+  int number_ = 7;
+  bool on_ = true;
+  TokenString list_;
+  TagRow rows_[6] = {
+      {"FIRST", &first_, "not applied", 0, 0, ownDialog, 0},   {"TEXT", &text_, "by default", 0, 0, ownDialog, 0, true},
+      {"NUMBER", &number_, nullptr, 7, 0, ownDialog, 0, true}, {"SWITCH", &on_, nullptr, 1, 0, ownDialog, 0, true},
+      {"LIST", &list_, nullptr, 0, 0, ownDialog, 0, true},     endOfRows,
+  };
+  TagTable table_{rows_, "Tarnwick V4.7a", [](const std::string&) {}};
+};
+
+const char laterHeader[] = "REM  This configuration file was written by Tarnwick V4.7a\nREM\nFIRST \n";
+
+TEST_F(LaterRowsTest, WithTheirDefaultsTheyAreNotWritten) {
+  EXPECT_EQ(written(), laterHeader);
+}
+
+TEST_F(LaterRowsTest, EachIsWrittenWhereItsValueIsAnother) {
+  text_.clear();
+  EXPECT_EQ(written(), std::string(laterHeader) + "TEXT \n");
+  number_ = 8;
+  on_ = false;
+  list_.fromString("a;b");
+  EXPECT_EQ(written(), std::string(laterHeader) + "TEXT \nNUMBER  8\nSWITCH  OFF\nLIST  a;b\n");
+}
+
+TEST_F(LaterRowsTest, AFileWithoutThemMeansTheirDefaults) {
+  first_ = "stays";
+  text_ = "x";
+  number_ = 1;
+  on_ = false;
+  list_.fromString("a;b");
+  read("REM\n");
+  EXPECT_EQ(first_, "stays") << "the others keep what they hold";
+  EXPECT_EQ(text_, "by default");
+  EXPECT_EQ(number_, 7);
+  EXPECT_TRUE(on_);
+  EXPECT_EQ(list_.toString(), "");
+}
+
+TEST_F(LaterRowsTest, WhatAFileSaysOfThemHolds) {
+  read("SWITCH OFF\nNUMBER 3\nREM" + std::string(1000, ' ') + "\nTEXT t\n");
+  EXPECT_FALSE(on_);
+  EXPECT_EQ(number_, 3);
+  EXPECT_EQ(text_, "t");
+}
+
+TEST_F(LaterRowsTest, AFileThatCantBeReadChangesNothing) {
+  text_ = "x";
+  Tarnwickfile file = Tarnwickfile::unopened(folder_.file("none.cfg"), FileMode::Read);
+  EXPECT_THROW(table_.read(file), Tarnwickfile::FileNotOpenE);
+  EXPECT_EQ(text_, "x");
 }
 
 }  // namespace

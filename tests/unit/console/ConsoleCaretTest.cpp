@@ -16,8 +16,7 @@ class ConsoleCaretTest : public testing::Test {
     document.newLine();
   }
 
-  test::RecordingDesktop desktop;
-  TarnwickDoc document{desktop, ""};
+  TarnwickDoc document{""};
   ConsoleScreen screen{document};
   ConsoleCaret& caret = screen.caret;
 };

@@ -193,7 +193,7 @@ TEST_F(ConsoleChildTest, AVerboseRunQuotesANameWithABlank) {
 TEST_F(ConsoleChildTest, OnlyVerboseBetweenBlanksCounts) {
   for (const std::string arguments : {"-verbose Main", " -verbose", " -verbose:gc Main"}) {
     test::RecordingDesktop ownDesktop;
-    TarnwickDoc text(ownDesktop, "");
+    TarnwickDoc text("");
     ConsoleScreen screen(text);
     auto script = std::make_shared<test::ChildScript>();
     ConsoleChild quiet(screen, ownDesktop,

@@ -23,8 +23,7 @@ class ConsolePaintTest : public testing::Test {
     return painter.drawn;
   }
 
-  test::RecordingDesktop desktop;
-  TarnwickDoc document{desktop, ""};
+  TarnwickDoc document{""};
   ConsoleGrid grid;
 };
 

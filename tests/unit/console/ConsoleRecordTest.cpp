@@ -15,7 +15,7 @@ TEST_F(ConsoleRecordTest, ARecordingUnderFloodHoldsEveryLine) {
   const std::string file = scratch.file("record.txt");
   openRunning();
   desktop.saveAnswers = {file};
-  ASSERT_TRUE(document.startRecording());
+  ASSERT_TRUE(files.startRecording());
   std::string expected;
   for (int line = 0; line < 5000; ++line) {
     child->out("line " + std::to_string(line) + "\n");
@@ -25,7 +25,7 @@ TEST_F(ConsoleRecordTest, ARecordingUnderFloodHoldsEveryLine) {
     const auto all = lines();
     return std::find(all.begin(), all.end(), "line 4999") != all.end();
   }));
-  document.stopRecording();
+  files.stopRecording();
   std::string content = test::contentOf(file);
   content.erase(std::remove(content.begin(), content.end(), '\r'), content.end());
   EXPECT_EQ(content, expected);
@@ -36,11 +36,11 @@ TEST_F(ConsoleRecordTest, WhatWasRecordedIsInTheFileAtTheEnd) {
   const std::string file = scratch.file("record.txt");
   openRunning();
   desktop.saveAnswers = {file};
-  ASSERT_TRUE(document.startRecording());
+  ASSERT_TRUE(files.startRecording());
   endChild();
   EXPECT_TRUE(document.recording());
   EXPECT_EQ(test::contentOf(file).substr(0, 1), "x") << "nobody stops a recording before looking at it";
-  document.stopRecording();
+  files.stopRecording();
 }
 
 }  // namespace

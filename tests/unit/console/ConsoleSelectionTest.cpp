@@ -25,8 +25,7 @@ class ConsoleSelectionTest : public testing::Test {
   }
   std::string text() { return selection.text(document); }
 
-  test::RecordingDesktop desktop;
-  TarnwickDoc document{desktop, ""};
+  TarnwickDoc document{""};
   ConsoleGrid grid;
   ConsoleSelection selection{grid};
 };

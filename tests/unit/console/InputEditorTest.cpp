@@ -30,8 +30,7 @@ class InputEditorTest : public testing::Test {
   Lines segments() { return segmentsOf(document.lastLine()); }
   int caret() const { return screen.caret.column(); }
 
-  test::RecordingDesktop desktop;
-  TarnwickDoc document{desktop, ""};
+  TarnwickDoc document{""};
   ConsoleScreen screen{document};
   Lines sent;
   InputEditor editor{screen, [this](const std::string& bytes) { sent.push_back(bytes); }};

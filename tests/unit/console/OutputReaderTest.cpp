@@ -20,8 +20,7 @@ class OutputReaderTest : public testing::Test {
     screen.grid.charHeight = 16;
   }
 
-  test::RecordingDesktop desktop;
-  TarnwickDoc document{desktop, ""};
+  TarnwickDoc document{""};
   ConsoleScreen screen{document};
   OutputReader out{screen, KIND_OUTPUT};
   OutputReader err{screen, KIND_ERROR};

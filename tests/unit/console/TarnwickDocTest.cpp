@@ -1,3 +1,4 @@
+#include "console/ConsoleFiles.h"
 #include "console/TarnwickDoc.h"
 #include "platform/FileSystem.h"
 #include "platform/Path.h"
@@ -34,7 +35,8 @@ class TarnwickDocTest : public testing::Test {
 
   test::ScratchFolder scratch;
   test::RecordingDesktop desktop;
-  TarnwickDoc document{desktop, "title of the switch"};
+  TarnwickDoc document{"title of the switch"};
+  ConsoleFiles files{document, desktop};
 };
 
 TEST_F(TarnwickDocTest, ANewDocumentHasOneEmptyLine) {
@@ -170,7 +172,7 @@ TEST_F(TarnwickDocTest, RecordingWritesCompletedLinesInFull) {
   const std::string file = scratch.file("record.txt");
   desktop.saveAnswers = {file};
   document.addText("out", KIND_OUTPUT);
-  EXPECT_TRUE(document.startRecording());
+  EXPECT_TRUE(files.startRecording());
   EXPECT_TRUE(document.recording());
   document.addText("err %s", KIND_ERROR);
   document.addText("in", KIND_INPUT);
@@ -179,7 +181,7 @@ TEST_F(TarnwickDocTest, RecordingWritesCompletedLinesInFull) {
   document.addText("\tx", KIND_OUTPUT);
   document.newLine();
   document.addText("unfinished", KIND_OUTPUT);
-  document.stopRecording();
+  files.stopRecording();
   EXPECT_FALSE(document.recording());
   document.newLine();
   EXPECT_EQ(test::contentOf(file), asText("outerr %sin\n\n        x\n"));
@@ -189,7 +191,7 @@ TEST_F(TarnwickDocTest, RecordingWritesCompletedLinesInFull) {
 TEST_F(TarnwickDocTest, ALineReachesTheRecordWhenTheNextOneIsBegun) {
   const std::string file = scratch.file("record.txt");
   desktop.saveAnswers = {file};
-  EXPECT_TRUE(document.startRecording());
+  EXPECT_TRUE(files.startRecording());
   document.addText("short", KIND_OUTPUT);
   EXPECT_EQ(test::contentOf(file), "");
   document.newLine();
@@ -200,9 +202,10 @@ TEST_F(TarnwickDocTest, ALineReachesTheRecordWhenTheNextOneIsBegun) {
 TEST_F(TarnwickDocTest, TheDocumentsEndLeavesTheUnfinishedLineUnrecorded) {
   const std::string file = scratch.file("record.txt");
   {
-    TarnwickDoc other(desktop, "");
+    TarnwickDoc other("");
+    ConsoleFiles othersFiles(other, desktop);
     desktop.saveAnswers = {file};
-    EXPECT_TRUE(other.startRecording());
+    EXPECT_TRUE(othersFiles.startRecording());
     other.addText("done", KIND_OUTPUT);
     other.addText("\n", KIND_OUTPUT);
     other.addText("unfinished", KIND_OUTPUT);
@@ -212,38 +215,39 @@ TEST_F(TarnwickDocTest, TheDocumentsEndLeavesTheUnfinishedLineUnrecorded) {
 
 TEST_F(TarnwickDocTest, TwoConsolesThatRecordToOneFileLeaveEachLineWhole) {
   const std::string file = scratch.file("record.txt");
-  TarnwickDoc other(desktop, "");
+  TarnwickDoc other("");
+  ConsoleFiles othersFiles(other, desktop);
   desktop.saveAnswers = {file, file};
-  EXPECT_TRUE(document.startRecording());
+  EXPECT_TRUE(files.startRecording());
   addLine("what is over when the other one begins");
-  EXPECT_TRUE(other.startRecording());
+  EXPECT_TRUE(othersFiles.startRecording());
   for (int line = 0; line < 3; ++line) {
     addLine("mine");
     other.addText("theirs", KIND_OUTPUT);
     other.newLine();
   }
-  other.stopRecording();
-  document.stopRecording();
+  othersFiles.stopRecording();
+  files.stopRecording();
   EXPECT_EQ(test::contentOf(file), asText("mine\ntheirs\nmine\ntheirs\nmine\ntheirs\n"));
 }
 
 TEST_F(TarnwickDocTest, ARecordOntoTheSameFileBeginsAnew) {
   const std::string file = scratch.file("record.txt");
   desktop.saveAnswers = {file, file};
-  EXPECT_TRUE(document.startRecording());
+  EXPECT_TRUE(files.startRecording());
   addLine("first");
-  EXPECT_TRUE(document.startRecording());
+  EXPECT_TRUE(files.startRecording());
   addLine("second");
-  document.stopRecording();
+  files.stopRecording();
   EXPECT_EQ(test::contentOf(file), asText("second\n"));
 }
 
 TEST_F(TarnwickDocTest, ASaveOverTheRecordEndsItAndHoldsTheDisplay) {
   const std::string file = scratch.file("record.txt");
   desktop.saveAnswers = {file, file};
-  EXPECT_TRUE(document.startRecording());
+  EXPECT_TRUE(files.startRecording());
   addLine("one");
-  document.saveDisplay();
+  files.saveDisplay();
   addLine("two");
   EXPECT_EQ(test::contentOf(file), asText("one\n\n"));
   EXPECT_EQ(desktop.messages, Lines{});
@@ -252,8 +256,8 @@ TEST_F(TarnwickDocTest, ASaveOverTheRecordEndsItAndHoldsTheDisplay) {
 TEST_F(TarnwickDocTest, TheDialogAsksForAFileToSaveWithoutFilterOrName) {
   const std::string file = scratch.file("chosen.txt");
   desktop.saveAnswers = {file, file};
-  document.startRecording();
-  document.startRecording();
+  files.startRecording();
+  files.startRecording();
   ASSERT_EQ(desktop.saveRequests.size(), 2U);
   const FileRequest& first = desktop.saveRequests[0];
   EXPECT_EQ(first.filter, "");
@@ -265,20 +269,20 @@ TEST_F(TarnwickDocTest, TheDialogAsksForAFileToSaveWithoutFilterOrName) {
 
 TEST_F(TarnwickDocTest, ACancelledDialogSaysSoAndTheRecordingHasEnded) {
   desktop.saveAnswers = {scratch.file("a.txt"), std::nullopt};
-  EXPECT_TRUE(document.startRecording());
-  EXPECT_FALSE(document.startRecording());
+  EXPECT_TRUE(files.startRecording());
+  EXPECT_FALSE(files.startRecording());
   EXPECT_FALSE(document.recording());
   EXPECT_EQ(desktop.messages, (Lines{"\nCan't open output file."}));
 }
 
 TEST_F(TarnwickDocTest, AFileThatCantBeOpenedIsReportedWithItsReason) {
   desktop.saveAnswers = {scratch.file("no folder") + platform::folderSeparator + "x.txt"};
-  EXPECT_FALSE(document.startRecording());
+  EXPECT_FALSE(files.startRecording());
   EXPECT_FALSE(document.recording());
   EXPECT_EQ(desktop.messages, (Lines{std::strerror(ENOENT) + std::string("\nCan't open output file.")}));
   desktop.messages.clear();
   desktop.saveAnswers = {scratch.file("no folder") + platform::folderSeparator + "x.txt"};
-  document.saveDisplay();
+  files.saveDisplay();
   EXPECT_EQ(desktop.messages, (Lines{std::strerror(ENOENT) + std::string("\nCan't open output file.")}));
   EXPECT_FALSE(platform::isFolder(scratch.file("no folder"))) << "a save makes no folders";
 }
@@ -289,7 +293,7 @@ TEST_F(TarnwickDocTest, SaveDisplayWritesEverythingTheUnfinishedLineToo) {
   document.addText("t\tw", KIND_OUTPUT);
   document.addText("o", KIND_INPUT);
   desktop.saveAnswers = {file};
-  document.saveDisplay();
+  files.saveDisplay();
   EXPECT_EQ(test::contentOf(file), asText("one\nt       wo\n"));
   EXPECT_FALSE(document.recording());
 }
@@ -298,9 +302,9 @@ TEST_F(TarnwickDocTest, SavingEndsARecording) {
   const std::string record = scratch.file("record.txt");
   const std::string display = scratch.file("display.txt");
   desktop.saveAnswers = {record, display};
-  EXPECT_TRUE(document.startRecording());
+  EXPECT_TRUE(files.startRecording());
   addLine("one");
-  document.saveDisplay();
+  files.saveDisplay();
   EXPECT_FALSE(document.recording());
   addLine("two");
   EXPECT_EQ(test::contentOf(record), asText("one\n"));
@@ -311,7 +315,7 @@ TEST_F(TarnwickDocTest, ACancelledSaveWritesNothing) {
   const std::string file = scratch.file("display.txt");
   test::writeFile(file, "kept");
   desktop.saveAnswers = {std::nullopt};
-  document.saveDisplay();
+  files.saveDisplay();
   EXPECT_EQ(desktop.messages, (Lines{"\nCan't open output file."}));
   EXPECT_EQ(test::contentOf(file), "kept");
 }

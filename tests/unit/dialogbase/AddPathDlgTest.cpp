@@ -76,7 +76,7 @@ TEST_F(AddPathDlgTest, AnArchiveIsQuotedIfItHoldsABlank) {
 /// A dialog with one field for a list of paths.
 class ListDlg : public ToolTipDlg {
  public:
-  explicit ListDlg(Desktop& desktop) : ToolTipDlg(desktop, 1, 0) { bindings_ = {{FIELD, &text, BIND_TEXT}}; }
+  explicit ListDlg(Desktop& desktop) : ToolTipDlg(desktop, 1, 0) { bindings_ = {{FIELD, &text}}; }
   void runModal() {
     DialogLayout layout;
     layout.title = "List";

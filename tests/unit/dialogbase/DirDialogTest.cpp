@@ -22,6 +22,16 @@ TEST(DirDialog, AFolderWithABlankIsQuoted) {
   EXPECT_EQ(browsed("\"/a b\""), "\"/a b\"");
 }
 
+TEST(DirDialog, BrowsingBeginsInTheFolderThatIsGiven) {
+  ScriptedDesktop desktop;
+  desktop.expectBrowseFolder("x");
+  EXPECT_EQ(DirDialog(desktop, "some where").browse(), "x");
+  EXPECT_EQ(desktop.lastRoot(), "some where");
+  desktop.expectBrowseFolder("x");
+  DirDialog(desktop).browse();
+  EXPECT_EQ(desktop.lastRoot(), "");
+}
+
 TEST(DirDialog, AChoiceWithoutAPathIsReported) {
   ScriptedDesktop desktop;
   desktop.expectBrowseFolder("");

@@ -1,3 +1,4 @@
+#include "base/TagRow.h"
 #include "base/TokenString.h"
 #include "dialogbase/ToolTipDlg.h"
 #include "support/ScriptedDesktop.h"
@@ -17,13 +18,13 @@ const DialogLayout sample = {7, "Sample", false,
 class Sample : public ToolTipDlg {
  public:
   explicit Sample(Desktop& desktop) : ToolTipDlg(desktop, 7, 7) {
-    bindings_ = {{10, &text, BIND_TEXT}, {11, &check, BIND_CHECK}, {12, &list, BIND_STRINGABLE}};
+    bindings_ = {{10, &text}, {11, &check}, {12, &list}};
     toolTips_ = {{10, "first"}, {11, "check it"}, {10, "second"}};
   }
   void useRows(const TagRow* rows) { tags_ = rows; }
 
   std::string text = "before";
-  int check = 1;
+  bool check = true;
   TokenString list;
 };
 
@@ -82,9 +83,7 @@ TEST_F(ToolTipDlgTest, MalformedValuesAreDropped) {
 TEST_F(ToolTipDlgTest, ARowKeepsItsValueWhereThePageHoldsAMalformedOne) {
   TokenString list("x;y", ';', ']');
   std::string behind = "before";
-  const TagRow rows[] = {{"A", TAG_STRINGABLE, &list, nullptr, 0, 7, 7, 12},
-                         {"B", TAG_STRING, &behind, nullptr, 0, 7, 7, 10},
-                         {"", TAG_END, nullptr, nullptr, 0, 0, 0, 0}};
+  const TagRow rows[] = {{"A", &list, nullptr, 0, 7, 7, 12}, {"B", &behind, nullptr, 0, 7, 7, 10}, endOfRows};
   dialog_.useRows(rows);
   ScriptedWindow window(sample, dialog_);
   dialog_.initialise(window);
@@ -149,12 +148,12 @@ TEST_F(ToolTipDlgTest, AfterItsWindowHasGoneADialogIsAsIfItNeverHadOne) {
 
 TEST_F(ToolTipDlgTest, MovesTheRowsOfItsPageAndNoOthers) {
   std::string shown = "shown", other = "other";
-  int flag = 1, number = 1;
+  bool flag = true;
+  int number = 1;
   TokenString list("x;y", ';', ']');
-  const TagRow rows[] = {
-      {"A", TAG_STRING, &shown, nullptr, 0, 7, 7, 10},    {"B", TAG_BOOL, &flag, nullptr, 0, 7, 7, 11},
-      {"C", TAG_STRINGABLE, &list, nullptr, 0, 7, 7, 12}, {"D", TAG_STRING, &other, nullptr, 0, 8, 7, 10},
-      {"E", TAG_INT, &number, nullptr, 0, 8, 7, 11},      {"", TAG_END, nullptr, nullptr, 0, 0, 0, 0}};
+  const TagRow rows[] = {{"A", &shown, nullptr, 0, 7, 7, 10},  {"B", &flag, nullptr, 0, 7, 7, 11},
+                         {"C", &list, nullptr, 0, 7, 7, 12},   {"D", &other, nullptr, 0, 8, 7, 10},
+                         {"E", &number, nullptr, 0, 8, 7, 11}, endOfRows};
   dialog_.useRows(rows);
   ScriptedWindow window(sample, dialog_);
   dialog_.initialise(window);
@@ -195,8 +194,7 @@ TEST_F(ToolTipDlgTest, WhatIsPastedWithLineEndsReachesTheValuesOnOneLine) {
 
 TEST_F(ToolTipDlgTest, LineEndsReachNoTaggedRow) {
   std::string text = "before";
-  const TagRow rows[] = {{"TEXT", TAG_STRING, &text, nullptr, 0, 7, 7, 10},
-                         {"", TAG_END, nullptr, nullptr, 0, 0, 0, 0}};
+  const TagRow rows[] = {{"TEXT", &text, nullptr, 0, 7, 7, 10}, endOfRows};
   dialog_.useRows(rows);
   ScriptedWindow window(sample, dialog_);
   dialog_.initialise(window);

@@ -1,4 +1,5 @@
 #include "JarFixture.h"
+#include "NarrowWindow.h"
 
 namespace tarnwick::test {
 namespace {
@@ -227,6 +228,39 @@ TEST_F(JarContentsTest, AFileThatLooksLikeAnOptionIsNamedByWayOfItsFolder) {
     window.press(Jar::ADD_ALL_SUBFOLDERS);
     EXPECT_EQ(window.text(Jar::SUBFOLDERS), here + "-x " + here + "@y one \"two words\"");
   });
+}
+
+TEST_F(JarContentsTest, NamesThatTheFieldDoesNotTakeAreToldAndLeaveTheList) {
+  settings().lastJarBaseFolder = "base";
+  const std::string before = platform::currentDirectory();
+  platform::makeFolders(scratch_.file("base"));
+  platform::changeDirectory(scratch_.path());
+  JarDlg dialog(settings(), session_);
+  NarrowWindow window(jarLayout(), dialog);
+  dialog.initialise(window);
+  const std::string folder = "x" + std::string(1, platform::folderSeparator);
+  desktop_.expectOpenFiles({folder + "a.class"});
+  window.press(Jar::SELECT_FILES);
+  const std::string name(20, 'y');
+  desktop_.expectOpenFiles({"elsewhere" + folder + name, "elsewhere" + folder + name});
+  desktop_.expectMessage(
+      "Can't take these files: the list would have 41 characters, which is more than its field takes.");
+  window.press(Jar::SELECT_FILES);
+  EXPECT_EQ(window.text(Jar::INDIVIDUAL_FILES), "a.class");
+  EXPECT_FALSE(window.enabled(Jar::ALL_FILES));
+
+  for (const char first : {'a', 'b'}) platform::makeFolders(scratch_.file("base") + folder.back() + first + name);
+  window.type(Jar::SUBFOLDERS, "one");
+  desktop_.expectMessage(
+      "Can't take these subfolders: the list would have 43 characters, which is more than its field takes.");
+  window.press(Jar::ADD_ALL_SUBFOLDERS);
+  EXPECT_EQ(window.text(Jar::SUBFOLDERS), "one");
+
+  expectArchiveAsked(archive(), Jar::CREATE_ARCHIVE);
+  window.press(Jar::CREATE_ARCHIVE);
+  window.press(Jar::RUN);
+  EXPECT_EQ(dialog.run().lastFilesFolder, "x") << "where the names that stayed were found";
+  platform::changeDirectory(before);
 }
 
 TEST_F(JarContentsTest, AllSubfoldersReplaceTheList) {

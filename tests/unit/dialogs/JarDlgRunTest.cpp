@@ -1,6 +1,7 @@
 #include "JarFixture.h"
 #include "base/Text.h"
 #include "platform/Process.h"
+#include "process/WinApp.h"
 
 namespace tarnwick::test {
 namespace {
@@ -107,9 +108,9 @@ class JarDlgRunTest : public JarDlgFixture {
 
 TEST_F(JarDlgRunTest, AllFieldsAreTaken) {
   session_.copyToTrash = [](const std::string&) { return false; };
-  const WinApp packer = WinApp::withCommand(desktop_, "packer %1");
+  const WinApp packer = WinApp::withCommand("packer %1");
   session_.zipApplication = &packer;
-  settings().jarOpenAsZip = 0;
+  settings().jarOpenAsZip = false;
   const JarRun plain = gather([](ScriptedWindow& window) { window.type(Jar::INDIVIDUAL_FILES, " a.class "); });
   EXPECT_EQ(plain.operation, JarOperation::Create);
   EXPECT_EQ(plain.archive, archive());
@@ -164,6 +165,30 @@ TEST_F(JarDlgRunTest, MainClassComesBeforeClassPathWhichIsWrittenAsItStands) {
   EXPECT_EQ(linesOfWord(gathered.manifest), "Main-Class: Main\nClass-Path: a.jar;\"b c.jar\"\n");
   gathered = gather([](ScriptedWindow& window) { window.type(Jar::CLASS_PATH, "a.jar"); });
   EXPECT_EQ(linesOfWord(gathered.manifest), "Class-Path: a.jar\n");
+}
+
+TEST_F(JarDlgRunTest, WithNewerJavaTheClassPathIsWrittenAsJavaReadsIt) {
+  const std::string list = "lib" + std::string(1, platform::folderSeparator) + "a.jar;\"b c.jar\";" +
+                           quoted(userFolder() + "d.jar") + ";" + quoted(userFolder());
+  const auto fill = [&list](ScriptedWindow& window) {
+    window.type(Jar::MAIN_CLASS, "Main");
+    window.type(Jar::CLASS_PATH, list);
+  };
+  for (const bool newer : {true, false}) {
+    settings().newerJava = newer ? 1 : 0;
+    const std::string expected = newer ? "lib/a.jar b%20c.jar d.jar ./" : list;
+    EXPECT_EQ(linesOfWord(gather(fill).manifest), "Main-Class: Main\nClass-Path: " + expected + "\n");
+  }
+}
+
+TEST_F(JarDlgRunTest, WithNewerJavaALongClassPathGoesOnInTheNextLine) {
+  const std::string name = std::string(50, 'x') + ".jar";
+  const auto fill = [&name](ScriptedWindow& window) { window.type(Jar::CLASS_PATH, name + ";" + name); };
+  settings().newerJava = true;
+  const std::string whole = "Class-Path: " + name + " " + name;
+  EXPECT_EQ(linesOfWord(gather(fill).manifest), whole.substr(0, 71) + "\n " + whole.substr(71) + "\n");
+  settings().newerJava = false;
+  EXPECT_EQ(linesOfWord(gather(fill).manifest), "Class-Path: " + name + ";" + name + "\n");
 }
 
 TEST_F(JarDlgRunTest, WithAManifestFileMainClassAndClassPathAreNotUsed) {
@@ -258,9 +283,9 @@ TEST_F(JarDlgRunTest, MoreThanOneCommandLineHoldsIsToldAndTheDialogStays) {
 
 TEST_F(JarDlgRunTest, AnIndexTakesNothingButTheZipBox) {
   writeFile(archive(), "x");
-  const WinApp packer = WinApp::withCommand(desktop_, "packer %1");
+  const WinApp packer = WinApp::withCommand("packer %1");
   session_.zipApplication = &packer;
-  settings().jarOpenAsZip = 0;
+  settings().jarOpenAsZip = false;
   EXPECT_EQ(run([this](ScriptedWindow& window) {
               chooseArchive(window, archive(), Jar::UPDATE_ARCHIVE);
               window.press(Jar::OPEN_AS_ZIP);

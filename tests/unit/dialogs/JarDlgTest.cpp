@@ -1,4 +1,5 @@
 #include "JarFixture.h"
+#include "process/WinApp.h"
 
 namespace tarnwick::test {
 namespace {
@@ -138,8 +139,8 @@ TEST_F(JarDlgTest, ABaseFolderThatCanNotBeEnteredIsForgotten) {
 }
 
 TEST_F(JarDlgTest, AsZipIsOfferedOnlyWhereSomethingOpensSuchArchives) {
-  const WinApp none = WinApp::withCommand(desktop_, "");
-  const WinApp packer = WinApp::withCommand(desktop_, "packer %1");
+  const WinApp none = WinApp::withCommand("");
+  const WinApp packer = WinApp::withCommand("packer %1");
   const struct {
     const WinApp* application;
     bool wanted;
@@ -184,6 +185,28 @@ TEST_F(JarDlgTest, AProjectProposesTheFolderOfItsClasses) {
       window.press(Jar::CANCEL);
     });
   }
+}
+
+TEST_F(JarDlgTest, ReadTheNewerWayAProjectProposesWhereItsPackagesBegin) {
+  const std::string root = folder() + "src";
+  platform::makeFolders(root + platform::folderSeparator + "p");
+  makeSource(std::string("src") + platform::folderSeparator + "p" + platform::folderSeparator + "A.java",
+             "package p; class A {}");
+  ProjectContext& project =
+      open("NEWER_JAVA  ON\nPROJECT_MULTIMAIN  ON\nPROJECT_SOURCES  src/p/A.java\nCLASS_WITH_MAIN  A\n");
+  project.update();
+  run([&](ScriptedWindow& window) {
+    EXPECT_EQ(window.text(Jar::BASE_FOLDER), quoted(root + platform::folderSeparator));
+    EXPECT_EQ(window.text(Jar::MAIN_CLASS), "p.A") << "as the manifest wants it";
+    window.press(Jar::CANCEL);
+  });
+  makeSource("B.java", "class B {}");
+  project.sources.add("B.java");
+  project.update();
+  run([&](ScriptedWindow& window) {
+    EXPECT_EQ(window.text(Jar::BASE_FOLDER), quoted(folder())) << "of several roots none";
+    window.press(Jar::CANCEL);
+  });
 }
 
 TEST_F(JarDlgTest, AFolderOfClassesThatIsNotThereLeavesTheSavedBaseFolder) {

@@ -1,4 +1,6 @@
 #include "JarFixture.h"
+#include "process/WinApp.h"
+#include "support/BrokenTool.h"
 #include "support/Children.h"
 #include "support/TestFolders.h"
 
@@ -12,7 +14,7 @@ class RunJarTest : public JarFixture {
     settings().lastJarBaseFolder = base();
     // An editor that can't be started tells that the log is shown.
     settings().editorTarget = scratch_.file("no editor");
-    settings().displayWithNotepad = 0;
+    settings().displayWithNotepad = false;
   }
   ~RunJarTest() override { platform::changeDirectory(before_); }
 
@@ -65,7 +67,7 @@ TEST_F(RunJarTest, TheManifestLivesAsLongAsTheRun) {
 }
 
 TEST_F(RunJarTest, PathsAndTheZipBoxAreSavedAndTheSwitchesKept) {
-  settings().jarOpenAsZip = 1;
+  settings().jarOpenAsZip = true;
   run([this](ScriptedWindow& window) {
     window.type(Jar::BASE_FOLDER, "  " + quoted(base()) + " ");
     chooseArchive(window, archive());
@@ -152,6 +154,49 @@ TEST_F(RunJarTest, AnIndexNeedsNoBaseFolder) {
   EXPECT_EQ(platform::currentDirectory(), before_);
 }
 
+TEST_F(RunJarTest, AnIndexIsSavedAndOpenedAsZipLikeAnyRun) {
+  const WinApp packer =
+      WinApp::withCommand(quoted(standInFolder() + platform::toolFileName("java")) + " --open \"%1\"");
+  session_.zipApplication = &packer;
+  session_.switches.verbose = true;
+  settings().jarOpenAsZip = true;
+  writeFile(archive(), "x");
+  run([this](ScriptedWindow& window) {
+    chooseArchive(window, archive(), Jar::UPDATE_ARCHIVE);
+    window.press(Jar::VERBOSE);
+    window.press(Jar::CREATE_INDEX);
+  });
+  const std::string expected = "-i\n" + archive() + "\n--open\n" + archive() + "\n";
+  EXPECT_TRUE(waitUntil([&] { return recorded() == expected; })) << recorded();
+  EXPECT_EQ(valueIn(configFile(), "LAST_JAR_ARCHIVE"), archive());
+  EXPECT_EQ(valueIn(configFile(), "LAST_JAR_BASEFOLDER"), base());
+  EXPECT_EQ(valueIn(configFile(), "JAR_OPEN_AS_ZIP"), "ON");
+  EXPECT_TRUE(session_.switches.verbose) << "the boxes are not looked at";
+}
+
+TEST_F(RunJarTest, ADialogWithoutAnArchiveOrAnOperationIsRefused) {
+  for (const std::string& known : {std::string(), archive()}) {
+    settings().lastJarArchive = known;
+    desktop_.expectDialog("jar", [](ScriptedWindow& window) { window.close(DIALOG_OK); });
+    desktop_.expectMessage("No valid jar archive file specification available.");
+    runJar(settings(), session_);
+    EXPECT_EQ(recorded(), "");
+    EXPECT_EQ(valueIn(configFile(), "LAST_JAR_BASEFOLDER"), "");
+    EXPECT_EQ(platform::currentDirectory(), before_);
+  }
+}
+
+TEST_F(RunJarTest, AToolsFolderThatIsGivenThenIsUsed) {
+  settings().javaPath.clear();
+  desktop_.expectDialog("Tarnwick settings", [](ScriptedWindow& window) {
+    EXPECT_EQ(window.selection(1092), 0) << "the first page";
+    window.page(1092, 0).type(1041, standInFolder());
+    window.press(IDOK_CONTROL);
+  });
+  create();
+  EXPECT_EQ(recorded(), "cf\n" + archive() + "\none\n");
+}
+
 TEST_F(RunJarTest, ABaseFolderThatHasGoneStopsAnIndex) {
   writeFile(archive(), "x");
   const std::string shortLived = scratch_.file("short lived");
@@ -170,7 +215,7 @@ TEST_F(RunJarTest, ABaseFolderThatHasGoneStopsAnIndex) {
 
 TEST_F(RunJarTest, TheArchiveIsOpenedAsZipAfterTheRun) {
   const WinApp packer =
-      WinApp::withCommand(desktop_, quoted(standInFolder() + platform::toolFileName("java")) + " --open \"%1\"");
+      WinApp::withCommand(quoted(standInFolder() + platform::toolFileName("java")) + " --open \"%1\"");
   session_.zipApplication = &packer;
   for (const bool wanted : {true, false}) {
     settings().jarOpenAsZip = wanted ? 1 : 0;
@@ -184,6 +229,25 @@ TEST_F(RunJarTest, TheArchiveIsOpenedAsZipAfterTheRun) {
     }
     EXPECT_EQ(valueIn(configFile(), "JAR_OPEN_AS_ZIP"), wanted ? "ON" : "OFF");
   }
+}
+
+TEST_F(RunJarTest, WhatCannotBeStartedIsToldTheToolBeforeTheZipProgram) {
+  const BrokenTool jar(scratch_.file("broken") + platform::folderSeparator, "jar");
+  settings().javaPath = jar.folder();
+  const WinApp packer = WinApp::withCommand(quoted(scratch_.file("no packer.exe")) + " %1");
+  session_.zipApplication = &packer;
+  settings().jarOpenAsZip = true;
+  // The messages come when the dialog has closed.
+  create([&](ScriptedWindow&) {
+    desktop_.expectMessage(jar.words());
+    std::string reason;
+    try {
+      platform::startCommandLine(scratch_.file("no packer.exe"), "x");
+    } catch (const platform::SystemError& error) {
+      reason = error.text();
+    }
+    desktop_.expectMessage("Can't start \"no packer.exe\" " + platform::commandWord(archive()) + '\n' + reason);
+  });
 }
 
 TEST_F(RunJarTest, AToolsFolderThatStaysUnknownIsTold) {
@@ -203,7 +267,7 @@ TEST_F(RunJarTest, AToolThatCantBeReadIsToldBeforeTheDialogOpens) {
 TEST_F(RunJarTest, ALogThatCannotBeMadeIsTold) {
   setScript("out x\n");
   ToolLog nowhere(scratch_.file("gone") + platform::folderSeparator);
-  SettingsContext context{desktop_, program_, nowhere};
+  SettingsContext context = settingsOnDesktop(desktop_, program_, nowhere);
   Settings other(context);
   other.javaPath = standInFolder();
   other.lastJarBaseFolder = base();

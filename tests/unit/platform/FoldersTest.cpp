@@ -1,6 +1,6 @@
 #include "platform/FileSystem.h"
 #include "platform/Folders.h"
-#include "platform/Path.h"
+#include "platform/OwnFiles.h"
 #include "support/TestProgram.h"
 
 #include <algorithm>
@@ -22,6 +22,17 @@ TEST(FoldersTest, AllFoldersAreListedAndNothingElse) {
   EXPECT_EQ(foldersIn(""), Names{});
 }
 
+TEST(FoldersTest, EverythingIsListedButTheDots) {
+  const test::ScratchFolder scratch;
+  for (const char* name : {"two words", ".hidden", "..x"}) makeFolders(scratch.file(name));
+  for (const char* name : {"file", ".dot"}) test::writeFile(scratch.file(name), "");
+  Names found = namesIn(scratch.path());
+  std::sort(found.begin(), found.end());
+  EXPECT_EQ(found, (Names{"..x", ".dot", ".hidden", "file", "two words"}));
+  for (const std::string& none : {scratch.file("none"), scratch.file("file"), std::string()})
+    EXPECT_EQ(namesIn(none), Names{}) << none;
+}
+
 TEST(FoldersTest, AskingWhetherAFolderCanBeEnteredEntersNone) {
   const test::ScratchFolder scratch;
   test::writeFile(scratch.file("file"), "");
@@ -31,17 +42,6 @@ TEST(FoldersTest, AskingWhetherAFolderCanBeEnteredEntersNone) {
   EXPECT_FALSE(canEnter(scratch.file("none")));
   EXPECT_FALSE(canEnter(""));
   EXPECT_EQ(currentDirectory(), before);
-}
-
-TEST(FoldersTest, AWordOfAListIsNoOptionAndIsQuotedForAnyBlank) {
-  const std::string here = std::string(".") + folderSeparator;
-  EXPECT_EQ(plainNameWord("a.class"), "a.class");
-  EXPECT_EQ(plainNameWord("a b"), "\"a b\"");
-  EXPECT_EQ(plainNameWord(" a"), "\" a\"");
-  EXPECT_EQ(plainNameWord("-C"), here + "-C");
-  EXPECT_EQ(plainNameWord("@list"), here + "@list");
-  EXPECT_EQ(plainNameWord("@my list"), '"' + here + "@my list\"");
-  EXPECT_EQ(plainNameWord("a-b@c"), "a-b@c");
 }
 
 TEST(FoldersTest, ACommandLineOfSomeThousandCharactersIsNeverTooLong) {

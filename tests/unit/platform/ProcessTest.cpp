@@ -73,6 +73,27 @@ TEST(SystemErrorTest, TextIsTheLabelTheNumberAndTheSystemsSentence) {
   EXPECT_EQ((SystemError{"CreatePipe()", 5, "Access is denied."}).text(), "CreatePipe() error 5\nAccess is denied.");
 }
 
+TEST(ChildProcessTest, TellsTheCodeThatItHasEndedWith) {
+  for (const int code : {0, 3, 200}) {
+    const StandInScript script("exit " + std::to_string(code));
+    const auto child = startInteractive();
+    child->wait();
+    EXPECT_EQ(child->exitCode(), code);
+    EXPECT_EQ(child->causeOfDeath(), "");
+  }
+}
+
+TEST(ChildProcessTest, ComesToTheEndOfItsInputBehindWhatWasWritten) {
+  const StandInScript script("readline\nreadline\nreadline");
+  const auto child = startInteractive();
+  ASSERT_EQ(child->write("one\ntwo\n", 8), 8);
+  child->closeInput();
+  const std::string said = readAll(*child, Stream::Output);
+  EXPECT_NE(said.find("got: one"), std::string::npos) << said;
+  EXPECT_NE(said.find("got: two"), std::string::npos) << said;
+  EXPECT_NE(said.find("end of input"), std::string::npos) << said;
+}
+
 TEST(ChildProcessTest, GetsExactlyTheArgumentsOfTheText) {
   const StandInScript script("");
   for (const char* text : {" -cp \"a b;c\" \"\" Main \\\"x\\\" *.java $HOME 'q q'",

@@ -1,8 +1,10 @@
 #include "platform/FileSystem.h"
 #include "platform/Path.h"
 #include "process/EditorLaunch.h"
+#include "settings/EditorChoice.h"
 #include "support/Children.h"
 #include "support/ScriptedDesktop.h"
+#include "support/Shown.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -119,15 +121,15 @@ EditorSource fixedChoice(const EditorChoice& choice, bool asked = false) {
 
 TEST(OpenEditorChoiceTest, WithoutAnEditorTheUserIsAskedAndMayDecline) {
   test::ScriptedDesktop desktop;
-  EXPECT_FALSE(openEditor(desktop, fixedChoice({}), "x.java"));
+  EXPECT_FALSE(test::shown(desktop, openEditor(fixedChoice({}), "x.java")));
 }
 
 TEST(OpenEditorChoiceTest, AskedWithoutAnAnswerIsTold) {
   test::ScriptedDesktop desktop;
   desktop.expectMessage("No editor definition available from settings.");
-  EXPECT_FALSE(openEditor(desktop, fixedChoice({}, true), "x.java"));
+  EXPECT_FALSE(test::shown(desktop, openEditor(fixedChoice({}, true), "x.java")));
   desktop.expectMessage("No editor definition available from settings.");
-  EXPECT_FALSE(openEditor(desktop, fixedChoice({false, true, "\"\""}), "x.java")) << "nothing but quotes";
+  EXPECT_FALSE(test::shown(desktop, openEditor(fixedChoice({false, true, "\"\""}), "x.java"))) << "nothing but quotes";
 }
 
 TEST_F(OpenEditorTest, WhatTheUserAnswersIsStarted) {
@@ -139,7 +141,7 @@ TEST_F(OpenEditorTest, WhatTheUserAnswersIsStarted) {
     choice.target = editor;
     return true;
   };
-  EXPECT_TRUE(openEditor(desktop, {[&] { return choice; }, ask}, file));
+  EXPECT_TRUE(test::shown(desktop, openEditor({[&] { return choice; }, ask}, file)));
   EXPECT_TRUE(recordIs(file + '\n'));
 }
 
@@ -162,6 +164,32 @@ TEST_F(OpenEditorTest, AFileThatLooksLikeAnOptionIsNone) {
     EXPECT_EQ(edit("0", file, editor), "1 " + before + '\n');
     EXPECT_TRUE(recordIs(here + file + '\n')) << file;
   }
+}
+
+TEST_F(OpenEditorTest, AKnownEditorGetsTheLineInItsOwnForm) {
+  const std::string editor = makeProgram(programName("geany"));
+  const std::string file = script_.folder().file("my A.java");
+  EXPECT_EQ(probe("edit 0 " + word(file) + ' ' + word(editor) + " 12 5"), doneIn(script_.folder().path()));
+  EXPECT_TRUE(recordIs("-l\n12\n--column\n5\n" + file + '\n'));
+}
+
+TEST_F(OpenEditorTest, TheUsersPatternTellsAnUnknownEditorTheLine) {
+  const std::string editor = makeProgram(programName("my editor"));
+  const std::string file = script_.folder().file("my A.java");
+  const std::string open = "edit 0 " + word(file) + ' ' + word(editor) + " 12 5";
+  EXPECT_EQ(probe(open), doneIn(script_.folder().path()));
+  EXPECT_TRUE(recordIs(file + '\n')) << "without a pattern the file alone";
+  platform::deleteFile(script_.folder().file("record"));
+  EXPECT_EQ(probe(open + ' ' + word("--at %l,%c \"go to %l\" %f")), doneIn(script_.folder().path()));
+  EXPECT_TRUE(recordIs("--at\n12,5\ngo to 12\n" + file + '\n'));
+}
+
+TEST_F(OpenEditorTest, ThePatternIsNoneForNotepad) {
+  makeProgram(programName(platform::folderSeparator == '/' ? "gedit" : "Notepad"));
+  const std::string file = script_.folder().file("A.java");
+  EXPECT_EQ(probe("edit 1 " + word(file) + " \"never tried\" 12 5 " + word("--at %l %f")),
+            doneIn(script_.folder().path()));
+  EXPECT_TRUE(recordIs((platform::folderSeparator == '/' ? "+12:5\n" : "") + file + '\n'));
 }
 
 TEST_F(OpenEditorTest, NotepadIsUsedOnlyWhereItsOwnSettingSaysSo) {

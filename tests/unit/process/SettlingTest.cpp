@@ -1,10 +1,14 @@
 // The end of a tool's run: how long its last words are waited for, and what goes wrong on the way. The tool is
 // scripted, and the waits are counted, not timed.
 #include "base/NoThreadE.h"
+#include "base/Tarnwickfile.h"
+#include "process/LoggedRun.h"
 #include "process/Subprocess.h"
+#include "process/ToolLog.h"
 #include "support/Children.h"
 #include "support/FakeChild.h"
 #include "support/ScriptedDesktop.h"
+#include "support/Shown.h"
 
 #include <algorithm>
 #include <chrono>
@@ -25,10 +29,10 @@ class BusyDesktop : public test::ScriptedDesktop {
  public:
   std::function<void()> giveUp;
   bool hasThread = true;
-  void whileBusy(const std::function<void()>& work, const std::function<void()>& ifGivenUp) override {
+  void whileBusy(const BusyWork& busy) override {
     if (!hasThread) throw NoThreadE();
-    giveUp = ifGivenUp;
-    work();
+    giveUp = busy.giveUp;
+    busy.work();
   }
 };
 
@@ -47,7 +51,7 @@ class SettlingTest : public testing::Test {
   bool run() {
     Subprocess tool(desktop_, log_, "javac", means_);
     tool.addArg("javac");
-    return tool.run(nullptr, FileMode::Write);
+    return test::shown(desktop_, tool.run(nullptr, FileMode::Write));
   }
 
   std::string logText() const {
@@ -150,6 +154,7 @@ TEST_F(SettlingTest, AnEndRequestEndsIt) {
   EXPECT_TRUE(run());
   EXPECT_EQ(waits_, 1);
   EXPECT_EQ(logText(), "\n\njavac\n\ntick\n");
+  EXPECT_EQ(child_->treesEnded(), 1) << "and the tool with all that it has started";
 }
 
 TEST_F(SettlingTest, AfterEveryRunTheLogIsClosed) {
@@ -185,6 +190,22 @@ TEST_F(SettlingTest, WithoutAThreadForTheWorkTheToolIsEnded) {
   EXPECT_THROW(run(), NoThreadE);
   EXPECT_EQ(child_->treesEnded(), 1);
   EXPECT_TRUE(logIsClosed());
+}
+
+TEST_F(SettlingTest, WhatWentWrongBeforeIsToldWithTheLackOfAThread) {
+  desktop_.hasThread = false;
+  child_->end(false);
+  means_.start = [this](const platform::ChildCommand& command) {
+    command.report({"AllocConsole()", 5, "denied"});
+    return std::make_unique<test::FakeChild>(child_);
+  };
+  const std::string before = platform::SystemError{"AllocConsole()", 5, "denied"}.text();
+  try {
+    static_cast<void>(run());
+    ADD_FAILURE() << "the tool ran";
+  } catch (const NoThreadE& fault) {
+    EXPECT_EQ(fault.message, before + "\n\n" + NoThreadE().message);
+  }
 }
 
 TEST_F(SettlingTest, ALackOfMemoryIsToldAndTheToolStillCountsAsHavingSpoken) {

@@ -1,8 +1,12 @@
+#include "base/FileForSubprocess.h"
+#include "base/Tarnwickfile.h"
 #include "platform/FileSystem.h"
 #include "platform/Path.h"
 #include "process/Subprocess.h"
+#include "process/ToolLog.h"
 #include "support/Children.h"
 #include "support/ScriptedDesktop.h"
+#include "support/Shown.h"
 
 #include <algorithm>
 #include <chrono>
@@ -34,7 +38,7 @@ class SubprocessTest : public testing::Test {
     Subprocess tool(desktop_, log_, javac());
     tool.addArg("javac");
     tool.addArg("-d ", "out");
-    return tool.run(nullptr, mode);
+    return test::shown(desktop_, tool.run(nullptr, mode));
   }
 
   static void fill(Subprocess& tool, int count) {
@@ -155,7 +159,7 @@ TEST_F(SubprocessTest, EmptyArgumentsAddNoTextButTakeAPlace) {
   Subprocess tool(desktop_, log_, javac());
   for (const char* text : {"javac", "", "-g", "", "X.java"}) tool.addArg(text);
   EXPECT_EQ(tool.arguments().size(), 5U);
-  EXPECT_TRUE(tool.run(nullptr, FileMode::Write));
+  EXPECT_TRUE(test::shown(desktop_, tool.run(nullptr, FileMode::Write)));
   EXPECT_EQ(logText(), "\n\njavac -g X.java\n\nx\n");
   EXPECT_EQ(script_.record(), "-g\nX.java\n");
 }
@@ -165,7 +169,7 @@ TEST_F(SubprocessTest, TheFirstWordOfTheCommandIsNotHandedOver) {
   Subprocess tool(desktop_, log_, javac());
   tool.addArg("");
   tool.addArg("first second");
-  EXPECT_TRUE(tool.run(nullptr, FileMode::Write));
+  EXPECT_TRUE(test::shown(desktop_, tool.run(nullptr, FileMode::Write)));
   EXPECT_EQ(logText(), "\n\nfirst second\n\nx\n") << "trimmed on the left";
   EXPECT_EQ(script_.record(), "second\n");
 }
@@ -174,7 +178,7 @@ TEST_F(SubprocessTest, QuotedArgumentsReachTheToolAsOne) {
   Subprocess tool(desktop_, log_, javac());
   tool.addArg("javac");
   tool.addArg("-classpath ", "\"my classes;b\"");
-  EXPECT_FALSE(tool.run(nullptr, FileMode::Write));
+  EXPECT_FALSE(test::shown(desktop_, tool.run(nullptr, FileMode::Write)));
   EXPECT_EQ(script_.record(), "-classpath\nmy classes;b\n");
 }
 
@@ -189,7 +193,7 @@ TEST_F(SubprocessTest, NamesThatAShellWouldTouchReachTheToolAsTheyAre) {
     tool.addArg("javac");
     FileForSubprocess file(folder, "x.java");
     file.args() = {platform::commandWord(folder + "x.java"), platform::commandWord(name)};
-    EXPECT_TRUE(tool.run(&file, FileMode::Write));
+    EXPECT_TRUE(test::shown(desktop_, tool.run(&file, FileMode::Write)));
     EXPECT_EQ(script_.record(), folder + "x.java\n" + name + '\n');
     EXPECT_TRUE(logText().ends_with("\n\n" + folder.substr(0, folder.size() - 1) + '\n')) << logText();
     platform::changeDirectory(before_);
@@ -199,7 +203,7 @@ TEST_F(SubprocessTest, NamesThatAShellWouldTouchReachTheToolAsTheyAre) {
 TEST_F(SubprocessTest, TwoHundredFiftyFiveArgumentsRun) {
   Subprocess tool(desktop_, log_, javac());
   fill(tool, 255);
-  EXPECT_FALSE(tool.run(nullptr, FileMode::Write));
+  EXPECT_FALSE(test::shown(desktop_, tool.run(nullptr, FileMode::Write)));
   EXPECT_EQ(recordedArguments(), 254U);
 }
 
@@ -209,11 +213,11 @@ TEST_F(SubprocessTest, TwoHundredFiftySixOwnArgumentsAreRefused) {
   FileForSubprocess file("x.java");
   file.args() = {"a"};
   desktop_.expectMessage("Subprocess argument list too long (1).");
-  EXPECT_FALSE(tool.run(&file, FileMode::Write));
+  EXPECT_FALSE(test::shown(desktop_, tool.run(&file, FileMode::Write)));
   DetachedSubprocess detached(desktop_, log_, javac());
   fill(detached, 300);
   desktop_.expectMessage("Subprocess argument list too long (1).");
-  EXPECT_FALSE(detached.run(nullptr, FileMode::Write));
+  EXPECT_FALSE(test::shown(desktop_, detached.run(nullptr, FileMode::Write)));
   EXPECT_FALSE(script_.hasRecord()) << "nothing was started";
   EXPECT_EQ(log_.path(), "");
 }
@@ -224,15 +228,15 @@ TEST_F(SubprocessTest, OwnAndTheFilesArgumentsTogetherAreRefusedAtTheSameCount) 
   FileForSubprocess file("x.java");
   file.args().assign(56, "f");
   desktop_.expectMessage("Subprocess argument list too long (2).");
-  EXPECT_FALSE(tool.run(&file, FileMode::Write));
+  EXPECT_FALSE(test::shown(desktop_, tool.run(&file, FileMode::Write)));
   DetachedSubprocess detached(desktop_, log_, javac());
   fill(detached, 200);
   desktop_.expectMessage("Subprocess argument list too long (2).");
-  EXPECT_FALSE(detached.run(&file, FileMode::Write));
+  EXPECT_FALSE(test::shown(desktop_, detached.run(&file, FileMode::Write)));
   EXPECT_FALSE(script_.hasRecord());
 
   file.args().pop_back();
-  EXPECT_FALSE(tool.run(&file, FileMode::Write));
+  EXPECT_FALSE(test::shown(desktop_, tool.run(&file, FileMode::Write)));
   EXPECT_EQ(recordedArguments(), 254U);
 }
 
@@ -243,7 +247,7 @@ TEST_F(SubprocessTest, TheFilesArgumentsFollowTheToolsOwn) {
   tool.addArg("-g");
   FileForSubprocess file("x.java");
   file.args() = {"a \"b c\""};
-  EXPECT_TRUE(tool.run(&file, FileMode::Write));
+  EXPECT_TRUE(test::shown(desktop_, tool.run(&file, FileMode::Write)));
   EXPECT_EQ(logText(), "\n\njavac -g a \"b c\"\n\nx\n");
   EXPECT_EQ(script_.record(), "-g\na\nb c\n");
 }
@@ -254,7 +258,7 @@ TEST_F(SubprocessTest, TheToolRunsInTheFilesFolderAndWeStayThere) {
   Subprocess tool(desktop_, log_, javac());
   tool.addArg("javac");
   FileForSubprocess file(work.file("x.java"));
-  EXPECT_TRUE(tool.run(&file, FileMode::Write));
+  EXPECT_TRUE(test::shown(desktop_, tool.run(&file, FileMode::Write)));
   const std::string folder = work.path().substr(0, work.path().size() - 1);
   EXPECT_EQ(logText(), "\n\njavac\n\n" + folder + '\n');
   EXPECT_EQ(platform::currentDirectory(), folder);
@@ -264,7 +268,7 @@ TEST_F(SubprocessTest, AFileWithoutAFolderLeavesTheCurrentOne) {
   Subprocess tool(desktop_, log_, javac());
   tool.addArg("javac");
   FileForSubprocess file("x.java");
-  EXPECT_FALSE(tool.run(&file, FileMode::Write));
+  EXPECT_FALSE(test::shown(desktop_, tool.run(&file, FileMode::Write)));
   EXPECT_EQ(platform::currentDirectory(), before_);
 }
 
@@ -275,7 +279,7 @@ TEST_F(SubprocessTest, AFolderThatCannotBeEnteredEndsTheRun) {
   for (Subprocess* each : {&tool, static_cast<Subprocess*>(&detached)}) {
     each->addArg("javac");
     desktop_.expectMessage("Subprocess::run(): _chdir error");
-    EXPECT_FALSE(each->run(&file, FileMode::Write));
+    EXPECT_FALSE(test::shown(desktop_, each->run(&file, FileMode::Write)));
   }
   EXPECT_FALSE(script_.hasRecord());
   EXPECT_EQ(platform::currentDirectory(), before_);
@@ -293,7 +297,7 @@ TEST_F(SubprocessTest, AToolThatCannotBeStartedIsTold) {
   Subprocess tool(desktop_, log_, missing);
   tool.addArg("javac");
   desktop_.expectMessage("Can't start " + missing + '\n' + text);
-  EXPECT_FALSE(tool.run(nullptr, FileMode::Write));
+  EXPECT_FALSE(test::shown(desktop_, tool.run(nullptr, FileMode::Write)));
   EXPECT_EQ(log_.path(), "") << "a log is made with the first run that starts";
 }
 
@@ -306,7 +310,7 @@ TEST_F(SubprocessTest, AFailedStartKeepsAnEarlierLog) {
   } catch (const platform::SystemError& error) {
     desktop_.expectMessage("Can't start " + script_.folder().path() + '\n' + error.text());
   }
-  EXPECT_FALSE(tool.run(nullptr, FileMode::Write));
+  EXPECT_FALSE(test::shown(desktop_, tool.run(nullptr, FileMode::Write)));
   EXPECT_EQ(logText(), "\n\njavac -d out\n\nfirst\n");
 }
 
@@ -323,7 +327,7 @@ TEST_F(SubprocessTest, ALogThatCannotBeMadeIsToldAndTheToolRunsToItsEnd) {
   }
   ASSERT_NE(expected, "");
   try {
-    tool.run(nullptr, FileMode::Write);
+    test::shown(desktop_, tool.run(nullptr, FileMode::Write));
     FAIL() << "whether the tool wrote anything is told though it is not known";
   } catch (const Tarnwickfile::FileNotOpenE& e) {
     EXPECT_EQ(e.message, expected);
@@ -344,9 +348,9 @@ TEST_F(SubprocessTest, AnObjectMayRunAgain) {
   script_.setScript("out x");
   Subprocess tool(desktop_, log_, javac());
   tool.addArg("javac");
-  EXPECT_TRUE(tool.run(nullptr, FileMode::Write));
+  EXPECT_TRUE(test::shown(desktop_, tool.run(nullptr, FileMode::Write)));
   script_.setScript("");
-  EXPECT_FALSE(tool.run(nullptr, FileMode::Write)) << "the result is the last run's";
+  EXPECT_FALSE(test::shown(desktop_, tool.run(nullptr, FileMode::Write))) << "the result is the last run's";
 }
 
 TEST_F(SubprocessTest, ADetachedToolIsNotWaitedForAndNeverHasOutput) {
@@ -357,7 +361,7 @@ TEST_F(SubprocessTest, ADetachedToolIsNotWaitedForAndNeverHasOutput) {
   for (const char* text : {"javac", "", "-g", "-cp a;b"}) tool.addArg(text);
   FileForSubprocess file(work.file("x.java"));
   file.args() = {"last"};
-  EXPECT_FALSE(tool.run(&file, FileMode::Write));
+  EXPECT_FALSE(test::shown(desktop_, tool.run(&file, FileMode::Write)));
   EXPECT_FALSE(platform::isFile(script_.folder().file("record.kept"))) << "it has not been let go on";
   // Where the arguments become one command line, the blank within one splits it.
   const std::string expected = platform::folderSeparator == '/' ? "-g\n-cp a;b\nlast\n" : "-g\n-cp\na;b\nlast\n";
@@ -374,7 +378,7 @@ TEST_F(SubprocessTest, ADetachedToolTakesAsManyArguments) {
   fill(tool, 200);
   FileForSubprocess file("x.java");
   file.args().assign(55, "f");
-  EXPECT_FALSE(tool.run(&file, FileMode::Write));
+  EXPECT_FALSE(test::shown(desktop_, tool.run(&file, FileMode::Write)));
   EXPECT_TRUE(test::waitUntil([&] { return script_.hasRecord() && recordedArguments() == 254; }));
 }
 
@@ -383,7 +387,7 @@ TEST_F(SubprocessTest, ADetachedToolThatCannotBeStartedIsTold) {
   DetachedSubprocess tool(desktop_, log_, missing);
   tool.addArg("nothing");
   desktop_.expectMessage("Unable to start " + missing + ".\n\nNo such file or directory  (2)");
-  EXPECT_FALSE(tool.run(nullptr, FileMode::Write));
+  EXPECT_FALSE(test::shown(desktop_, tool.run(nullptr, FileMode::Write)));
 }
 
 TEST(ToolLogTest, IsMadeWithTheFirstOpenAndGoesWithTheProcess) {

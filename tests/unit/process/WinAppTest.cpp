@@ -4,6 +4,7 @@
 #include "process/WinApp.h"
 #include "support/Children.h"
 #include "support/ScriptedDesktop.h"
+#include "support/Shown.h"
 
 #include <gtest/gtest.h>
 
@@ -18,7 +19,7 @@ class WinAppTest : public testing::Test {
   static std::string quotedJava() { return '"' + java() + '"'; }
 
   int run(const std::string& command, const char* file, const char* extra = nullptr, int checkOnly = 0) {
-    return WinApp::withCommand(desktop_, command).runApp(file, extra, checkOnly);
+    return test::shown(desktop_, WinApp::withCommand(command).runApp(file, extra, checkOnly)) ? 1 : 0;
   }
 
   /// Runs with the arguments behind our stand-in's name and waits for what it was given.
@@ -113,9 +114,9 @@ TEST_F(WinAppTest, AProgramThatCannotBeStartedIsTold) {
 }
 
 TEST_F(WinAppTest, AnUnknownExtensionHasNoCommand) {
-  WinApp app(desktop_, ".tarnwick-no-such-extension");
+  const WinApp app(".tarnwick-no-such-extension");
   EXPECT_EQ(app.commandText(), "");
-  EXPECT_EQ(app.runApp("x", nullptr, 0), 0);
+  EXPECT_FALSE(test::shown(desktop_, app.runApp("x", nullptr, 0)));
 }
 
 }  // namespace

@@ -40,6 +40,52 @@ TEST_F(ProjMainClassDlgTest, ListsThePlainNameOfEveryClassSorted) {
   EXPECT_FALSE(mainClassLayout().content.children.front().multiple);
 }
 
+TEST_F(ProjMainClassDlgTest, TheNewerWayGivesFullNames) {
+  ProjectContext& project = openTwo();
+  settings().newerJava = true;
+  run(&project, [](ScriptedWindow& window) {
+    EXPECT_EQ(window.entries(CLASS_LIST), (std::vector<std::string>{"Main", "pkg.apple", "pkg.Zed"}));
+    window.choose(CLASS_LIST, 2);
+    window.press(IDOK_CONTROL);
+  });
+  EXPECT_EQ(project.mainClass, "pkg.Zed");
+}
+
+/// Classes of one name in sources of different roots.
+TEST_F(ProjMainClassDlgTest, TheNewerWayTellsClassesOfOneNameApartByTheirSources) {
+  for (const char* root : {"one", "two"}) {
+    const std::string slash(1, platform::folderSeparator);
+    platform::makeFolders(folder() + root + slash + "p");
+    makeSource(root + slash + "p" + slash + "Main.java", "package p; class Main {} class " + std::string(root) + "{}");
+  }
+  ProjectContext& project = open(
+      "NEWER_JAVA  ON\nPROJECT_SOURCES  one/p/Main.java;two/p/Main.java\nPROJECT_MULTIMAIN  ON\nCLASS_WITH_MAIN  x\n");
+  const auto choose = [&project, this](int line) {
+    run(&project, [line](ScriptedWindow& window) {
+      EXPECT_EQ(window.entries(CLASS_LIST),
+                (std::vector<std::string>{"p.Main (one/p/Main.java)", "p.Main (two/p/Main.java)", "p.one", "p.two"}));
+      window.choose(CLASS_LIST, line);
+      window.press(IDOK_CONTROL);
+    });
+    return project.mainClass + '|' + project.mainSource;
+  };
+  EXPECT_EQ(choose(0), "p.Main|one/p/Main.java");
+  EXPECT_EQ(choose(1), "p.Main|two/p/Main.java");
+  EXPECT_EQ(choose(2), "p.one|") << "the name alone tells it";
+}
+
+TEST_F(ProjMainClassDlgTest, TheClassicWayTellsNoneApart) {
+  makeSource("A.java", "package a; class Main {}");
+  makeSource("B.java", "package b; class Main {}");
+  ProjectContext& project = open("PROJECT_SOURCES  A.java;B.java\nPROJECT_MULTIMAIN  ON\nCLASS_WITH_MAIN  x\n");
+  run(&project, [](ScriptedWindow& window) {
+    EXPECT_EQ(window.entries(CLASS_LIST), (std::vector<std::string>{"Main", "Main"}));
+    window.choose(CLASS_LIST, 1);
+    window.press(IDOK_CONTROL);
+  });
+  EXPECT_EQ(project.mainClass + '|' + project.mainSource, "Main|");
+}
+
 TEST_F(ProjMainClassDlgTest, OkTakesTheSelectedName) {
   ProjectContext& project = openTwo();
   const int result = run(&project, [](ScriptedWindow& window) {

@@ -1,4 +1,6 @@
 #include "ProjectFixture.h"
+#include "base/TagRow.h"
+#include "dialogbase/ToolTipDlg.h"
 #include "support/KilledSplit.h"
 
 namespace tarnwick::test {
@@ -9,26 +11,28 @@ class ProjectContextTest : public ProjectFixture {};
 const char header[] = "REM  This configuration file was written by Tarnwick V4.7a\nREM\n";
 
 TEST_F(ProjectContextTest, TheRowsOfItsTable) {
-  const ProjectContext project(settings(), projectFile(), true);
+  const auto opened = openedProject(settings(), projectFile(), true);
+  ProjectContext& project = *opened;
   const struct {
     const char* tag;
-    int kind;
-    const void* variable;
-  } expected[] = {{"PROJECT_SOURCES", TAG_STRINGABLE, static_cast<const StringableM*>(&project.sources)},
-                  {"PROJECT_HTMLFILE", TAG_STRING, &project.htmlFile},
-                  {"CLASS_WITH_MAIN", TAG_STRING, &project.mainClass},
-                  {"PROJECT_MULTIMAIN", TAG_BOOL, &project.multiMain},
-                  {"", TAG_END, nullptr}};
+    TagVariable variable;
+    bool isLater = false;
+  } expected[] = {{"PROJECT_SOURCES", &project.sources},
+                  {"PROJECT_HTMLFILE", &project.htmlFile},
+                  {"CLASS_WITH_MAIN", &project.mainClass},
+                  {"PROJECT_MULTIMAIN", &project.multiMain},
+                  {"CLASS_WITH_MAIN_SOURCE", &project.mainSource, true},
+                  {"", std::monostate()}};
   const TagRow* row = project.rows();
   for (const auto& wanted : expected) {
     EXPECT_STREQ(row->tag, wanted.tag);
-    EXPECT_EQ(row->kind, wanted.kind) << wanted.tag;
-    EXPECT_EQ(row->variable, wanted.variable) << wanted.tag;
+    EXPECT_TRUE(row->variable == wanted.variable) << wanted.tag;
     EXPECT_EQ(row->defaultText, nullptr) << wanted.tag;
     EXPECT_EQ(row->defaultNumber, 0) << wanted.tag;
     EXPECT_EQ(row->page, 0) << wanted.tag;
     EXPECT_EQ(row->owner, 0) << wanted.tag;
     EXPECT_EQ(row->control, 0) << wanted.tag;
+    EXPECT_EQ(row->isLater, wanted.isLater) << wanted.tag;
     ++row;
   }
 }
@@ -44,37 +48,53 @@ TEST_F(ProjectContextTest, ASourceThatAKilledSplitHasSetAsideIsThereAgain) {
 
 TEST_F(ProjectContextTest, ANewOneIsEmptyAndItsFileIsLeftToItsSave) {
   writeFile(projectFile(), "PROJECT_HTMLFILE  old.html\nPROJECT_MULTIMAIN  ON\n");
-  const ProjectContext project(settings(), projectFile(), true);
+  const auto opened = openedProject(settings(), projectFile(), true);
+  const ProjectContext& project = *opened;
   EXPECT_EQ(project.mainClass, "");
   EXPECT_EQ(project.htmlFile, "");
-  EXPECT_EQ(project.multiMain, 0);
+  EXPECT_FALSE(project.multiMain);
   EXPECT_FALSE(project.upToDate());
   EXPECT_TRUE(project.sources.empty());
   EXPECT_FALSE(project.file.isOpen());
   EXPECT_EQ(contentOf(projectFile()), "PROJECT_HTMLFILE  old.html\nPROJECT_MULTIMAIN  ON\n")
       << "the caller saves it; until then nothing of the one before is lost";
   platform::deleteFile(projectFile());
-  const ProjectContext fresh(settings(), projectFile(), true);
+  openedProject(settings(), projectFile(), true);
   EXPECT_EQ(contentOf(projectFile()), "") << "the file is made at once";
+}
+
+TEST_F(ProjectContextTest, ItsConstructionTouchesNothing) {
+  settings().lastProjectFile = "before";
+  settings().javaXms = "live";
+  const std::string configuration = contentOf(configFile());
+  const ProjectContext project(settings(), projectFile());
+  EXPECT_FALSE(platform::isFile(projectFile()));
+  EXPECT_EQ(contentOf(configFile()), configuration);
+  EXPECT_EQ(settings().lastProjectFile, "before");
+  EXPECT_EQ(settings().javaXms, "live");
+  EXPECT_EQ(project.name(), "my project");
 }
 
 TEST_F(ProjectContextTest, ThePathMayStandInQuotesWithBlanksAround) {
   for (const std::string& path :
        {quoted(projectFile()), "  " + quoted(projectFile()) + " ", " " + projectFile() + " "}) {
-    const ProjectContext project(settings(), path, true);
+    const auto opened = openedProject(settings(), path, true);
+    const ProjectContext& project = *opened;
     EXPECT_EQ(project.file.name().fullName(), projectFile());
   }
 }
 
 TEST_F(ProjectContextTest, AFileNameAloneLiesInTheWorkingFolder) {
   ASSERT_TRUE(platform::changeDirectory(folder()));
-  const ProjectContext project(settings(), "my project.twp", true);
+  const auto opened = openedProject(settings(), "my project.twp", true);
+  const ProjectContext& project = *opened;
   ASSERT_TRUE(platform::changeDirectory(programFolder()));
   EXPECT_EQ(platform::resolvedPath(project.file.name().fullName()), platform::resolvedPath(projectFile()));
 }
 
 TEST_F(ProjectContextTest, ItsFolderInEachForm) {
-  const ProjectContext project(settings(), projectFile(), true);
+  const auto opened = openedProject(settings(), projectFile(), true);
+  const ProjectContext& project = *opened;
   EXPECT_EQ(project.folderNoSlash(), folderNoSlash());
   EXPECT_EQ(project.folder(), folder());
   EXPECT_EQ(project.quotedFolder(), quoted(folder()));
@@ -90,7 +110,7 @@ TEST_F(ProjectContextTest, AFileThatCantBeOpenedLeavesAllAsItWas) {
   for (const bool create : {false, true}) {
     const std::string reason = refusal(missing, create ? FileMode::Write : FileMode::Read);
     try {
-      const ProjectContext project(settings(), missing, create);
+      openedProject(settings(), missing, create);
       FAIL() << "no exception";
     } catch (const Tarnwickfile::FileNotOpenE& failure) {
       EXPECT_EQ(failure.message, reason);
@@ -127,13 +147,13 @@ TEST_F(ProjectContextTest, AFileOfTheProjectsTagsAloneKeepsTheDefaultConfigurati
   const auto earlier = freshSettings();
   earlier->javaPath = standInFolder();
   earlier->javaXms = "5m";
-  earlier->saveDefaultConfiguration(nullptr);
+  earlier->saveDefaultConfiguration();
   const ProjectContext& project =
       open("PROJECT_SOURCES  A.java\nPROJECT_HTMLFILE  \"a b.html\"\nCLASS_WITH_MAIN  p.Main\nPROJECT_MULTIMAIN  ON\n");
   EXPECT_EQ(namesOf(project), std::vector<std::string>{"A.java"});
   EXPECT_EQ(project.htmlFile, "\"a b.html\"");
   EXPECT_EQ(project.mainClass, "p.Main");
-  EXPECT_EQ(project.multiMain, 1);
+  EXPECT_TRUE(project.multiMain);
   EXPECT_FALSE(project.upToDate());
   EXPECT_FALSE(project.file.isOpen());
   EXPECT_EQ(settings().javaXms, "5m");
@@ -142,7 +162,7 @@ TEST_F(ProjectContextTest, AFileOfTheProjectsTagsAloneKeepsTheDefaultConfigurati
 TEST_F(ProjectContextTest, APlainConfigurationIsAProjectWithoutSources) {
   const auto earlier = freshSettings();
   earlier->javaXms = "5m";
-  earlier->saveDefaultConfiguration(nullptr);
+  earlier->saveDefaultConfiguration();
   const ProjectContext& project = open(contentOf(configFile()));
   EXPECT_TRUE(project.sources.empty());
   EXPECT_EQ(project.mainClass, "");
@@ -194,12 +214,12 @@ TEST_F(ProjectContextTest, ASavedFileHoldsTheSettingsAndThenTheProject) {
   ProjectContext& project = openWith("A.java;B b.java");
   project.htmlFile = "\"a b.html\"";
   project.mainClass = "p.Main";
-  project.multiMain = 1;
+  project.multiMain = true;
   settings().recentProjects.add("some.twp");
   settings().javaXms = "9m";
   project.save();
   const std::string saved = linesOf(projectFile());
-  settings().saveDefaultConfiguration(nullptr);
+  settings().saveDefaultConfiguration();
   EXPECT_EQ(saved, linesOf(configFile()) + header +
                        "PROJECT_SOURCES  A.java;B b.java\nPROJECT_HTMLFILE  \"a b.html\"\nCLASS_WITH_MAIN  p.Main\n"
                        "PROJECT_MULTIMAIN  ON\n");
@@ -226,7 +246,7 @@ TEST_F(ProjectContextTest, WhatWasSavedIsReadAgain) {
   ProjectContext& project = openWith("A]].java;B b.java");
   project.htmlFile = "\"a b.html\"";
   project.mainClass = "p.Main";
-  project.multiMain = 1;
+  project.multiMain = true;
   settings().javaXms = "9m";
   project.save();
   settings().javaXms = "1m";
@@ -234,7 +254,7 @@ TEST_F(ProjectContextTest, WhatWasSavedIsReadAgain) {
   EXPECT_EQ(namesOf(again), (std::vector<std::string>{"A].java", "B b.java"}));
   EXPECT_EQ(again.htmlFile, "\"a b.html\"");
   EXPECT_EQ(again.mainClass, "p.Main");
-  EXPECT_EQ(again.multiMain, 1);
+  EXPECT_TRUE(again.multiMain);
   EXPECT_EQ(settings().javaXms, "9m");
 }
 
@@ -276,9 +296,9 @@ TEST_F(ProjectContextTest, AMovedWindowIsSavedIntoTheOpenProject) {
   context_.mainWindow = &window;
   Settings live(context_);
   live.javaPath = standInFolder();
-  live.saveDefaultConfiguration(nullptr);
+  live.saveDefaultConfiguration();
   writeFile(projectFile(), "");
-  live.currentProject = std::make_unique<ProjectContext>(live, projectFile(), false);
+  live.currentProject = openedProject(live, projectFile(), false);
   live.currentProject->save();
   window.moveByHand(Point{500, 400});
   live.javaXms = "9m";

@@ -66,6 +66,8 @@ TEST_F(ProjectFilesDlgTest, ShowsItsLabelsAndToolTips) {
       {OTHER_FILES, "", "Files found in the current project directory that do not belong to the project"},
       {ADD_FILES, "<--", "Add selected files to project context"},
       {REMOVE_FILES, "-->", "Remove selected files from project context"},
+      {ADD_ALL_FILES, "Add all", "Add all java files that the list of other files shows to project context"},
+      {FILES_FILTER, "", "Show only the files whose names have all words that you type here"},
       {SELECT_ALL_FILES, "Select all", "Select all files in both list boxes"},
       {SELECT_NO_FILES, "Select none", "Deselect all files in both list boxes"},
       {CREATE_FILE, "Create new file ....",
@@ -86,13 +88,13 @@ TEST_F(ProjectFilesDlgTest, ShowsItsLabelsAndToolTips) {
   });
   Names labels;
   collectLabels(projectFilesLayout().content, labels);
-  EXPECT_EQ(labels, (Names{"Project files", "Other java/html files in directory"}));
+  EXPECT_EQ(labels, (Names{"Show names with", "Project files", "", "Other java/html files in directory", ""}));
   for (const int list : {PROJECT_FILES, OTHER_FILES}) EXPECT_TRUE(itemOf(projectFilesLayout().content, list)->multiple);
 }
 
 TEST_F(ProjectFilesDlgTest, ListsMembersAndTheOtherFilesOfTheFolderSorted) {
   for (const char* name : {"B.java", "a.java", "C.java", "x.htm", "Y.HTML", "my page.html", "k.JAVA", "notes.txt",
-                           "B.class", "javasource", "d.htm.bak"})
+                           "B.class", "javasource", "d.htm.bak", "A.java.bak"})
     makeSource(name);
   platform::makeFolders(folder() + "sub.java");
   run(open("PROJECT_SOURCES  C.java;a.java\nPROJECT_HTMLFILE  \"my page.html\"\n"), [&](ScriptedWindow& window) {
@@ -185,7 +187,7 @@ TEST_F(ProjectFilesDlgTest, OkMakesTheProjectWhatTheListSays) {
   EXPECT_EQ(desktop_.waits(), waits + 1);
   EXPECT_EQ(namesOf(project), (Names{"A.JAVA", "b.java", "C.java"})) << "the list's order is alphabetical";
   EXPECT_EQ(project.htmlFile, "\"my page.html\"");
-  EXPECT_EQ(project.multiMain, 1);
+  EXPECT_TRUE(project.multiMain);
   EXPECT_TRUE(project.sources[2].types().empty()) << "all are fresh, so that the next look reads them";
   EXPECT_FALSE(project.sources[2].isCurrent());
   for (std::size_t i = 0; i < project.sources.size(); ++i) EXPECT_FALSE(project.sources[i].isOpen());
@@ -206,7 +208,7 @@ TEST_F(ProjectFilesDlgTest, OkOnAnEmptyListLeavesNoSourceAndNoHtmlFile) {
             DIALOG_OK);
   EXPECT_TRUE(project.sources.empty());
   EXPECT_EQ(project.htmlFile, "");
-  EXPECT_EQ(project.multiMain, 0);
+  EXPECT_FALSE(project.multiMain);
 }
 
 TEST_F(ProjectFilesDlgTest, ASecondHtmlFileIsRefusedAndTheDialogStaysOpen) {
@@ -225,7 +227,7 @@ TEST_F(ProjectFilesDlgTest, ASecondHtmlFileIsRefusedAndTheDialogStaysOpen) {
   });
   EXPECT_EQ(project.htmlFile, "x.html") << "what was refused and cancelled is stored nowhere";
   EXPECT_EQ(namesOf(project), Names{"A.java"});
-  EXPECT_EQ(project.multiMain, 0);
+  EXPECT_FALSE(project.multiMain);
 }
 
 TEST_F(ProjectFilesDlgTest, AFileThatGoesWhileTheDialogIsOpenIsToldAtOk) {
@@ -264,7 +266,7 @@ TEST_F(ProjectFilesDlgTest, CancelKeepsAll) {
               DIALOG_CANCEL);
     EXPECT_EQ(namesOf(project), Names{"A.java"});
     EXPECT_EQ(project.htmlFile, "");
-    EXPECT_EQ(project.multiMain, 0);
+    EXPECT_FALSE(project.multiMain);
   }
 }
 
@@ -411,6 +413,140 @@ TEST_F(ProjectFilesDlgTest, NamesOutsideTheFolderStayInTheProjectWhateverIsChose
   });
   EXPECT_EQ(result, DIALOG_OK);
   EXPECT_EQ(project.sources.toString(), "../X.java;A.java;B.java");
+}
+
+TEST_F(ProjectFilesDlgTest, TheFilterShowsNamesThatHaveAllItsWords) {
+  for (const char* name : {"Red.java", "RedApple.java", "apple.html", "Green.java"}) makeSource(name);
+  ProjectContext& project = openWith("Green.java");
+  run(project, [](ScriptedWindow& window) {
+    window.type(FILES_FILTER, "rEd");
+    expectLists(window, {}, {"Red.java", "RedApple.java"});
+    window.type(FILES_FILTER, "  apple  java ");
+    expectLists(window, {}, {"RedApple.java"});
+    window.press(SELECT_ALL_FILES);
+    window.press(ADD_FILES);
+    expectLists(window, {"RedApple.java"}, {});
+    window.type(FILES_FILTER, "");
+    expectLists(window, {"Green.java", "RedApple.java"}, {"apple.html", "Red.java"});
+    window.type(FILES_FILTER, "nothing");
+    expectLists(window, {}, {});
+    window.press(IDOK_CONTROL);
+  });
+  EXPECT_EQ(namesOf(project), (Names{"Green.java", "RedApple.java"}))
+      << "what does not show belongs to it all the same";
+}
+
+TEST_F(ProjectFilesDlgTest, ACountUnderEachListTellsHowManyShow) {
+  const auto counts = [](const ScriptedWindow& window) {
+    return Names{window.text(PROJECT_FILES_COUNT), window.text(OTHER_FILES_COUNT)};
+  };
+  ProjectContext& project = open("");
+  run(project, [&](ScriptedWindow& window) {
+    EXPECT_EQ(counts(window), (Names{"The project has no files yet.", "There are no other files."}));
+    window.press(IDCANCEL_CONTROL);
+  });
+  for (const char* name : {"A.java", "B.java", "C.java"}) makeSource(name);
+  run(project, [&](ScriptedWindow& window) {
+    EXPECT_EQ(counts(window), (Names{"The project has no files yet.", "3 of 3"}));
+    select(window, OTHER_FILES, {"A.java"});
+    window.press(ADD_FILES);
+    EXPECT_EQ(counts(window), (Names{"1 of 1", "2 of 2"}));
+    window.type(FILES_FILTER, "b");
+    EXPECT_EQ(counts(window), (Names{"0 of 1: none has such a name", "1 of 2"}));
+    window.press(IDCANCEL_CONTROL);
+  });
+}
+
+TEST_F(ProjectFilesDlgTest, AddAllTakesTheSourcesThatShow) {
+  for (const char* name : {"Red.java", "RedApple.JAVA", "red.html", "Green.java"}) makeSource(name);
+  run(open(""), [](ScriptedWindow& window) {
+    select(window, OTHER_FILES, {"red.html"});
+    window.type(FILES_FILTER, "red");
+    window.press(ADD_ALL_FILES);
+    expectLists(window, {"Red.java", "RedApple.JAVA"}, {"red.html"});
+    window.type(FILES_FILTER, "");
+    expectLists(window, {"Red.java", "RedApple.JAVA"}, {"Green.java", "red.html"});
+    window.press(IDCANCEL_CONTROL);
+  });
+}
+
+/// The newer way, in which the sources of all folders below the project's are shown.
+class PackageFilesDlgTest : public ProjectFilesDlgTest {
+ protected:
+  void makeIn(const std::string& name) {
+    std::string path = name;
+    std::replace(path.begin(), path.end(), '/', platform::folderSeparator);
+    platform::makeFolders(Filename(folder() + path).directoryNoSlash());
+    makeSource(path);
+  }
+};
+
+TEST_F(PackageFilesDlgTest, SourcesOfAllFoldersBelowAreShown) {
+  for (const char* name : {"A.java", "org/x/B b.java", "org/C.java", "page.html", "org/page.html", ".git/D.java",
+                           "org/.hidden/E.java", "out/F.java", "notes/x.txt"})
+    makeIn(name);
+  ProjectContext& project = open("NEWER_JAVA  ON\nJAVAC_DESTINATION  out\nPROJECT_SOURCES  org/C.java\n");
+  run(project, [](ScriptedWindow& window) {
+    expectLists(window, {"org/C.java"}, {"A.java", "org/x/B b.java", "page.html"});
+    window.type(FILES_FILTER, "x/b");
+    window.press(ADD_ALL_FILES);
+    window.press(IDOK_CONTROL);
+  });
+  project.save();
+  EXPECT_EQ(valueIn(projectFile(), "PROJECT_SOURCES"), "org/C.java;org/x/B b.java");
+  settings().javacDestination = ".";
+  run(project, [](ScriptedWindow& window) {
+    EXPECT_EQ(window.entries(OTHER_FILES), (Names{"A.java", "out/F.java", "page.html"}));
+    window.press(IDCANCEL_CONTROL);
+  });
+}
+
+TEST_F(PackageFilesDlgTest, WhereThereIsTooMuchTheCountSaysSo) {
+  for (const char* name : {"A.java", "B.java", "org/C.java"}) makeIn(name);
+  ProjectContext& project = open("NEWER_JAVA  ON\nPROJECT_SOURCES  A.java\n");
+  const int waits = desktop_.waits();
+  desktop_.expectDialog("Define which files belong to the project", [](ScriptedWindow& window) {
+    EXPECT_EQ(window.text(PROJECT_FILES_COUNT), "1 of 1");
+    EXPECT_EQ(window.text(OTHER_FILES_COUNT), "1 of 1, and more further down");
+    window.press(IDCANCEL_CONTROL);
+  });
+  ProjectFilesDlg(settings(), project, 4).runModal();
+  EXPECT_EQ(desktop_.waits(), waits + 1) << "it may take a moment";
+  run(project, [](ScriptedWindow& window) {
+    EXPECT_EQ(window.text(OTHER_FILES_COUNT), "2 of 2");
+    window.press(IDCANCEL_CONTROL);
+  });
+}
+
+TEST_F(PackageFilesDlgTest, TheClassicWayShowsTheProjectsFolderAlone) {
+  for (const char* name : {"A.java", "org/C.java"}) makeIn(name);
+  run(open(""), [](ScriptedWindow& window) {
+    expectLists(window, {}, {"A.java"});
+    window.press(IDCANCEL_CONTROL);
+  });
+}
+
+TEST_F(PackageFilesDlgTest, ANewSourceMayHaveFoldersOfItsOwn) {
+  ProjectContext& project = open("NEWER_JAVA  ON\n");
+  run(project, [&](ScriptedWindow& window) {
+    create(window, "org/x/New.java");
+    expectLists(window, {"org/x/New.java"}, {});
+    create(window, "org/page.html");
+    create(window, "../Up.java");
+    expectLists(window, {"org/x/New.java", "page.html", "Up.java"}, {});
+    window.press(IDOK_CONTROL);
+  });
+  EXPECT_EQ(project.sources.toString(), "org/x/New.java;Up.java") << "other names lose their folders, as ever";
+  EXPECT_TRUE(platform::isFile(project.sources[0].name().fullName()));
+}
+
+TEST_F(PackageFilesDlgTest, TheClassicWayDropsTheFoldersOfANewSource) {
+  ProjectContext& project = open("");
+  run(project, [&](ScriptedWindow& window) {
+    create(window, "org/x/New.java");
+    expectLists(window, {"New.java"}, {});
+    window.press(IDOK_CONTROL);
+  });
 }
 
 }  // namespace

@@ -21,7 +21,7 @@ class ProjectFixture : public SettingsFixture {
     platform::makeFolders(folder());
     writeFile(scratch_.file("script"), "");
     useStandIns();
-    settings().saveDefaultConfiguration(nullptr);
+    settings().saveDefaultConfiguration();
   }
 
   /// The project's folder, with its last separator.
@@ -47,7 +47,7 @@ class ProjectFixture : public SettingsFixture {
   }
   ProjectContext& openAgain() { return take(projectFile(), false); }
   ProjectContext& take(const std::string& path, bool create) {
-    auto project = std::make_unique<ProjectContext>(settings(), path, create);
+    auto project = openedProject(settings(), path, create);
     ProjectContext& opened = *project;
     settings().currentProject = std::move(project);
     return opened;

@@ -89,10 +89,10 @@ TEST_F(RunClasspathTest, GoesByTheEffectiveClasspath) {
   const ProjectContext& project = open("");
   settings().classpath = folderNoSlash() + ";lib";
   EXPECT_EQ(project.runClasspath(), folderNoSlash() + ";lib") << "the folder is there already";
-  settings().classpathFromEnvironmentAlways = 1;
+  settings().classpathFromEnvironmentAlways = true;
   EXPECT_EQ(project.runClasspath(), folderNoSlash());
-  settings().classpathFromEnvironmentAlways = 0;
-  settings().classpathFromEnvironmentNever = 1;
+  settings().classpathFromEnvironmentAlways = false;
+  settings().classpathFromEnvironmentNever = true;
   settings().classpath.clear();
   EXPECT_EQ(project.runClasspath(), ".;" + folderNoSlash());
 }

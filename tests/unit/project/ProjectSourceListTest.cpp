@@ -1,5 +1,7 @@
 #include "ProjectFixture.h"
 
+#include <algorithm>
+
 namespace tarnwick::test {
 namespace {
 
@@ -12,7 +14,7 @@ class ProjectSourceListTest : public ProjectFixture {
   }
 
   Tarnwickfile file_{projectFile(), FileMode::Write};
-  ProjectSourceList list_{desktop_, file_};
+  ProjectSourceList list_{settings(), file_};
 };
 
 using Names = std::vector<std::string>;
@@ -202,6 +204,64 @@ TEST_F(SourcesOfProjectTest, AProjectMovedWithItsSourcesStaysValid) {
   const ProjectContext& project = take(moved, false);
   ASSERT_EQ(project.sources.size(), 1U);
   EXPECT_EQ(project.sources[0].name().fullName(), userFolder() + "A.java");
+}
+
+/// The newer way, in which sources may lie below the project's folder.
+class PackagesListTest : public ProjectSourceListTest {
+ protected:
+  PackagesListTest() {
+    settings().newerJava = true;
+    platform::makeFolders(folder() + local("org/x"));
+    for (const char* name : {"A.java", "org/B b.java", "org/x/A.java"}) makeSource(local(name));
+  }
+  static std::string local(std::string name) {
+    std::replace(name.begin(), name.end(), '/', platform::folderSeparator);
+    return name;
+  }
+};
+
+TEST_F(PackagesListTest, NamesBeginInTheProjectsFolder) {
+  const std::string text = "org/x/A.java;A.java;org/B b.java";
+  list_.fromString(text);
+  ASSERT_EQ(list_.size(), 3U);
+  EXPECT_EQ(list_[0].name().fullName(), folder() + local("org/x/A.java")) << "as the system writes it";
+  EXPECT_EQ(list_.nameOf(0), "org/x/A.java");
+  EXPECT_EQ(list_.toString(), text);
+  EXPECT_TRUE(list_.holds("org/x/A.java"));
+  EXPECT_FALSE(list_.holds("org/A.java"));
+}
+
+TEST_F(PackagesListTest, TheSystemsSeparatorIsReadAndNotWritten) {
+  list_.fromString("./" + local("org/x/A.java") + ";./A.java");
+  EXPECT_EQ(list_.toString(), "org/x/A.java;A.java");
+}
+
+TEST_F(PackagesListTest, WhatLeadsUpOrComesFromTheTopLiesOutside) {
+  const std::string whole = folder() + "A.java";
+  desktop_.expectMessage(
+      "A project's sources lie in its folder. These names lead elsewhere and are not used,\n"
+      "but stay in the project file:\n\n../X.java\norg/../A.java\n" +
+      whole);
+  list_.fromString("../X.java;org/../A.java;" + whole + ";org/x/A.java");
+  EXPECT_EQ(list_.size(), 1U);
+  EXPECT_EQ(list_.toString(), "../X.java;org/../A.java;" + whole + ";org/x/A.java");
+}
+
+TEST_F(PackagesListTest, TheClassicWayKeepsSuchNamesUnused) {
+  settings().newerJava = false;
+  desktop_.expectMessage(
+      "A project's sources lie in its folder. These names lead elsewhere and are not used,\n"
+      "but stay in the project file:\n\norg/x/A.java");
+  list_.fromString("org/x/A.java;A.java");
+  EXPECT_EQ(names(), Names{"A.java"});
+  EXPECT_EQ(list_.toString(), "org/x/A.java;A.java");
+  settings().newerJava = true;
+  list_.followSettings();
+  EXPECT_EQ(list_.size(), 2U) << "switched on, they are used at the next look";
+  EXPECT_EQ(list_.toString(), "org/x/A.java;A.java");
+  const JavaSourcefile* const before = &list_[0];
+  list_.followSettings();
+  EXPECT_EQ(&list_[0], before) << "nothing is read again without need";
 }
 
 }  // namespace

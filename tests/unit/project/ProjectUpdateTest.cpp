@@ -1,5 +1,7 @@
 #include "ProjectFixture.h"
+#include "settingsdialog/ToolsFolder.h"
 #include "source/Compiler.h"
+#include "source/TypeIndex.h"
 
 namespace tarnwick::test {
 namespace {
@@ -137,13 +139,13 @@ TEST_F(ProjectUpdateTest, SwitchingTheModeKeepsOrDropsTheMainClass) {
   makeSource("A.java", "package pkg;\nclass A " + mainMethod());
   ProjectContext& project = openWith("A.java");
   project.update();
-  project.multiMain = 1;
+  project.multiMain = true;
   project.update();
   EXPECT_EQ(project.mainClass, "pkg.A") << "the last one that was found";
   project.mainClass = "Picked";
   project.update();
   EXPECT_EQ(project.mainClass, "Picked");
-  project.multiMain = 0;
+  project.multiMain = false;
   project.update();
   EXPECT_EQ(project.mainClass, "pkg.A");
 }
@@ -247,7 +249,10 @@ TEST_F(ProjectUpdateTest, AnUnknownToolsFolderIsAskedForBeforeAnythingElse) {
   settings().javaPath.clear();
   desktop_.expectDialog("Tarnwick settings for project my project",
                         [](ScriptedWindow& window) { window.press(IDCANCEL_CONTROL); });
-  EXPECT_EQ(messageOf<Compiler::CannotCompileE>([&] { project.update(); }),
+  EXPECT_EQ(messageOf<Compiler::CannotCompileE>([&] {
+              askForToolsFolder(settings());
+              project.update();
+            }),
             platform::localText("No path to javac.exe and other tools available from settings"));
   EXPECT_EQ(project.mainClass, "before");
   EXPECT_TRUE(project.sources[0].types().empty());

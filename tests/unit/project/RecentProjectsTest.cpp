@@ -10,7 +10,7 @@ class RecentProjectsTest : public ProjectFixture {
     const auto earlier = freshSettings();
     earlier->javaPath = standInFolder();
     earlier->recentProjects.fromString(list);
-    earlier->saveDefaultConfiguration(nullptr);
+    earlier->saveDefaultConfiguration();
   }
   std::string saved() const { return valueIn(configFile(), "RECENT_PROJECTS"); }
 };

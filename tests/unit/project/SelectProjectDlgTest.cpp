@@ -20,7 +20,7 @@ class SelectProjectDlgTest : public ProjectFixture {
     const auto earlier = freshSettings();
     earlier->javaPath = standInFolder();
     earlier->recentProjects.fromString(list);
-    earlier->saveDefaultConfiguration(nullptr);
+    earlier->saveDefaultConfiguration();
   }
   /// What "Browse" asks for.
   FileRequest browsed() {

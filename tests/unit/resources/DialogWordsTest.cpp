@@ -1,41 +1,14 @@
 // The words that stand in the dialogs, those included that no rule ever touches.
-#include "platform/Path.h"
 #include "resources/AddPathLayout.h"
 #include "resources/HelpLayouts.h"
 #include "resources/PanelLayouts.h"
-#include "resources/SettingsLayouts.h"
-#include "resources/SettingsPageLayouts.h"
 #include "resources/TemplateLayouts.h"
+#include "support/LayoutWords.h"
 
-#include <algorithm>
-#include <functional>
 #include <gtest/gtest.h>
 
 namespace tarnwick::test {
 namespace {
-
-using Words = std::vector<std::string>;
-
-void collect(const DialogItem& item, Words& words) {
-  if (!item.text.empty()) words.push_back(item.text);
-  for (const auto& child : item.children) collect(child, words);
-}
-
-/// All words of a dialog in the order of reading, its title first.
-Words wordsOf(const DialogLayout& layout) {
-  Words words;
-  if (!layout.title.empty()) words.push_back(layout.title);
-  collect(layout.content, words);
-  return words;
-}
-
-const DialogItem* find(const DialogItem& item, int control) {
-  if (item.control == control) return &item;
-  for (const auto& child : item.children) {
-    if (const auto* found = find(child, control)) return found;
-  }
-  return nullptr;
-}
 
 const char online[] =
     "For more information please consult the Tarnwick user's guide which is included in the kit. It is also available "
@@ -67,36 +40,6 @@ TEST(DialogWordsTest, AddToAPath) {
   EXPECT_EQ(wordsOf(addPathLayout()),
             (Words{"Add components to a path", "Add a folder ...", "Add an archive ...", "Cancel"}));
   EXPECT_TRUE(find(addPathLayout().content, 1169)->readOnly);
-}
-
-TEST(DialogWordsTest, TheSettingsOwnButtons) {
-  EXPECT_EQ(wordsOf(settingsLayout()), (Words{"Tarnwick settings", " individual configurations ", "Save ...",
-                                              "Load ...", "OK", "Cancel", "Help", "About ..."}));
-  for (const auto& [control, text] : {std::pair{1036, "Save ..."}, {1037, "Load ..."}, {1168, "Help"}}) {
-    EXPECT_EQ(find(settingsLayout().content, control)->text, text);
-  }
-}
-
-TEST(DialogWordsTest, TheToolsPagesButtons) {
-  for (const auto& [control, text] : {std::pair{1006, "Browse"},
-                                      {1017, "Notepad"},
-                                      {1018, "Sourcecode editor"},
-                                      {1204, "On Desktop"},
-                                      {1205, "In Startmenu ..."}}) {
-    EXPECT_EQ(find(toolsPageLayout().content, control)->text, text);
-  }
-  const Words words = wordsOf(toolsPageLayout());
-  EXPECT_NE(std::find(words.begin(), words.end(), platform::localText(" Tools .exe directory ")), words.end());
-}
-
-TEST(DialogWordsTest, AnotherPlaceForTheConfiguration) {
-  const char permanent[] =
-      "For a permanent definition please update your system's environment settings or AUTOEXEC.BAT, depending on your "
-      "Windows version. Consult Tarnwick's usersguide.htm for more information.";
-  EXPECT_EQ(wordsOf(alternateLocationLayout()),
-            (Words{"Tarnwick could not write configuration data to the default location:",
-                   "You can define an alternate location for saving the configuration: Press the Browse button!",
-                   permanent, "Browse", "Cancel"}));
 }
 
 TEST(DialogWordsTest, NewSourceFiles) {
@@ -132,20 +75,6 @@ TEST(DialogWordsTest, TheFileViewsOwnGroup) {
   EXPECT_EQ(wordsOf(fileViewLayout()), (Words{" Source (.java) ", "New", "Browse", "Edit", "javac"}));
   EXPECT_EQ(mainLayout().title, "Tarnwick");
   EXPECT_TRUE(mainLayout().minimiseBox);
-}
-
-TEST(DialogWordsTest, TheOlderWarningsTakeThePlacesOfTheNewerOnes) {
-  const std::function<bool(const DialogItem&, int, int)> share = [&share](const DialogItem& item, int one, int other) {
-    const auto stands = [&item](int control) {
-      return std::any_of(item.children.begin(), item.children.end(),
-                         [control](const DialogItem& child) { return child.control == control; });
-    };
-    if (item.kind == ItemKind::Layers && stands(one) && stands(other)) return true;
-    return std::any_of(item.children.begin(), item.children.end(),
-                       [&](const DialogItem& child) { return share(child, one, other); });
-  };
-  EXPECT_TRUE(share(javacPageLayout().content, 1264, 1270)) << "\"no warnings\" where \"Conversions\" stands";
-  EXPECT_TRUE(share(javacPageLayout().content, 1265, 1271)) << "\"switchcheck\" where \"Path\" stands";
 }
 
 }  // namespace

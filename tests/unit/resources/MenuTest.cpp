@@ -43,6 +43,49 @@ TEST(Menu, ConsoleAcceleratorsReachTheirCommands) {
   EXPECT_EQ(found, expected);
 }
 
+TEST(Menu, TheConsoleOfTodayAddsToTheClassicMenus) {
+  const MenuBar& bar = newerConsoleMenuBar();
+  ASSERT_EQ(bar.size(), 4U);
+  EXPECT_EQ(itemsOf(bar[0]), itemsOf(consoleMenuBar()[0]));
+  EXPECT_EQ(bar[1].title, "&Edit");
+  EXPECT_EQ(itemsOf(bar[1]), (Items{{"Copy\tCtrl+C", COMMAND_COPY},
+                                    {"Copy all", COMMAND_COPY_ALL},
+                                    {"Paste\tCtrl+V", COMMAND_PASTE},
+                                    {"Select all\tCtrl+A", COMMAND_SELECT_ALL},
+                                    {"", 0},
+                                    {"Find ...\tCtrl+F", COMMAND_FIND},
+                                    {"Find next\tF3", COMMAND_FIND_NEXT},
+                                    {"Find previous\tShift+F3", COMMAND_FIND_PREVIOUS},
+                                    {"", 0},
+                                    {"Clear", COMMAND_CLEAR}}));
+  EXPECT_EQ(bar[2].title, "&Program");
+  EXPECT_EQ(itemsOf(bar[2]), (Items{{"End of input\tCtrl+D", COMMAND_END_OF_INPUT},
+                                    {"Stop ... (Ctrl+Break)", COMMAND_STOP},
+                                    {"Run again\tCtrl+R", COMMAND_RUN_AGAIN}}));
+  EXPECT_EQ(itemsOf(bar[3]), itemsOf(consoleMenuBar()[2]));
+}
+
+TEST(Menu, TheConsoleOfTodayAddsToTheClassicKeys) {
+  using Key = Accelerator::Key;
+  const auto& classic = consoleAccelerators();
+  const auto& all = newerConsoleAccelerators();
+  ASSERT_EQ(all.size(), classic.size() + 6);
+  for (std::size_t i = 0; i < classic.size(); ++i) {
+    const bool copies = classic[i].letter == 'C';
+    EXPECT_EQ(all[i].command, copies ? int{COMMAND_COPY_OR_STOP} : classic[i].command);
+  }
+  std::vector<std::tuple<bool, bool, Key, char, int>> added;
+  for (std::size_t i = classic.size(); i < all.size(); ++i) {
+    added.emplace_back(all[i].control, all[i].shift, all[i].key, all[i].letter, all[i].command);
+  }
+  const std::vector<std::tuple<bool, bool, Key, char, int>> expected = {
+      {true, false, Key::Letter, 'D', COMMAND_END_KEY},    {true, false, Key::Letter, 'R', COMMAND_RUN_AGAIN},
+      {true, false, Key::Break, char{0}, COMMAND_STOP},    {true, false, Key::Letter, 'F', COMMAND_FIND},
+      {false, false, Key::F3, char{0}, COMMAND_FIND_NEXT}, {false, true, Key::F3, char{0}, COMMAND_FIND_PREVIOUS},
+  };
+  EXPECT_EQ(added, expected);
+}
+
 TEST(Menu, NothingInTheMenusAnswersToShiftDelete) {
   for (const auto& menu : consoleMenuBar()) {
     for (const auto& item : menu.items) EXPECT_NE(item.command, COMMAND_CUT);

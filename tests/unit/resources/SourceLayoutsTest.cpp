@@ -1,3 +1,4 @@
+#include "resources/DialogLayout.h"
 #include "resources/SourceLayouts.h"
 
 #include <gtest/gtest.h>

@@ -1,7 +1,8 @@
+#include "resources/Drawings.h"
 #include "resources/Toolbar.h"
-#include "resources/ToolbarIcons.h"
 
 #include <gtest/gtest.h>
+#include <set>
 #include <string>
 #include <utility>
 #include <vector>
@@ -47,25 +48,41 @@ TEST(Toolbar, TheDebuggersButtonsStandInOrder) {
   EXPECT_EQ(found, expected);
 }
 
-TEST(Toolbar, EveryButtonHasAPictureWithinItsBorders) {
-  for (const auto& button : debuggerToolbar()) {
-    if (button.command == 0) continue;
-    const auto& shapes = toolbarIcon(button.command);
-    EXPECT_FALSE(shapes.empty()) << button.toolTip;
-    for (const auto& shape : shapes) {
-      EXPECT_FALSE(shape.spots.empty()) << button.toolTip;
-      for (const auto& spot : shape.spots) {
-        EXPECT_GE(spot.x, 0) << button.toolTip;
-        EXPECT_LE(spot.x, toolbarIconWidth) << button.toolTip;
-        EXPECT_GE(spot.y, 0) << button.toolTip;
-        EXPECT_LE(spot.y, toolbarIconHeight) << button.toolTip;
-      }
-    }
-  }
+/// The colours of a drawing, each as often as it stands there.
+std::vector<std::string> coloursOf(const std::string& drawing) {
+  std::vector<std::string> colours;
+  for (auto at = drawing.find('#'); at != std::string::npos; at = drawing.find('#', at + 1))
+    colours.push_back(drawing.substr(at, drawing.find('"', at) - at));
+  return colours;
 }
 
-TEST(Toolbar, ACommandWithoutAButtonHasNoPicture) {
-  EXPECT_TRUE(toolbarIcon(1).empty());
+TEST(Toolbar, EveryButtonHasAPictureOfItsOwnForLightAndDarkGround) {
+  std::set<std::string> pictures;
+  for (const auto& button : debuggerToolbar()) {
+    if (button.command == 0) continue;
+    const std::string picture = drawing("toolbar/" + button.drawing);
+    EXPECT_NE(picture.find("<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"16\" height=\"15\""), std::string::npos)
+        << button.toolTip;
+    EXPECT_TRUE(pictures.insert(picture).second) << button.toolTip;
+    const auto light = coloursOf(picture);
+    const auto dark = coloursOf(onDarkGround(picture));
+    ASSERT_EQ(light.size(), dark.size());
+    EXPECT_FALSE(light.empty()) << button.toolTip;
+    for (std::size_t i = 0; i < light.size(); ++i)
+      EXPECT_NE(light[i], dark[i]) << button.toolTip << ": a colour that has no shade for a dark ground";
+  }
+  EXPECT_EQ(pictures.size(), 23U);
+}
+
+TEST(Toolbar, EachColourHasItsShadeForADarkGround) {
+  EXPECT_EQ(onDarkGround("a #3c3c41 #148c2d #cd1e1e #195abe #d77d00 #ffffff #141414 #12345"),
+            "a #e1e1e1 #5acd69 #ff695f #6eafff #ffbe50 #141414 #141414 #12345");
+}
+
+TEST(Toolbar, WhatHasNoDrawingHasNone) {
+  EXPECT_EQ(drawing("toolbar/unheard of"), "");
+  EXPECT_EQ(drawing(""), "");
+  EXPECT_NE(drawing("tarnwick"), "");
 }
 
 }  // namespace

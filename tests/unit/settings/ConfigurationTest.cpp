@@ -1,5 +1,4 @@
 // What a configuration file does to the settings, and how they are saved to files of somebody's choice.
-#include "settings/AlternateLocationDlg.h"
 #include "support/SettingsFixture.h"
 
 #include <filesystem>
@@ -38,24 +37,24 @@ class ConfigurationTest : public SettingsFixture {
 TEST_F(ConfigurationTest, AFileWithCarriageReturnsReadsAsOneWithout) {
   EXPECT_EQ(read("REM\r\nJAVA_XMS  64m\r\nJAVAC_DEBUG  OFF\r\nFILEVIEW_TAB  2\r\nWINDOW_POSITION  1;2\r\n"), 0);
   EXPECT_EQ(settings().javaXms, "64m");
-  EXPECT_EQ(settings().javacDebug, 0);
+  EXPECT_FALSE(settings().javacDebug);
   EXPECT_EQ(settings().fileviewTab, 2);
   EXPECT_EQ(settings().windowPosition.toString(), "1;2");
 }
 
 TEST_F(ConfigurationTest, TheEdgesOfTheFormat) {
   EXPECT_EQ(read("JAVA_VERBOSE\n") & READ_FAILURE_MASK, 0);
-  EXPECT_EQ(settings().javaVerbose, 0);
+  EXPECT_FALSE(settings().javaVerbose);
   EXPECT_EQ(read("FILEVIEW_TAB  12x\n"), READ_BAD_VALUE);
   EXPECT_EQ(settings().fileviewTab, 12);
   EXPECT_EQ(read("FILEVIEW_TAB  -5\n"), 0);
   EXPECT_EQ(settings().fileviewTab, -5);
   EXPECT_EQ(read("JAVAC_DEBUG  maybe\n"), READ_BAD_VALUE);
-  EXPECT_EQ(settings().javacDebug, 1);
+  EXPECT_TRUE(settings().javacDebug);
   EXPECT_EQ(read("javac_debug  off\n"), 0);
-  EXPECT_EQ(settings().javacDebug, 0);
+  EXPECT_FALSE(settings().javacDebug);
   EXPECT_EQ(read("editor=notepad on and more\n"), 0);
-  EXPECT_EQ(settings().editWithNotepad, 1);
+  EXPECT_TRUE(settings().editWithNotepad);
 }
 
 TEST_F(ConfigurationTest, BadTextOfAValueLeavesTheStatusClean) {
@@ -77,7 +76,7 @@ TEST_F(ConfigurationTest, AnEmptyWindowPositionInTheFileLeavesWhatWasThere) {
 
 TEST_F(ConfigurationTest, TheFileTellsWhichVersionWroteIt) {
   settings().tarnwickVersion = "Tarnwick V1.0";
-  settings().saveDefaultConfiguration(nullptr);
+  settings().saveDefaultConfiguration();
   EXPECT_EQ(settings().tarnwickVersion, "Tarnwick V4.7a") << "set before each write";
   EXPECT_NE(written().find("\nTARNWICK_VERSION  Tarnwick V4.7a\n"), std::string::npos);
   EXPECT_EQ(read("TARNWICK_VERSION  Tarnwick V3.2\n"), 0);
@@ -104,7 +103,7 @@ TEST_F(ConfigurationTest, TheStatusOfTheDefaultConfigurationIsThatOfItsFile) {
 TEST_F(ConfigurationTest, TheGuidesLocationStaysWhereTheFileIsNotClean) {
   writeFile(configFile(), "HELPFILE  from the file\nNO_SUCH_TAG\n");
   settings().helpFile = "live";
-  settings().saveDefaultConfiguration(nullptr);
+  settings().saveDefaultConfiguration();
   EXPECT_EQ(settings().helpFile, "live");
   EXPECT_NE(written().find("\nHELPFILE  live\n"), std::string::npos);
 }
@@ -112,13 +111,13 @@ TEST_F(ConfigurationTest, TheGuidesLocationStaysWhereTheFileIsNotClean) {
 TEST_F(ConfigurationTest, AFileThatIsCleanButTellsNoGuideStandsForTheOneBesideTheProgram) {
   writeFile(configFile(), "JAVA_XMS  1m\n");
   settings().helpFile = "live";
-  settings().saveDefaultConfiguration(nullptr);
+  settings().saveDefaultConfiguration();
   EXPECT_EQ(settings().helpFile, programFolder() + "usersguide.htm");
 }
 
 TEST_F(ConfigurationTest, TheGuidesLocationStaysWhereThereIsNoFile) {
   settings().helpFile = "live";
-  settings().saveDefaultConfiguration(nullptr);
+  settings().saveDefaultConfiguration();
   EXPECT_EQ(settings().helpFile, "live");
 }
 
@@ -134,7 +133,7 @@ TEST_F(ConfigurationTest, ReadConfigurationIsSilentUnlessBothSwitchesAreOn) {
 
 TEST_F(ConfigurationTest, ReadingTheDefaultConfigurationNeverWarns) {
   EXPECT_EQ(read("JAVAC_DEBUG  ON\nJAVAC_FASTCODE  ON\n"), 0);
-  settings().saveDefaultConfiguration(nullptr);
+  settings().saveDefaultConfiguration();
 }
 
 TEST_F(ConfigurationTest, ReadConfigurationWarnsWhateverTheStatusIs) {
@@ -157,7 +156,7 @@ TEST_F(ConfigurationTest, AFileThatIsGivenIsWrittenAndLeftOpen) {
   const std::string path = userFolder() + "own.cfg";
   {
     Tarnwickfile file(path, FileMode::Write);
-    settings().saveDefaultConfiguration(&file);
+    settings().saveInto(file);
     EXPECT_TRUE(file.isOpen());
   }
   EXPECT_EQ(contentOf(path).find("REM  This configuration file was written by Tarnwick V4.7a"), 0U);
@@ -178,7 +177,7 @@ TEST_F(ConfigurationTest, AGivenFileThatIsClosedLeadsToAnotherFolder) {
                          other +
                          "\"\n\nThis definition remains effective until you terminate Tarnwick."
                          "\nUpdate your system's environment settings or AUTOEXEC.BAT\nfor a permanent definition!");
-  settings().saveDefaultConfiguration(&file);
+  settings().saveInto(file);
   EXPECT_EQ(settings().configPath(), other + platform::folderSeparator + defaultConfigurationName);
   EXPECT_TRUE(platform::isFile(settings().configPath()));
 }
@@ -219,80 +218,6 @@ TEST_F(ConfigurationTest, SavesOnlyWhenTheWindowHasMoved) {
   EXPECT_EQ(saves, 1) << "with a project open, the project is what is saved";
   EXPECT_NE(written().find("\nWINDOW_POSITION  7;10\n"), std::string::npos);
   context_.mainWindow = nullptr;
-}
-
-class FailedSaveTest : public ConfigurationTest {
- protected:
-  FailedSaveTest() { platform::makeFolders(configFile()); }
-
-  /// Why a folder in the file's place cannot be written.
-  const std::string reason_ = platform::folderSeparator == '/' ? "Is a directory" : "Permission denied";
-};
-
-TEST_F(FailedSaveTest, AFurtherFailureTellsTheNewFile) {
-  const std::string other = scratch_.file("other");
-  const std::string blocked = other + platform::folderSeparator + defaultConfigurationName;
-  platform::makeFolders(blocked);
-  desktop_.expectDialog(reason_, [&](ScriptedWindow& window) {
-    desktop_.expectBrowseFolder(other);
-    window.press(1164);
-  });
-  desktop_.expectMessage(reason_ + "\nCan't save configuration data in " + blocked);
-  settings().saveCurrent();
-  EXPECT_EQ(settings().configPath(), blocked) << "the path has moved all the same";
-}
-
-TEST_F(FailedSaveTest, TheSameFolderOnceMoreIsAFurtherFailure) {
-  const std::string folder = configFolder().substr(0, configFolder().size() - 1);
-  desktop_.expectDialog(reason_, [&](ScriptedWindow& window) {
-    desktop_.expectBrowseFolder(folder);
-    window.press(1164);
-  });
-  desktop_.expectMessage(reason_ + "\nCan't save configuration data in " + configFile());
-  settings().saveCurrent();
-  EXPECT_EQ(settings().configPath(), configFile());
-  EXPECT_TRUE(platform::isFolder(configFile())) << "what stands there is left alone";
-}
-
-TEST_F(FailedSaveTest, AVariableThatCannotBeDefinedIsToldAndTheDialogClosesWithOk) {
-  // No system takes a variable without a name.
-  program_.configDirVariable = "";
-  desktop_.expectDialog(reason_, [&](ScriptedWindow& window) {
-    desktop_.expectBrowseFolder("some folder");
-    desktop_.expectMessage("Error defining environment variable =\"some folder\"");
-    window.press(1164);
-    EXPECT_TRUE(window.closed());
-  });
-  AlternateLocationDlg dialog(desktop_, program_, Tarnwickfile::FileNotOpenE(reason_, configFile()));
-  EXPECT_EQ(dialog.runModal(), DIALOG_OK);
-}
-
-TEST_F(FailedSaveTest, TheTitleIsThePrintableStartOfTheMessage) {
-  for (const char* end : {"\nsecond line", "\tx", "\x7f", ""}) {
-    desktop_.expectDialog("Refused", [](ScriptedWindow& window) { window.press(IDCANCEL_CONTROL); });
-    AlternateLocationDlg dialog(desktop_, program_, Tarnwickfile::FileNotOpenE(std::string("Refused") + end, "x"));
-    EXPECT_EQ(dialog.runModal(), DIALOG_CANCEL);
-  }
-}
-
-TEST_F(FailedSaveTest, CancelSavesNothingThoughItWouldGoMeanwhile) {
-  desktop_.expectDialog(reason_, [&](ScriptedWindow& window) {
-    std::filesystem::remove(defaultConfigurationName);
-    window.press(IDCANCEL_CONTROL);
-  });
-  desktop_.expectMessage(reason_ + "\nCan't save configuration data in " + configFile());
-  platform::changeDirectory(configFolder());
-  settings().saveCurrent();
-  EXPECT_FALSE(platform::isFolder(configFile()));
-  EXPECT_FALSE(platform::isFile(configFile()));
-}
-
-TEST_F(FailedSaveTest, CancelKeepsThePathAndTheEnvironment) {
-  desktop_.expectDialog(reason_, [](ScriptedWindow& window) { window.press(IDCANCEL_CONTROL); });
-  desktop_.expectMessage(reason_ + "\nCan't save configuration data in " + configFile());
-  settings().saveCurrent();
-  EXPECT_EQ(settings().configPath(), configFile());
-  EXPECT_EQ(platform::environment("TARNWICK_CFGDIR"), configFolder());
 }
 
 }  // namespace

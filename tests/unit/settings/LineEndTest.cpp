@@ -1,4 +1,6 @@
 // No value ends a line of a configuration, whatever it holds.
+#include "base/TagRow.h"
+#include "settingsdialog/SettingsDialog.h"
 #include "support/SettingsFixture.h"
 
 #include <gtest/gtest.h>
@@ -9,7 +11,7 @@ namespace {
 class LineEndTest : public SettingsFixture {
  protected:
   LineEndTest() {
-    settings().saveDefaultConfiguration(nullptr);
+    settings().saveDefaultConfiguration();
     before_ = contentOf(configFile());
   }
 
@@ -21,16 +23,16 @@ TEST_F(LineEndTest, TheStoreRefusesSuchAValueInWordsAndKeepsTheFile) {
   // Another folder would not help, so none is asked for.
   desktop_.expectMessage("The value of LAST_PROJECT_FILE holds a line end\nCan't save configuration data in " +
                          configFile());
-  settings().saveDefaultConfiguration(nullptr);
+  settings().saveDefaultConfiguration();
   EXPECT_EQ(contentOf(configFile()), before_);
   EXPECT_EQ(platform::filesIn(configFolder()).size(), 1U) << "nothing is left beside it";
 }
 
 TEST_F(LineEndTest, EveryRowWithATextIsRefused) {
   for (const auto& row : settings().tagRows) {
-    if (row.kind != TAG_STRING || std::string(row.tag) == "TARNWICK_VERSION" || std::string(row.tag) == "HELPFILE")
+    if (row.kind() != TAG_STRING || std::string(row.tag) == "TARNWICK_VERSION" || std::string(row.tag) == "HELPFILE")
       continue;
-    auto& text = *static_cast<std::string*>(row.variable);
+    auto& text = *std::get<std::string*>(row.variable);
     const std::string value = std::exchange(text, "a\nb");
     desktop_.expectMessage(std::string("The value of ") + row.tag +
                            " holds a line end\nCan't save configuration data in " + configFile());
@@ -48,7 +50,7 @@ TEST_F(LineEndTest, ASeparateConfigurationIsRefusedToo) {
     window.press(1036);
     window.press(IDCANCEL_CONTROL);
   });
-  settings().runModal(0);
+  SettingsDialog(settings()).runModal(0);
   EXPECT_FALSE(platform::isFile(userFolder() + "my.cfg"));
 }
 

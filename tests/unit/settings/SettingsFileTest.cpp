@@ -16,7 +16,7 @@ class SettingsFileTest : public SettingsFixture {
 };
 
 TEST_F(SettingsFileTest, TheDefaultConfigurationByteForByte) {
-  settings().saveDefaultConfiguration(nullptr);
+  settings().saveDefaultConfiguration();
   const std::string keys = FunctionKeys::defaultText;
   const std::string expected =
       "REM  This configuration file was written by Tarnwick V4.7a\nREM\n"
@@ -50,30 +50,30 @@ TEST_F(SettingsFileTest, TheDefaultConfigurationByteForByte) {
 TEST_F(SettingsFileTest, AllValuesComeBackUnchanged) {
   Settings& live = settings();
   live.javaPath = scratch_.file("jdk with blanks") + platform::folderSeparator;
-  live.javacDebug = 0;
+  live.javacDebug = false;
   live.fileviewTab = 2;
   live.fileviewSource.setName(userFolder() + "A.java");
   live.recentProjects.add("one;two");
   live.helpFile = "kept from the file";
-  live.saveDefaultConfiguration(nullptr);
+  live.saveDefaultConfiguration();
   const auto other = freshSettings();
   EXPECT_EQ(readDefault(*other), 0);
   EXPECT_EQ(other->javaPath, live.javaPath);
-  EXPECT_EQ(other->javacDebug, 0);
+  EXPECT_FALSE(other->javacDebug);
   EXPECT_EQ(other->fileviewTab, 2);
   EXPECT_EQ(other->fileviewSource.name().fullName(), userFolder() + "A.java");
   EXPECT_EQ(other->fileviewSource.lastFolder(), userFolder());
   EXPECT_EQ(other->recentProjects.element(0), "one;two");
   const std::string before = contentOf(configFile());
-  other->saveDefaultConfiguration(nullptr);
+  other->saveDefaultConfiguration();
   EXPECT_EQ(contentOf(configFile()), before);
 }
 
 TEST_F(SettingsFileTest, TheGuidesLocationIsKeptFromTheFile) {
   settings().helpFile = "there";
-  settings().saveDefaultConfiguration(nullptr);
+  settings().saveDefaultConfiguration();
   settings().helpFile = "elsewhere";
-  settings().saveDefaultConfiguration(nullptr);
+  settings().saveDefaultConfiguration();
   EXPECT_EQ(settings().helpFile, "there");
 }
 
@@ -127,8 +127,8 @@ TEST_F(SettingsFileTest, AResetKeepsTheFilesAndTheVersion) {
   live.javaXms = "1m";
   live.lastProjectFile = "p";
   live.fileviewTab = 1;
-  live.jarOpenAsZip = 0;
-  live.javadoc.author = 1;
+  live.jarOpenAsZip = false;
+  live.javadoc.author = true;
   live.panelLayout.value = LayoutValue::FLAT;
   live.resetAll();
   EXPECT_EQ(live.fileviewSource.name().fullName(), "a.java");
@@ -136,8 +136,8 @@ TEST_F(SettingsFileTest, AResetKeepsTheFilesAndTheVersion) {
   EXPECT_EQ(live.javaXms, "");
   EXPECT_EQ(live.lastProjectFile, "");
   EXPECT_EQ(live.fileviewTab, 0);
-  EXPECT_EQ(live.jarOpenAsZip, 1);
-  EXPECT_EQ(live.javadoc.author, 0);
+  EXPECT_TRUE(live.jarOpenAsZip);
+  EXPECT_FALSE(live.javadoc.author);
   EXPECT_EQ(live.panelLayout.value, LayoutValue::VERTICAL);
 }
 

@@ -1,4 +1,6 @@
 // The rows of the configuration: what each is called, holds at first, and belongs to.
+#include "base/TagRow.h"
+#include "settings/SettingsResources.h"
 #include "settings/SettingsValues.h"
 #include "support/SettingsFixture.h"
 
@@ -150,15 +152,15 @@ const Expected expected[] = {
 
 /// The value as the file has it.
 std::string valueOf(const TagRow& row) {
-  switch (row.kind) {
+  switch (row.kind()) {
     case TAG_STRING:
-      return *static_cast<std::string*>(row.variable);
+      return *std::get<std::string*>(row.variable);
     case TAG_INT:
-      return std::to_string(*static_cast<int*>(row.variable));
+      return std::to_string(*std::get<int*>(row.variable));
     case TAG_BOOL:
-      return *static_cast<int*>(row.variable) != 0 ? "ON" : "OFF";
+      return *std::get<bool*>(row.variable) ? "ON" : "OFF";
     default:
-      return static_cast<StringableM*>(row.variable)->toString();
+      return std::get<StringableM*>(row.variable)->toString();
   }
 }
 
@@ -172,16 +174,111 @@ class SettingsRowsTest : public SettingsFixture {
 TEST_F(SettingsRowsTest, The111RowsHaveTheirTagsKindsPagesOwnersAndControlsInTheOrderOfTheFile) {
   const auto& rows = settings().tagRows;
   ASSERT_EQ(std::size(expected), 111U);
-  ASSERT_EQ(rows.size(), 112U);
+  ASSERT_EQ(rows.size(), 121U);
   for (std::size_t i = 0; i < 111; ++i) {
     EXPECT_STREQ(rows[i].tag, expected[i].tag);
-    EXPECT_EQ(rows[i].kind, expected[i].kind) << expected[i].tag;
+    EXPECT_EQ(rows[i].kind(), expected[i].kind) << expected[i].tag;
     EXPECT_EQ(rows[i].page, expected[i].page) << expected[i].tag;
     EXPECT_EQ(rows[i].owner, expected[i].owner) << expected[i].tag;
     EXPECT_EQ(rows[i].control, expected[i].control) << expected[i].tag;
+    EXPECT_FALSE(rows[i].isLater) << expected[i].tag;
   }
-  EXPECT_EQ(rows[111].kind, TAG_END);
-  EXPECT_STREQ(rows[111].tag, "");
+}
+
+TEST_F(SettingsRowsTest, BehindThemStandTheRowsThatCameLater) {
+  const auto& rows = settings().tagRows;
+  EXPECT_STREQ(rows[111].tag, "NEWER_JAVA");
+  EXPECT_EQ(rows[111].kind(), TAG_BOOL);
+  EXPECT_EQ(rows[111].defaultNumber, 0);
+  EXPECT_EQ(rows[111].page, 145);
+  EXPECT_EQ(rows[111].owner, 148);
+  EXPECT_TRUE(rows[111].isLater);
+  EXPECT_STREQ(rows[112].tag, "JAVAC_ONE_RUN");
+  EXPECT_EQ(rows[112].kind(), TAG_BOOL);
+  EXPECT_EQ(rows[112].defaultNumber, 0);
+  EXPECT_EQ(rows[112].page, 145);
+  EXPECT_EQ(rows[112].owner, 148);
+  EXPECT_EQ(rows[112].control, 2102);
+  EXPECT_TRUE(rows[112].isLater);
+  const struct {
+    const char* tag;
+    int page;
+    int control;
+  } texts[] = {{"JAVAC_OPTIONS", 145, 2103}, {"JAVA_OPTIONS", 146, 2104}};
+  for (std::size_t i = 0; i < std::size(texts); ++i) {
+    const TagRow& row = rows[113 + i];
+    EXPECT_STREQ(row.tag, texts[i].tag);
+    EXPECT_EQ(row.kind(), TAG_STRING);
+    EXPECT_EQ(row.defaultText, nullptr);
+    EXPECT_EQ(row.page, texts[i].page);
+    EXPECT_EQ(row.owner, 148);
+    EXPECT_EQ(row.control, texts[i].control);
+    EXPECT_TRUE(row.isLater);
+  }
+  EXPECT_STREQ(rows[115].tag, "NEWER_CONSOLE");
+  EXPECT_EQ(rows[115].kind(), TAG_BOOL);
+  EXPECT_EQ(rows[115].defaultNumber, 0);
+  EXPECT_EQ(rows[115].page, 146);
+  EXPECT_EQ(rows[115].owner, 148);
+  EXPECT_EQ(rows[115].control, 2131);
+  EXPECT_TRUE(rows[115].isLater);
+  EXPECT_STREQ(rows[116].tag, "EDITOR_PLACE");
+  EXPECT_EQ(rows[116].kind(), TAG_STRING);
+  EXPECT_EQ(rows[116].defaultText, nullptr);
+  EXPECT_EQ(rows[116].page, 143);
+  EXPECT_EQ(rows[116].owner, 148);
+  EXPECT_EQ(rows[116].control, 2110);
+  EXPECT_TRUE(rows[116].isLater);
+  EXPECT_STREQ(rows[117].tag, "DISPLAY_MESSAGES");
+  EXPECT_EQ(rows[117].kind(), TAG_BOOL);
+  EXPECT_EQ(rows[117].defaultNumber, 0);
+  EXPECT_EQ(rows[117].page, 144);
+  EXPECT_EQ(rows[117].owner, 148);
+  EXPECT_EQ(rows[117].control, 2111);
+  EXPECT_TRUE(rows[117].isLater);
+  EXPECT_STREQ(rows[118].tag, "MESSAGES_PLACE");
+  EXPECT_EQ(rows[118].kind(), TAG_STRING);
+  EXPECT_EQ(rows[118].owner, 0);
+  EXPECT_TRUE(rows[118].isLater);
+  EXPECT_STREQ(rows[119].tag, "WATCH_RUNS");
+  EXPECT_EQ(rows[119].kind(), TAG_BOOL);
+  EXPECT_EQ(rows[119].defaultNumber, 0);
+  EXPECT_EQ(rows[119].page, 144);
+  EXPECT_EQ(rows[119].owner, 148);
+  EXPECT_EQ(rows[119].control, 2120);
+  EXPECT_TRUE(rows[119].isLater);
+  EXPECT_EQ(rows[120].kind(), TAG_END);
+  EXPECT_STREQ(rows[120].tag, "");
+}
+
+TEST_F(SettingsRowsTest, ARowThatCameLaterIsKeptInTheFileOnlyWhereItIsUsed) {
+  settings().newerJava = true;
+  settings().saveDefaultConfiguration();
+  EXPECT_NE(contentOf(configFile()).find("\nNEWER_JAVA  ON"), std::string::npos);
+  settings().newerJava = false;
+  settings().saveDefaultConfiguration();
+  EXPECT_EQ(contentOf(configFile()).find("NEWER_JAVA"), std::string::npos);
+  settings().newerJava = true;
+  int status = -1;
+  settings().readDefaultConfiguration(status);
+  EXPECT_FALSE(settings().newerJava) << "a file without the row means the classic way";
+}
+
+TEST_F(SettingsRowsTest, FurtherOptionsAreKeptInTheFileOnlyWhereThereAreSome) {
+  settings().javacOptions = "-parameters";
+  settings().javaOptions = "--enable-preview  -x";
+  settings().saveDefaultConfiguration();
+  EXPECT_TRUE(
+      contentOf(configFile()).ends_with(onDisk("\nJAVAC_OPTIONS  -parameters\nJAVA_OPTIONS  --enable-preview  -x\n")));
+  const auto read = freshSettings();
+  int status = -1;
+  read->readDefaultConfiguration(status);
+  EXPECT_EQ(status, 0);
+  EXPECT_EQ(read->javacOptions, "-parameters");
+  EXPECT_EQ(read->javaOptions, "--enable-preview  -x");
+  settings().javacOptions = settings().javaOptions = "";
+  settings().saveDefaultConfiguration();
+  EXPECT_EQ(contentOf(configFile()).find("_OPTIONS"), std::string::npos);
 }
 
 TEST_F(SettingsRowsTest, AFreshObjectHoldsTheDefaults) {
@@ -198,13 +295,13 @@ TEST_F(SettingsRowsTest, TheDefaultConfigurationIsTheHeaderAndTheseRowsByteForBy
     // An empty text has one blank behind its tag, every other row two.
     text += tag + (row.kind == TAG_STRING && value.empty() ? " " : "  " + value) + '\n';
   }
-  settings().saveDefaultConfiguration(nullptr);
+  settings().saveDefaultConfiguration();
   EXPECT_EQ(contentOf(configFile()), onDisk(text));
 }
 
 TEST_F(SettingsRowsTest, EveryTextDefaultButTheVersionsIsEmptyInTheTableItself) {
   for (const auto& row : settings().tagRows) {
-    if (row.kind != TAG_STRING) continue;
+    if (row.kind() != TAG_STRING) continue;
     const std::string byDefault = row.defaultText ? row.defaultText : "";
     EXPECT_EQ(byDefault, std::string(row.tag) == "JAVAC_MY_JDKVERSION" ? "Pre-1.4" : "") << row.tag;
   }
@@ -246,7 +343,7 @@ TEST_F(SettingsRowsTest, EveryRowIsWrittenAndReadBackUnchanged) {
     EXPECT_EQ(valueOf(rows[i]), otherValue(expected[i])) << rows[i].tag;
     EXPECT_NE(valueOf(rows[i]), valueExpected(expected[i])) << rows[i].tag;
   }
-  settings().saveDefaultConfiguration(nullptr);
+  settings().saveDefaultConfiguration();
   EXPECT_EQ(contentOf(configFile()), onDisk(text));
 }
 

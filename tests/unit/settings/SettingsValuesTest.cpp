@@ -1,3 +1,4 @@
+#include "base/TagRow.h"
 #include "settings/SettingsValues.h"
 #include "support/SettingsFixture.h"
 
@@ -18,7 +19,7 @@ class SettingsValuesTest : public SettingsFixture {};
 TEST_F(SettingsValuesTest, ExactlyTheseSwitchesAreOnByDefault) {
   std::vector<std::string> on;
   for (const auto& row : settings().tagRows) {
-    if (row.kind == TAG_BOOL && *static_cast<int*>(row.variable)) on.emplace_back(row.tag);
+    if (row.kind() == TAG_BOOL && *std::get<bool*>(row.variable)) on.emplace_back(row.tag);
   }
   std::vector<std::string> expected(std::begin(onByDefault), std::end(onByDefault));
   std::sort(on.begin(), on.end());
@@ -28,8 +29,8 @@ TEST_F(SettingsValuesTest, ExactlyTheseSwitchesAreOnByDefault) {
 
 TEST_F(SettingsValuesTest, TheOnlyTextDefaultsAreTheJdkVersionAndTheGuide) {
   for (const auto& row : settings().tagRows) {
-    if (row.kind != TAG_STRING) continue;
-    const auto& value = *static_cast<std::string*>(row.variable);
+    if (row.kind() != TAG_STRING) continue;
+    const auto& value = *std::get<std::string*>(row.variable);
     const std::string tag = row.tag;
     const std::string expected = tag == "JAVAC_MY_JDKVERSION" ? "Pre-1.4"
                                  : tag == "HELPFILE"          ? programFolder() + "usersguide.htm"
@@ -40,7 +41,7 @@ TEST_F(SettingsValuesTest, TheOnlyTextDefaultsAreTheJdkVersionAndTheGuide) {
 
 TEST_F(SettingsValuesTest, OwnersFollowThePages) {
   for (const auto& row : settings().tagRows) {
-    if (row.kind == TAG_END) continue;
+    if (row.isEnd()) continue;
     const bool javadocPage = row.page >= 151 && row.page <= 155;
     EXPECT_EQ(row.owner, row.page == 0 ? 0 : javadocPage ? 150 : 148) << row.tag;
     EXPECT_EQ(row.control == 0, row.page == 0) << row.tag;

@@ -17,7 +17,7 @@ class WindowPositionTest : public testing::Test {
   NoRules rules_;
   DialogLayout layout_{1, "Main", false, {}, 0};
   ScriptedWindow window_{layout_, rules_};
-  DialogWindow* mainWindow_ = &window_;
+  PlacedWindow* mainWindow_ = &window_;
   WindowPosition position_{mainWindow_};
 };
 

@@ -24,7 +24,7 @@ class SetAsideTest : public SplitterFixture {
   void splitAnd(const std::function<void()>& meanwhile) {
     writeFile(path("X.java"), twoPublic);
     Tarnwickfile source = Tarnwickfile::unopened(path("X.java"), FileMode::Read);
-    SourceSplitter splitter(source, [] { return true; });
+    SourceSplitter splitter(source.name(), [] { return true; });
     splitter.run();
     meanwhile();
   }
@@ -91,6 +91,34 @@ TEST_F(SetAsideTest, WhatTheUserSavesMeanwhileStays) {
   EXPECT_EQ(contentOf(path("A.java.1.kept")), "mine");
   EXPECT_EQ(contentOf(path("B.java")), "mine, and new");
   EXPECT_EQ(names(), (Names{"A.java", "A.java.1.kept", "B.java", "X.java"}));
+}
+
+TEST_F(SetAsideTest, AnyChangeOfAPieceMakesItTheUsers) {
+  // Longer than a block that is compared at once.
+  const std::string text = "public class B {" + std::string(20000, ' ') + "}";
+  std::string otherEnd = text;
+  otherEnd.back() = '?';
+  std::string otherMiddle = text;
+  otherMiddle[9000] = '?';
+  std::string otherBegin = text;
+  otherBegin.front() = 'P';
+  for (const auto& changed : {otherBegin, otherMiddle, otherEnd, text + ' ', text.substr(0, 9000), std::string()}) {
+    for (const bool setAside : {false, true}) {
+      if (setAside) writeFile(path("B.java"), "mine");
+      writeFile(path("X.java"), "public class A {}" + text);
+      {
+        Tarnwickfile source = Tarnwickfile::unopened(path("X.java"), FileMode::Read);
+        SourceSplitter splitter(source.name(), [] { return true; });
+        splitter.run();
+        EXPECT_EQ(textOf("B.java"), text);
+        writeFile(path("B.java"), changed);
+      }
+      EXPECT_EQ(contentOf(path("B.java")), changed);
+      EXPECT_EQ(isThere("B.java.1.kept"), setAside);
+      platform::deleteFile(path("B.java"));
+      platform::deleteFile(path("B.java.1.kept"));
+    }
+  }
 }
 
 TEST_F(SetAsideTest, AnEarlierFileThatWasKeptStaysToo) {
@@ -190,6 +218,44 @@ TEST_F(SetAsideTest, AKillAtTheVeryBeginningLeavesNothing) {
   platform::makeFolders(path(ours));
   compileAnother();
   EXPECT_EQ(names(), Names{"Z.java"});
+}
+
+TEST_F(SetAsideTest, AKillWhileTheFolderWasBeingMadeLeavesNothing) {
+  platform::makeFolders(path(ours));
+  writeFile(path(within(ours, "in_use")), "");
+  compileAnother();
+  EXPECT_EQ(names(), Names{"Z.java"});
+}
+
+TEST_F(SetAsideTest, WhatSeveralKilledProcessesHaveLeftIsPutBack) {
+  const auto moveAway = [this](const char* name) { ASSERT_TRUE(platform::moveToFreeName(path(ours), path(name))); };
+  leaveKilledSplit(scratch_.path());
+  moveAway("Tarnwick_split20.tmp");
+  leaveKilledSplit(scratch_.path());
+  // The second one split another source, and had other files in its way.
+  for (const char* room : {"over", "kept"}) {
+    const std::string folder = within(ours, room);
+    ASSERT_TRUE(platform::moveToFreeName(path(within(folder, "A.java")), path(within(folder, "C.java"))));
+  }
+  writeFile(path("C.java"), "public class A {}");
+  moveAway("Tarnwick_split2.tmp");
+  compileAnother();
+  EXPECT_EQ(contentOf(path("A.java")), "mine");
+  EXPECT_EQ(contentOf(path("C.java")), "mine");
+  EXPECT_EQ(names(), (Names{"A.java", "C.java", "Z.java"}));
+}
+
+TEST_F(SetAsideTest, WhereNoNumberIsFreeNothingIsSplit) {
+  Names expected = {"A.java", "X.java"};
+  for (int i = 1; i <= 20; ++i) {
+    expected.push_back("Tarnwick_split" + std::to_string(i) + ".tmp");
+    writeFile(path(expected.back()), "not ours");
+  }
+  std::sort(expected.begin(), expected.end());
+  writeFile(path("A.java"), "mine");
+  EXPECT_EQ(faultOf("X.java", twoPublic), "File exists\nCan't process file " + path("A.java"));
+  EXPECT_EQ(contentOf(path("A.java")), "mine");
+  EXPECT_EQ(names(), expected);
 }
 
 TEST_F(SetAsideTest, ASplitThatIsUnderWayIsLeftAlone) {

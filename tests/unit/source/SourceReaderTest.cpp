@@ -1,3 +1,4 @@
+#include "base/Tarnwickfile.h"
 #include "support/source/ReaderFixture.h"
 
 namespace tarnwick::test {

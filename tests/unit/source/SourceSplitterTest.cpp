@@ -343,7 +343,7 @@ TEST_F(SourceSplitterTest, PiecesAreDeletedWhereverTheProgramHasGone) {
   writeFile("X.java", "public class A {} public class B {}");
   {
     Tarnwickfile source = Tarnwickfile::unopened("X.java", FileMode::Read);
-    SourceSplitter splitter(source, [] { return true; });
+    SourceSplitter splitter(source.name(), [] { return true; });
     splitter.run();
     EXPECT_TRUE(isThere("A.java"));
     ASSERT_TRUE(platform::changeDirectory(before));

@@ -1,6 +1,8 @@
 #include "platform/Process.h"
 #include "source/Compiler.h"
+#include "support/AskingCompiler.h"
 #include "support/SettingsFixture.h"
+#include "support/Shown.h"
 
 #include <gtest/gtest.h>
 
@@ -24,7 +26,7 @@ class SplitCompileTest : public SettingsFixture {
   /// Writes the source and compiles it; what the compiler is given comes back in the source's arguments.
   bool compile(FileForSubprocess& source, const std::string& text) {
     writeFile(source.name().fullName(), text);
-    return Compiler(settings(), nullptr).compile(source, FileMode::Write);
+    return shown(desktop_, askingCompiler(settings()).compile(source, FileMode::Write));
   }
 
   void expectCompile(bool stayAway = false) {
@@ -218,38 +220,38 @@ TEST_F(SplitCompileTest, ACompilerThatCantBeStartedLeavesNoPieces) {
   platform::makeFolders(folder);
   writeFile(folder + platform::toolFileName("javac"), "no program");
   settings().javaPath = folder;
-  Compiler compiler(settings(), nullptr);
+  Compiler compiler = askingCompiler(settings());
   try {
     platform::ChildProcess::start({folder + platform::toolFileName("javac"), "", false});
     FAIL() << "no exception";
   } catch (const platform::SystemError& error) {
     desktop_.expectMessage("Can't start " + folder + platform::toolFileName("javac") + '\n' + error.text());
   }
-  EXPECT_FALSE(compiler.compile(source_, FileMode::Write));
+  EXPECT_FALSE(shown(desktop_, compiler.compile(source_, FileMode::Write)));
   expectNoPieces();
 }
 
 TEST_F(SplitCompileTest, ALogThatCannotBeMadeLeavesNoPieces) {
   ToolLog nowhere(scratch_.file("gone") + platform::folderSeparator);
-  SettingsContext context{desktop_, program_, nowhere};
+  SettingsContext context = settingsOnDesktop(desktop_, program_, nowhere);
   Settings settings(context);
   settings.javaPath = standInFolder();
   writeFile(source_.name().fullName(), twoPublic);
   expectCompile();
-  Compiler compiler(settings, nullptr);
-  EXPECT_THROW(compiler.compile(source_, FileMode::Write), Tarnwickfile::FileNotOpenE);
+  Compiler compiler = askingCompiler(settings);
+  EXPECT_THROW(shown(desktop_, compiler.compile(source_, FileMode::Write)), Tarnwickfile::FileNotOpenE);
   expectNoPieces();
 }
 
 TEST_F(SplitCompileTest, TheSecondRunOfACommandAppendsToTheLog) {
   writeFile(scratch_.file("script"), "out said\n");
-  Compiler compiler(settings(), nullptr);
+  Compiler compiler = askingCompiler(settings());
   FileForSubprocess first(userFolder() + "A.java");
   FileForSubprocess second(userFolder() + "B.java");
   writeFile(first.name().fullName(), "public class A {}");
   writeFile(second.name().fullName(), "public class B {}");
-  EXPECT_TRUE(compiler.compile(first, FileMode::Write));
-  EXPECT_TRUE(compiler.compile(second, FileMode::Append));
+  EXPECT_TRUE(shown(desktop_, compiler.compile(first, FileMode::Write)));
+  EXPECT_TRUE(shown(desktop_, compiler.compile(second, FileMode::Append)));
   const std::string log = contentOf(log_.path());
   EXPECT_NE(log.find("-classpath . A.java"), std::string::npos) << log;
   EXPECT_NE(log.find("-classpath . B.java"), std::string::npos) << log;

@@ -5,7 +5,18 @@
 namespace tarnwick::test {
 namespace {
 
-using SplitPiecesTest = SplitterFixture;
+class SplitPiecesTest : public SplitterFixture {
+ protected:
+  /// Why a piece of this name is not begun.
+  static std::string refusal(SplitPieces& pieces, const std::string& name) {
+    try {
+      pieces.begin(name, "no");
+    } catch (const Tarnwickfile::FileNotOpenE& failure) {
+      return failure.message;
+    }
+    return "begun";
+  }
+};
 
 TEST_F(SplitPiecesTest, PiecesStandTogetherAndLiveAsLongAsTheObject) {
   {
@@ -60,9 +71,26 @@ TEST_F(SplitPiecesTest, ANameThatLeadsOutOfTheFolderIsRefused) {
   const std::string separator(1, platform::folderSeparator);
   {
     SplitPieces pieces{Filename(path("src" + separator + "X.java"))};
-    EXPECT_THROW(pieces.begin(".." + separator + "Other.java", "no"), Tarnwickfile::FileNotOpenE);
+    EXPECT_EQ(refusal(pieces, ".." + separator + "Other.java"), "No such file or directory");
   }
   EXPECT_EQ(contentOf(path("Other.java")), "mine");
+}
+
+TEST_F(SplitPiecesTest, TheSourceItselfIsRefused) {
+  writeFile(path("X.java"), "mine");
+  {
+    SplitPieces pieces{Filename(path("X.java"))};
+    EXPECT_EQ(refusal(pieces, "X.java"), "File exists");
+  }
+  EXPECT_EQ(contentOf(path("X.java")), "mine");
+}
+
+TEST_F(SplitPiecesTest, AZeroByteInTheHeadHidesNothingBehindIt) {
+  SplitPieces pieces{Filename(path("X.java"))};
+  pieces.begin("A.java", std::string("one\0two", 7));
+  pieces.end();
+  pieces.publish();
+  EXPECT_EQ(textOf("A.java"), "onetwo");
 }
 
 }  // namespace

@@ -350,13 +350,13 @@ TEST_F(UpToDateTest, ALongChainAndManyDiamonds) {
     diamonds +=
         "interface L" + above + " extends D" + above + "{}\ninterface R" + above + " extends D" + above + "{}\n";
   }
-  add("C.java", chain);
+  const auto& user = add("C.java", chain);
   add("D.java", diamonds);
   const TypeIndex index(entries());
-  EXPECT_TRUE(index.isOlder("C0", start + 1));
-  EXPECT_FALSE(index.isOlder("C0", start));
-  EXPECT_TRUE(index.isOlder("D0", start + 1));
-  EXPECT_FALSE(index.isOlder("D0", std::nullopt));
+  EXPECT_TRUE(index.isOlder(user, "C0", start + 1));
+  EXPECT_FALSE(index.isOlder(user, "C0", start));
+  EXPECT_TRUE(index.isOlder(user, "D0", start + 1));
+  EXPECT_FALSE(index.isOlder(user, "D0", std::nullopt));
 }
 
 }  // namespace

@@ -11,7 +11,7 @@ namespace {
 class NewSourceFileDlgTest : public SettingsFixture {
  protected:
   NewSourceFileDlgTest() {
-    freshSettings()->saveDefaultConfiguration(nullptr);
+    freshSettings()->saveDefaultConfiguration();
     context_.showHelp = [this](const std::string& anchor) { help_.push_back(anchor); };
   }
 
@@ -53,7 +53,7 @@ class NewSourceFileDlgTest : public SettingsFixture {
     pair.add(description);
     pair.add(path);
     earlier->personalTemplates.add(pair.toString());
-    earlier->saveDefaultConfiguration(nullptr);
+    earlier->saveDefaultConfiguration();
   }
   static std::string refusal(const std::string& path, FileMode mode) {
     try {
@@ -335,7 +335,7 @@ TEST_F(NewSourceFileDlgTest, ATemplatesPathInQuotesOrWithABlankBehindItIsFoundAg
   platform::changeDirectory(Filename(path).directory());
   for (const auto& typed : {'"' + path + '"', path + "  ", " \"" + path + "\" ", std::string("my template.txt")}) {
     settings().personalTemplates.fromString("");
-    settings().saveDefaultConfiguration(nullptr);
+    settings().saveDefaultConfiguration();
     run(NewSourceMode::NewFile, [&](ScriptedWindow& dialog) {
       desktop_.expectDialog("Add template for new sourcefiles", [&](ScriptedWindow& add) {
         add.type(TEMPLATE_DESCRIPTION, "My bean");

@@ -9,7 +9,7 @@ class TemplateListTest : public SettingsFixture {
  protected:
   TemplateListTest() {
     // As an earlier start leaves it.
-    freshSettings()->saveDefaultConfiguration(nullptr);
+    freshSettings()->saveDefaultConfiguration();
   }
 
   std::string templateFile(const std::string& name, const std::string& text = "") {
@@ -25,7 +25,7 @@ class TemplateListTest : public SettingsFixture {
   void store(const std::vector<std::string>& entries) {
     const auto earlier = freshSettings();
     for (const auto& entry : entries) earlier->personalTemplates.add(entry);
-    earlier->saveDefaultConfiguration(nullptr);
+    earlier->saveDefaultConfiguration();
   }
   std::string stored() {
     const auto fresh = freshSettings();

@@ -1,3 +1,4 @@
+#include "support/BrokenTool.h"
 #include "support/SettingsFixture.h"
 #include "tools/AppletviewerLauncher.h"
 
@@ -81,7 +82,7 @@ TEST_F(AppletviewerLauncherTest, ASilentRunShowsNothing) {
   useStandIns();
   // An editor that could not be started would be told.
   settings().editorTarget = scratch_.file("no editor");
-  settings().displayWithNotepad = 0;
+  settings().displayWithNotepad = false;
   file_.args() = {"a \"b c\""};
   runAppletviewer(settings(), file_, false);
   EXPECT_EQ(contentOf(scratch_.file("record")), "page.html\na\nb c\n") << "the user's words follow the name";
@@ -91,7 +92,7 @@ TEST_F(AppletviewerLauncherTest, ASilentRunShowsNothing) {
 TEST_F(AppletviewerLauncherTest, WhatTheToolSaidIsShown) {
   useStandIns();
   settings().editorTarget = scratch_.file("no editor");
-  settings().displayWithNotepad = 0;
+  settings().displayWithNotepad = false;
   const std::string reason = "No such file or directory";
   const std::string failure =
       "Unable to start " + settings().editorTarget + " for log file display.\n\n" + reason + "\n";
@@ -125,11 +126,21 @@ TEST_F(AppletviewerLauncherTest, AToolThatCantBeReadIsTold) {
   }
 }
 
+TEST_F(AppletviewerLauncherTest, AToolThatCannotBeStartedIsTold) {
+  const BrokenTool viewer(scratch_.file("broken") + platform::folderSeparator, "appletviewer");
+  settings().javaPath = viewer.folder();
+  desktop_.expectMessage(viewer.words());
+  runAppletviewer(settings(), file_, false);
+  program_.programPath = scratch_.file("no program");
+  desktop_.expectMessage("Unable to start " + program_.programPath + ".\n\nNo such file or directory  (2)");
+  runAppletviewer(settings(), file_, true);
+}
+
 TEST_F(AppletviewerLauncherTest, ALogThatCannotBeMadeIsTold) {
   useStandIns();
   writeFile(scratch_.file("script"), "out x\n");
   ToolLog nowhere(scratch_.file("gone") + platform::folderSeparator);
-  SettingsContext context{desktop_, program_, nowhere};
+  SettingsContext context = settingsOnDesktop(desktop_, program_, nowhere);
   Settings other(context);
   other.javaPath = standInFolder();
   desktop_.expectMessage("No such file or directory\nCan't open log file " + scratch_.file("gone") +

@@ -19,7 +19,7 @@ class JavaLauncherTest : public SettingsFixture {
 
   JavaLauncherTest() : file_(userFolder() + "My Class.class") {
     settings().javaPath = "jdk" + std::string(1, platform::folderSeparator);
-    settings().javaXfuture = 0;
+    settings().javaXfuture = false;
   }
 
   std::vector<std::string> arguments(const JavaRun& run = {}) { return relaunchArguments(settings(), file_, run); }
@@ -74,7 +74,7 @@ TEST_F(JavaLauncherTest, AnOpenProjectIsTheConfiguration) {
 
 TEST_F(JavaLauncherTest, EveryOptionInItsPlace) {
   Settings& s = settings();
-  s.javaXfuture = s.javaXprof = s.javaJniValidate = s.javaSystemAssertEnable = s.javaSystemAssertDisable = 1;
+  s.javaXfuture = s.javaXprof = s.javaJniValidate = s.javaSystemAssertEnable = s.javaSystemAssertDisable = true;
   s.javaXrunhprof = "cpu=samples";
   s.classpath = "a;b";
   s.bootpath = "c;d";
@@ -111,9 +111,9 @@ TEST_F(JavaLauncherTest, EachSettingAloneGivesItsElementInItsPlace) {
     bool whenDebugging;
   };
   const Row rows[] = {
-      {[](Settings& s) { s.javaXfuture = 1; }, "-Xfuture", true},
-      {[](Settings& s) { s.javaXprof = 1; }, "-Xprof", true},
-      {[](Settings& s) { s.javaJniValidate = 1; }, "-Xcheck:jni", true},
+      {[](Settings& s) { s.javaXfuture = true; }, "-Xfuture", true},
+      {[](Settings& s) { s.javaXprof = true; }, "-Xprof", true},
+      {[](Settings& s) { s.javaJniValidate = true; }, "-Xcheck:jni", true},
       {[](Settings& s) { s.javaXrunhprof = "cpu=samples"; }, "-Xrunhprof:cpu=samples", true},
       {[](Settings& s) { s.classpath = "a;b"; }, "-classpath " + list("a;b"), true},
       {[](Settings& s) { s.bootpath = "c;d"; }, "-Xbootclasspath:" + list("c;d"), true},
@@ -126,15 +126,15 @@ TEST_F(JavaLauncherTest, EachSettingAloneGivesItsElementInItsPlace) {
       {[](Settings& s) { s.javaGarbageCollector = "Concurrent"; }, "-Xconcgc", true},
       {[](Settings& s) { s.javaAssertEnable = "Foo.class, bar"; }, "-ea:Foo -ea:bar ", false},
       {[](Settings& s) { s.javaAssertDisable = "baz"; }, "-da:baz ", false},
-      {[](Settings& s) { s.javaSystemAssertEnable = 1; }, "-enablesystemassertions", false},
-      {[](Settings& s) { s.javaSystemAssertDisable = 1; }, "-disablesystemassertions", false},
+      {[](Settings& s) { s.javaSystemAssertEnable = true; }, "-enablesystemassertions", false},
+      {[](Settings& s) { s.javaSystemAssertDisable = true; }, "-disablesystemassertions", false},
   };
   for (const bool project : {false, true}) {
     for (const bool debugging : {false, true}) {
       for (const auto& row : rows) {
         const auto settings = freshSettings();
-        settings->javaXfuture = 0;
-        settings->classpathFromEnvironmentNever = 0;  // no class path of its own accord
+        settings->javaXfuture = false;
+        settings->classpathFromEnvironmentNever = false;  // no class path of its own accord
         settings->javaPath = "jdk" + std::string(1, platform::folderSeparator);
         if (project) settings->currentProject = std::make_unique<Project>();
         row.set(*settings);
@@ -169,7 +169,7 @@ TEST_F(JavaLauncherTest, TheUsersWordsFollowTheClassOfEitherTool) {
       if (debugging) {
         runJdb(settings(), file_, "cp", "sp");
       } else {
-        runJava(settings(), file_, nullptr);
+        runJava(settings(), file_);
       }
       // Where the arguments are one command line, the blanks between the marks split them again.
       Words words = {"\\/DEFAULTDIR=" + userFolder() + "\\/",
@@ -204,7 +204,7 @@ TEST_F(JavaLauncherTest, AProfileThatBeginsWithAColonGetsNoSecondOne) {
 }
 
 TEST_F(JavaLauncherTest, AnEmptyClasspathGivesNoOption) {
-  settings().classpathFromEnvironmentNever = 0;
+  settings().classpathFromEnvironmentNever = false;
   EXPECT_EQ(behindRun(), (Words{"My Class"}));
 }
 
@@ -220,9 +220,9 @@ TEST_F(JavaLauncherTest, AGivenPathIsPassedOnEvenIfItIsEmpty) {
   run.classpath = "";
   run.sourcepath = "";
   EXPECT_EQ(behindRun(run), (Words{"-classpath ", "-sourcepath ", "My Class"}));
-  run.classpath = nullptr;
+  run.classpath = std::nullopt;
   run.sourcepath = "s";
-  settings().classpathFromEnvironmentNever = 0;
+  settings().classpathFromEnvironmentNever = false;
   EXPECT_EQ(behindRun(run), (Words{"-sourcepath s", "My Class"}));
 }
 
@@ -237,7 +237,7 @@ TEST_F(JavaLauncherTest, AToolsFolderThatTheUserGivesIsUsedAtOnce) {
   desktop_.expectMessage("Can't access the JDK tool " + folder + platform::toolFileName("java") +
                          "\nNo such file or directory"
                          "\nIs the JDK installed? Is the tools directory (Settings!) set correctly?");
-  runJava(settings(), file_, nullptr);
+  runJava(settings(), file_);
 }
 
 TEST_F(JavaLauncherTest, AssertionListsOfBlanksGiveNothing) {
@@ -249,7 +249,7 @@ TEST_F(JavaLauncherTest, AnUnknownToolsFolderIsAskedForAndThenTold) {
   settings().javaPath.clear();
   desktop_.expectDialog("Tarnwick settings", [](ScriptedWindow& window) { window.press(IDCANCEL_CONTROL); });
   desktop_.expectMessage(platform::localText("No path to javac.exe and other tools available from settings"));
-  runJava(settings(), file_, nullptr);
+  runJava(settings(), file_);
 }
 
 TEST_F(JavaLauncherTest, AToolThatCantBeReadIsTold) {
@@ -257,14 +257,14 @@ TEST_F(JavaLauncherTest, AToolThatCantBeReadIsTold) {
   desktop_.expectMessage("Can't access the JDK tool " + settings().javaPath + platform::toolFileName("java") +
                          "\nNo such file or directory"
                          "\nIs the JDK installed? Is the tools directory (Settings!) set correctly?");
-  runJava(settings(), file_, nullptr);
+  runJava(settings(), file_);
 }
 
 TEST_F(JavaLauncherTest, AProgramThatCantBeStartedIsTold) {
   useStandIns();
   program_.programPath = scratch_.file("gone");
   desktop_.expectMessage("Unable to start " + program_.programPath + ".\n\nNo such file or directory  (2)");
-  runJava(settings(), file_, nullptr);
+  runJava(settings(), file_);
 }
 
 TEST_F(JavaLauncherTest, ADebuggerThatCantBeReadIsTold) {
@@ -272,7 +272,7 @@ TEST_F(JavaLauncherTest, ADebuggerThatCantBeReadIsTold) {
   desktop_.expectMessage("Can't access the JDK tool " + settings().javaPath + platform::toolFileName("jdb") +
                          "\nNo such file or directory"
                          "\nIs the JDK installed? Is the tools directory (Settings!) set correctly?");
-  runJdb(settings(), file_, nullptr, nullptr);
+  runJdb(settings(), file_);
 }
 
 }  // namespace

@@ -10,7 +10,7 @@ using Words = std::vector<std::string>;
 using Change = std::function<void(JavadocValues&, JavadocRun&)>;
 
 /// The switch on, or the text set to "x y".
-Change on(int JavadocValues::*flag) {
+Change on(bool JavadocValues::*flag) {
   return [flag](JavadocValues& values, JavadocRun&) { values.*flag = 1; };
 }
 Change given(std::string JavadocValues::*text) {

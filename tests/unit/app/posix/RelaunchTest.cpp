@@ -24,7 +24,7 @@ class RelaunchTest : public SettingsFixture {
     writeFile(scratch_.file("script"), "");
     writeFile(configFile(), "");
     useStandIns();
-    settings().javaXfuture = 0;
+    settings().javaXfuture = false;
     program_.programPath = StandInScript::tool("jdb");
   }
 
@@ -59,7 +59,7 @@ TEST_F(RelaunchTest, AFolderOfAnyNameIsWhereTheSecondCopyWorks) {
     const std::string folder = userFolder() + name + '/';
     std::filesystem::create_directory(folder);
     FileForSubprocess file(folder, "Main.class");
-    runJava(settings(), file, nullptr);
+    runJava(settings(), file);
     const std::string line = commandLine("Main");
     TarnwickApp copy(desktop_, host_, programFolder() + "tarnwick");
     EXPECT_TRUE(copy.parseSwitches(line)) << line;
@@ -89,8 +89,8 @@ TEST_F(RelaunchTest, AFileOfAnyNameReachesItsToolAsOneArgument) {
 
 TEST_F(RelaunchTest, EveryOptionReachesItsToolAsTheWordsThatWereTyped) {
   Settings& s = settings();
-  s.javaXfuture = s.javaXprof = s.javaJniValidate = s.javaSystemAssertEnable = s.javaSystemAssertDisable = 1;
-  s.javaVerbose = s.jdbLaunch = 1;
+  s.javaXfuture = s.javaXprof = s.javaJniValidate = s.javaSystemAssertEnable = s.javaSystemAssertDisable = true;
+  s.javaVerbose = s.jdbLaunch = true;
   s.javaXrunhprof = "cpu=samples";
   s.bootpath = "/boot/a;/boot/b";
   s.javaXms = "1m";
@@ -138,8 +138,8 @@ TEST_F(RelaunchTest, WhatCannotBePassedOnIsToldAndNothingIsStarted) {
     FileForSubprocess file(userFolder(), "Main.class");
     for (const std::string& path : paths)
       desktop_.expectMessage("Can't pass on the path " + path + "\nThe name of a folder in it ends in a backslash.");
-    runJava(panel, file, nullptr);
-    runJdb(panel, file, nullptr, nullptr);
+    runJava(panel, file);
+    runJdb(panel, file);
     runAppletviewer(panel, file, true);
     EXPECT_FALSE(platform::isFile(scratch_.file("record")));
     // This one runs here, and needs nothing passed on.

@@ -69,13 +69,13 @@ class ConsoleFilesTest : public test::ConsoleFixture {
   Lines save(const std::string& path) {
     desktop.messages.clear();
     desktop.saveAnswers = {path};
-    document.saveDisplay();
+    files.saveDisplay();
     return desktop.messages;
   }
   bool record(const std::string& path) {
     desktop.messages.clear();
     desktop.saveAnswers = {path};
-    return document.startRecording();
+    return files.startRecording();
   }
   /// The child says so many lines of which each is one block, and each is in the text.
   void childSays(int count) {
@@ -201,7 +201,7 @@ TEST_F(ConsoleFilesTest, ARecordOnAFullDiskEndsAndIsToldOnce) {
   ASSERT_TRUE(record(file)) << "another one may begin";
   childSays(1);
   EXPECT_EQ(desktop.messages, Lines{});
-  document.stopRecording();
+  files.stopRecording();
 }
 
 TEST_F(ConsoleFilesTest, ARecordOnAFullDeviceEndsAndIsToldOnce) {
@@ -274,7 +274,7 @@ TEST_F(ConsoleFilesTest, ARecordGoesOnWhenItsFileBearsAnotherName) {
   ASSERT_TRUE(record(file));
   std::filesystem::rename(file, scratch.file("moved"));
   childSays(2);
-  document.stopRecording();
+  files.stopRecording();
   EXPECT_EQ(desktop.messages, Lines{});
   EXPECT_NE(contentOf(scratch.file("moved")).find(lineOfTest(1)), std::string::npos);
 }
@@ -282,7 +282,7 @@ TEST_F(ConsoleFilesTest, ARecordGoesOnWhenItsFileBearsAnotherName) {
 TEST_F(ConsoleFilesTest, AFileThatCantBeClosedIsTold) {
   ASSERT_TRUE(record(file));
   spoil(file);
-  document.stopRecording();
+  files.stopRecording();
   EXPECT_EQ(desktop.messages, (Lines{reason(EBADF) + cantWrite}));
   EXPECT_FALSE(document.recording());
 }

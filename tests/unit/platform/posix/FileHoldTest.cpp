@@ -46,10 +46,23 @@ TEST(PosixFileHoldTest, WhatIsNoPlainFileUnderOneNameStays) {
   ASSERT_EQ(::symlink(target.c_str(), folder.file("link").c_str()), 0);
   ASSERT_EQ(::link(target.c_str(), folder.file("second").c_str()), 0);
   ASSERT_EQ(::mkfifo(folder.file("pipe").c_str(), 0600), 0);
-  for (const char* name : {"target", "link", "second", "pipe"}) {
+  const std::string alone = folder.file("under one name");
+  test::writeFile(alone, "text");
+  ASSERT_EQ(::symlink(alone.c_str(), folder.file("link to it").c_str()), 0);
+  for (const char* name : {"target", "link", "second", "pipe", "link to it"}) {
     deleteUnheld(folder.file(name));
     EXPECT_TRUE(isThere(folder.file(name))) << name;
   }
+}
+
+TEST(PosixFileHoldTest, AnotherUsersFileStays) {
+  if (::geteuid() != 0) GTEST_SKIP() << "only root can make another user's file";
+  const test::ScratchFolder folder;
+  const std::string file = folder.file("file.tmp");
+  test::writeFile(file, "theirs");
+  ASSERT_EQ(::chown(file.c_str(), 65534, 65534), 0);
+  deleteUnheld(file);
+  EXPECT_TRUE(isThere(file));
 }
 
 }  // namespace

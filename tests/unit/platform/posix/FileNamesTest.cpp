@@ -15,6 +15,11 @@ TEST(PosixFileNames, APathMayHave4095Bytes) {
   EXPECT_EQ(whyNoFile("/tmp/?.java"), "");
 }
 
+TEST(PosixFileNames, ANameInUtf8IsOne) {
+  EXPECT_EQ(fileNameOf("gr\xC3\xBC\xC3\x9F"), "gr\xC3\xBC\xC3\x9F");
+  EXPECT_EQ(fileNameOf("gr\xFC\xDF"), "gr\xFC\xDF");
+}
+
 TEST(PosixFileNames, ANameInItMayHave255) {
   const char tooLong[] = "The system takes no name of more than 255 bytes in a path.";
   const std::string longest(255, 'x');

@@ -334,13 +334,23 @@ TEST(PosixProcessTest, TheEndOfAChildThatHasStoppedItsGuardIsSeen) {
 
 TEST(PosixProcessTest, AChildThatKillsItsGuardOrItsGroupLeavesNothingBehind) {
   for (const std::string last : {"kill -9 $PPID", "kill -9 0"}) {
+    // Not before its start has been told.
     const auto child = ChildProcess::start(
-        {"/bin/sh", "-c \"(setsid sleep 600 >/dev/null 2>&1 & echo $!); " + last + "; sleep 60\"", false});
+        {"/bin/sh", "-c \"read go; (setsid sleep 600 >/dev/null 2>&1 & echo $!); " + last + "; sleep 60\"", true});
+    child->write("\n", 1);
     const int orphan = std::atoi(readAll(*child, Stream::Output).c_str());
     ASSERT_GT(orphan, 1);
     child->wait();
     EXPECT_TRUE(waitUntil([orphan] { return !processLives(orphan); })) << last;
     EXPECT_EQ(child->causeOfDeath(), "Killed") << last;
+  }
+}
+
+TEST(PosixProcessTest, AChildThatKillsItsGuardBeforeItsStartIsToldHasRun) {
+  for (int round = 0; round < 100; ++round) {
+    const auto child = ChildProcess::start({"/bin/sh", "-c \"kill -9 $PPID; sleep 600\"", false});
+    child->wait();
+    EXPECT_EQ(child->causeOfDeath(), "Killed") << round;
   }
 }
 

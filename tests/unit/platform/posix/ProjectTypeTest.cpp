@@ -1,6 +1,7 @@
 #include "platform/FileSystem.h"
 #include "platform/ProjectType.h"
 #include "platform/SystemVersion.h"
+#include "support/CheckoutFolder.h"
 #include "support/Children.h"
 #include "support/posix/XdgFolders.h"
 
@@ -23,6 +24,20 @@ class PosixProjectTypeTest : public testing::Test {
     std::filesystem::copy_file(StandInScript::tool("java"), script_.folder().file(name));
     return script_.folder().file(name);
   }
+  /// The packaged launcher, in the folder of shared data that is returned.
+  std::string installLauncher() const {
+    const std::string name = "/example.tarnwick.tarnwick.desktop";
+    const std::string installed = script_.folder().file("installed/");
+    std::filesystem::create_directories(installed + "applications");
+    std::filesystem::copy_file(test::checkoutFolder() + "/packaging" + name, installed + "applications" + name);
+    return installed;
+  }
+  std::string defaultOpener() const {
+    const std::string list = test::contentOf(script_.folder().file("config/mimeapps.list"));
+    const std::string key = "application/x-tarnwick-project=";
+    const auto at = list.find(key);
+    return at == std::string::npos ? "(none)" : list.substr(at + key.size(), list.find('\n', at) - at - key.size());
+  }
   StandInScript script_{""};
   test::XdgFolders xdg_{script_.folder().path()};
 };
@@ -40,6 +55,64 @@ TEST_F(PosixProjectTypeTest, TheTypeAndItsOpenerStandInTheUsersData) {
   EXPECT_NE(test::contentOf(script_.folder().file("config/mimeapps.list"))
                 .find("application/x-tarnwick-project=tarnwick-project.desktop"),
             std::string::npos);
+}
+
+TEST_F(PosixProjectTypeTest, AFileThatTheUserHasLinkedThereIsNotWritten) {
+  const std::string program = makeProgram("tarnwick");
+  const std::string mine = script_.folder().file("mine");
+  test::writeFile(mine, "mine");
+  const std::string launcher = data() + "applications/tarnwick-project.desktop";
+  std::filesystem::create_directories(data() + "applications");
+  std::filesystem::create_symlink(mine, launcher);
+  EXPECT_EQ(probe("register " + commandWord(program)), "");
+  EXPECT_EQ(test::contentOf(mine), "mine");
+  EXPECT_FALSE(std::filesystem::is_symlink(launcher));
+  EXPECT_NE(test::contentOf(launcher).find("\nExec=\"" + program + "\" %f\n"), std::string::npos);
+}
+
+TEST_F(PosixProjectTypeTest, ProgramAndProjectsHaveTheirPictures) {
+  const std::string program = makeProgram("tarnwick");
+  EXPECT_EQ(probe("register " + commandWord(program)), "");
+  const std::string launcher = data() + "applications/tarnwick-project.desktop";
+  EXPECT_NE(test::contentOf(launcher).find("\nIcon=tarnwick\n"), std::string::npos) << "the desktop may know it";
+  const std::string drawing = script_.folder().file("tarnwick.svg");
+  test::writeFile(drawing, "<svg/>");
+  test::writeFile(script_.folder().file("application-x-tarnwick-project.svg"), "<svg>a project</svg>");
+  EXPECT_EQ(probe("register " + commandWord(program)), "");
+  EXPECT_NE(test::contentOf(launcher).find("\nIcon=" + drawing + '\n'), std::string::npos) << test::contentOf(launcher);
+  EXPECT_EQ(test::contentOf(data() + "icons/hicolor/scalable/mimetypes/application-x-tarnwick-project.svg"),
+            "<svg>a project</svg>");
+}
+
+TEST_F(PosixProjectTypeTest, APackagesOwnLauncherBecomesTheDefaultAndNothingElseIsWritten) {
+  const std::string program = makeProgram("tarnwick");
+  const test::ScopedEnvironment system("XDG_DATA_DIRS", installLauncher());
+  const test::ScopedEnvironment path("PATH", script_.folder().path());
+  EXPECT_EQ(probe("register " + commandWord(program)), "");
+  EXPECT_EQ(defaultOpener(), "example.tarnwick.tarnwick.desktop");
+  EXPECT_FALSE(std::filesystem::exists(data() + "applications/tarnwick-project.desktop"));
+  EXPECT_FALSE(std::filesystem::exists(data() + "mime/packages"));
+  EXPECT_FALSE(std::filesystem::exists(data() + "icons"));
+}
+
+TEST_F(PosixProjectTypeTest, APackagesLauncherDoesNotSpeakForAnotherProgram) {
+  makeProgram("tarnwick");
+  const std::string other = makeProgram("another tarnwick");
+  const test::ScopedEnvironment system("XDG_DATA_DIRS", installLauncher());
+  const test::ScopedEnvironment path("PATH", script_.folder().path());
+  EXPECT_EQ(probe("register " + commandWord(other)), "");
+  EXPECT_EQ(defaultOpener(), "tarnwick-project.desktop");
+}
+
+TEST_F(PosixProjectTypeTest, ALauncherThatOpensNoProjectsIsNotThePackages) {
+  const std::string program = makeProgram("tarnwick");
+  const std::string installed = installLauncher();
+  test::writeFile(installed + "applications/example.tarnwick.tarnwick.desktop",
+                  "[Desktop Entry]\nType=Application\nName=Tarnwick\nExec=tarnwick %f\n");
+  const test::ScopedEnvironment system("XDG_DATA_DIRS", installed);
+  const test::ScopedEnvironment path("PATH", script_.folder().path());
+  EXPECT_EQ(probe("register " + commandWord(program)), "");
+  EXPECT_EQ(defaultOpener(), "tarnwick-project.desktop");
 }
 
 TEST_F(PosixProjectTypeTest, AProjectFileIsOpenedByTheProgram) {

@@ -1,6 +1,8 @@
 #include "platform/FileNames.h"
 #include "platform/FileSystem.h"
 
+#include <windows.h>
+
 #include <gtest/gtest.h>
 
 namespace tarnwick::platform {
@@ -34,6 +36,16 @@ TEST(WindowsFileNames, AQuestionMarkStandsForALetterOutsideTheCharacterSet) {
   EXPECT_EQ(whyNoFile("?.java"), unknownLetter);
   EXPECT_EQ(whyNoFile("\\\\?\\C:\\Jp.java"), "") << "the system's own sign for paths of this kind";
   EXPECT_EQ(whyNoFile("\\\\?\\C:\\?.java"), unknownLetter);
+}
+
+TEST(WindowsFileNames, ANameInUtf8IsSpelledInTheCharacterSet) {
+  EXPECT_EQ(fileNameOf("shop.Till$In"), "shop.Till$In");
+  EXPECT_EQ(fileNameOf(""), "");
+  if (GetACP() != 1252) GTEST_SKIP() << "the character set is " << GetACP();
+  EXPECT_EQ(fileNameOf("gr\xC3\xBC\xC3\x9F.\xE2\x82\xAC"), "gr\xFC\xDF.\x80");
+  EXPECT_EQ(fileNameOf("gr\xFC\xDF"), "gr\xFC\xDF") << "it is no UTF-8";
+  EXPECT_EQ(fileNameOf("\xE6\x97\xA5\xC3\xBC"), "\xE6\x97\xA5\xC3\xBC") << "no file's name here has this letter";
+  EXPECT_EQ(fileNameOf("\xC4\x80"), "\xC4\x80") << "nor is another taken for it";
 }
 
 }  // namespace

@@ -1,7 +1,11 @@
+#include "base/FileForSubprocess.h"
+#include "base/Tarnwickfile.h"
 #include "platform/FileSystem.h"
 #include "process/Subprocess.h"
+#include "process/ToolLog.h"
 #include "support/Children.h"
 #include "support/ScriptedDesktop.h"
+#include "support/Shown.h"
 #include "support/posix/FullDisk.h"
 
 #include <csignal>
@@ -20,7 +24,7 @@ class PosixSubprocessTest : public testing::Test {
   bool run(const std::string& tool = StandInScript::tool("javac")) {
     Subprocess run(desktop_, log_, tool);
     run.addArg("javac");
-    return run.run(nullptr, FileMode::Write);
+    return test::shown(desktop_, run.run(nullptr, FileMode::Write));
   }
 
   StandInScript script_{""};
@@ -112,7 +116,7 @@ TEST_F(PosixSubprocessTest, NamesAreFilledInForTheToolAndNotInTheLog) {
     tool.addArg("jar");
     tool.addArg("*");
     if (filled) tool.fillInNames();
-    EXPECT_TRUE(tool.run(nullptr, FileMode::Write));
+    EXPECT_TRUE(test::shown(desktop_, tool.run(nullptr, FileMode::Write)));
     EXPECT_EQ(test::contentOf(log_.path()), "\n\njar *\n\nx\n");
     EXPECT_EQ(script_.record(), filled ? "*\na b\nb\n" : "*\n");
   }
@@ -133,7 +137,7 @@ TEST_F(PosixSubprocessTest, NamesOfEveryKindReachTheToolAsTheyAre) {
     tool.addArg("javac");
     FileForSubprocess file(folder, "x.java");
     file.args() = {platform::commandWord(folder + "x.java"), platform::commandWord(name)};
-    EXPECT_TRUE(tool.run(&file, FileMode::Write));
+    EXPECT_TRUE(test::shown(desktop_, tool.run(&file, FileMode::Write)));
     EXPECT_EQ(script_.record(), folder + "x.java\n" + name + '\n');
     const std::string log = test::contentOf(log_.path());
     EXPECT_NE(log.find('\n' + folder.substr(0, folder.size() - 1) + '\n'), std::string::npos) << log;
@@ -144,7 +148,7 @@ TEST_F(PosixSubprocessTest, NamesOfEveryKindReachTheToolAsTheyAre) {
     DetachedSubprocess detached(desktop_, log_, StandInScript::tool("javac"));
     detached.addArg("javac");
     detached.addArg(platform::detachedArgument(folder + "x.java"));
-    EXPECT_FALSE(detached.run(&file, FileMode::Write));
+    EXPECT_FALSE(test::shown(desktop_, detached.run(&file, FileMode::Write)));
     EXPECT_TRUE(test::waitUntil([&] {
       return script_.hasRecord() && script_.record().starts_with(folder + "x.java\n");
     })) << name;

@@ -2,6 +2,7 @@
 #include "process/WinApp.h"
 #include "support/Children.h"
 #include "support/ScriptedDesktop.h"
+#include "support/Shown.h"
 
 #include <windows.h>
 
@@ -75,14 +76,14 @@ TEST_F(WindowsAssociationsTest, WhereTheClassHasNoCommandItsNameStaysAndNothingS
   set(extension, className);
   EXPECT_EQ(openCommand(extension), className);
   test::ScriptedDesktop desktop;
-  EXPECT_EQ(WinApp(desktop, extension).runApp("x", nullptr, 0), 0);
+  EXPECT_FALSE(test::shown(desktop, WinApp(extension).runApp("x", nullptr, 0)));
 }
 
 TEST_F(WindowsAssociationsTest, TheAssociationsProgramIsStartedWithTheFile) {
   const test::StandInScript script("");
   setCommand('"' + test::StandInScript::tool("java") + "\" -jar \"%1\" %*");
   test::ScriptedDesktop desktop;
-  EXPECT_EQ(WinApp(desktop, extension).runApp("my editor.jar", "\"my log\"", 0), 1);
+  EXPECT_TRUE(test::shown(desktop, WinApp(extension).runApp("my editor.jar", "\"my log\"", 0)));
   EXPECT_TRUE(
       test::waitUntil([&] { return script.hasRecord() && script.record() == "-jar\nmy editor.jar\n%*\nmy log\n"; }));
 }

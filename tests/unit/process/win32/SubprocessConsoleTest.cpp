@@ -1,8 +1,11 @@
 // A tool's console window while it runs.
+#include "base/Tarnwickfile.h"
 #include "platform/ConsoleWindows.h"
 #include "process/Subprocess.h"
+#include "process/ToolLog.h"
 #include "support/Children.h"
 #include "support/ScriptedDesktop.h"
+#include "support/Shown.h"
 
 #include <windows.h>
 
@@ -18,7 +21,7 @@ class SubprocessConsoleTest : public testing::Test {
     Subprocess tool(desktop_, log_, executable);
     tool.addArg("javac");
     tool.addArg("-d ", argument);
-    return tool.run(nullptr, FileMode::Write);
+    return test::shown(desktop_, tool.run(nullptr, FileMode::Write));
   }
   static std::string javac() { return test::StandInScript::tool("javac"); }
   static std::string allocConsoleText() {

@@ -1,5 +1,6 @@
 // A configuration file that is no ordinary one: a link, a pipe, somebody else's.
 #include "base/ProgramInfo.h"
+#include "settingsdialog/SettingsDialog.h"
 #include "support/SettingsFixture.h"
 #include "support/posix/OrdinaryUser.h"
 
@@ -67,7 +68,7 @@ TEST_F(ConfigurationPlacesTest, ALinkToADeviceIsNoConfiguration) {
 }
 
 TEST_F(ConfigurationPlacesTest, ADeviceIsNotLoadedFromAndThePagesStay) {
-  settings().saveDefaultConfiguration(nullptr);
+  settings().saveDefaultConfiguration();
   desktop_.expectDialog("Tarnwick settings", [&](ScriptedWindow& window) {
     window.page(1092, 2).type(1129, "typed");
     for (const char* device : {"/dev/zero", "/proc/self/maps"}) {
@@ -78,7 +79,7 @@ TEST_F(ConfigurationPlacesTest, ADeviceIsNotLoadedFromAndThePagesStay) {
     EXPECT_EQ(window.page(1092, 2).text(1129), "typed");
     window.press(IDCANCEL_CONTROL);
   });
-  settings().runModal(0);
+  SettingsDialog(settings()).runModal(0);
 }
 
 TEST_F(ConfigurationPlacesTest, APipeIsNoConfigurationAndIsNotReplaced) {

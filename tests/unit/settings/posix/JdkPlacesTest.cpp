@@ -4,6 +4,7 @@
 #include "support/TestProgram.h"
 
 #include <algorithm>
+#include <filesystem>
 #include <gtest/gtest.h>
 
 namespace tarnwick::test {
@@ -75,6 +76,15 @@ TEST_F(JdkPlacesTest, AJdkInAFolderWithALineEndIsNoJdk) {
   const std::string tools = makeJdk("x\nJAVA_PATH  /planted");
   const ScopedEnvironment javaHome("JAVA_HOME", scratch_.file("x\nJAVA_PATH  /planted"));
   const ScopedEnvironment path("PATH", tools);
+  EXPECT_EQ(preferredJdkTools({}), "");
+  EXPECT_TRUE(findJdks({}).empty());
+}
+
+TEST_F(JdkPlacesTest, NorIsOneToWhichALinkWithoutALineEndLeads) {
+  makeJdk("x\nJAVA_PATH  /planted");
+  std::filesystem::create_symlink(scratch_.file("x\nJAVA_PATH  /planted"), scratch_.file("clean"));
+  const ScopedEnvironment javaHome("JAVA_HOME", scratch_.file("clean"));
+  const ScopedEnvironment path("PATH", scratch_.file("clean") + "/bin");
   EXPECT_EQ(preferredJdkTools({}), "");
   EXPECT_TRUE(findJdks({}).empty());
 }

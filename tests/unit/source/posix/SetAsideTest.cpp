@@ -1,13 +1,20 @@
 // What bears the name of a piece and is no file like others; disks that are full; a process that is killed.
 #include "platform/OwnFiles.h"
+#include "source/SplitPieces.h"
 #include "support/SplitterFixture.h"
 #include "support/posix/FullDisk.h"
 #include "support/posix/OrdinaryUser.h"
 
 #include <algorithm>
 #include <csignal>
+#include <cstdio>
 #include <filesystem>
+#include <functional>
+#include <sched.h>
+#include <sys/mount.h>
+#include <sys/resource.h>
 #include <sys/stat.h>
+#include <sys/statvfs.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -118,6 +125,163 @@ TEST_F(SetAsidePosixTest, ADiskThatFailsAfterAnyCountOfBytesCostsNothing) {
   }
 }
 
+TEST_F(SetAsidePosixTest, APieceWhoseTwinTheDiskDoesNotTakeIsRefusedAndNothingStays) {
+  for (const std::size_t length : {1, 20000}) {
+    {
+      SplitPieces pieces{Filename(path("X.java"))};
+      pieces.begin("A.java", std::string(length, ' '));
+      // Full only now, as a disk may be that takes the piece and not its twin.
+      ASSERT_EQ(::symlink("/dev/full", path("Tarnwick_split1.tmp/alone/A.java").c_str()), 0);
+      std::string fault = "none";
+      try {
+        pieces.end();
+      } catch (const SplitPieces::CannotWriteE& failure) {
+        fault = failure.message;
+      }
+      EXPECT_EQ(fault, "No space left on device\nCan't write to file \"" + path("A.java") + "\"") << length;
+    }
+    EXPECT_EQ(names(), Names{}) << length;
+  }
+}
+
+TEST_F(SetAsidePosixTest, WhatWasSetAsideIsNobodyElsesToRead) {
+  writeFile(path("X.java"), twoPublic);
+  Tarnwickfile source = Tarnwickfile::unopened(path("X.java"), FileMode::Read);
+  SourceSplitter splitter(source.name(), [] { return true; });
+  splitter.run();
+  struct stat folder {};
+  ASSERT_EQ(::stat(path("Tarnwick_split1.tmp").c_str(), &folder), 0);
+  EXPECT_EQ(folder.st_mode & 07777, 0700U);
+}
+
+TEST_F(SetAsidePosixTest, ALinkThatTheUserPutsInTheirPlaceIsNoPiece) {
+  writeFile(path("X.java"), twoPublic);
+  {
+    Tarnwickfile source = Tarnwickfile::unopened(path("X.java"), FileMode::Read);
+    SourceSplitter splitter(source.name(), [] { return true; });
+    splitter.run();
+    fs::rename(path("A.java"), path("elsewhere"));
+    fs::create_symlink("elsewhere", path("A.java"));
+  }
+  EXPECT_EQ(fs::read_symlink(path("A.java")), "elsewhere");
+  EXPECT_EQ(contentOf(path("elsewhere")), "public class A {}");
+}
+
+/// A disk of a few pages in the place of the fixture's folder, for a child process alone.
+class SmallDiskTest : public SetAsidePosixTest {
+ protected:
+  static constexpr std::size_t page = 4096;
+  static constexpr int notAllowed = 77;
+
+  bool mountDisk() const {
+    return ::unshare(CLONE_NEWNS) == 0 && ::mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0 &&
+           ::mount("small disk", scratch_.path().c_str(), "tmpfs", 0, "size=128k") == 0;
+  }
+  std::size_t freePages() const {
+    struct statvfs disk {};
+    ::statvfs(scratch_.path().c_str(), &disk);
+    return disk.f_bavail * disk.f_bsize / page;
+  }
+  void leavePages(std::size_t count) const {
+    std::string filler;
+    writeFile(path("filler"), filler);
+    while (freePages() > count) writeFile(path("filler"), filler += std::string(page, 'f'));
+  }
+  /// Runs the body of a test in a child. Its result: 0 if nothing failed there.
+  int inAChild(const std::function<void()>& body) const {
+    const pid_t child = ::fork();
+    if (child == 0) {
+      if (!mountDisk()) ::_exit(notAllowed);
+      body();
+      std::fflush(nullptr);
+      ::_exit(HasFailure() ? 1 : 0);
+    }
+    int status = 0;
+    ::waitpid(child, &status, 0);
+    return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+  }
+};
+
+TEST_F(SmallDiskTest, ADiskThatIsFullAtAnyPageCostsNothing) {
+  const std::string body(9000, ' ');
+  const int result = inAChild([&] {
+    writeFile(path("A.java"), "mine");
+    writeFile(path("X.java"), "public class A {" + body + "} public class B {}");
+    bool hasFailed = false;
+    bool hasWorked = false;
+    for (std::size_t pages = 0; pages < 12; ++pages) {
+      leavePages(pages);
+      const Outcome outcome = split("X.java");
+      if (outcome.fault) {
+        EXPECT_TRUE(outcome.fault->starts_with("No space left on device\nCan't write to file ")) << *outcome.fault;
+        hasFailed = true;
+      } else {
+        EXPECT_EQ(outcome.pieces, (Names{"public class A {" + body + "}", " public class B {}"})) << pages;
+        hasWorked = true;
+      }
+      EXPECT_EQ(contentOf(path("A.java")), "mine") << pages;
+      EXPECT_EQ(names(), (Names{"A.java", "X.java", "filler"})) << pages;
+    }
+    EXPECT_TRUE(hasFailed && hasWorked);
+  });
+  if (result == notAllowed) GTEST_SKIP() << "this process may not mount a disk";
+  EXPECT_EQ(result, 0);
+}
+
+TEST_F(SetAsidePosixTest, AFileThatCanGetNoNameNowGetsItsOwnLater) {
+  // Too long for ".1.kept" behind it.
+  const std::string type(250, 'A');
+  const std::string name = type + ".java";
+  writeFile(path(name), "mine");
+  writeFile(path("X.java"), "public class " + type + " {} public class B {}");
+  {
+    Tarnwickfile source = Tarnwickfile::unopened(path("X.java"), FileMode::Read);
+    SourceSplitter splitter(source.name(), [] { return true; });
+    splitter.run();
+    writeFile(path(name), "newer");
+  }
+  EXPECT_EQ(contentOf(path(name)), "newer");
+  EXPECT_EQ(names(), (Names{name, "Tarnwick_split1.tmp", "X.java"})) << "the older one waits";
+  EXPECT_EQ(split("Z.java", "public class Z {}").fault, std::nullopt);
+  EXPECT_EQ(contentOf(path(name)), "newer");
+  fs::remove(path(name));
+  EXPECT_EQ(split("Z.java").fault, std::nullopt);
+  EXPECT_EQ(contentOf(path(name)), "mine");
+  EXPECT_EQ(names(), (Names{name, "X.java", "Z.java"}));
+}
+
+/// While it lives this process can open so many more files.
+class FewFiles {
+ public:
+  explicit FewFiles(int more) {
+    ::getrlimit(RLIMIT_NOFILE, &before_);
+    const int next = ::dup(STDIN_FILENO);
+    ::close(next);
+    rlimit few = before_;
+    few.rlim_cur = static_cast<rlim_t>(next + more);
+    ::setrlimit(RLIMIT_NOFILE, &few);
+  }
+  ~FewFiles() { ::setrlimit(RLIMIT_NOFILE, &before_); }
+  FewFiles(const FewFiles&) = delete;
+  FewFiles& operator=(const FewFiles&) = delete;
+
+ private:
+  rlimit before_{};
+};
+
+TEST_F(SetAsidePosixTest, AFolderThatCannotBeLockedIsToldAndNothingOfItStays) {
+  writeFile(path("A.java"), "mine");
+  writeFile(path("X.java"), twoPublic);
+  Outcome outcome;
+  {
+    const FewFiles sourceAlone(1);
+    outcome = split("X.java");
+  }
+  EXPECT_EQ(outcome.fault, "Too many open files\nCan't process file " + path("A.java"));
+  EXPECT_EQ(contentOf(path("A.java")), "mine");
+  EXPECT_EQ(names(), (Names{"A.java", "X.java"}));
+}
+
 TEST_F(SetAsidePosixTest, AFolderOfAnotherUserUnderOurNameIsPassedOver) {
   if (::geteuid() != 0) GTEST_SKIP() << "only root can make another user's folder";
   fs::create_directories(path("Tarnwick_split1.tmp/kept"));
@@ -166,7 +330,7 @@ class KilledSplit : public SetAsidePosixTest {
     ASSERT_GE(child, 0);
     if (child == 0) {
       Tarnwickfile source = Tarnwickfile::unopened(path("X.java"), FileMode::Read);
-      SourceSplitter splitter(source, [] { return true; });
+      SourceSplitter splitter(source.name(), [] { return true; });
       splitter.run();
       ::raise(SIGKILL);
     }

@@ -22,7 +22,7 @@ TEST_F(NewSourceFileFailuresTest, AnErrorInTheMiddleOfATemplateIsToldAndWhatWasR
   pair.add("Broken");
   pair.add(broken);
   settings().personalTemplates.add(pair.toString());
-  settings().saveDefaultConfiguration(nullptr);
+  settings().saveDefaultConfiguration();
   const std::string path = userFolder() + "Foo.java";
   desktop_.expectDialog("Create new .java/.html file", [&](ScriptedWindow& dialog) {
     dialog.choose(TEMPLATE_COMBO, 5);
@@ -45,7 +45,7 @@ TEST_F(NewSourceFileFailuresTest, ADeviceOrAnEndlessFileIsNoTemplate) {
     pair.add(path);
     settings().personalTemplates.fromString("");
     settings().personalTemplates.add(pair.toString());
-    settings().saveDefaultConfiguration(nullptr);
+    settings().saveDefaultConfiguration();
     desktop_.expectDialog("Create new .java/.html file", [&](ScriptedWindow& dialog) {
       dialog.choose(TEMPLATE_COMBO, 5);
       desktop_.expectSaveFile(userFolder() + "Foo.java");

@@ -1,0 +1,49 @@
+#include "app/CompileForUser.h"
+
+#include "dialogbase/Messages.h"
+#include "process/EditorLaunch.h"
+#include "settings/EditorChoice.h"
+#include "settings/Settings.h"
+#include "settings/SettingsContext.h"
+#include "settingsdialog/ToolsFolder.h"
+#include "source/PortabilityWarningDlg.h"
+
+namespace tarnwick {
+
+Compiler compilerForUser(Settings& settings, const std::optional<std::string>& classpath) {
+  // Deliberate: a class path that is changed in the settings dialog counts from the next command on.
+  askForToolsFolder(settings);
+  return Compiler(settings, classpath, [&settings] { return maySplit(settings); });
+}
+
+bool hasSaid(const Settings& settings, const RunResult& result) {
+  showEach(settings.context().desktop, result.failures);
+  return result.said;
+}
+
+CompileEnd compileForUser(const Settings& settings, const std::function<bool()>& compile,
+                          const std::function<void()>& afterwards) {
+  Desktop& desktop = settings.context().desktop;
+  try {
+    const bool said = compile();
+    if (said) {
+      if (settings.javacSoundOnError) desktop.alert(AlertSound::Exclamation);
+      showEach(desktop, showLog(settings.context().log, settings.editorChoice()));
+    } else {
+      if (settings.javacSoundOnSuccess) desktop.alert(AlertSound::Asterisk);
+      showSilence(settings.editorChoice());
+    }
+    afterwards();
+    return {!said};
+  } catch (const DontWantToSplitE&) {
+    // The user has said so; there is nothing to tell.
+  } catch (const RefusedE& failure) {
+    desktop.message(failure.message);
+    return {false, failure.source};
+  } catch (const Tarnwickexception& failure) {
+    desktop.message(failure.message);
+  }
+  return {};
+}
+
+}  // namespace tarnwick

@@ -1,0 +1,139 @@
+#include "app/Messages.h"
+
+#include "console/TarnwickView.h"
+#include "platform/FileSystem.h"
+#include "platform/Process.h"
+#include "settings/SettingsContext.h"
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <charconv>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <string_view>
+#include <utility>
+
+namespace tarnwick {
+
+namespace {
+
+/// The most that is shown of a log, in bytes.
+constexpr std::size_t longestLog = std::size_t{4} * 1024 * 1024;
+
+struct Closer {
+  void operator()(std::FILE* stream) const { std::fclose(stream); }
+};
+
+/// The log's bytes. Throws Tarnwickfile::FileNotOpenE.
+std::string contentOf(const std::string& path) {
+  const std::unique_ptr<std::FILE, Closer> stream(platform::openFile(path, "rb"));
+  if (!stream) throw Tarnwickfile::FileNotOpenE(std::strerror(errno), path);
+  std::string content;
+  std::array<char, 8192> block;
+  while (content.size() < longestLog) {
+    const std::size_t count = std::fread(block.data(), 1, block.size(), stream.get());
+    if (count == 0) break;
+    content.append(block.data(), count);
+  }
+  return content;
+}
+
+std::string withSystemLineEnds(std::string text) {
+  if (std::string_view(platform::lineEnd) == "\r\n") return text;
+  text.erase(std::remove(text.begin(), text.end(), '\r'), text.end());
+  return text;
+}
+
+}  // namespace
+
+Messages::Messages(Settings& settings, ConsoleFrameHost& host, OpenEditor openEditor)
+    : settings_(settings),
+      host_(host),
+      openEditor_(std::move(openEditor)),
+      view_([this] { return window_ && window_->isDark(); }, [this](const ToolMessage& message) { open(message); }) {}
+
+void Messages::show(bool said) {
+  ToolLog& log = settings_.context().log;
+  const bool isOpen = window_ && window_->isOpen();
+  if (!said && (!isOpen || log.runs() == shownRuns_)) return;
+  shownRuns_ = log.runs();
+  view_.setText(messagesText(said ? contentOf(log.path()) : "", log.parts()));
+  if (!window_) window_ = host_.makeMessagesWindow(*this);
+  if (!window_) return;
+  window_->setSummary(messagesSummary(view_.text(), log.elapsed()));
+  window_->show();
+}
+
+void Messages::close() {
+  if (window_) window_->close();
+}
+
+void Messages::onCommand(MessagesCommand command) {
+  switch (command) {
+    case MessagesCommand::Next:
+    case MessagesCommand::Previous:
+      step(command == MessagesCommand::Next);
+      break;
+    case MessagesCommand::Copy:
+      copy();
+      break;
+    case MessagesCommand::SelectAll:
+      view_.selectAll();
+      break;
+  }
+}
+
+void Messages::step(bool forward) {
+  if (const ToolMessage* const message = view_.step(forward))
+    open(*message);
+  else
+    settings_.context().desktop.alert(AlertSound::Beep);
+}
+
+void Messages::open(const ToolMessage& message) {
+  openEditor_(message.place->file, {message.place->line, message.place->column});
+}
+
+void Messages::copy() {
+  const std::string text = view_.selectedText();
+  if (text.empty()) return;
+  Desktop& desktop = settings_.context().desktop;
+  if (desktop.setClipboardText(withSystemLineEnds(text))) return;
+  desktop.message(clipboardFailure(platform::lastSystemError("").reason));
+}
+
+std::optional<Rect> Messages::place() const {
+  return placeOf(settings_.messagesPlace);
+}
+
+void Messages::onClosed(const std::optional<Rect>& place) {
+  if (!place || placeOf(settings_.messagesPlace) == place) return;
+  settings_.messagesPlace = placeText(*place);
+  settings_.saveCurrent();
+}
+
+std::optional<Rect> placeOf(const std::string& text) {
+  std::array<int, 4> numbers{};
+  const char* at = text.data();
+  const char* const end = at + text.size();
+  for (std::size_t i = 0; i < numbers.size(); ++i) {
+    const auto [behind, fault] = std::from_chars(at, end, numbers[i]);
+    const bool last = i + 1 == numbers.size();
+    if (fault != std::errc() || (last ? behind != end : behind == end || *behind != ';')) return std::nullopt;
+    at = behind + (last ? 0 : 1);
+  }
+  constexpr int most = 100000;
+  const auto [left, top, width, height] = numbers;
+  if (std::abs(left) > most || std::abs(top) > most || width < 1 || height < 1 || width > most || height > most)
+    return std::nullopt;
+  return Rect{left, top, left + width, top + height};
+}
+
+std::string placeText(const Rect& place) {
+  return std::to_string(place.left) + ';' + std::to_string(place.top) + ';' + std::to_string(place.width()) + ';' +
+         std::to_string(place.height());
+}
+
+}  // namespace tarnwick

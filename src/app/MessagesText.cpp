@@ -1,0 +1,106 @@
+#include "app/MessagesText.h"
+
+#include "base/Filename.h"
+#include "platform/Characters.h"
+#include "platform/FileSystem.h"
+
+#include <algorithm>
+#include <string_view>
+
+namespace tarnwick {
+
+namespace {
+
+constexpr int tabWidth = 8;
+/// A longer line, which no tool means to be read, is cut.
+constexpr std::size_t longestLine = 10000;
+
+using Line = MessagesText::Line;
+using LineKind = MessagesText::LineKind;
+
+Line lineOf(std::string_view text, LineKind kind) {
+  Line line;
+  line.kind = kind;
+  text = text.substr(0, longestLine);
+  while (!text.empty()) {
+    const auto tab = std::min(text.find('\t'), text.size());
+    line.text += text.substr(0, tab);
+    if (tab == text.size()) break;
+    const auto columns = static_cast<int>(platform::columnsOf(line.text));
+    line.text.append(static_cast<std::size_t>(tabWidth - columns % tabWidth), ' ');
+    text.remove_prefix(tab + 1);
+  }
+  line.text = platform::validText(line.text);
+  line.columns = static_cast<int>(platform::columnsOf(line.text));
+  return line;
+}
+
+LineKind kindOf(MessageKind kind) {
+  if (kind == MessageKind::Error) return LineKind::Error;
+  return kind == MessageKind::Warning ? LineKind::Warning : LineKind::Note;
+}
+
+/// A name as the tool has written it, which ran in this folder.
+std::string wholePath(const std::string& name, const std::string& folder) {
+  return platform::absolutePath(name) == name ? name : Filename(folder, name).fullName();
+}
+
+/// Adds one run: its command, and what the tool has said.
+void addPart(MessagesText& text, std::string_view part, const std::string& folder) {
+  const auto start = part.find_first_not_of("\r\n");
+  if (start == std::string_view::npos) return;
+  part.remove_prefix(start);
+  if (!text.lines.empty()) text.lines.push_back({});
+  const std::size_t first = text.lines.size();
+  for (const auto& line : linesOf(part)) text.lines.push_back(lineOf(line, LineKind::Other));
+  text.lines[first].kind = LineKind::Command;
+  for (auto message : toolMessages(part)) {
+    if (message.logLine == 0) continue;
+    message.logLine += first;
+    message.lastLine += first;
+    text.lines[message.logLine].kind = kindOf(message.kind);
+    if (message.place) message.place->file = wholePath(message.place->file, folder);
+    text.messages.push_back(std::move(message));
+  }
+}
+
+void shorten(MessagesText& text, std::size_t mostLines) {
+  if (text.lines.size() <= mostLines) return;
+  text.shortened = true;
+  text.lines.resize(mostLines);
+  while (!text.messages.empty() && text.messages.back().lastLine >= mostLines) text.messages.pop_back();
+}
+
+/// Seconds with one digit behind the point.
+std::string seconds(std::chrono::milliseconds time) {
+  const auto tenths = (time.count() + 50) / 100;
+  return std::to_string(tenths / 10) + '.' + std::to_string(tenths % 10) + " s";
+}
+
+}  // namespace
+
+int MessagesText::widest() const {
+  int columns = 0;
+  for (const auto& line : lines) columns = std::max(columns, line.columns);
+  return columns;
+}
+
+MessagesText messagesText(const std::string& log, const std::vector<LoggedPart>& parts, std::size_t mostLines) {
+  MessagesText text;
+  for (std::size_t i = 0; i < parts.size(); ++i) {
+    const std::size_t begin = std::min(parts[i].begin, log.size());
+    const std::size_t end = i + 1 < parts.size() ? std::min(parts[i + 1].begin, log.size()) : log.size();
+    addPart(text, std::string_view(log).substr(begin, end - begin), parts[i].folder);
+    shorten(text, mostLines);
+    if (text.shortened) break;
+  }
+  return text;
+}
+
+std::string messagesSummary(const MessagesText& text, std::chrono::milliseconds elapsed) {
+  const std::string count = countText(countOf(text.messages));
+  const std::string begin = !count.empty() ? count : text.lines.empty() ? "No messages" : "No errors or warnings";
+  return begin + ", " + seconds(elapsed) + (text.shortened ? " (the log is longer than what is shown)" : "");
+}
+
+}  // namespace tarnwick

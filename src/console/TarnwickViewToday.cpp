@@ -1,0 +1,134 @@
+// What only the console of today has: the end of the input, stopping and running again, all of the text at once, and a
+// view that holds still.
+#include "console/FindDlg.h"
+#include "console/TarnwickView.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace tarnwick {
+
+void TarnwickView::showTitle() {
+  if (!screen_.today || !surface_) return;
+  std::string title = screen_.document.title();
+  if (childState() == 0) title = titleAtEnd(title, child_->howItEnded());
+  if (holdsStill()) title += " - scrolled back";
+  if (title == shownTitle_) return;
+  shownTitle_ = title;
+  surface_->setTitle(title);
+}
+
+void TarnwickView::onScrolled() {
+  pointAt(std::nullopt);
+  showTitle();
+}
+
+bool TarnwickView::holdsStill() const {
+  return screen_.today && surface_->scrollPosition().y < followedTo_;
+}
+
+Point TarnwickView::heldPosition(const Point& position, std::uint64_t linesGone) {
+  // What the user looks at moves up by the lines that have fallen off the top.
+  const auto gone = static_cast<int>(linesGone - goneAtRefresh_);
+  return {position.x, std::max(position.y - screen_.grid.y(gone), 0)};
+}
+
+void TarnwickView::followAgain() {
+  if (!holdsStill()) return;
+  surface_->scrollTo({surface_->scrollPosition().x, followedTo_});
+  showTitle();
+}
+
+void TarnwickView::find() {
+  if (!surface_) return;
+  FindDlg dialog(desktop_, search_.text());
+  const bool wanted = dialog.runModal();
+  // The console may have closed meanwhile.
+  if (!wanted || !surface_) return;
+  search_.lookFor(dialog.text());
+  surface_->invalidateAll();
+  if (search_.active()) findNext(false);
+}
+
+void TarnwickView::findNext(bool back) {
+  if (!surface_) return;
+  if (!search_.active()) return find();
+  std::optional<TextSearch::Hit> hit;
+  {
+    const TextGuard guard(screen_.lock());
+    hit = search_.step(screen_.document, back);
+  }
+  if (hit) {
+    showFound(*hit);
+  } else {
+    desktop_.message("There is no \"" + search_.text() + "\" in the console.");
+  }
+}
+
+void TarnwickView::showFound(const TextSearch::Hit& hit) {
+  const ConsoleGrid& grid = screen_.grid;
+  selection_.select({hit.first, hit.line}, {hit.last, hit.line}, widestLine());
+  const Point client = surface_->clientSize();
+  const Point position = surface_->scrollPosition();
+  Point wanted = position;
+  if (grid.y(hit.line) < position.y || grid.y(hit.line + 1) > position.y + client.y) {
+    wanted.y = std::clamp(grid.y(hit.line) - client.y / 2, 0, followedTo_);
+  }
+  if (grid.x(hit.first) < position.x || grid.x(hit.last) > position.x + client.x) {
+    wanted.x = std::max(grid.x(hit.last + 1) - client.x, 0);
+  }
+  if (wanted != position) surface_->scrollTo(wanted);
+  surface_->invalidateAll();
+  showTitle();
+}
+
+void TarnwickView::copyAll() {
+  std::string all;
+  {
+    const TextGuard guard(screen_.lock());
+    for (const auto& line : screen_.document.lines()) all += line.text() + "\r\n";
+  }
+  // The last line has no end yet.
+  all.erase(all.size() - 2);
+  setClipboard(all);
+}
+
+void TarnwickView::clear() {
+  if (!surface_) return;
+  clearSelection();
+  followAgain();
+  {
+    const TextGuard guard(screen_.lock());
+    screen_.document.clear();
+    screen_.caret.setColumn(screen_.caret.column());
+    screen_.changes.everything = true;
+    screen_.changes.ask(screen_.document.lineCount(), 0, screen_.caret.column());
+  }
+  apply(takeChanges());
+}
+
+void TarnwickView::endInput() {
+  if (canEndInput()) child_->endInput();
+}
+
+void TarnwickView::askToStop() {
+  if (!canStop() || !desktop_.askYesNo("Stop the program?")) return;
+  // It may have ended by itself meanwhile, and the window with it.
+  if (surface_) child_->stop([this] { return consoleSearch_->close(); });
+}
+
+void TarnwickView::runAgain() {
+  if (!surface_ || !canRunAgain()) return;
+  stopTimer(continueTimer_);
+  editor_.dropPending();
+  consoleSearch_->stop();
+  child_->close();
+  // The window shows what was said before, so it stays however quiet the program is this time.
+  program_.closesSilently = false;
+  makeChild();
+  followAgain();
+  showTitle();
+  child_->start();
+}
+
+}  // namespace tarnwick

@@ -1,0 +1,1 @@
+static void main(String[] a) { } interface A { class B { } }

@@ -1,0 +1,2 @@
+class Inner { void main() { } }
+java.util.Map<String, int[]> a = null;

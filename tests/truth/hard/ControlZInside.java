@@ -1,0 +1,2 @@
+class ControlZInside { }
+enum Other { A }}}}} class No {

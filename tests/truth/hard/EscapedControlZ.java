@@ -1,0 +1,2 @@
+class EscapedControlZ { }
+\u001a class No { }

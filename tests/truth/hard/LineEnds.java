@@ -1,0 +1,6 @@
+// class No {class LineEnds {// }
+  int a; // {
+  class Inner {
+  } /*  */ String s = """
+ }  { 
+""";}class Last { } // {

@@ -1,0 +1,2 @@
+;;class A { };; interface B { };
+enum C { };@interface D { }; ;

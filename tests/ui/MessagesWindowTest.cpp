@@ -1,0 +1,229 @@
+// The window of what the tools have said, beside a main window.
+#include "app/MessagesView.h"
+#include "ui/SampleDialog.h"
+#include "ui/Text.h"
+#include "ui/WindowTest.h"
+#include "ui/Wine.h"
+#include "ui/WxConsoleSurface.h"
+#include "ui/WxMessagesFrame.h"
+
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace tarnwick::test {
+
+namespace {
+
+const char log[] =
+    "\n\njavac -encoding UTF-8 -d . shop/Till.java shop/Money.java\n\n"
+    "shop/Till.java:12: error: cannot find symbol\n    Money paid = nothing;\n                 ^\n"
+    "  symbol:   variable nothing\n  location: class Till\n"
+    "shop/Money.java:3: warning: [deprecation] Date(int,int,int) in Date has been deprecated\n"
+    "    Date day = new Date(1, 2, 3);\n               ^\n"
+    "Note: shop/Money.java uses unchecked or unsafe operations.\n1 error\n1 warning\n";
+
+/// Rules that write down what they hear.
+class MessagesRecorder : public MessagesFrame {
+ public:
+  ConsoleSurfaceClient& view() override { return text; }
+  void onCommand(MessagesCommand command) override { heard.push_back(static_cast<int>(command)); }
+  std::optional<Rect> place() const override { return stood; }
+  void onClosed(const std::optional<Rect>& place) override {
+    ++closed;
+    stood = place;
+  }
+
+  std::vector<int> heard;
+  std::vector<int> opened;
+  std::optional<Rect> stood;
+  int closed = 0;
+  MessagesView text{[this] { return window && window->isDark(); },
+                    [this](const ToolMessage& message) { opened.push_back(message.place->line); }};
+  std::unique_ptr<MessagesWindow> window;  ///< behind the text, which it stands on
+};
+
+constexpr int next = static_cast<int>(MessagesCommand::Next);
+constexpr int previous = static_cast<int>(MessagesCommand::Previous);
+constexpr int copying = static_cast<int>(MessagesCommand::Copy);
+constexpr int selecting = static_cast<int>(MessagesCommand::SelectAll);
+
+class MessagesWindowTest : public WindowTest {
+ protected:
+  MessagesWindowTest() {
+    messages.text.setText(messagesText(log, {{0, "folder"}}));
+    messages.window = desktop().makeMessagesWindow(messages);
+    messages.window->setSummary("1 error, 1 warning in 2 files, 1.4 s");
+    main.onInitialise = [](DialogWindow& window) { window.moveTo({40, 60}); };
+  }
+
+  ui::WxMessagesFrame& window() { return dynamic_cast<ui::WxMessagesFrame&>(*messages.window); }
+
+  void waitForMain() {
+    steps.until("the main window is active", [this] { return openDialogs() == 1 && top().dialog().IsActive(); });
+    steps.settle();
+  }
+  void openMessages() {
+    steps.then("open", [this] { messages.window->show(); });
+    steps.until("it shows", [this] { return window().frame() && window().frame()->IsShownOnScreen(); });
+    steps.settle(10);
+  }
+  void theNextLogComes() {
+    steps.then("the next log comes", [this] {
+      messages.window->setSummary("No messages, 0.7 s");
+      messages.window->show();
+    });
+    steps.settle(10);
+  }
+  void activateMessages() {
+    steps.then("activate", [this] { window().frame()->Raise(); });
+    steps.until("it is active",
+                [this] { return window().frame()->IsActive() && wxWindow::FindFocus() == window().surface(); });
+    steps.settle();
+  }
+  void pressKey(int code, int modifiers = 0) {
+    steps.then("key " + std::to_string(code), [code, modifiers] { key(code, modifiers); });
+    steps.settle(10);
+  }
+  void run() {
+    steps.then("close", [this] { main.window->close(1); });
+    desktop().runMainDialog(smallLayout("Main"), main);
+  }
+
+  Recorder main;
+  MessagesRecorder messages;
+};
+
+}  // namespace
+
+TEST_F(MessagesWindowTest, OpensBesideTheMainWindow) {
+  waitForMain();
+  openMessages();
+  steps.then("look", [this] {
+    EXPECT_EQ(ui::fromWx(window().frame()->GetTitle()), "Messages - Tarnwick");
+    EXPECT_EQ(ui::fromWx(window().summary()->GetLabelText()), "1 error, 1 warning in 2 files, 1.4 s");
+    const wxRect text = window().surface()->GetScreenRect();
+    EXPECT_GE(text.y, window().summary()->GetScreenRect().GetBottom());
+    EXPECT_GT(text.height, 10 * window().surface()->cell().y);
+  });
+  theNextLogComes();
+  steps.then("look", [this] { EXPECT_EQ(ui::fromWx(window().summary()->GetLabelText()), "No messages, 0.7 s"); });
+  run();
+}
+
+TEST_F(MessagesWindowTest, LeavesTheMainWindowTheKeyboard) {
+  if (runsUnderWine()) GTEST_SKIP() << "the window manager gives each new window of Wine's the keyboard";
+  waitForMain();
+  openMessages();
+  steps.then("look", [this] {
+    EXPECT_TRUE(top().dialog().IsActive());
+    EXPECT_FALSE(window().frame()->IsActive());
+  });
+  theNextLogComes();
+  steps.then("look", [this] { EXPECT_TRUE(top().dialog().IsActive()); });
+  run();
+}
+
+TEST_F(MessagesWindowTest, InTheMainWindowTheKeysStepWhileItIsOpen) {
+  waitForMain();
+  pressKey(WXK_F4);
+  steps.then("look", [this] { EXPECT_TRUE(messages.heard.empty()) << "it is not open"; });
+  openMessages();
+  pressKey(WXK_F4);
+  pressKey(WXK_F4, wxMOD_SHIFT);
+  pressKey(WXK_F4, wxMOD_CONTROL);
+  steps.then("look", [this] { EXPECT_EQ(messages.heard, (std::vector<int>{next, previous})); });
+  run();
+}
+
+TEST_F(MessagesWindowTest, InADialogOnTopTheKeysAreNoCommands) {
+  Recorder inner;
+  main.onPress[IDOK_CONTROL] = [&] { desktop().runDialog(smallLayout("Inner"), inner); };
+  waitForMain();
+  openMessages();
+  steps.then("open a dialog", [this] { press(top(), IDOK_CONTROL); });
+  steps.until("it is active", [this] { return openDialogs() == 2 && top().dialog().IsActive(); });
+  pressKey(WXK_F4);
+  steps.then("look", [&] {
+    EXPECT_TRUE(messages.heard.empty());
+    inner.window->close(1);
+  });
+  steps.until("it is gone", [this] { return openDialogs() == 1; });
+  run();
+}
+
+TEST_F(MessagesWindowTest, InItsOwnWindowTheKeysStepCopyOpenAndClose) {
+  waitForMain();
+  openMessages();
+  activateMessages();
+  pressKey(WXK_F4);
+  pressKey(WXK_F4, wxMOD_SHIFT);
+  pressKey('A', wxMOD_CONTROL);
+  pressKey('C', wxMOD_CONTROL);
+  steps.then("look", [this] { EXPECT_EQ(messages.heard, (std::vector<int>{next, previous, selecting, copying})); });
+  pressKey(WXK_DOWN);
+  pressKey(WXK_RETURN);
+  steps.then("look", [this] {
+    EXPECT_EQ(messages.opened, std::vector<int>{12});
+    EXPECT_EQ(messages.closed, 0);
+    shoot("messages");
+  });
+  pressKey(WXK_ESCAPE);
+  steps.then("look", [this] {
+    EXPECT_EQ(messages.closed, 1);
+    EXPECT_FALSE(messages.window->isOpen());
+    EXPECT_EQ(openDialogs(), 1u) << "the main window stays";
+  });
+  run();
+}
+
+TEST_F(MessagesWindowTest, TheLinesStandOnTheDesktopsGround) {
+  waitForMain();
+  openMessages();
+  steps.then("look", [this] {
+    window().surface()->Update();
+    const wxRect area = window().surface()->GetScreenRect();
+    const wxImage seen = screen(area);
+    const int x = seen.GetWidth() / 2;
+    const int y = seen.GetHeight() - 40;
+    const int shade = seen.GetRed(x, y);
+    EXPECT_EQ(shade < 128, messages.window->isDark()) << shade;
+  });
+  run();
+}
+
+TEST_F(MessagesWindowTest, ItComesBackWhereItStood) {
+  Rect first;
+  waitForMain();
+  openMessages();
+  steps.then("move", [this] {
+    window().frame()->Move(120, 140);
+    window().frame()->SetSize(640, 320);
+  });
+  steps.settle(20);
+  steps.then("close", [&] {
+    messages.window->close();
+    ASSERT_TRUE(messages.stood.has_value());
+    first = *messages.stood;
+    EXPECT_NEAR(first.left, 120, 40);
+    EXPECT_NEAR(first.top, 140, 40);
+    EXPECT_NEAR(first.width(), 640, 40);
+    EXPECT_NEAR(first.height(), 320, 40);
+  });
+  openMessages();
+  steps.then("close again", [&] {
+    messages.window->close();
+    EXPECT_EQ(messages.stood, first);
+  });
+  run();
+}
+
+TEST_F(MessagesWindowTest, TheMainWindowMayEndWhileItIsOpen) {
+  waitForMain();
+  openMessages();
+  run();
+  messages.window.reset();
+  EXPECT_EQ(messages.closed, 0);
+}
+
+}  // namespace tarnwick::test

@@ -1,0 +1,108 @@
+// "java" with the Control key held: what is not up to date is compiled first.
+#include "ProjectViewFixture.h"
+#include "base/FileForSubprocess.h"
+
+namespace tarnwick::test {
+namespace {
+
+class CompileFirstTest : public ProjectViewFixture {
+ protected:
+  CompileFirstTest() { program_.programPath = standInFolder() + platform::toolFileName("jdb"); }
+
+  void makeProgram() {
+    makeSource("One", mainMethod());
+    makeCurrent("One");
+    saveEarlierRun([this](Settings& settings) {
+      settings.fileviewSource.setName(path("One.java"));
+      settings.fileviewClass.setName(path("One.class"));
+      settings.displayWithNotepad = settings.editWithNotepad = false;
+      settings.editorTarget = scratch_.file("no editor");
+    });
+  }
+  void run(ScriptedWindow& panel) {
+    desktop_.holdControlKey(true);
+    panel.page(TABS, 0).press(PanelPage::RIGHT);
+    desktop_.holdControlKey(false);
+  }
+  std::string recorded() {
+    const std::string record = scratch_.file("record");
+    return platform::isFile(record) ? contentOf(record) : "";
+  }
+  bool compiled(const std::string& name) { return recorded().find(name + ".java\n") != std::string::npos; }
+  bool ran() { return recordedUpTo("RUN=").find("RUN=") != std::string::npos; }
+  bool didNotRun() { return recorded().find("RUN=") == std::string::npos; }
+};
+
+TEST_F(CompileFirstTest, AStaleClassIsCompiledAndThenRuns) {
+  makeProgram();
+  makeStale("One");
+  runPanel([&](ScriptedWindow&, ScriptedWindow& panel) {
+    run(panel);
+    EXPECT_TRUE(compiled("One"));
+    EXPECT_TRUE(ran());
+    exit(panel);
+  });
+  EXPECT_EQ(desktop_.alerts(), std::vector<AlertSound>{AlertSound::Asterisk});
+}
+
+TEST_F(CompileFirstTest, ACurrentOneRunsAtOnce) {
+  makeProgram();
+  runPanel([&](ScriptedWindow&, ScriptedWindow& panel) {
+    run(panel);
+    EXPECT_TRUE(ran());
+    EXPECT_FALSE(compiled("One"));
+    exit(panel);
+  });
+  EXPECT_TRUE(desktop_.alerts().empty());
+}
+
+TEST_F(CompileFirstTest, WithoutTheKeyNothingIsCompiled) {
+  makeProgram();
+  makeStale("One");
+  runPanel([&](ScriptedWindow&, ScriptedWindow& panel) {
+    panel.page(TABS, 0).press(PanelPage::RIGHT);
+    EXPECT_TRUE(ran());
+    EXPECT_FALSE(compiled("One"));
+    exit(panel);
+  });
+}
+
+TEST_F(CompileFirstTest, WhatTheCompilerSaysKeepsItFromRunning) {
+  makeProgram();
+  makeStale("One");
+  writeFile(scratch_.file("script"), "err One.java:1: error\n");
+  runPanel([&](ScriptedWindow&, ScriptedWindow& panel) {
+    const std::string editor = scratch_.file("no editor");
+    const std::string reason = "No such file or directory";
+    desktop_.expectMessage("Unable to start " + editor + " for log file display.\n\n" + reason + '\n' + reason);
+    run(panel);
+    EXPECT_TRUE(compiled("One"));
+    EXPECT_TRUE(didNotRun());
+    exit(panel);
+  });
+}
+
+TEST_F(CompileFirstTest, WithoutASourceTheClassRuns) {
+  makeProgram();
+  runPanel([&](ScriptedWindow&, ScriptedWindow& panel) {
+    panel.type(SOURCE, "");
+    run(panel);
+    EXPECT_TRUE(ran());
+    exit(panel);
+  });
+}
+
+TEST_F(CompileFirstTest, AProjectCompilesWhatHasChangedSince) {
+  saveEarlierRun();
+  startWith(makeRunnable(), [&](ScriptedWindow& panel) {
+    makeStale("Main");
+    // The stand-in leaves the class as it is.
+    desktop_.expectMessage("Not all classes are up-to-date. Compile!");
+    run(panel);
+    EXPECT_TRUE(compiled("Main"));
+    exit(panel);
+  });
+}
+
+}  // namespace
+}  // namespace tarnwick::test

@@ -1,6 +1,8 @@
 // Small hot paths. Run by ./bench.sh micro.
+#include "base/TagTable.h"
 #include "base/TempFile.h"
 #include "platform/FileSystem.h"
+#include "settings/SettingsResources.h"
 #include "settings/SettingsValues.h"
 
 #include <benchmark/benchmark.h>
@@ -34,7 +36,7 @@ BENCHMARK(walkList)->Arg(10)->Arg(1000);
 
 /// All settings, written to a file and read again.
 void writeAndReadConfiguration(benchmark::State& state) {
-  DialogWindow* const noWindow = nullptr;
+  PlacedWindow* const noWindow = nullptr;
   SettingsValues values(noWindow);
   TagTable table(values.tagRows.data(), "Tarnwick", nullptr);
   table.resetToDefaults(SETTINGS_DIALOG);

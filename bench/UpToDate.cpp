@@ -1,5 +1,5 @@
-// Is each source of a project up to date: uptodate FOLDER COUNT ROUNDS, with the sources C0.java and so on in the
-// folder.
+// Is each source of a project up to date: uptodate FOLDER COUNT ROUNDS [newer], with the sources C0.java and so on in
+// the folder.
 #include "platform/Path.h"
 #include "source/JavaSourcefile.h"
 #include "source/TypeIndex.h"
@@ -17,12 +17,12 @@ namespace {
 
 using Sources = std::vector<std::unique_ptr<JavaSourcefile>>;
 
-Sources sourcesIn(const std::string& folder, int count) {
+Sources sourcesIn(const std::string& folder, int count, JavaReading reading) {
   Sources sources;
   for (int i = 0; i < count; ++i) {
     const std::string name = "C" + std::to_string(i) + ".java";
     sources.push_back(std::make_unique<JavaSourcefile>(folder, name, FileMode::Read));
-    sources.back()->analyse();
+    sources.back()->analyse(reading);
     sources.back()->close();
   }
   return sources;
@@ -47,9 +47,10 @@ double milliseconds(std::chrono::steady_clock::duration time) {
 
 int main(int argc, char** argv) {
   using namespace tarnwick;
-  if (argc != 4) return 2;
+  if (argc < 4) return 2;
+  const bool newer = argc > 4;
   const std::string folder = std::string(argv[1]) + platform::folderSeparator;
-  const Sources sources = sourcesIn(folder, std::atoi(argv[2]));
+  const Sources sources = sourcesIn(folder, std::atoi(argv[2]), {newer, newer ? 17 : 0});
   std::vector<double> times;
   std::size_t upToDate = 0;
   for (int round = 0; round < std::atoi(argv[3]); ++round) {

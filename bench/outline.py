@@ -16,16 +16,20 @@ def main():
     outline = os.path.join(programs, "outline")
     medians = rounds.compare([
         rounds.Program("tarnwick outline", outline, everything),
+        rounds.Program("tarnwick newer outline", outline, everything, "newer"),
         rounds.Program("universal-ctags", "ctags-universal", "--quiet", "--options=NONE", "--languages=Java", "--kinds-Java=cip",
                        "--sort=no", "-f", "-", "-L", everything),
         rounds.Program("cat", "xargs", "-a", everything, "cat"),
     ])
     rounds.ratio(medians, "tarnwick outline", "universal-ctags", "0.33")
     rounds.ratio(medians, "tarnwick outline", "cat", "4")
+    rounds.ratio(medians, "tarnwick newer outline", "universal-ctags", "0.3")
+    rounds.ratio(medians, "tarnwick newer outline", "cat", "2")
     print("memory, one process")
     for share in (4, 1):
         some = listed(work, f"one-in-{share}.txt", files[::share])
         print("  tarnwick outline: " + rounds.output_of(outline, some).strip())
+        print("  tarnwick newer outline: " + rounds.output_of(outline, some, "newer").strip())
 
 
 main()

@@ -43,7 +43,7 @@ TEST_F(DropWindowTest, TheMainWindowAndAllThatIsInItTakeThem) {
     for (const auto& heard : rules.heard) EXPECT_EQ(heard, "dropped Äpfel.java;b c.txt;");
     EXPECT_EQ(rules.heard.size(), top().dialog().GetChildren().size() + 1);
   });
-  steps.then("Return", [] { key(WXK_RETURN); });
+  steps.then("OK", [this] { press(top(), IDOK_CONTROL); });
   play();
 }
 
@@ -62,9 +62,9 @@ TEST_F(DropWindowTest, BelowADialogItTakesNone) {
     EXPECT_EQ(rules.heard, Heard{});
     EXPECT_EQ(top().dialog().GetDropTarget(), nullptr);
   });
-  steps.then("Return", [] { key(WXK_RETURN); });
+  steps.then("OK", [this] { press(top(), IDOK_CONTROL); });
   steps.until("it has gone", [this] { return openDialogs() == 1 && top().dialog().IsActive(); });
-  steps.then("Return", [] { key(WXK_RETURN); });
+  steps.then("OK", [this] { press(top(), IDOK_CONTROL); });
   play();
 }
 

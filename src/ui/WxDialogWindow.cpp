@@ -281,14 +281,14 @@ wxWindow* WxDialogWindow::stopAround(const wxWindow* window) const {
   return nullptr;
 }
 
-bool WxDialogWindow::focusAfter(const wxWindow* before) {
+bool WxDialogWindow::focusFrom(const wxWindow* last) {
   std::vector<Control> stops;
   collectStops(stops);
-  const auto last = std::find_if(stops.begin(), stops.end(), [&](const auto& stop) { return stop.window == before; });
-  if (last == stops.end()) return false;
-  std::rotate(stops.begin(), last, stops.end());
+  const auto first = std::find_if(stops.begin(), stops.end(), [&](const auto& stop) { return stop.window == last; });
+  if (first == stops.end()) return false;
+  std::rotate(stops.begin(), first, stops.end());
   const auto next =
-      std::find_if(stops.begin() + 1, stops.end(), [](const auto& stop) { return isInUse(stop) && takesFocus(stop); });
+      std::find_if(stops.begin(), stops.end(), [](const auto& stop) { return isInUse(stop) && takesFocus(stop); });
   if (next == stops.end()) return false;
   next->window->SetFocus();
   return true;

@@ -78,8 +78,8 @@ class WxDialogWindow : public DialogWindow {
   /// Gives the focus to the control that the layout names, or to the first that takes it, on the open tab if there
   /// are tabs. False if nothing does.
   bool focusFirst();
-  /// Gives the focus to the first control that takes it behind this one, round and round. False if nothing does.
-  bool focusAfter(const wxWindow* before);
+  /// Gives the focus to the first control that takes it from this one on, round and round. False if nothing does.
+  bool focusFrom(const wxWindow* last);
   /// The control that a window with the focus belongs to; null if it is none that a person sees and can use.
   wxWindow* stopAround(const wxWindow* window) const;
   void guard(const std::function<void()>& action) { guarded_(action); }

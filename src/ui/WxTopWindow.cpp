@@ -166,7 +166,7 @@ void WxTopWindow::keepFocusInSight() {
   if (!dialog_->IsActive() || !dialog_->IsEnabled()) return;
   if (const wxWindow* const stop = stopAround(wxWindow::FindFocus())) {
     lastStop_ = stop;
-  } else if (!focusAfter(lastStop_)) {
+  } else if (!focusFrom(lastStop_)) {  // itself, too: a window may be active again before its control has the keyboard
     focusFirst();
   }
 }

@@ -1,5 +1,6 @@
 #include "ui/DialogFixture.h"
 #include "ui/Pixels.h"
+#include "ui/Text.h"
 
 #include <wx/dialog.h>
 
@@ -141,6 +142,27 @@ TEST_F(DialogTest, TheFirstResultCounts) {
     window.close(9);
   });
   EXPECT_EQ(play(), 8);
+}
+
+TEST_F(DialogTest, TheFocusComesBackToItsControlFromADialog) {
+  Recorder inner;
+  inner.onPress[IDOK_CONTROL] = [&inner] { inner.window->close(1); };
+  std::vector<std::string> labels;
+  waitForDialog();
+  for (int round = 0; round < 10; ++round) {
+    steps.then("another dialog", [&inner] { desktop().runDialog(smallLayout("Inner"), inner); });
+    steps.until("it shows", [this] { return openDialogs() == 2 && top().dialog().IsActive(); });
+    steps.then("OK", [this] { press(top(), IDOK_CONTROL); });
+    steps.until("it has gone", [this] { return openDialogs() == 1 && top().dialog().IsActive(); });
+    steps.settle(10);
+    steps.then("look", [&labels] {
+      const wxWindow* const focus = wxWindow::FindFocus();
+      labels.push_back(focus ? ui::fromWx(focus->GetLabel()) : "");
+    });
+  }
+  thenClose();
+  desktop().runMainDialog(smallLayout("Main"), rules);
+  EXPECT_EQ(labels, std::vector<std::string>(10, "OK"));
 }
 
 }  // namespace tarnwick::test

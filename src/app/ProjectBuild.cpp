@@ -2,6 +2,8 @@
 
 #include "base/Text.h"
 #include "dialogbase/RunSteps.h"
+#include "platform/FileSystem.h"
+#include "process/ToolLog.h"
 #include "settings/PathRules.h"
 #include "settings/SettingsContext.h"
 #include "source/TypeIndex.h"
@@ -54,6 +56,14 @@ std::vector<Batch> batchesOf(const Settings& settings, const std::vector<const J
   return batches;
 }
 
+/// Tells the log that the user has stopped the command between two runs.
+void noteStopped(ToolLog& log) {
+  log.open(FileMode::Append);
+  const std::string note = std::string(platform::lineEnd) + platform::lineEnd + "Stopped." + platform::lineEnd;
+  log.append(note.data(), note.size());
+  log.close();
+}
+
 // Deliberate: asked from the last to the first; a run may make others current.
 bool compileEach(Settings& settings, const ProjectContext& project, bool all, Compiler& compiler) {
   const TypeIndex index(project.collectClasses(ProjectContext::ALL_TYPES));
@@ -62,7 +72,10 @@ bool compileEach(Settings& settings, const ProjectContext& project, bool all, Co
   RunSteps steps(settings.context().desktop, project.sources.size());
   for (std::size_t i = project.sources.size(); i-- > 0;) {
     const JavaSourcefile& source = project.sources[i];
-    steps.next();
+    if (!steps.next()) {
+      noteStopped(settings.context().log);
+      return true;
+    }
     if (!all && source.isUpToDate(index, settings.javacDestination, project.folderNoSlash())) continue;
     FileForSubprocess file(source.name().fullName());
     const RunResult result = compiler.compile(file, logMode);
@@ -85,7 +98,10 @@ bool compileTogether(Settings& settings, const ProjectContext& project, bool all
   const auto batches = batchesOf(settings, stale);
   RunSteps steps(settings.context().desktop, batches.size());
   for (const auto& batch : batches) {
-    steps.next();
+    if (!steps.next()) {
+      noteStopped(settings.context().log);
+      return true;
+    }
     const RunResult result = compiler.compileTogether(batch.names, logMode);
     if (hasSaid(settings, result)) failed = true;
     if (result.stopped) break;

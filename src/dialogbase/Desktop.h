@@ -79,7 +79,8 @@ class Desktop {
   /// Throws NoThreadE, with nothing done, if there is no thread to be had.
   virtual void whileBusy(const BusyWork& busy) = 0;
   /// The work that follows is a step of one command, which has so many, and is shown as that. 0 of 0: it has ended.
-  virtual void showStep(std::size_t step, std::size_t steps) = 0;
+  /// False if the user has stopped the command: its steps so far may have ended before they could be stopped.
+  virtual bool showStep(std::size_t step, std::size_t steps) = 0;
 
   /// Calls `tick` every so many milliseconds until the timer is stopped. Gives the timer's number, above 0; 0 if the
   /// system has no timer left.

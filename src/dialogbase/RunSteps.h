@@ -14,8 +14,8 @@ class RunSteps {
   RunSteps(const RunSteps&) = delete;
   RunSteps& operator=(const RunSteps&) = delete;
 
-  /// The work that follows is the next step.
-  void next() { desktop_.showStep(++step_, steps_); }
+  /// The work that follows is the next step. False if the user wants no more of them.
+  [[nodiscard]] bool next() { return desktop_.showStep(++step_, steps_); }
 
  private:
   Desktop& desktop_;

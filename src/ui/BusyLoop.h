@@ -4,6 +4,7 @@
 #include <memory>
 
 class wxTopLevelWindow;
+class wxWindow;
 
 namespace tarnwick::ui {
 
@@ -13,7 +14,8 @@ class BusyLoop {
  public:
   /// What a person may ask for meanwhile.
   struct Requests {
-    std::function<void()> close = [] {};   ///< that a window closes
+    /// That a window closes; null for one that is not the toolkit's.
+    std::function<void(wxWindow* window)> close = [](wxWindow*) {};
     std::function<void()> escape = [] {};  ///< Escape in any window, once one has been admitted
   };
 

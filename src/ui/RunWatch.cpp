@@ -55,7 +55,7 @@ void RunWatch::rest() {
 
 void RunWatch::stop() {
   if (!loop_ || stopping_) return;
-  stopping_ = true;
+  stopping_ = stopped_ = true;
   if (window_) tell();
   busy_.stop();
 }

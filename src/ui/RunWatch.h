@@ -40,6 +40,8 @@ class RunWatch : private wxTimer {
   void rest();
   /// Stops what is at work.
   void stop();
+  /// True once somebody has stopped something, even if that had just ended by itself.
+  bool isStopped() const { return stopped_; }
 
   /// Null as long as it does not show. For tests.
   wxDialog* window() const { return window_.get(); }
@@ -60,6 +62,7 @@ class RunWatch : private wxTimer {
   BusyWork busy_;
   Step step_;
   bool stopping_ = false;
+  bool stopped_ = false;
   std::unique_ptr<wxDialog> window_;
   wxStaticText* on_ = nullptr;
   wxStaticText* state_ = nullptr;

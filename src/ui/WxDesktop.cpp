@@ -15,6 +15,7 @@
 #include <wx/clipbrd.h>
 #include <wx/utils.h>
 
+#include <algorithm>
 #include <chrono>
 #include <exception>
 #include <system_error>
@@ -163,7 +164,8 @@ void WxDesktop::whileBusy(const BusyWork& busy) {
   const GiveUp lasting(giveUp_, busy.giveUp);
   const WindowStack::Place place(stack_, nullptr);
   const wxBusyCursor hourglass;
-  BusyLoop loop(busy.stop ? BusyLoop::Requests{[&] { askToStop(busy.tool); }, [this] { watch_->stop(); }}
+  BusyLoop loop(busy.stop ? BusyLoop::Requests{[&](wxWindow* closing) { askToStop(busy.tool, closing); },
+                                               [this] { watch_->stop(); }}
                           : BusyLoop::Requests{});
   std::exception_ptr failure;
   std::promise<void> ended;
@@ -189,13 +191,18 @@ void WxDesktop::whileBusy(const BusyWork& busy) {
   if (failure) std::rethrow_exception(failure);
 }
 
-void WxDesktop::showStep(std::size_t step, std::size_t steps) {
+bool WxDesktop::showStep(std::size_t step, std::size_t steps) {
+  const bool goesOn = !watch_ || !watch_->isStopped();
   step_ = {step, steps};
   if (steps == 0) watch_.reset();
+  return goesOn;
 }
 
-void WxDesktop::askToStop(const std::string& tool) {
-  if (isAsking_) return;
+void WxDesktop::askToStop(const std::string& tool, const wxWindow* closing) {
+  const bool isOfPanel =
+      closing == watch_->window() ||
+      std::any_of(openDialogs_.begin(), openDialogs_.end(), [&](auto* open) { return &open->dialog() == closing; });
+  if (isAsking_ || !isOfPanel) return;
   isAsking_ = true;
   const bool yes = askYesNo(tool + " is still at work. Stop it and leave Tarnwick?");
   isAsking_ = false;

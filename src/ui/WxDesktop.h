@@ -34,7 +34,7 @@ class WxDesktop : public Desktop, public ConsoleFrameHost {
   int runDialog(const DialogLayout& layout, DialogHandler& handler) override;
   void runMainDialog(const DialogLayout& layout, DialogHandler& handler) override;
   void whileBusy(const BusyWork& busy) override;
-  void showStep(std::size_t step, std::size_t steps) override;
+  bool showStep(std::size_t step, std::size_t steps) override;
   int startTimer(int milliseconds, std::function<void()> tick) override;
   void stopTimer(int timer) override;
   void post(std::function<void()> task) override;
@@ -60,8 +60,8 @@ class WxDesktop : public Desktop, public ConsoleFrameHost {
 
  private:
   int runTop(WxTopWindow& window);
-  /// Somebody would close the panel while a tool runs.
-  void askToStop(const std::string& tool);
+  /// Somebody would close this window while a tool runs. Only those with which the program goes are asked about.
+  void askToStop(const std::string& tool, const wxWindow* closing);
   /// Throws NoThreadE.
   std::thread startWorker(std::function<void()> work);
   void endProgram();

@@ -25,7 +25,7 @@ class QuietDesktop : public Desktop {
   int runDialog(const DialogLayout& /*layout*/, DialogHandler& /*handler*/) override { return 0; }
   void runMainDialog(const DialogLayout& /*layout*/, DialogHandler& /*handler*/) override {}
   void whileBusy(const BusyWork& busy) override { busy.work(); }
-  void showStep(std::size_t /*step*/, std::size_t /*steps*/) override {}
+  bool showStep(std::size_t /*step*/, std::size_t /*steps*/) override { return true; }
   int startTimer(int /*milliseconds*/, std::function<void()> /*tick*/) override { return 1; }
   void stopTimer(int /*timer*/) override {}
   void post(std::function<void()> task) override { task(); }

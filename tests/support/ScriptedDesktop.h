@@ -203,7 +203,7 @@ class ScriptedDesktop : public Desktop {
   int runDialog(const DialogLayout& layout, DialogHandler& handler) override;
   void runMainDialog(const DialogLayout& layout, DialogHandler& handler) override;
   void whileBusy(const BusyWork& busy) override { busy.work(); }
-  void showStep(std::size_t /*step*/, std::size_t /*steps*/) override {}
+  bool showStep(std::size_t /*step*/, std::size_t /*steps*/) override { return true; }
   int startTimer(int milliseconds, std::function<void()> tick) override;
   void stopTimer(int timer) override { timers_.erase(timer); }
   void post(std::function<void()> task) override;

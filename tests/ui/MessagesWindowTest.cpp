@@ -96,6 +96,36 @@ class MessagesWindowTest : public WindowTest {
 
 }  // namespace
 
+TEST_F(MessagesWindowTest, ClosingItWhileAToolRunsEndsNothing) {
+  std::atomic<bool> enough = false;
+  int stops = 0;
+  waitForMain();
+  openMessages();
+  activateMessages();
+  steps.then("work", [&] {
+    BusyWork busy{[&] {
+                    while (!enough) std::this_thread::sleep_for(std::chrono::milliseconds(1));
+                  },
+                  [&] { enough = true; }};
+    busy.stop = [&] { ++stops; };
+    busy.tool = "javac";
+    desktop().whileBusy(busy);
+  });
+  steps.settle(10);
+  steps.then("close", [] { key(WXK_F4, wxMOD_ALT); });
+  steps.settle(20);
+  steps.then("nobody asks", [&] {
+    EXPECT_FALSE(wxFindWindowByLabel("Tarnwick", nullptr) && openDialogs() > 1);
+    EXPECT_TRUE(window().frame()->IsShown());
+    EXPECT_TRUE(top().dialog().IsShown());
+    enough = true;
+  });
+  steps.settle(10);
+  run();
+  EXPECT_EQ(stops, 0);
+  EXPECT_EQ(messages.closed, 0);
+}
+
 TEST_F(MessagesWindowTest, OpensBesideTheMainWindow) {
   waitForMain();
   openMessages();

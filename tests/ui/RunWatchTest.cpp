@@ -97,7 +97,9 @@ class RunWatchTest : public WindowTest {
   void thenLeave() {
     steps.until("the work has ended", [this] { return worked > 0; });
     steps.then("nothing is shown any more", [] { EXPECT_EQ(desktop().runWatch(), nullptr); });
-    steps.until("the dialog has the keyboard", [this] { return top().dialog().IsActive(); });
+    steps.until("the dialog has the keyboard", [this] {
+      return top().dialog().IsActive() && wxGetTopLevelParent(wxWindow::FindFocus()) == &top().dialog();
+    });
     steps.then("Return", [] { key(WXK_RETURN); });
   }
 
@@ -211,12 +213,14 @@ TEST_F(RunWatchTest, TheStepsOfOneCommandAreOneWindow) {
   wxDialog* first = nullptr;
   waitForDialog();
   steps.then("work", [this] {
-    desktop().showStep(1, 2);
+    EXPECT_TRUE(desktop().showStep(1, 2));
     work();
     ASSERT_TRUE(watch());
     EXPECT_TRUE(watch()->IsShown()) << "in between too";
-    desktop().showStep(2, 2);
+    EXPECT_TRUE(desktop().showStep(2, 2));
     work();
+    EXPECT_FALSE(desktop().showStep(0, 0)) << "somebody has stopped it";
+    EXPECT_TRUE(desktop().showStep(1, 1)) << "and the next command has a life of its own";
     desktop().showStep(0, 0);
   });
   untilItShows();

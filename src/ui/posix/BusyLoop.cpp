@@ -3,6 +3,7 @@
 #include <wx/evtloop.h>
 #include <wx/toplevel.h>
 
+#include <algorithm>
 #include <gtk/gtk.h>
 #include <utility>
 
@@ -35,10 +36,18 @@ struct BusyLoop::State {
     return TRUE;
   }
 
+  static wxWindow* windowOf(const GdkEvent& event) {
+    gpointer widget = nullptr;
+    gdk_window_get_user_data(event.any.window, &widget);
+    const auto found = std::find_if(wxTopLevelWindows.begin(), wxTopLevelWindows.end(),
+                                    [widget](const wxWindow* window) { return window->GetHandle() == widget; });
+    return found == wxTopLevelWindows.end() ? nullptr : *found;
+  }
+
   /// The toolkit tells nobody of a close request that a grab keeps away.
   static void onEvent(GdkEvent* event, gpointer) {
     if (event->type == GDK_DELETE && innermost && innermost->holdsInput())
-      innermost->requests.close();
+      innermost->requests.close(windowOf(*event));
     else
       gtk_main_do_event(event);
   }

@@ -55,7 +55,8 @@ class LoopWithoutInput : public wxGUIEventLoop, private wxEventFilter {
     const bool isOfAdmitted =
         admitted_ && (message->hwnd == GetHwndOf(admitted_) || ::IsChild(GetHwndOf(admitted_), message->hwnd));
     if (asksToClose(*message)) {
-      requests_.close();
+      wxWindow* const window = wxGetWindowFromHWND(message->hwnd);
+      requests_.close(window ? wxGetTopLevelParent(window) : nullptr);
       return true;
     }
     // The admitted window may have become the active one: what somebody types on must not press its button.

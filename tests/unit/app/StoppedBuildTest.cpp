@@ -18,12 +18,14 @@ struct WatchingDesktop : ScriptedDesktop {
     if (busy.stop && stopped && runs++ == *stopped) busy.stop();
     ScriptedDesktop::whileBusy(busy);
   }
-  void showStep(std::size_t number, std::size_t of) override {
+  bool showStep(std::size_t number, std::size_t of) override {
     step = std::to_string(number) + '/' + std::to_string(of) + ' ';
+    return !enoughBefore || number < *enoughBefore;
   }
   Seen seen;
   std::string step;
-  std::optional<int> stopped;
+  std::optional<int> stopped;               ///< this run, from 0
+  std::optional<std::size_t> enoughBefore;  ///< this step: the one before it ended too soon to be stopped
   int runs = 0;
 };
 
@@ -82,6 +84,25 @@ TEST_F(StoppedBuildTest, WhatIsStoppedEndsTheWholeCommandAndNothingSaysSuccess) 
   EXPECT_EQ(watching_.alerts(), std::vector{AlertSound::Exclamation});
   EXPECT_NE(contentOf(log_.path()).find("Stopped."), std::string::npos);
   EXPECT_EQ(watching_.step, "0/0 ");
+}
+
+TEST_F(StoppedBuildTest, AStopThatCameTooLateForOneStepKeepsTheNextFromBeginning) {
+  watching_.enoughBefore = 2;
+  compileAll();
+  EXPECT_EQ(watching_.seen, Seen{"1/3 javac C.java"});
+  EXPECT_EQ(watching_.alerts(), std::vector{AlertSound::Exclamation}) << "the command has not done what it was to do";
+  EXPECT_NE(contentOf(log_.path()).find("Stopped."), std::string::npos);
+  EXPECT_EQ(watching_.step, "0/0 ");
+}
+
+TEST_F(StoppedBuildTest, SoItDoesForTheBatchesOfOneRun) {
+  makeSource("B.java", "class A { }");
+  open();
+  live_.javacOneRun = true;
+  watching_.enoughBefore = 2;
+  compileAll();
+  EXPECT_EQ(watching_.seen, Seen{"1/2 javac 2 sources"});
+  EXPECT_NE(contentOf(log_.path()).find("Stopped."), std::string::npos);
 }
 
 TEST_F(StoppedBuildTest, SoAreTheBatchesOfOneRun) {

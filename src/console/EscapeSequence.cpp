@@ -14,6 +14,9 @@ constexpr char substitute = '\x1A';
 /// More belongs to no sequence that sets colours.
 constexpr std::size_t mostParameters = 256;
 
+/// A program that has ended in the middle of such a text must not take all that comes for it.
+constexpr std::size_t mostText = std::size_t{1024} * 1024;
+
 bool between(char byte, char first, char last) {
   return byte >= first && byte <= last;
 }
@@ -131,9 +134,11 @@ TextStyle styledBy(TextStyle style, std::string_view parameters) {
 }
 
 bool EscapeSequence::take(char byte) {
-  if (state_ == State::Text || state_ == State::TextEscape) {
-    takeInText(byte);
-    return true;
+  if (state_ == State::Text || state_ == State::DataText) return takeInText(byte);
+  if (state_ == State::TextEscape) {
+    // Whatever follows but a backslash begins a sequence of its own.
+    state_ = byte == '\\' ? State::None : State::Escape;
+    if (state_ == State::None) return true;
   }
   if (breaksOff(byte)) {
     state_ = State::None;
@@ -159,7 +164,8 @@ bool EscapeSequence::takeInEscape(char byte) {
     state_ = State::Control;
     parameters_.clear();
   } else if (first && (byte == ']' || byte == 'P' || byte == 'X' || byte == '^' || byte == '_')) {
-    state_ = State::Text;
+    state_ = byte == 'P' ? State::DataText : State::Text;
+    textSize_ = 0;
   }
   // A letter beyond ASCII ends no sequence.
   return between(byte, '0', '~');
@@ -177,12 +183,16 @@ bool EscapeSequence::takeInControl(char byte) {
   return true;
 }
 
-void EscapeSequence::takeInText(char byte) {
-  if (byte == bell || breaksOff(byte) || (state_ == State::TextEscape && byte == '\\')) {
+/// Pictures, which alone may have several lines, are data; titles and links end with their line at the latest.
+bool EscapeSequence::takeInText(char byte) {
+  const bool isLineEnd = byte == '\n' || byte == '\r';
+  if (++textSize_ > mostText || (isLineEnd && state_ == State::Text)) {
     state_ = State::None;
-  } else {
-    state_ = byte == escape ? State::TextEscape : State::Text;
+    return false;
   }
+  if (byte == bell || breaksOff(byte)) state_ = State::None;
+  if (byte == escape) state_ = State::TextEscape;
+  return true;
 }
 
 }  // namespace tarnwick

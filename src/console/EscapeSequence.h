@@ -2,6 +2,7 @@
 
 #include "console/TextStyle.h"
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -22,14 +23,15 @@ class EscapeSequence {
   const TextStyle& style() const { return style_; }
 
  private:
-  enum class State { None, Escape, Intermediate, Control, Text, TextEscape };
+  enum class State { None, Escape, Intermediate, Control, Text, DataText, TextEscape };
 
   bool takeInEscape(char byte);
   bool takeInControl(char byte);
-  void takeInText(char byte);
+  bool takeInText(char byte);
 
   State state_ = State::None;
   std::string parameters_;
+  std::size_t textSize_ = 0;
   TextStyle style_;
 };
 

@@ -123,6 +123,29 @@ TEST(EscapeSequenceTest, ControlCharactersWithinASequenceAreTheOwners) {
   EXPECT_EQ(sequence.style(), (TextStyle{1, none}));
 }
 
+TEST(EscapeSequenceTest, ATextThatNobodyEndsEndsWithItsLine) {
+  for (const std::string text : {"\x1B]0;a title", "\x1B]8;;http://x/", "\x1B_x", "\x1B^x", "\x1BXx"}) {
+    EscapeSequence sequence;
+    EXPECT_EQ(shown(sequence, text + "\nb"), "\nb") << text.substr(1);
+    EXPECT_EQ(shown(sequence, text + "\rb"), "\rb") << text.substr(1);
+    EXPECT_FALSE(sequence.underWay());
+  }
+}
+
+TEST(EscapeSequenceTest, APictureHasLinesButNotForEver) {
+  EscapeSequence sequence;
+  EXPECT_EQ(shown(sequence, "\x1BPq#0\n#1\r\n~~\x1B\\b"), "b");
+  EXPECT_EQ(shown(sequence, "\x1BP" + std::string(std::size_t{1024} * 1024, 'x') + "yz"), "yz");
+}
+
+TEST(EscapeSequenceTest, AnotherSequenceEndsAText) {
+  EscapeSequence sequence;
+  EXPECT_EQ(shown(sequence, "\x1B]0;title\x1B[31mx"), "x");
+  EXPECT_EQ(sequence.style(), (TextStyle{1, none}));
+  EXPECT_EQ(shown(sequence, "\x1BPq\x1B[32my"), "y");
+  EXPECT_EQ(sequence.style(), (TextStyle{2, none}));
+}
+
 TEST(EscapeSequenceTest, ALetterBeyondAsciiEndsASequenceAndStays) {
   EscapeSequence sequence;
   EXPECT_EQ(shown(sequence, "\x1B[31\xC3\xA4m"), "\xC3\xA4m");

@@ -5,6 +5,7 @@
 #include "platform/FileSystem.h"
 
 #include <algorithm>
+#include <cctype>
 #include <string_view>
 
 namespace tarnwick {
@@ -71,6 +72,16 @@ void shorten(MessagesText& text, std::size_t mostLines) {
   while (!text.messages.empty() && text.messages.back().lastLine >= mostLines) text.messages.pop_back();
 }
 
+/// How a tool ended that did not end by itself, by the notes behind what it said; empty if all have.
+std::string earlyEnd(const MessagesText& text) {
+  std::string end;
+  for (const auto& line : text.lines) {
+    if (line.text == "Stopped.") end = "stopped";
+    if (line.text.starts_with("Ended by a signal: ")) end = "ended by a signal";
+  }
+  return end;
+}
+
 /// Seconds with one digit behind the point.
 std::string seconds(std::chrono::milliseconds time) {
   const auto tenths = (time.count() + 50) / 100;
@@ -99,7 +110,11 @@ MessagesText messagesText(const std::string& log, const std::vector<LoggedPart>&
 
 std::string messagesSummary(const MessagesText& text, std::chrono::milliseconds elapsed) {
   const std::string count = countText(countOf(text.messages));
-  const std::string begin = !count.empty() ? count : text.lines.empty() ? "No messages" : "No errors or warnings";
+  const std::string end = earlyEnd(text);
+  std::string begin = count;
+  if (count.empty()) begin = text.lines.empty() ? "No messages" : end.empty() ? "No errors or warnings" : "";
+  if (!end.empty()) begin += (begin.empty() ? "" : ", ") + end;
+  if (count.empty() && !begin.empty()) begin[0] = static_cast<char>(std::toupper(static_cast<unsigned char>(begin[0])));
   return begin + ", " + seconds(elapsed) + (text.shortened ? " (the log is longer than what is shown)" : "");
 }
 

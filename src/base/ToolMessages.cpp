@@ -73,6 +73,16 @@ bool isOneOf(std::string_view word, std::initializer_list<std::string_view> word
   return std::find(words.begin(), words.end(), word) != words.end();
 }
 
+/// True for the name of a tool, with which it introduces what it thinks of its command line.
+bool isTool(std::string_view word) {
+  return isOneOf(word, {"javac", "javadoc", "jar", "java", "jdb", "appletviewer"});
+}
+
+/// True for a failure's full name, with which a tool's last words begin.
+bool isFailure(std::string_view word) {
+  return word.find('.') != std::string_view::npos && (word.ends_with("Exception") || word.ends_with("Error"));
+}
+
 /// Sorts messages by the words that introduce them.
 class Introductions {
  public:
@@ -97,7 +107,7 @@ class Introductions {
   /// True for the word of a message that need not have a place.
   bool known(std::string_view word) const {
     return placed_.contains(word) || kindOf(word) != MessageKind::Error ||
-           isOneOf(word, {"error", "Fehler", "エラー", "错误"});
+           isOneOf(word, {"error", "Error", "Fehler", "エラー", "错误"}) || isTool(word) || isFailure(word);
   }
 
  private:
@@ -112,7 +122,10 @@ std::optional<ToolMessage> messageAt(const Lines& lines, std::size_t at, const I
   }
   const std::string_view word = introduction(lines[at]);
   if (word.empty() || !introductions.known(word)) return std::nullopt;
-  return ToolMessage{at, at, introductions.kindOf(word), std::nullopt};
+  std::string_view said = lines[at].substr(word.size() + 1);
+  said.remove_prefix(std::min(said.find_first_not_of(' '), said.size()));
+  const bool isWarning = isTool(word) && said.starts_with("warning");
+  return ToolMessage{at, at, isWarning ? MessageKind::Warning : introductions.kindOf(word), std::nullopt};
 }
 
 /// Takes a line that stands below a message's first one for a part of it if it is one.

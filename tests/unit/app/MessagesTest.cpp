@@ -112,6 +112,22 @@ TEST_F(MessagesTest, TheRunsOfOneCommandAreShownTogether) {
   EXPECT_EQ(summary(), "2 errors in 2 files");
 }
 
+TEST_F(MessagesTest, OfALogBeyondMeasureWholeLinesShowAndTheSumSaysSo) {
+  test::FakeSurface surface;
+  std::string said;
+  for (int i = 0; i < 900; ++i) said += std::string(4999, 'x') + '\n';
+  runAndShow(said);
+  EXPECT_NE(host.summary.find(" (the log is longer than what is shown)"), std::string::npos) << host.summary;
+  messages().view().onStart(surface);
+  messages().onCommand(MessagesCommand::SelectAll);
+  messages().onCommand(MessagesCommand::Copy);
+  messages().view().onClose();
+  const std::string shown = desktop_.clipboardText().value_or("");
+  EXPECT_TRUE(shown.ends_with("\n" + std::string(4999, 'x')) || shown.ends_with("\n" + std::string(4999, 'x') + "\n") ||
+              shown.ends_with("\r\n" + std::string(4999, 'x') + "\r\n"))
+      << "the last line is whole";
+}
+
 TEST_F(MessagesTest, ARunWithNothingToSayOpensNoWindowButEmptiesAnOpenOne) {
   runAndShow("");
   EXPECT_FALSE(host.open);

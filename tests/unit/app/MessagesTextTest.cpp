@@ -108,5 +108,16 @@ TEST(MessagesTextTest, TheSummaryTellsTheTimeToo) {
   EXPECT_EQ(messagesSummary({}, milliseconds(950)), "No messages, 1.0 s");
 }
 
+TEST(MessagesTextTest, NobodyTakesAToolThatWasEndedForOneThatHadNothingToSay) {
+  const auto sum = [](const std::string& said) {
+    return messagesSummary(messagesText("\n\njavac\n\n" + said, {{0, folder()}}), milliseconds(1000));
+  };
+  EXPECT_EQ(sum("\nStopped.\n"), "Stopped, 1.0 s");
+  EXPECT_EQ(sum("\nStopped.\n\nThe tool has ended, but something that it has left behind still writes.\n"),
+            "Stopped, 1.0 s");
+  EXPECT_EQ(sum("A.java:1: error: x\n\nStopped.\n"), "1 error in 1 file, stopped, 1.0 s");
+  EXPECT_EQ(sum("\nEnded by a signal: Killed\n"), "Ended by a signal, 1.0 s");
+}
+
 }  // namespace
 }  // namespace tarnwick

@@ -159,6 +159,25 @@ TEST(ToolMessagesTest, WhatOldCompilersDoNotCallAnErrorIsOne) {
             "0 error A.java 3:5\n5 error A.java 5:0\n6 error A.java 6:0\n");
 }
 
+TEST(ToolMessagesTest, WhatToolsThinkOfTheirCommandLineIsAMessage) {
+  EXPECT_EQ(told("javac: invalid flag: -foo\nUsage: javac <options> <source files>\n"), "0 error\n");
+  EXPECT_EQ(told("javadoc: error - No packages or classes specified.\njavadoc: warning - No source files.\n"),
+            "0 error\n1 warning\n");
+  EXPECT_EQ(told("Error: Could not create the Java Virtual Machine.\n"), "0 error\n");
+  EXPECT_EQ(told("Loading source files for package a...\njavadoc -d docs A.java\n"), "");
+}
+
+TEST(ToolMessagesTest, AFailureByItsFullNameIsAMessageWithItsTrace) {
+  const std::string text =
+      "java.io.FileNotFoundException: a.txt (No such file or directory)\n"
+      "\tat java.base/java.io.FileInputStream.open0(Native Method)\n"
+      "\tat java.base/java.io.FileInputStream.open(FileInputStream.java:216)\n";
+  ASSERT_EQ(told(text), "0 error\n");
+  EXPECT_EQ(toolMessages(text)[0].lastLine, 2U);
+  EXPECT_EQ(told("java.lang.OutOfMemoryError: Java heap space\n"), "0 error\n");
+  EXPECT_EQ(told("Exception: nothing\nshop.Till: nothing\n"), "");
+}
+
 TEST(ToolMessagesTest, ThePlaceReachesToTheLinesStart) {
   const struct {
     const char* line;

@@ -82,7 +82,27 @@ struct MouseState {
 };
 
 /// Keys that the view tells apart beside characters. A modifier is a key that does nothing by itself.
-enum class ConsoleKey { End, Home, Left, Right, Up, Down, Delete, F5, F6, F7, F8, F9, F10, F11, F12, Modifier, Other };
+enum class ConsoleKey {
+  End,
+  Home,
+  Left,
+  Right,
+  Up,
+  Down,
+  PageUp,
+  PageDown,
+  Delete,
+  F5,
+  F6,
+  F7,
+  F8,
+  F9,
+  F10,
+  F11,
+  F12,
+  Modifier,
+  Other
+};
 
 /// Modifiers as the function keys' groups count them.
 enum KeyModifier { SHIFT_BIT = 1, CTRL_BIT = 2, ALT_BIT = 4 };

@@ -34,6 +34,7 @@ InputEditor::InputEditor(ConsoleScreen& screen, std::function<void(std::string)>
 void InputEditor::dropPending() {
   pendingInput_.clear();
   handled_ = 0;
+  endWanted_ = false;
 }
 
 InputEditor::Input InputEditor::input() const {
@@ -69,6 +70,11 @@ bool InputEditor::drain() {
   }
   pendingInput_.clear();
   handled_ = 0;
+  if (std::exchange(endWanted_, false)) {
+    const Input last = input();
+    if (last.typed() && !last.text.empty()) typeReturn();
+    end_.send();
+  }
   return false;
 }
 

@@ -25,6 +25,8 @@ class InputEditor {
   InputEditor(ConsoleScreen& screen, std::function<void(std::string)> send, InputEnd end = {});
 
   void append(const std::string& text) { pendingInput_ += text; }
+  /// Ends the input once all that has been appended is worked off; a line that has no Return yet goes before that.
+  void endInput() { endWanted_ = true; }
   /// Forgets what has been appended and not worked off.
   void dropPending();
 
@@ -75,6 +77,7 @@ class InputEditor {
   InputHistory history_;
   std::string pendingInput_;
   std::size_t handled_ = 0;  ///< of `pendingInput_`
+  bool endWanted_ = false;
 };
 
 }  // namespace tarnwick

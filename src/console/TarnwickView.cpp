@@ -22,6 +22,10 @@ std::optional<int> functionKeyIndex(ConsoleKey key) {
   return static_cast<int>(key) - static_cast<int>(ConsoleKey::F5);
 }
 
+bool editsInput(ConsoleKey key) {
+  return key <= ConsoleKey::Down || key == ConsoleKey::Delete;
+}
+
 /// The text, whose lines end in CR LF, as the programs of this system exchange it.
 std::string withSystemLineEnds(const std::string& text) {
   std::string converted;
@@ -43,7 +47,7 @@ TarnwickView::TarnwickView(TarnwickDoc& document, Desktop& desktop, ConsoleProgr
       screen_(document, program.today),
       program_(std::move(program)),
       shownTitle_(document.title()),
-      editor_(screen_, [this](std::string bytes) { child_->write(std::move(bytes)); }, {[this] { endInput(); }}) {
+      editor_(screen_, [this](std::string bytes) { child_->write(std::move(bytes)); }, {[this] { endChildsInput(); }}) {
   makeChild();
 }
 
@@ -209,6 +213,7 @@ void TarnwickView::closeWindow() {
 
 bool TarnwickView::onKey(ConsoleKey key, int modifiers) {
   // Alt alone makes it a system key, which is looked up as a function key and nothing else.
+  if (screen_.today && onTodaysKey(key)) return true;
   if (screen_.today && key == ConsoleKey::Modifier) return false;
   const bool systemKey = (modifiers & ALT_BIT) != 0 && (modifiers & CTRL_BIT) == 0;
   if (!systemKey) closeIfEnded();
@@ -217,7 +222,7 @@ bool TarnwickView::onKey(ConsoleKey key, int modifiers) {
     sendKeys(functionKeys_(modifiers & (SHIFT_BIT | CTRL_BIT | ALT_BIT), *index));
     return true;
   }
-  if (systemKey || key == ConsoleKey::Other || key == ConsoleKey::Modifier) return false;
+  if (systemKey || !editsInput(key)) return false;
   followAgain();
   {
     const TextGuard guard(screen_.lock());

@@ -116,6 +116,8 @@ class TarnwickView : public ConsoleSurfaceClient {
   void showTitle();
   /// True if the user has scrolled back, in a console that then holds still.
   bool holdsStill() const;
+  /// A key that only the console of today knows. False if it is none.
+  bool onTodaysKey(ConsoleKey key);
   Point heldPosition(const Point& position, std::uint64_t linesGone);
   /// Shows the end of the text from now on.
   void followAgain();
@@ -130,6 +132,7 @@ class TarnwickView : public ConsoleSurfaceClient {
   void continueInput();
   void resumeInput();
   void appendInput(const std::string& text);
+  void endChildsInput();
   void closeIfEnded();
   void clearSelection();
   void showHint();

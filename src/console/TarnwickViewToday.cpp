@@ -23,6 +23,18 @@ void TarnwickView::onScrolled() {
   showTitle();
 }
 
+bool TarnwickView::onTodaysKey(ConsoleKey key) {
+  if (!surface_ || (key != ConsoleKey::PageUp && key != ConsoleKey::PageDown)) return false;
+  const Point position = surface_->scrollPosition();
+  const int line = screen_.grid.charHeight;
+  // A line of what was seen stays in sight.
+  const int page = std::max(surface_->clientSize().y - line, line);
+  const int wanted = position.y + (key == ConsoleKey::PageDown ? page : -page);
+  surface_->scrollTo({position.x, std::clamp(wanted, 0, std::max(followedTo_, 0))});
+  onScrolled();
+  return true;
+}
+
 bool TarnwickView::holdsStill() const {
   return screen_.today && surface_->scrollPosition().y < followedTo_;
 }
@@ -108,6 +120,12 @@ void TarnwickView::clear() {
 }
 
 void TarnwickView::endInput() {
+  if (!canEndInput()) return;
+  editor_.endInput();
+  continueInput();
+}
+
+void TarnwickView::endChildsInput() {
   if (canEndInput()) child_->endInput();
 }
 

@@ -11,13 +11,15 @@ namespace tarnwick::ui {
 namespace {
 
 // The keys of the navigation block only: those of the number pad are others.
-constexpr std::array<std::pair<int, ConsoleKey>, 24> keys{{
+constexpr std::array<std::pair<int, ConsoleKey>, 26> keys{{
     {WXK_END, ConsoleKey::End},
     {WXK_HOME, ConsoleKey::Home},
     {WXK_LEFT, ConsoleKey::Left},
     {WXK_RIGHT, ConsoleKey::Right},
     {WXK_UP, ConsoleKey::Up},
     {WXK_DOWN, ConsoleKey::Down},
+    {WXK_PAGEUP, ConsoleKey::PageUp},
+    {WXK_PAGEDOWN, ConsoleKey::PageDown},
     {WXK_F5, ConsoleKey::F5},
     {WXK_DELETE, ConsoleKey::Delete},
     {WXK_F6, ConsoleKey::F6},
@@ -42,6 +44,8 @@ constexpr std::array<std::pair<int, ConsoleKey>, 24> keys{{
 }  // namespace
 
 ConsoleKey consoleKeyOf(int keyCode) {
+  // Who turns the sound down types nothing.
+  if (keyCode >= WXK_BROWSER_BACK && keyCode <= WXK_LAUNCH_APP2) return ConsoleKey::Modifier;
   for (const auto& [code, key] : keys) {
     if (code == keyCode) return key;
   }

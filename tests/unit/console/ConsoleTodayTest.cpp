@@ -84,6 +84,37 @@ TEST_F(ConsoleTodayTest, AModifierAloneClosesNoEndedConsole) {
   EXPECT_EQ(surface.closes, 1) << "any other key does";
 }
 
+TEST_F(ConsoleTodayTest, PagesScrollAndCloseNoEndedConsole) {
+  openRunning();
+  std::string text;
+  for (int i = 0; i < 200; ++i) text += "line " + std::to_string(i) + '\n';
+  child->out(text + "last\n");
+  ASSERT_TRUE(until([&] { return shows("last"); }));
+  child->endWith(0);
+  ASSERT_TRUE(until([&] { return view->childState() == 0 && !surface.titles.empty(); }));
+  const int end = surface.position.y;
+  ASSERT_GT(end, 0);
+  EXPECT_TRUE(view->onKey(ConsoleKey::PageUp, 0));
+  const int seen = surface.clientSize().y;
+  EXPECT_EQ(surface.position.y, end - (seen - surface.cell().y));
+  EXPECT_TRUE(surface.titles.back().ends_with(" - scrolled back")) << surface.titles.back();
+  EXPECT_TRUE(view->onKey(ConsoleKey::PageDown, 0));
+  EXPECT_EQ(surface.position.y, end);
+  EXPECT_FALSE(surface.titles.back().ends_with(" - scrolled back"));
+  EXPECT_TRUE(view->onKey(ConsoleKey::PageDown, 0));
+  EXPECT_EQ(surface.position.y, end);
+  for (int i = 0; i < 100; ++i) view->onKey(ConsoleKey::PageUp, SHIFT_BIT);
+  EXPECT_EQ(surface.position.y, 0);
+  EXPECT_EQ(surface.closes, 0);
+}
+
+TEST_F(ConsoleClassicTest, APageKeyClosesAnEndedConsoleAsAnyOtherDoes) {
+  openRunning();
+  endChild();
+  EXPECT_FALSE(view->onKey(ConsoleKey::PageUp, 0));
+  EXPECT_EQ(surface.closes, 1);
+}
+
 TEST_F(ConsoleTodayTest, ACharacterClosesAnEndedConsole) {
   openRunning();
   endChild();
@@ -110,6 +141,23 @@ TEST_F(ConsoleTodayTest, TheEndOfTheInputComesBehindWhatWasSent) {
   child->readInputAgain();
   EXPECT_TRUE(until([&] { return child->inputClosed(); }));
   EXPECT_EQ(child->writes(), Lines{"last line\n"});
+}
+
+TEST_F(ConsoleTodayTest, TheCommandEndsTheInputBehindAllThatWasPasted) {
+  openRunning();
+  type("one\rtwo\rthree");
+  EXPECT_TRUE(view->canEndInput());
+  view->endInput();
+  ASSERT_TRUE(until([&] { return child->inputClosed(); }));
+  EXPECT_EQ(child->writes(), (Lines{"one\n", "two\n", "three\n"}));
+}
+
+TEST_F(ConsoleTodayTest, AndBehindALineThatHasNoReturnYet) {
+  openRunning();
+  type("one");
+  view->endInput();
+  ASSERT_TRUE(until([&] { return child->inputClosed(); }));
+  EXPECT_EQ(child->writes(), Lines{"one\n"});
 }
 
 TEST_F(ConsoleTodayTest, ControlDEndsTheInputAndNothingFollows) {

@@ -340,6 +340,27 @@ TEST_F(ConsoleTest, TheMouseSpeaksInTheWindowsCoordinates) {
   play();
 }
 
+TEST_F(ConsoleTest, ControlSpeaksForAMouseThatRestsAndLeavingIsToldToo) {
+  waitForFrame();
+  steps.then("point", [this] { wxUIActionSimulator().MouseMove(window()->ClientToScreen(wxPoint(40, 60))); });
+  steps.until("the mouse is there", [this] { return console.lastMove == "40,60"; });
+  steps.then("Control down", [] { wxUIActionSimulator().KeyDown(WXK_CONTROL); });
+  steps.until("it is told", [this] { return console.lastMove == "40,60 control"; });
+  steps.then("Control up", [] { wxUIActionSimulator().KeyUp(WXK_CONTROL); });
+  steps.until("that is told, too", [this] { return console.lastMove == "40,60"; });
+  steps.then("leave", [this] { wxUIActionSimulator().MouseMove(frame()->ClientToScreen(wxPoint(-60, -60))); });
+  steps.until("it has left", [this] { return console.lastMove == "-1,-1"; });
+  steps.then("Control elsewhere", [] { wxUIActionSimulator().KeyDown(WXK_CONTROL); });
+  steps.settle(5);
+  steps.then("is not told", [this] {
+    EXPECT_EQ(console.lastMove, "-1,-1");
+    wxUIActionSimulator().KeyUp(WXK_CONTROL);
+  });
+  steps.settle();
+  thenClose();
+  play();
+}
+
 TEST_F(ConsoleTest, WakesOfAnyThreadAreMergedAndKeepTheirDistance) {
   std::thread other;
   std::atomic<bool> enough = false;

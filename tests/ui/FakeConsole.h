@@ -60,7 +60,7 @@ class FakeConsole : public ConsoleFrame, public ConsoleSurfaceClient {
   }
   void onLeftDown(const MouseState& mouse) override { hearMouse("down", mouse); }
   void onLeftUp(const MouseState& mouse) override { hearMouse("up", mouse); }
-  void onMouseMove(const MouseState&) override {}
+  void onMouseMove(const MouseState& mouse) override { lastMove = wordsOf(mouse); }
   void onDoubleClick(const MouseState& mouse) override { hearMouse("double", mouse); }
   void onRightDown(const MouseState& mouse) override { hearMouse("right", mouse); }
   void onClose() override {
@@ -79,14 +79,16 @@ class FakeConsole : public ConsoleFrame, public ConsoleSurfaceClient {
   std::set<int> disabled;
   std::vector<std::chrono::steady_clock::time_point> wakes;
   Heard heard;
+  std::string lastMove;
   std::function<void(ConsolePainter&)> onPaint;
   std::function<void(int modifiers)> onOtherKey;
 
  private:
-  void hearMouse(const std::string& what, const MouseState& mouse) {
-    heard.push_back(what + " " + std::to_string(mouse.at.x) + "," + std::to_string(mouse.at.y) +
-                    (mouse.shift ? " shift" : "") + (mouse.control ? " control" : ""));
+  static std::string wordsOf(const MouseState& mouse) {
+    return std::to_string(mouse.at.x) + "," + std::to_string(mouse.at.y) + (mouse.shift ? " shift" : "") +
+           (mouse.control ? " control" : "");
   }
+  void hearMouse(const std::string& what, const MouseState& mouse) { heard.push_back(what + " " + wordsOf(mouse)); }
 };
 
 }  // namespace tarnwick::test

@@ -204,6 +204,13 @@ TEST_F(ConsoleTest, CharactersAndControlCharactersArrive) {
   play();
 }
 
+TEST(ConsoleKeys, WhoTurnsTheSoundDownTypesNothing) {
+  for (const int code :
+       std::initializer_list<int>{WXK_BROWSER_BACK, WXK_VOLUME_DOWN, WXK_MEDIA_PLAY_PAUSE, WXK_LAUNCH_APP2})
+    EXPECT_EQ(ui::consoleKeyOf(code), ConsoleKey::Modifier) << code;
+  EXPECT_EQ(ui::consoleKeyOf(WXK_F4), ConsoleKey::Other);
+}
+
 TEST(ConsoleKeys, WithControlBracketsMakeControlCharactersOnEverySystem) {
   const auto typed = [](char character, int modifiers) {
     wxKeyEvent event(wxEVT_CHAR);

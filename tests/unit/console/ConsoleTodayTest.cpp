@@ -145,11 +145,30 @@ TEST_F(ConsoleTodayTest, TheEndOfTheInputComesBehindWhatWasSent) {
 
 TEST_F(ConsoleTodayTest, TheCommandEndsTheInputBehindAllThatWasPasted) {
   openRunning();
-  type("one\rtwo\rthree");
-  EXPECT_TRUE(view->canEndInput());
+  desktop.clipboard = "one\r\ntwo\r\nthree\r\nfour";
+  view->paste();
   view->endInput();
+  ASSERT_TRUE(until([&] { return child->writes() == Lines{"one\n", "two\n"}; }));
+  EXPECT_TRUE(view->canEndInput());
+  desktop.tick(100);
+  desktop.tick(100);
   ASSERT_TRUE(until([&] { return child->inputClosed(); }));
-  EXPECT_EQ(child->writes(), (Lines{"one\n", "two\n", "three\n"}));
+  EXPECT_EQ(child->writes(), (Lines{"one\n", "two\n", "three\n", "four\n"}));
+}
+
+TEST_F(ConsoleTodayTest, AnEndThatIsStillToComeIsNotForTheNextProgram) {
+  openRunning();
+  desktop.clipboard = "one\r\ntwo\r\nthree";
+  view->paste();
+  view->endInput();
+  ASSERT_TRUE(until([&] { return child->writes() == Lines{"one\n", "two\n"}; }));
+  endWith(1);
+  child = std::make_shared<test::ChildScript>();
+  view->runAgain();
+  ASSERT_TRUE(until([&] { return view->childState() == 1; }));
+  type("hello\r");
+  ASSERT_TRUE(until([&] { return child->writes() == Lines{"hello\n"}; }));
+  EXPECT_TRUE(view->canEndInput());
 }
 
 TEST_F(ConsoleTodayTest, AndBehindALineThatHasNoReturnYet) {

@@ -1,12 +1,11 @@
 #include "app/CompileForUser.h"
 
 #include "dialogbase/Messages.h"
-#include "process/EditorLaunch.h"
-#include "settings/EditorChoice.h"
 #include "settings/Settings.h"
 #include "settings/SettingsContext.h"
 #include "settingsdialog/ToolsFolder.h"
 #include "source/PortabilityWarningDlg.h"
+#include "tools/RunForUser.h"
 
 namespace tarnwick {
 
@@ -26,13 +25,9 @@ CompileEnd compileForUser(const Settings& settings, const std::function<bool()>&
   Desktop& desktop = settings.context().desktop;
   try {
     const bool said = compile();
-    if (said) {
-      if (settings.javacSoundOnError) desktop.alert(AlertSound::Exclamation);
-      showEach(desktop, showLog(settings.context().log, settings.editorChoice()));
-    } else {
-      if (settings.javacSoundOnSuccess) desktop.alert(AlertSound::Asterisk);
-      showSilence(settings.editorChoice());
-    }
+    if (said ? settings.javacSoundOnError : settings.javacSoundOnSuccess)
+      desktop.alert(said ? AlertSound::Exclamation : AlertSound::Asterisk);
+    showRun(settings, said);
     afterwards();
     return {!said};
   } catch (const DontWantToSplitE&) {

@@ -82,6 +82,9 @@ class Desktop {
   /// False if the user has stopped the command: its steps so far may have ended before they could be stopped.
   virtual bool showStep(std::size_t step, std::size_t steps) = 0;
 
+  /// True once the user has chosen to leave the program while a tool ran.
+  virtual bool isLeft() const = 0;
+
   /// Calls `tick` every so many milliseconds until the timer is stopped. Gives the timer's number, above 0; 0 if the
   /// system has no timer left.
   virtual int startTimer(int milliseconds, std::function<void()> tick) = 0;

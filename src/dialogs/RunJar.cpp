@@ -3,13 +3,12 @@
 #include "base/Text.h"
 #include "dialogbase/Messages.h"
 #include "platform/FileSystem.h"
-#include "process/EditorLaunch.h"
 #include "process/Subprocess.h"
 #include "process/WinApp.h"
-#include "settings/EditorChoice.h"
 #include "settings/Settings.h"
 #include "settings/SettingsContext.h"
 #include "tools/Relaunch.h"
+#include "tools/RunForUser.h"
 
 namespace tarnwick {
 
@@ -52,17 +51,8 @@ void runJar(Settings& settings, JarSession& session) {
   save(settings, dialog);
   session.switches = dialog.switches();
   if (settings.watchRuns) process.showWhileItRuns(Filename(dialog.archive()).nameWithExtension());
-  try {
-    const RunResult result = process.run(nullptr, FileMode::Write);
-    showEach(context.desktop, result.failures);
-    if (result.said)
-      showEach(context.desktop, showLog(context.log, settings.editorChoice()));
-    else
-      showSilence(settings.editorChoice());
-  } catch (const Tarnwickfile::FileNotOpenE& failure) {
-    context.desktop.message(failure.message);
-  }
-  if (dialog.openAsZip() && session.zipApplication)
+  runForUser(settings, process);
+  if (dialog.openAsZip() && session.zipApplication && !context.desktop.isLeft())
     showEach(context.desktop, session.zipApplication->runApp(dialog.archive().c_str(), nullptr, 0).failures);
   settings.saveIfWindowMoved();
 }

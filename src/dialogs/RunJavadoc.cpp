@@ -1,12 +1,10 @@
 #include "dialogs/RunJavadoc.h"
 
-#include "dialogbase/Messages.h"
-#include "process/EditorLaunch.h"
 #include "process/Subprocess.h"
-#include "settings/EditorChoice.h"
 #include "settings/Settings.h"
 #include "settings/SettingsContext.h"
 #include "tools/Relaunch.h"
+#include "tools/RunForUser.h"
 
 namespace tarnwick {
 
@@ -19,16 +17,7 @@ void document(Settings& settings, const JavadocRun& run) {
   Subprocess process(context.desktop, context.log, jdkToolPath(settings, tool));
   for (const auto& argument : javadocArguments(settings, run)) process.addArg(argument);
   if (settings.watchRuns) process.showWhileItRuns("");
-  try {
-    const RunResult result = process.run(nullptr, FileMode::Write);
-    showEach(context.desktop, result.failures);
-    if (result.said)
-      showEach(context.desktop, showLog(context.log, settings.editorChoice()));
-    else
-      showSilence(settings.editorChoice());
-  } catch (const Tarnwickfile::FileNotOpenE& failure) {
-    context.desktop.message(failure.message);
-  }
+  runForUser(settings, process);
 }
 
 }  // namespace

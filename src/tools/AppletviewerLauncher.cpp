@@ -1,14 +1,12 @@
 #include "tools/AppletviewerLauncher.h"
 
 #include "base/ProgramInfo.h"
-#include "dialogbase/Messages.h"
 #include "platform/FileArgument.h"
-#include "process/EditorLaunch.h"
 #include "process/Subprocess.h"
-#include "settings/EditorChoice.h"
 #include "settings/Settings.h"
 #include "settings/SettingsContext.h"
 #include "tools/Relaunch.h"
+#include "tools/RunForUser.h"
 
 #include <memory>
 
@@ -42,20 +40,10 @@ std::vector<std::string> appletviewerArguments(const Settings& settings, const F
 
 void runAppletviewer(Settings& settings, const FileForSubprocess& file, bool debugging) {
   if (debugging ? !relaunchReady(settings, tool) : !jdkToolReady(settings, tool)) return;
-  auto& context = settings.context();
   const auto runner = runnerFor(settings, debugging);
   for (const auto& argument : appletviewerArguments(settings, file, debugging)) runner->addArg(argument);
   if (settings.watchRuns) runner->showWhileItRuns(file.name().nameWithExtension());
-  try {
-    const RunResult result = runner->run(&file, FileMode::Write);
-    showEach(context.desktop, result.failures);
-    if (result.said)
-      showEach(context.desktop, showLog(context.log, settings.editorChoice()));
-    else if (!debugging)
-      showSilence(settings.editorChoice());
-  } catch (const Tarnwickfile::FileNotOpenE& failure) {
-    context.desktop.message(failure.message);
-  }
+  runForUser(settings, *runner, &file, debugging ? Silence::Kept : Silence::Shown);
 }
 
 }  // namespace tarnwick

@@ -127,6 +127,7 @@ int WxDesktop::runDialog(const DialogLayout& layout, DialogHandler& handler) {
 }
 
 void WxDesktop::runMainDialog(const DialogLayout& layout, DialogHandler& handler) {
+  left_ = false;
   WxTopWindow window(stack_, WxTopWindow::Role::Main, layout, handler);
   const EndRequests requests([this] { endProgram(); }, [this] { takeLeave(); });
   runTop(window);
@@ -207,6 +208,7 @@ void WxDesktop::askToStop(const std::string& tool, const wxWindow* closing) {
   const bool yes = askYesNo(tool + " is still at work. Stop it and leave Tarnwick?");
   isAsking_ = false;
   if (!yes) return;
+  left_ = true;
   watch_->stop();
   // Whoever waits for the tool goes on first.
   openDialogs_.front()->close(IDCANCEL_CONTROL);

@@ -35,6 +35,7 @@ class WxDesktop : public Desktop, public ConsoleFrameHost {
   void runMainDialog(const DialogLayout& layout, DialogHandler& handler) override;
   void whileBusy(const BusyWork& busy) override;
   bool showStep(std::size_t step, std::size_t steps) override;
+  bool isLeft() const override { return left_; }
   int startTimer(int milliseconds, std::function<void()> tick) override;
   void stopTimer(int timer) override;
   void post(std::function<void()> task) override;
@@ -76,6 +77,7 @@ class WxDesktop : public Desktop, public ConsoleFrameHost {
   std::unique_ptr<RunWatch> watch_;
   RunWatch::Step step_;
   bool isAsking_ = false;
+  bool left_ = false;
   std::vector<WxTopWindow*> openDialogs_;
   Timers timers_;
   PostQueue queue_;

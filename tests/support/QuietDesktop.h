@@ -26,6 +26,7 @@ class QuietDesktop : public Desktop {
   void runMainDialog(const DialogLayout& /*layout*/, DialogHandler& /*handler*/) override {}
   void whileBusy(const BusyWork& busy) override { busy.work(); }
   bool showStep(std::size_t /*step*/, std::size_t /*steps*/) override { return true; }
+  bool isLeft() const override { return false; }
   int startTimer(int /*milliseconds*/, std::function<void()> /*tick*/) override { return 1; }
   void stopTimer(int /*timer*/) override {}
   void post(std::function<void()> task) override { task(); }

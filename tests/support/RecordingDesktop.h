@@ -85,6 +85,7 @@ class RecordingDesktop : public Desktop {
   void runMainDialog(const DialogLayout& layout, DialogHandler& /*handler*/) override { unexpected(layout.title); }
   void whileBusy(const BusyWork& busy) override { busy.work(); }
   bool showStep(std::size_t /*step*/, std::size_t /*steps*/) override { return true; }
+  bool isLeft() const override { return false; }
   int startTimer(int milliseconds, std::function<void()> tick) override {
     if (!timersWork) return 0;
     timers_[++lastTimer_] = {milliseconds, std::move(tick)};

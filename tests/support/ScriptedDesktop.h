@@ -161,6 +161,9 @@ class ScriptedDesktop : public Desktop {
 
   ~ScriptedDesktop() override;
 
+  /// The user has left the program.
+  bool left = false;
+
   void expectMessage(const std::string& text);
   void expectQuestion(const std::string& text, bool answer);
   void expectOpenFile(std::optional<std::string> answer);
@@ -204,6 +207,7 @@ class ScriptedDesktop : public Desktop {
   void runMainDialog(const DialogLayout& layout, DialogHandler& handler) override;
   void whileBusy(const BusyWork& busy) override { busy.work(); }
   bool showStep(std::size_t /*step*/, std::size_t /*steps*/) override { return true; }
+  bool isLeft() const override { return left; }
   int startTimer(int milliseconds, std::function<void()> tick) override;
   void stopTimer(int timer) override { timers_.erase(timer); }
   void post(std::function<void()> task) override;

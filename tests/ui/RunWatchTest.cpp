@@ -258,6 +258,7 @@ TEST_F(RunWatchTest, WhoClosesThePanelMeanwhileIsAskedAndMayStay) {
   thenLeave();
   play();
   EXPECT_EQ(answers.shown, Heard{"javac is still at work. Stop it and leave Tarnwick?"});
+  EXPECT_FALSE(desktop().isLeft());
   EXPECT_EQ(stopped, 0);
   EXPECT_EQ(rules.heard, (Heard{"command 1", "detached"}));
 }
@@ -268,6 +269,7 @@ TEST_F(RunWatchTest, OrStopsItAndLeaves) {
   steps.then("close", [] { key(WXK_F4, wxMOD_ALT); });
   play();
   EXPECT_EQ(answers.shown.size(), 1U);
+  EXPECT_TRUE(desktop().isLeft());
   EXPECT_EQ(stopped, 1);
   EXPECT_EQ(worked, 1);
   EXPECT_EQ(rules.heard, Heard{"detached"});

@@ -161,6 +161,22 @@ TEST_F(FileViewTest, AnythingTheCompilerWritesSoundsTheExclamationAndShowsTheLog
   }
 }
 
+TEST_F(FileViewTest, WhoHasLeftMeanwhileIsShownNoLog) {
+  saveEarlierRun([this](Settings& earlier) {
+    earlier.displayWithNotepad = false;
+    earlier.editorTarget = scratch_.file("no editor");  // which would be told
+  });
+  const std::string source = makeFile("A.java");
+  writeFile(scratch_.file("script"), "err A.java:1: warning: deprecated\n");
+  desktop_.left = true;
+  runPanel([&](ScriptedWindow&, ScriptedWindow& panel) {
+    panel.type(SOURCE, quoted(source));
+    panel.press(JAVAC);
+    exit(panel);
+  });
+  EXPECT_NE(contentOf(log_.path()).find("deprecated"), std::string::npos);
+}
+
 TEST_F(FileViewTest, AnUnknownToolsFolderIsAskedForAndThenTold) {
   saveEarlierRun([](Settings& earlier) { earlier.javaPath.clear(); });
   const std::string source = makeFile("A.java");

@@ -51,6 +51,18 @@ TEST_F(RunJarTest, TheToolRunsInTheBaseFolderWithWhatTheDialogGathered) {
   EXPECT_EQ(contentOf(log_.path()), end + end + "jar cfv " + quoted(archive()) + " one" + end + end + folder + "\n");
 }
 
+TEST_F(RunJarTest, WhoHasLeftMeanwhileIsShownNeitherLogNorArchive) {
+  const WinApp packer =
+      WinApp::withCommand(quoted(standInFolder() + platform::toolFileName("java")) + " --open \"%1\"");
+  session_.zipApplication = &packer;
+  settings().jarOpenAsZip = true;
+  setScript("folder\n");
+  desktop_.left = true;
+  create();
+  EXPECT_NE(contentOf(log_.path()).find("jar cf "), std::string::npos) << "it has said something";
+  EXPECT_EQ(recorded(), "cf\n" + archive() + "\none\n");
+}
+
 TEST_F(RunJarTest, ASilentToolShowsNoLog) {
   create();
   EXPECT_EQ(recorded(), "cf\n" + archive() + "\none\n");

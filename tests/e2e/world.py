@@ -318,7 +318,12 @@ def answer_file_dialog(path, owner):
     dialog = Window(chooser.name)
     dialog.activate()
     enter_path(dialog, path)
-    dialog.is_gone()
+    try:
+        dialog.is_gone(person.LIMIT / 6)
+    except person.NotSeen:
+        # The list of names that the field offers has taken the Return for itself.
+        enter_path(dialog, path)
+        dialog.is_gone()
 
 
 def enter_path(dialog, path):

@@ -72,6 +72,13 @@ std::string filledIn(const std::string& word, const std::string& file, const Edi
   return filled;
 }
 
+/// True if the file stands somewhere in the pattern; "%%f" is a percent sign and a letter.
+bool namesFile(const std::string& pattern) {
+  for (std::size_t at = pattern.find('%'); at < pattern.size(); at = pattern.find('%', at + 2))
+    if (pattern.compare(at, 2, "%f") == 0) return true;
+  return false;
+}
+
 }  // namespace
 
 std::vector<std::string> editorArguments(const std::string& executable, const std::string& pattern,
@@ -82,7 +89,7 @@ std::vector<std::string> editorArguments(const std::string& executable, const st
   if (place.line > 0 && !file.empty()) {
     for (const auto& word : platform::splitCommandText(used)) arguments.push_back(filledIn(word, file, place));
   }
-  if (arguments.empty() || used.find("%f") == std::string::npos) arguments.push_back(platform::fileArgument(file));
+  if (arguments.empty() || !namesFile(used)) arguments.push_back(platform::fileArgument(file));
   return arguments;
 }
 

@@ -98,6 +98,7 @@ TEST(EditorFormsTest, ThePatternOfTheUserComesBeforeWhatIsKnown) {
 TEST(EditorFormsTest, InAPatternQuotesHoldAnArgumentTogether) {
   EXPECT_EQ(byPattern("-x \"go to %l\" \"%f\""), (Words{"-x", "go to 12", file}));
   EXPECT_EQ(byPattern("%l%%%c%x %f%"), (Words{"12%5%x", file + '%'}));
+  EXPECT_EQ(byPattern("-o 5%%f"), (Words{"-o", "5%f", file})) << "which names no file, so that comes behind it";
 }
 
 TEST(EditorFormsTest, AFileThatThePatternDoesNotNameComesLast) {

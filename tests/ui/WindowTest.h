@@ -44,8 +44,12 @@ class Steps : private wxTimer {
   };
 
   void Notify() override;
+  /// Of the test's first window, as long as nothing has been played.
+  void giveItTheKeyboard();
 
   std::deque<Step> steps_;
+  bool begun_ = false;
+  int waits_ = 0;
 };
 
 class WindowTest : public testing::Test {

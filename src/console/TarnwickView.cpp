@@ -212,9 +212,9 @@ void TarnwickView::closeWindow() {
 }
 
 bool TarnwickView::onKey(ConsoleKey key, int modifiers) {
-  // Alt alone makes it a system key, which is looked up as a function key and nothing else.
   if (screen_.today && onTodaysKey(key)) return true;
   if (screen_.today && key == ConsoleKey::Modifier) return false;
+  // Alt alone makes it a system key, which is looked up as a function key and nothing else.
   const bool systemKey = (modifiers & ALT_BIT) != 0 && (modifiers & CTRL_BIT) == 0;
   if (!systemKey) closeIfEnded();
   if (!surface_) return false;

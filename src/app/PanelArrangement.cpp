@@ -1,5 +1,6 @@
 #include "app/PanelArrangement.h"
 
+#include "app/PanelFit.h"
 #include "dialogbase/DialogWindow.h"
 #include "settings/LayoutValue.h"
 
@@ -37,40 +38,6 @@ void closeFlat(PanelPlaces& places, int barTop) {
 
 void shift(LayoutItem& item, int x, int y) {
   item.moveTo(item.left + x, item.top + y);
-}
-
-/// Takes so much off the item's width, but leaves `least`. Gives what could not be taken.
-int shorten(LayoutItem& item, int surplus, int least) {
-  const int taken = std::clamp(surplus, 0, std::max(0, item.width() - least));
-  item.right -= taken;
-  return surplus - taken;
-}
-
-/// By how much a row made of these places is too wide for the screen.
-int surplusOf(PanelPlaces places, void (*inOneRow)(PanelPlaces&)) {
-  inOneRow(places);
-  return places.topWindow.width() - places.screenWidth;
-}
-
-/// Of all pages alike. Gives what could not be taken.
-int shortenPageFields(PanelPlaces& places, int surplus) {
-  int left = surplus;
-  for (auto& page : places.pages) left = shorten(page.field, surplus, page.left.width());
-  return left;
-}
-
-/// Shortens the project view's six buttons, and their two groups with them.
-void shortenButtons(PanelPlaces& places, int surplus) {
-  int rest = surplus;
-  for (std::size_t i = 0; i < places.own.size() && rest > 0; ++i) {
-    const int share = rest / static_cast<int>(places.own.size() - i);
-    const int taken = share - shorten(places.own[i], share, places.own[i].leastWidth);
-    rest -= taken;
-    LayoutItem& group = i < 3 ? places.firstGroup : places.secondGroup;
-    group.right -= taken;
-    // Those behind it in its group move up.
-    for (std::size_t next = i + 1; next < (i < 3 ? 3u : places.own.size()); ++next) shift(places.own[next], -taken, 0);
-  }
 }
 
 void fileViewInOneRow(PanelPlaces& places) {
@@ -114,6 +81,16 @@ void projectViewInOneRow(PanelPlaces& places) {
   closeFlat(places, places.own[3].top - places.own[3].height());
 }
 
+void sideBySide(PanelPlaces& places) {
+  LayoutItem& bar = places.bars[LayoutValue::HORIZONTAL];
+  LayoutItem& tabs = places.tabControl;
+  const int top = places.firstGroup.top;
+  const int bottom = places.secondGroup.bottom;
+  places.topWindow.resize(bar.width() + tabs.width() + places.firstGroup.width() + 38, bottom + places.frameHeight + 4);
+  tabs.moveTo(places.firstGroup.right + 4, std::max(0, bottom - top - 2 - tabs.height()) + 4);
+  bar.moveTo(tabs.right + 5, (bottom + top - bar.height()) / 2 + 4);
+}
+
 }  // namespace
 
 void clearFields(PanelPlaces& places) {
@@ -127,25 +104,17 @@ void arrangeVertical(PanelPlaces& places) {
 }
 
 void arrangeHorizontal(PanelPlaces& places) {
-  LayoutItem& bar = places.bars[LayoutValue::HORIZONTAL];
-  LayoutItem& tabs = places.tabControl;
-  const int top = places.firstGroup.top;
-  const int bottom = places.secondGroup.bottom;
-  places.topWindow.resize(bar.width() + tabs.width() + places.firstGroup.width() + 38, bottom + places.frameHeight + 4);
-  tabs.moveTo(places.firstGroup.right + 4, std::max(0, bottom - top - 2 - tabs.height()) + 4);
-  bar.moveTo(tabs.right + 5, (bottom + top - bar.height()) / 2 + 4);
+  fitSideBySide(places, sideBySide);
+  sideBySide(places);
 }
 
 void arrangeFlatFileView(PanelPlaces& places) {
-  const int surplus = surplusOf(places, fileViewInOneRow);
-  // Both fields lose the same where both can.
-  const int left = shorten(places.own[0], surplus / 2, places.pages[0].left.width());
-  shortenPageFields(places, surplus - surplus / 2 + left);
+  fitInOneRow(places, fileViewInOneRow);
   fileViewInOneRow(places);
 }
 
 void arrangeFlatProjectView(PanelPlaces& places) {
-  shortenButtons(places, shortenPageFields(places, surplusOf(places, projectViewInOneRow)));
+  fitInOneRow(places, projectViewInOneRow);
   projectViewInOneRow(places);
 }
 
@@ -162,6 +131,7 @@ void addPlaces(PanelLayout& layout, PanelPlaces places) {
   for (int bar = 0; bar < 3; ++bar) {
     layout.addShown(places.bars[static_cast<std::size_t>(bar)], bar == layout.index());
   }
+  for (const auto& button : places.barButtons[static_cast<std::size_t>(layout.index())]) asItIs(button);
   asItIs(places.tabControl);
   asItIs(places.topWindow);
   for (const auto& item : places.own) asItIs(item);

@@ -26,6 +26,8 @@ struct PanelPlaces {
   LayoutItem firstGroup;           ///< 1238
   LayoutItem secondGroup;          ///< 1239
   std::array<LayoutItem, 3> bars;  ///< by the number of the arrangement
+  /// The bars' buttons in the order of their rows, each in its bar's coordinates.
+  std::array<std::vector<LayoutItem>, 3> barButtons;
   std::array<PagePlaces, 3> pages;
   /// The panel's own field and buttons, in the order in which they stand side by side.
   std::vector<LayoutItem> own;
@@ -39,8 +41,8 @@ struct PanelPlaces {
 /// The tab control becomes so high that the pages' fields are clear of its bottom.
 void clearFields(PanelPlaces& places);
 
-// Each of these changes the places as they stand in the resource. Where the screen is too narrow for one row, its
-// fields become shorter, and then the project view's buttons.
+// Each of these changes the places as they stand in the resource. Where the screen is too narrow, `PanelFit` tells what
+// gives way.
 void arrangeVertical(PanelPlaces& places);
 void arrangeHorizontal(PanelPlaces& places);
 /// Of the panel with one group: a field and its buttons.

@@ -17,6 +17,13 @@ constexpr int TAB_CONTROL = 1231;
 constexpr int FIRST_GROUP = 1238;
 constexpr int SECOND_GROUP = 1239;
 
+/// With the width to which an arrangement may shorten it.
+LayoutItem narrowable(DialogWindow& owner, int control) {
+  LayoutItem item = LayoutItem::of(owner, control);
+  item.leastWidth = owner.leastWidth(control);
+  return item;
+}
+
 }  // namespace
 
 PanelPage::PanelPage(Desktop& desktop, PanelDlg& panel, std::array<std::string, 3> labels, std::vector<ToolTip> tips)
@@ -121,17 +128,20 @@ PanelPlaces PanelDlg::placesNow() {
   places.tabControl = LayoutItem::of(panel, TAB_CONTROL);
   places.firstGroup = LayoutItem::of(panel, FIRST_GROUP);
   places.secondGroup = LayoutItem::of(panel, SECOND_GROUP);
-  for (std::size_t i = 0; i < bars_.size(); ++i) places.bars[i] = LayoutItem::of(*bars_[i]->window());
+  for (std::size_t i = 0; i < bars_.size(); ++i) {
+    DialogWindow& bar = *bars_[i]->window();
+    places.bars[i] = LayoutItem::of(bar);
+    for (const int control : {ButtonBar::SETTINGS, ButtonBar::SWITCH_VIEW, ButtonBar::EXIT, ButtonBar::LAYOUT_LEFT,
+                              ButtonBar::LAYOUT_RIGHT}) {
+      places.barButtons[i].push_back(narrowable(bar, control));
+    }
+  }
   for (std::size_t i = 0; i < pages_.size(); ++i) {
     DialogWindow& page = *pages_[i]->window();
-    places.pages[i] = {LayoutItem::of(page), LayoutItem::of(page, PanelPage::FIELD),
-                       LayoutItem::of(page, PanelPage::LEFT), LayoutItem::of(page, PanelPage::MIDDLE),
-                       LayoutItem::of(page, PanelPage::RIGHT)};
+    places.pages[i] = {LayoutItem::of(page), narrowable(page, PanelPage::FIELD), narrowable(page, PanelPage::LEFT),
+                       narrowable(page, PanelPage::MIDDLE), narrowable(page, PanelPage::RIGHT)};
   }
-  for (const int control : ownControls()) {
-    places.own.push_back(LayoutItem::of(panel, control));
-    places.own.back().leastWidth = panel.leastWidth(control);
-  }
+  for (const int control : ownControls()) places.own.push_back(narrowable(panel, control));
   clearFields(places);
   return places;
 }

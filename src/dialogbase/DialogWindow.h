@@ -28,7 +28,7 @@ class DialogWindow : public PlacedWindow {
   /// In this window's client coordinates.
   virtual Rect rect(int control) const = 0;
   virtual void setRect(int control, const Rect& rect) = 0;
-  /// The width at which its label shows whole.
+  /// The width at which its label shows whole; a field's is that of a dozen letters.
   virtual int leastWidth(int control) const = 0;
   virtual void focus(int control) = 0;
   /// Scrolls a field so that a long text shows its end.

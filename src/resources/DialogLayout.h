@@ -44,7 +44,7 @@ struct DialogItem {
   bool listsPaths = false;           ///< an edit field with a list of paths: pasted lines are its elements
   bool startsHidden = false;         ///< the dialog's rules show it
   bool floats = false;               ///< has its own size and takes no room; the dialog's rules place it
-  bool compact = false;              ///< a button that is as narrow as its text
+  bool pictured = false;             ///< a button of the panel, as narrow as its text with its picture
   bool likeButtons = false;          ///< an edit field that is as high as the buttons beside it
   bool collapses = false;            ///< takes no room where the dialog's rules hide it from the start
   bool equalWidths = false;          ///< a row or column whose buttons are equally wide
@@ -90,8 +90,8 @@ struct DialogItem {
     floats = true;
     return std::move(*this);
   }
-  DialogItem asNarrowAsItsText() && {
-    compact = true;
+  DialogItem withItsPicture() && {
+    pictured = true;
     return std::move(*this);
   }
   DialogItem asHighAsButtons() && {

@@ -12,8 +12,8 @@ namespace {
 // The arrangements "HORIZONTAL" and "FLAT" leave these distances at the right and the bottom of the window.
 constexpr Margins panelMargins = {12, 2, 12, 10};
 
-DialogItem narrowButton(int control, const std::string& text) {
-  return button(control, text).asNarrowAsItsText();
+DialogItem pictureButton(int control, const std::string& text) {
+  return button(control, text).withItsPicture();
 }
 
 /// The three bars share their place; one of them shows.
@@ -42,9 +42,10 @@ const DialogLayout& fileViewLayout() {
                      group(1239, " Source (.java) ",
                            {
                                space(),
-                               row({narrowButton(1240, "New").stretched(),
-                                    narrowButton(1006, "Browse").named("Browse for a source file").stretched(),
-                                    narrowButton(1007, "Edit").stretched(), narrowButton(1008, "javac").stretched()}),
+                               row({pictureButton(1240, "New").stretched(),
+                                    pictureButton(1006, "Browse").named("Browse for a source file").stretched(),
+                                    pictureButton(1007, "Edit").stretched(), pictureButton(1008, "javac").stretched()})
+                                   .withEqualWidths(),
                                space(),
                                edit(1009, 20).asHighAsButtons().named("Source file (.java)"),
                                space(),
@@ -66,12 +67,14 @@ const DialogLayout& projectViewLayout() {
       false,
       column({
           group(1238, " Project ",
-                {row({narrowButton(1134, "New").stretched(), narrowButton(1136, "Open").stretched(),
-                      narrowButton(1135, "Files").stretched()})})
+                {row({pictureButton(1134, "New").stretched(), pictureButton(1136, "Open").stretched(),
+                      pictureButton(1135, "Files").stretched()})
+                     .withEqualWidths()})
               .stretched(),
           group(1239, " Source (.java) ",
-                {row({narrowButton(1139, "Edit").stretched(), narrowButton(1133, "javac  all").stretched(),
-                      narrowButton(1140, "javac").stretched()})})
+                {row({pictureButton(1139, "Edit").stretched(), pictureButton(1133, "javac  all").stretched(),
+                      pictureButton(1140, "javac").stretched()})
+                     .withEqualWidths()})
               .stretched(),
           tabs(1231),
           bars(),
@@ -88,8 +91,9 @@ const DialogLayout& panelPageLayout() {
       "",
       false,
       column({
-          row({narrowButton(1228, "Browse").stretched(), narrowButton(1229, "appletdebug").stretched(),
-               narrowButton(1230, "appletviewer").stretched()}),
+          row({pictureButton(1228, "Browse").stretched(), pictureButton(1229, "appletdebug").stretched(),
+               pictureButton(1230, "appletviewer").stretched()})
+              .withEqualWidths(),
           edit(1223, 20).asHighAsButtons().named("File and its arguments"),
       }),
       1223,
@@ -102,8 +106,8 @@ const DialogLayout& verticalBarLayout() {
       197,
       "",
       false,
-      row({narrowButton(1000, "Settings"), narrowButton(1, "Switch view"), narrowButton(2, "Exit"), space(),
-           narrowButton(1244, "==").named("Wide layout"), narrowButton(1242, "------").named("Flat layout")}),
+      row({pictureButton(1000, "Settings"), pictureButton(1, "Switch view"), pictureButton(2, "Exit"), space(),
+           pictureButton(1244, "==").named("Wide layout"), pictureButton(1242, "------").named("Flat layout")}),
       0,
       Margins{}};
   return bar;
@@ -115,10 +119,10 @@ const DialogLayout& horizontalBarLayout() {
       "",
       false,
       column({
-          row({narrowButton(1000, "Settings").stretched(), narrowButton(1, "Switch view").stretched()}),
-          row({narrowButton(2, "Exit").stretched(),
-               narrowButton(1244, platform::brokenBar).named("Tall layout").stretched(),
-               narrowButton(1242, "------").named("Flat layout").stretched()}),
+          row({pictureButton(1000, "Settings").stretched(), pictureButton(1, "Switch view").stretched()}),
+          row({pictureButton(2, "Exit").stretched(),
+               pictureButton(1244, platform::brokenBar).named("Tall layout").stretched(),
+               pictureButton(1242, "------").named("Flat layout").stretched()}),
       }),
       0,
       Margins{8, 0, 0, 0}};
@@ -133,9 +137,9 @@ const DialogLayout& flatBarLayout() {
       false,
       column({
           emptyButtonRow(),
-          row({narrowButton(1000, "Settings"), narrowButton(1, "Switch view"), narrowButton(2, "Exit"),
-               narrowButton(1244, platform::brokenBar).named("Tall layout"),
-               narrowButton(1242, "==").named("Wide layout")}),
+          row({pictureButton(1000, "Settings"), pictureButton(1, "Switch view"), pictureButton(2, "Exit"),
+               pictureButton(1244, platform::brokenBar).named("Tall layout"),
+               pictureButton(1242, "==").named("Wide layout")}),
       }),
       0,
       Margins{}};

@@ -3,6 +3,7 @@
 #include "base/Text.h"
 #include "ui/Icons.h"
 #include "ui/Link.h"
+#include "ui/PictureButton.h"
 #include "ui/Text.h"
 #include "ui/Toolkit.h"
 
@@ -29,6 +30,8 @@ namespace tarnwick::ui {
 namespace {
 
 constexpr int listRows = 8;
+/// What a field needs beside its letters.
+constexpr int fieldSides = 20;
 
 /// The control's window as what it is; its kind tells.
 template <typename Window>
@@ -152,6 +155,11 @@ wxWindow* makeTabs(wxWindow& parent) {
   return tabs;
 }
 
+wxWindow* makeButton(wxWindow& parent, const DialogItem& item) {
+  if (item.pictured) return new PictureButton(parent, item.text, item.spoken);
+  return new wxButton(&parent, wxID_ANY, toWx(item.text));
+}
+
 wxWindow* makeWindow(wxWindow& parent, const DialogItem& item) {
   switch (item.kind) {
     case ItemKind::Group:
@@ -167,8 +175,7 @@ wxWindow* makeWindow(wxWindow& parent, const DialogItem& item) {
     case ItemKind::Edit:
       return makeEdit(parent, item);
     case ItemKind::Button:
-      return new wxButton(&parent, wxID_ANY, toWx(item.text), wxDefaultPosition, wxDefaultSize,
-                          item.compact ? wxBU_EXACTFIT : 0);
+      return makeButton(parent, item);
     case ItemKind::CheckBox:
       return new wxCheckBox(&parent, wxID_ANY, toWx(item.text));
     case ItemKind::RadioButton:
@@ -286,7 +293,7 @@ wxSize naturalSize(const DialogItem& item, const Control& control) {
     // With the system set to larger letters, the toolkit asks for too little.
     size.y = std::max(item.likeButtons ? rowHeight(window) : size.y, leastFieldHeight(window));
     // The toolkit's own reckoning grows when the field comes to be seen, too late for the window's size.
-    if (item.width > 0) size.x = widthOfCharacters(window, item.width) + window.FromDIP(20);
+    if (item.width > 0) size.x = widthOfCharacters(window, item.width) + window.FromDIP(fieldSides);
     return size;
   }
   if (item.kind == ItemKind::ListBox) {
@@ -299,10 +306,9 @@ wxSize naturalSize(const DialogItem& item, const Control& control) {
   }
   // Before it shows, a label does not know that its font has changed.
   if (item.kind == ItemKind::Heading) size.IncTo(window.GetTextExtent(window.GetLabel()) + wxSize(2, 2));
-  if (item.kind == ItemKind::Button && item.compact) {
+  if (const auto* const button = dynamic_cast<const PictureButton*>(&window)) {
     // With room for the layout's own text, which may be the longest of several that the rules give it.
-    const int text = std::max(window.GetTextExtent(window.GetLabel()).x, window.GetTextExtent(toWx(item.text)).x);
-    size.x = text + 2 * window.GetCharWidth();
+    size = button->sizeFor(item.text);
     size.y = std::max(size.y, rowHeight(window));
   } else if (item.kind == ItemKind::Button && bearsSigns(item.text)) {
     size.x = window.GetTextExtent(window.GetLabel()).x + 3 * window.GetCharWidth();
@@ -334,6 +340,8 @@ std::function<wxSize()> naturalSizes(const DialogItem& item, const Control& cont
 
 int leastWidth(const Control& control) {
   const wxWindow& window = *control.window;
+  if (const auto* const button = dynamic_cast<const PictureButton*>(&window)) return button->sizeFor("").x;
+  if (control.kind == ItemKind::Edit) return widthOfCharacters(window, 12) + window.FromDIP(fieldSides);
   // Before it shows, the toolkit knows less of a button than afterwards.
   return std::max(window.GetBestSize().x, window.GetTextExtent(window.GetLabel()).x + 2 * window.GetCharWidth());
 }
@@ -347,6 +355,9 @@ std::string textOf(const Control& control) {
       return fromWx(entryHolder(control)->GetStringSelection());
     case ItemKind::Label:
       return as<Label>(control).text();
+    case ItemKind::Button:
+      if (const auto* const button = dynamic_cast<const PictureButton*>(control.window)) return button->text();
+      [[fallthrough]];
     default:
       return fromWx(wxControl::RemoveMnemonics(control.window->GetLabel()));
   }
@@ -367,7 +378,11 @@ void setTextOf(const Control& control, const std::string& text) {
       as<Label>(control).set(text, wxControl::EscapeMnemonics(shown));
       break;
     default:
-      control.window->SetLabel(shown);
+      if (auto* const button = dynamic_cast<PictureButton*>(control.window)) {
+        button->setText(text);
+      } else {
+        control.window->SetLabel(shown);
+      }
       break;
   }
 }

@@ -45,7 +45,7 @@ int rowHeight(wxWindow& window);
 /// Tells the least size in pixels of an item's window, as often as it is asked.
 std::function<wxSize()> naturalSizes(const DialogItem& item, const Control& control);
 
-/// The width in pixels at which a button's label shows whole.
+/// The width in pixels at which a control's label shows whole; a field's is that of a dozen letters.
 int leastWidth(const Control& control);
 
 std::string textOf(const Control& control);

@@ -24,6 +24,21 @@ wxBitmapBundle toolbarPicture(const std::string& name, bool dark) {
   return pictureOf(dark ? onDarkGround(text) : text, toolbarPictureSize());
 }
 
+// The gap is a part of the picture: not every toolkit leaves one that can be told.
+wxBitmapBundle buttonPicture(const std::string& name, bool dark, PictureRoom room) {
+  std::string text = drawing("buttons/" + name);
+  const std::string view = "width=\"16\" height=\"16\" viewBox=\"0 0 16 16\"";
+  const auto at = text.find(view);
+  if (at == std::string::npos) return {};
+  const std::string width = std::to_string(buttonPictureSize(room).x);
+  text.replace(at, view.size(), "width=\"" + width + "\" height=\"16\" viewBox=\"0 0 " + width + " 16\"");
+  return pictureOf(dark ? onDarkGround(text) : text, buttonPictureSize(room));
+}
+
+wxSize buttonPictureSize(PictureRoom room) {
+  return {room == PictureRoom::BesideWords ? 20 : 16, 16};
+}
+
 wxSize toolbarPictureSize() {
   return {16, 15};
 }

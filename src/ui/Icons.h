@@ -20,4 +20,13 @@ wxBitmapBundle toolbarPicture(const std::string& name, bool dark);
 /// How large these pictures are on a screen of the usual fineness.
 wxSize toolbarPictureSize();
 
+/// Where a button's picture stands: a gap keeps it from words.
+enum class PictureRoom { Alone, BesideWords };
+
+/// The picture of a button of the panel by the name of its drawing; likewise.
+wxBitmapBundle buttonPicture(const std::string& name, bool dark, PictureRoom room);
+
+/// How large these are.
+wxSize buttonPictureSize(PictureRoom room);
+
 }  // namespace tarnwick::ui

@@ -37,6 +37,9 @@ void nameByLabel(wxWindow& control, wxWindow& label);
 /// Names `control` for readers of the screen without a label to be seen.
 void nameBySpeech(wxWindow& control, const std::string& name);
 
+/// The label of a button that shows its picture alone.
+wxString noWords();
+
 /// Tells readers of the screen what a tab is called, for as long as they ask.
 void nameTab(wxNotebook& tabs, std::size_t tab, const std::string& label);
 

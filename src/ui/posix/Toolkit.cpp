@@ -101,6 +101,11 @@ void nameBySpeech(wxWindow& control, const std::string& name) {
   atk_object_set_name(gtk_widget_get_accessible(widget(control)), name.c_str());
 }
 
+// A button that was made with words takes no picture once it has none at all: this character is none to be seen.
+wxString noWords() {
+  return wxString::FromUTF8("\xE2\x80\x8B");
+}
+
 void nameTab(wxNotebook& tabs, std::size_t tab, const std::string& label) {
   // Without a name of its own it would look for the tab, when that may have gone already.
   AtkObject* const page =

@@ -99,6 +99,10 @@ void nameBySpeech(wxWindow& control, const std::string& name) {
   control.SetAccessible(new SpokenName(control, toWx(name)));
 }
 
+wxString noWords() {
+  return {};
+}
+
 // The system tells it.
 void nameTab(wxNotebook&, std::size_t, const std::string&) {}
 

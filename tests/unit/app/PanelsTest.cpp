@@ -37,8 +37,10 @@ class PanelsTest : public PanelFixture {
                          {1230, {230, 8, 350, 42}},
                          {1223, {8, 48, 360, 78}}};
     places.rects[197] = {{0, {12, 266, 382, 300}}};
-    places.rects[198] = {{0, {0, 0, 200, 76}}};
-    places.rects[199] = {{0, {0, 0, 330, 64}}};
+    places.rects[198] = {{0, {0, 0, 200, 76}}, {1000, {0, 0, 97, 34}},    {1, {103, 0, 200, 34}},
+                         {2, {0, 42, 62, 76}}, {1244, {69, 42, 131, 76}}, {1242, {138, 42, 200, 76}}};
+    places.rects[199] = {{0, {0, 0, 330, 64}},    {1000, {0, 30, 60, 64}},    {1, {66, 30, 126, 64}},
+                         {2, {132, 30, 192, 64}}, {1244, {198, 30, 258, 64}}, {1242, {270, 30, 330, 64}}};
     return places;
   }
 
@@ -208,25 +210,111 @@ TEST_F(PanelsTest, WhereTheScreenIsTooNarrowTheFieldsOfTheFlatFileViewGiveWayEqu
   });
 }
 
-TEST_F(PanelsTest, AFieldStaysAsWideAsAButton) {
+TEST_F(PanelsTest, FieldsKeepRoomForADozenLettersAndButtonsTheirWords) {
   auto narrow = places();
-  narrow.workArea = {0, 0, 800, 600};
+  narrow.leastWidth = 75;
+  // Fields, own buttons and the pages' buttons give all that they can.
+  narrow.workArea = {0, 0, 1750 - (354 - 75) - (352 - 75) - 4 * 5 - (25 + 35 + 45), 600};
   desktop_.setPlaces(narrow);
-  inLayout("FLAT", false, [](ScriptedWindow&, ScriptedWindow& panel) {
-    EXPECT_EQ(panel.rect(1009).width(), 100);
-    EXPECT_EQ(panel.page(TABS, 2).rect(FIELD).width(), 100);
+  inLayout("FLAT", false, [&](ScriptedWindow& main, ScriptedWindow& panel) {
+    EXPECT_EQ(main.windowRect().width(), narrow.workArea.width());
+    EXPECT_EQ(panel.rect(1009).width(), 75);
+    for (const int button : {1240, 1006, 1007, 1008}) EXPECT_EQ(panel.rect(button).width(), 75);
+    for (int tab = 0; tab < 3; ++tab) {
+      expectRects(
+          panel.page(TABS, tab),
+          {{LEFT, {8, 8, 83, 42}}, {MIDDLE, {89, 8, 164, 42}}, {RIGHT, {170, 8, 245, 42}}, {FIELD, {249, 8, 324, 38}}});
+    }
+    expectRects(panel.child(FLAT_BAR_SLOT), {{1000, {0, 30, 60, 64}}, {1242, {270, 30, 330, 64}}});
+  });
+}
+
+TEST_F(PanelsTest, WhereWordsHaveNoRoomTheBarsGoFirstAndTheFieldsGetWhatTheyLeave) {
+  auto narrow = places();
+  narrow.leastWidth = 75;
+  // One pixel less than before.
+  narrow.workArea = {0, 0, 1750 - (354 - 75) - (352 - 75) - 4 * 5 - (25 + 35 + 45) - 1, 600};
+  desktop_.setPlaces(narrow);
+  inLayout("FLAT", false, [&](ScriptedWindow& main, ScriptedWindow& panel) {
+    EXPECT_EQ(main.windowRect().width(), narrow.workArea.width());
+    ScriptedWindow& bar = panel.child(FLAT_BAR_SLOT);
+    expectRects(bar, {{1000, {0, 30, 34, 64}}, {1, {40, 30, 74, 64}}, {2, {80, 30, 114, 64}}});
+    expectRects(bar, {{1244, {120, 30, 154, 64}}, {1242, {166, 30, 200, 64}}});
+    EXPECT_EQ(bar.windowRect().width(), 200);
+    for (const int button : {1240, 1006, 1007, 1008}) EXPECT_EQ(panel.rect(button).width(), 75);
+    // 129 pixels to share.
+    EXPECT_EQ(panel.rect(1009).width(), 75 + 66);
+    for (int tab = 0; tab < 3; ++tab) EXPECT_EQ(panel.page(TABS, tab).rect(FIELD).width(), 75 + 63);
+  });
+}
+
+TEST_F(PanelsTest, OnTheNarrowestScreenThePicturesStay) {
+  auto narrow = places();
+  narrow.workArea = {0, 0, 640, 480};
+  desktop_.setPlaces(narrow);
+  for (const bool projectView : {false, true}) {
+    inLayout("FLAT", projectView, [&](ScriptedWindow&, ScriptedWindow& panel) {
+      const std::vector<int> own =
+          projectView ? std::vector<int>{1134, 1136, 1135, 1139, 1133, 1140} : std::vector<int>{1240, 1006, 1007, 1008};
+      for (const int button : own) EXPECT_EQ(panel.rect(button).width(), 34) << button;
+      for (int tab = 0; tab < 3; ++tab) {
+        for (const int button : {LEFT, MIDDLE, RIGHT}) EXPECT_EQ(panel.page(TABS, tab).rect(button).width(), 34);
+        EXPECT_EQ(panel.page(TABS, tab).rect(FIELD).width(), 80);
+      }
+    });
+  }
+}
+
+TEST_F(PanelsTest, TheBarOfTheWideLayoutShowsPicturesWhereTheScreenIsTooNarrow) {
+  auto narrow = places();
+  narrow.workArea = {0, 0, 977, 600};  // one pixel
+  desktop_.setPlaces(narrow);
+  inLayout("HORIZONTAL", false, [](ScriptedWindow& main, ScriptedWindow& panel) {
+    ScriptedWindow& bar = panel.child(HORIZONTAL_BAR_SLOT);
+    expectRects(bar, {{1000, {0, 0, 34, 34}},
+                      {1, {40, 0, 74, 34}},
+                      {2, {0, 42, 34, 76}},
+                      {1244, {41, 42, 75, 76}},
+                      {1242, {82, 42, 116, 76}}});
+    expectRects(bar, {{0, {761, 30, 877, 106}}});
+    EXPECT_EQ(main.windowRect().width(), 978 - 84);
+    expectRects(panel, {{1239, {12, 4, 382, 124}}, {1009, {20, 80, 374, 110}}, {1231, {386, 4, 756, 134}}});
+  });
+}
+
+TEST_F(PanelsTest, ThenGroupsAndTabsOfTheWideLayoutGiveWayAlike) {
+  auto narrow = places();
+  narrow.workArea = {0, 0, 978 - 84 - 100, 600};
+  desktop_.setPlaces(narrow);
+  inLayout("HORIZONTAL", false, [](ScriptedWindow& main, ScriptedWindow& panel) {
+    EXPECT_EQ(main.windowRect().width(), 978 - 84 - 100);
+    expectRects(panel, {{1239, {12, 4, 332, 124}},
+                        {1009, {20, 80, 324, 110}},
+                        {1240, {20, 30, 88, 64}},
+                        {1008, {241, 30, 308, 64}},
+                        {1231, {336, 4, 656, 134}}});
+    for (int tab = 0; tab < 3; ++tab) {
+      expectRects(panel.page(TABS, tab), {{LEFT, {8, 8, 92, 42}}, {FIELD, {8, 48, 310, 78}}});
+      EXPECT_EQ(panel.page(TABS, tab).rect(RIGHT).right, 300);
+    }
+  });
+  inLayout("HORIZONTAL", true, [](ScriptedWindow& main, ScriptedWindow& panel) {
+    EXPECT_EQ(main.windowRect().width(), 978 - 84 - 100);
+    expectRects(panel, {{1238, {12, 4, 332, 74}}, {1239, {12, 80, 332, 150}}});
+    EXPECT_EQ(panel.rect(1135).right, 312);
+    EXPECT_EQ(panel.rect(1140).right, 312);
   });
 }
 
 TEST_F(PanelsTest, WhatOneFieldCannotGiveTheOtherGives) {
   auto narrow = places();
-  narrow.rects[130][1009] = {20, 80, 140, 110};  // 120 wide: 20 to give
+  narrow.rects[130][1009] = {20, 80, 140, 110};  // 120 wide: 40 to give
   narrow.workArea = {0, 0, 1750 - 234 - 100, 600};
   desktop_.setPlaces(narrow);
   inLayout("FLAT", false, [](ScriptedWindow& main, ScriptedWindow& panel) {
     EXPECT_EQ(main.windowRect().width(), 1750 - 234 - 100);
-    EXPECT_EQ(panel.rect(1009).width(), 100);
-    EXPECT_EQ(panel.page(TABS, 0).rect(FIELD).width(), 352 - 80);
+    EXPECT_EQ(panel.rect(1009).width(), 80);
+    EXPECT_EQ(panel.page(TABS, 0).rect(FIELD).width(), 352 - 60);
   });
 }
 
@@ -244,29 +332,31 @@ TEST_F(PanelsTest, WhereTheScreenIsTooNarrowThePagesFieldsOfTheFlatProjectViewGi
 
 TEST_F(PanelsTest, WhatTheFieldsCannotGiveTheButtonsOfTheFlatProjectViewGive) {
   auto narrow = places();
-  narrow.workArea = {0, 0, 1808 - 252 - 122, 1000};
+  narrow.workArea = {0, 0, 1808 - 272 - 122, 1000};
   desktop_.setPlaces(narrow);
   inLayout("FLAT", true, [](ScriptedWindow& main, ScriptedWindow& panel) {
-    EXPECT_EQ(main.windowRect().width(), 1808 - 252 - 122);
-    expectRects(panel, {{1238, {4, 28, 314, 98}},
-                        {1239, {318, 28, 626, 98}},
+    EXPECT_EQ(main.windowRect().width(), 1808 - 272 - 122);
+    expectRects(panel, {{1238, {4, 28, 313, 98}},
+                        {1239, {317, 28, 626, 98}},
                         {1134, {12, 54, 102, 88}},
                         {1136, {108, 54, 198, 88}},
-                        {1135, {204, 54, 294, 88}},
-                        {1139, {326, 54, 416, 88}},
-                        {1133, {422, 54, 511, 88}},
+                        {1135, {204, 54, 293, 88}},
+                        {1139, {325, 54, 415, 88}},
+                        {1133, {421, 54, 511, 88}},
                         {1140, {517, 54, 606, 88}}});
-    EXPECT_EQ(panel.page(TABS, 0).rect(FIELD).width(), 100);
+    EXPECT_EQ(panel.page(TABS, 0).rect(FIELD).width(), 80);
   });
 }
 
-TEST_F(PanelsTest, NoButtonLosesItsLabel) {
+TEST_F(PanelsTest, NoButtonOfTheFlatProjectViewLosesItsWordsWhileOthersHaveRoomToGive) {
   auto narrow = places();
-  narrow.workArea = {0, 0, 640, 480};
   narrow.leastWidth = 95;
+  narrow.workArea = {0, 0, 1808 - (352 - 95) - 6 * 15 - (5 + 15 + 25), 480};
   desktop_.setPlaces(narrow);
-  inLayout("FLAT", true, [](ScriptedWindow&, ScriptedWindow& panel) {
+  inLayout("FLAT", true, [&](ScriptedWindow& main, ScriptedWindow& panel) {
+    EXPECT_EQ(main.windowRect().width(), narrow.workArea.width());
     for (const int button : {1134, 1136, 1135, 1139, 1133, 1140}) EXPECT_EQ(panel.rect(button).width(), 95);
+    EXPECT_EQ(panel.child(FLAT_BAR_SLOT).windowRect().width(), 330);
   });
 }
 

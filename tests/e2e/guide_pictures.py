@@ -6,35 +6,15 @@ usage: guide_pictures.py PROJECT [FOLDER]     needs a display with a window mana
 
 import os
 import shutil
-import subprocess
 import sys
 import tempfile
-import time
 
 import person
 import test_jar
 import test_projects
 import world
+from camera import Camera
 from person import Window, wait_until
-
-
-class Camera:
-    """Takes windows with their frames."""
-
-    def __init__(self, folder):
-        self.folder = folder
-
-    def take(self, window, name):
-        # The pointer lights up what it rests on.
-        person.xdotool("mousemove", 1279, 1023)
-        time.sleep(0.7)
-        path = os.path.join(self.folder, f"guide-{name}.png")
-        taken = subprocess.run(["import", "-silent", "-frame", "-window", window.x_number(), "png:-"], check=True,
-                               timeout=60, stdin=subprocess.DEVNULL, stdout=subprocess.PIPE).stdout
-        # Few colours make small files; without dithering a plain ground stays plain.
-        subprocess.run(["convert", "png:-", "+dither", "-colors", "128", "-strip", "-define", "png:compression-level=9",
-                        path], check=True, timeout=60, input=taken)
-        print(path, flush=True)
 
 
 def turn_to(settings, label):
@@ -176,7 +156,7 @@ def walk(scratch, camera):
 
 def main():
     project = os.path.abspath(sys.argv[1])
-    camera = Camera(sys.argv[2] if len(sys.argv) > 2 else os.path.join(project, "guide"))
+    camera = Camera(sys.argv[2] if len(sys.argv) > 2 else os.path.join(project, "guide"), "guide-")
     runtime = tempfile.mkdtemp(prefix="tarnwick-bus-")
     try:
         world.start_bus(os.path.join(runtime, "run"))

@@ -7,7 +7,7 @@
 #   ./test.sh package    the packages: made and checked; Debian's installed, used and purged in a system of its own, the
 #                        one for Windows under Wine
 #   ./test.sh lint       clang-format over all files, clang-tidy over what the last thirty commits touched
-#   ./test.sh ci         clang-format, Linux, Windows, the fuzz targets; the packages are made, not installed
+#   ./test.sh ci         clang-format, Linux, Windows, the fuzz targets, the packages
 # The last line sums up: "N passed, N failed, N skipped". Logs are in build/test-logs/.
 set -uo pipefail
 . "$(dirname "${BASH_SOURCE[0]}")/scripts/common.sh"
@@ -218,6 +218,7 @@ testAll() {
   collect linux-end-to-end
   testUnderWine
   testFuzz
+  testPackage check-deb check-windows
 }
 
 # testForm WHAT: as scripts/lint.sh takes it.

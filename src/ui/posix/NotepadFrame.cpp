@@ -35,7 +35,7 @@ std::string utf8Of(const wxString& text) {
 }  // namespace
 
 NotepadFrame::NotepadFrame()
-    : frame_(new wxFrame(nullptr, wxID_ANY, "Tarnwick Notepad")),
+    : frame_(new wxFrame(nullptr, wxID_ANY, "Tarnwick text editor")),
       text_(new wxTextCtrl(frame_, wxID_ANY, "", wxDefaultPosition, wxDefaultSize,
                            wxTE_MULTILINE | wxTE_DONTWRAP | wxTE_NOHIDESEL | wxTE_PROCESS_TAB)) {
   frame_->SetIcons(programIcons());
@@ -170,7 +170,7 @@ void NotepadFrame::setModified(bool on) {
 }
 
 void NotepadFrame::updateTitle() {
-  frame_->SetTitle(toWx((modified_ ? "*" : "") + shownName() + " - Tarnwick Notepad"));
+  frame_->SetTitle(toWx((modified_ ? "*" : "") + shownName() + " - Tarnwick text editor"));
 }
 
 bool NotepadFrame::ask(const std::string& question) {
@@ -223,7 +223,7 @@ bool NotepadFrame::saveAs() {
 bool NotepadFrame::changesMayGo() {
   if (!modified_) return true;
   wxMessageDialog box(stack_.parent(), toWx("Do you want to save the changes to " + shownName() + "?"),
-                      "Tarnwick Notepad", wxYES_NO | wxCANCEL | wxICON_QUESTION | wxCENTRE);
+                      "Tarnwick text editor", wxYES_NO | wxCANCEL | wxICON_QUESTION | wxCENTRE);
   box.SetYesNoCancelLabels("&Save", "&Don't save", "&Cancel");
   const WindowStack::Place place(stack_, nullptr);
   const int answer = box.ShowModal();

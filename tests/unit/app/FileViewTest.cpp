@@ -1,6 +1,7 @@
 #include "PanelFixture.h"
 #include "app/FileView.h"
 #include "support/BrokenTool.h"
+#include "support/SystemWords.h"
 
 #include <algorithm>
 #include <chrono>
@@ -30,8 +31,9 @@ TEST_F(FileViewTest, ShowsItsLabelsAndToolTips) {
   saveEarlierRun();
   runPanel([](ScriptedWindow&, ScriptedWindow& panel) {
     EXPECT_EQ(panel.tabLabels(TABS), (std::vector<std::string>{" Main program ", "  Applet  ", "  Utilities  "}));
-    const char* const labels[3][3] = {
-        {"Browse", "jdb debug", "java"}, {"Browse", "appletdebug", "appletviewer"}, {"jar", "javadoc", "WinShortcut"}};
+    const char* const labels[3][3] = {{"Browse", "jdb debug", "java"},
+                                      {"Browse", "appletdebug", "appletviewer"},
+                                      {"jar", "javadoc", said("WinShortcut", "Shortcut")}};
     for (int tab = 0; tab < 3; ++tab) {
       EXPECT_EQ(panel.page(TABS, tab).text(LEFT), labels[tab][0]);
       EXPECT_EQ(panel.page(TABS, tab).text(MIDDLE), labels[tab][1]);
@@ -183,7 +185,8 @@ TEST_F(FileViewTest, AnUnknownToolsFolderIsAskedForAndThenTold) {
   runPanel([&](ScriptedWindow&, ScriptedWindow& panel) {
     panel.type(SOURCE, quoted(source));
     desktop_.expectDialog("Tarnwick settings", [](ScriptedWindow& window) { window.press(IDCANCEL_CONTROL); });
-    desktop_.expectMessage(platform::localText("No path to javac.exe and other tools available from settings"));
+    desktop_.expectMessage(said("No path to javac.exe and other tools available from settings",
+                                "No path to javac and other tools available from settings"));
     panel.press(JAVAC);
     exit(panel);
   });

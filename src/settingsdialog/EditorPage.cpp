@@ -62,7 +62,7 @@ void EditorPage::updateControls() {
 void EditorPage::onCommand(int control) {
   if (control == WITH_NOTEPAD || control == WITH_EDITOR) {
     setCheck(WITH_NOTEPAD, control == WITH_NOTEPAD);
-    desktop_.message(nameTip);
+    desktop_.hint(nameTip);
   }
   if (control == OPEN_ALL || control == CHOOSE_FILES) setCheck(OPEN_ALL, control == OPEN_ALL);
   if (control == BROWSE) browse();

@@ -15,7 +15,7 @@ void moveConfiguration(Desktop& desktop, const ProgramInfo& program, const Tarnw
     AlternateLocationDlg dialog(desktop, program, failure);
     if (dialog.runModal() != DIALOG_OK) throw Tarnwickfile::FileNotOpenE(failure);
     saveAgain();
-    desktop.message(
+    desktop.hint(
         "The following environment variable definition has been created:\n\n" + dialog.definition() +
         "\n\nThis definition remains effective until you terminate Tarnwick." +
         inSystemWords("\nUpdate your system's environment settings or AUTOEXEC.BAT\nfor a permanent definition!"));

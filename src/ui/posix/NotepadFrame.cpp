@@ -6,6 +6,7 @@
 #include "ui/FileDialogs.h"
 #include "ui/Icons.h"
 #include "ui/MessageBoxes.h"
+#include "ui/MessageLooks.h"
 #include "ui/Text.h"
 
 #include <wx/app.h>
@@ -141,7 +142,7 @@ void NotepadFrame::open(const std::string& path) {
     file_.load(platform::absolutePath(path));
     take();
   } catch (const Tarnwickfile::FileNotOpenE& failure) {
-    showMessage(stack_, "Can't open " + failure.file + "\n" + failure.message, MessageKind::Ok);
+    showMessage(stack_, "Can't open " + failure.file + "\n" + failure.message, MessageKind::Fault);
   }
 }
 
@@ -194,7 +195,7 @@ bool NotepadFrame::saveTo(const std::string& path) {
   try {
     file_.save(path, *bytes);
   } catch (const Tarnwickfile::FileNotOpenE& failure) {
-    showMessage(stack_, "Can't save " + failure.file + "\n" + failure.message, MessageKind::Ok);
+    showMessage(stack_, "Can't save " + failure.file + "\n" + failure.message, MessageKind::Fault);
     return false;
   }
   setModified(false);
@@ -226,6 +227,7 @@ bool NotepadFrame::changesMayGo() {
                       "Tarnwick text editor", wxYES_NO | wxCANCEL | wxICON_QUESTION | wxCENTRE);
   box.SetYesNoCancelLabels("&Save", "&Don't save", "&Cancel");
   const WindowStack::Place place(stack_, nullptr);
+  const MessageLooks looks;
   const int answer = box.ShowModal();
   if (answer == wxID_YES) return save();
   return answer == wxID_NO;
@@ -277,7 +279,7 @@ void NotepadFrame::find(const wxString& words, bool forward, bool matchCase) {
     if (found == wxString::npos) found = text.rfind(wanted);
   }
   if (words.empty() || found == wxString::npos) {
-    showMessage(stack_, "Can't find \"" + fromWx(words) + '"', MessageKind::Ok);
+    showMessage(stack_, "Can't find \"" + fromWx(words) + '"', MessageKind::Hint);
     return;
   }
   const auto at = static_cast<long>(found);

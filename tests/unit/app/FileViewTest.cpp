@@ -254,7 +254,7 @@ TEST_F(FileViewTest, NoSourceGivenIsTold) {
   saveEarlierRun();
   runPanel([&](ScriptedWindow&, ScriptedWindow& panel) {
     desktop_.expectOpenFile(std::nullopt);
-    desktop_.expectMessage("No .java file known.");
+    desktop_.expectHint("No .java file known.");
     panel.press(JAVAC);
     exit(panel);
   });
@@ -329,7 +329,7 @@ TEST_F(FileViewTest, CancelInTheFileDialogOfJavaIsTold) {
   saveEarlierRun();
   runPanel([&](ScriptedWindow&, ScriptedWindow& panel) {
     desktop_.expectOpenFile(std::nullopt);
-    desktop_.expectMessage("No known .class file");
+    desktop_.expectHint("No known .class file");
     panel.page(TABS, 0).press(RIGHT);
     exit(panel);
   });
@@ -397,7 +397,7 @@ TEST_F(FileViewTest, TheFileDialogIsGivenAWholePath) {
   runPanel([&](ScriptedWindow&, ScriptedWindow& panel) {
     panel.type(SOURCE, quoted("us er"));
     desktop_.expectOpenFile(std::nullopt);
-    desktop_.expectMessage("No .java file known.");
+    desktop_.expectHint("No .java file known.");
     panel.press(JAVAC);
     EXPECT_EQ(desktop_.lastRequest().startFolder, whole);
     // The search for a folder has entered it.
@@ -530,7 +530,7 @@ TEST_F(FileViewTest, NoClassForJdbIsTold) {
   saveEarlierRun();
   runPanel([&](ScriptedWindow&, ScriptedWindow& panel) {
     desktop_.expectOpenFile(std::nullopt);
-    desktop_.expectMessage("No known .class file");
+    desktop_.expectHint("No known .class file");
     panel.page(TABS, 0).press(MIDDLE);
     exit(panel);
   });
@@ -572,7 +572,7 @@ TEST_F(FileViewTest, NoHtmlFileIsTold) {
   runPanel([&](ScriptedWindow&, ScriptedWindow& panel) {
     for (const int button : {MIDDLE, RIGHT}) {
       desktop_.expectOpenFile(std::nullopt);
-      desktop_.expectMessage("no htm* file known");
+      desktop_.expectHint("no htm* file known");
       panel.page(TABS, 1).press(button);
     }
     EXPECT_EQ(desktop_.lastRequest().filter, "htm* files|*.htm*||");

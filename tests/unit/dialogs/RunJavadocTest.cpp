@@ -99,7 +99,7 @@ TEST_F(RunJavadocTest, CancelRunsNothingAndKeepsTheFilesOfTheLastRun) {
   EXPECT_EQ(files_, "B.java");
   run([this](ScriptedWindow& window) {
     typeFiles(window, "");
-    desktop_.expectMessage("No input files for javadoc selected.");
+    desktop_.expectHint("No input files for javadoc selected.");
     window.press(Javadoc::RUN);
   });
   EXPECT_EQ(recorded(), "");

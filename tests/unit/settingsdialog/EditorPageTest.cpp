@@ -84,19 +84,19 @@ TEST_F(EditorPageTest, ThePatternForALineIsKept) {
 TEST_F(EditorPageTest, NotepadDisablesTheFieldAndEitherChoiceShowsTheTip) {
   settings().editorTarget = "/usr/bin/ed";
   playAndOk([this](ScriptedWindow& page) {
-    desktop_.expectMessage(nameTip);
+    desktop_.expectHint(nameTip);
     page.press(WITH_NOTEPAD);
     EXPECT_TRUE(page.checked(WITH_NOTEPAD));
     EXPECT_FALSE(page.checked(WITH_EDITOR));
     EXPECT_FALSE(page.enabled(EDITOR));
     EXPECT_FALSE(page.enabled(BROWSE));
     EXPECT_FALSE(page.enabled(PLACE));
-    desktop_.expectMessage(nameTip);
+    desktop_.expectHint(nameTip);
     page.press(WITH_EDITOR);
     EXPECT_TRUE(page.enabled(EDITOR));
     EXPECT_TRUE(page.enabled(PLACE));
     EXPECT_FALSE(page.checked(WITH_NOTEPAD));
-    desktop_.expectMessage(nameTip);
+    desktop_.expectHint(nameTip);
     page.press(WITH_NOTEPAD);
   });
   EXPECT_TRUE(settings().editWithNotepad);
@@ -124,7 +124,7 @@ TEST_F(EditorPageTest, ATypedNameOutlivesAClick) {
     page.type(EDITOR, "typed");
     page.press(CHOOSE_FILES);
     EXPECT_EQ(page.text(EDITOR), "typed");
-    desktop_.expectMessage(nameTip);
+    desktop_.expectHint(nameTip);
     page.press(WITH_NOTEPAD);
     EXPECT_EQ(page.text(EDITOR), "typed");
   });

@@ -266,7 +266,7 @@ void FileView::editSource() {
 
 bool FileView::compileSource() {
   if (!prepareFile(sourceFilter, sourceField_)) {
-    desktop_.message("No .java file known.");
+    desktop_.hint("No .java file known.");
     return false;
   }
   CompileEnd end = compileFile();
@@ -330,7 +330,7 @@ const char* FileView::runFilter() const {
 
 bool FileView::prepareClass() {
   if (prepareFile(runFilter(), classField_)) return true;
-  desktop_.message("No known .class file");
+  desktop_.hint("No known .class file");
   return false;
 }
 
@@ -352,7 +352,7 @@ void FileView::debugClass() {
 
 void FileView::runApplet(bool debugging) {
   if (!prepareFile(htmlFilter, htmlField_)) {
-    desktop_.message("no htm* file known");
+    desktop_.hint("no htm* file known");
     return;
   }
   if (!debugging) htmlFile_.setLastFolder(htmlFile_.name().directory());

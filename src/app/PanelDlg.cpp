@@ -5,6 +5,7 @@
 #include "dialogs/ShortcutDlg.h"
 #include "resources/DialogLayout.h"
 #include "resources/PanelLayouts.h"
+#include "resources/SystemWords.h"
 #include "settings/EditorChoice.h"
 #include "settings/SettingsContext.h"
 #include "settingsdialog/SettingsDialog.h"
@@ -54,7 +55,7 @@ PanelDlg::PanelDlg(Settings& settings, int resource, std::array<PageWords, 2> wo
       settings_(settings),
       leftPage_(desktop_, *this, std::move(words[0].labels), std::move(words[0].tips)),
       middlePage_(desktop_, *this, std::move(words[1].labels), std::move(words[1].tips)),
-      rightPage_(desktop_, *this, {"jar", "javadoc", "WinShortcut"}, {}),
+      rightPage_(desktop_, *this, {"jar", "javadoc", inSystemWords("WinShortcut")}, {}),
       verticalBar_(desktop_, *this, verticalBarLayout()),
       horizontalBar_(desktop_, *this, horizontalBarLayout()),
       flatBar_(desktop_, *this, flatBarLayout()),

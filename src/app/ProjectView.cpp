@@ -188,7 +188,7 @@ void ProjectView::lookAtStart() {
 
 void ProjectView::keepOrClose(const std::string& question, const std::string& none) {
   if (!settings_.currentProject) {
-    desktop_.message(none);
+    desktop_.hint(none);
   } else if (!desktop_.askYesNo(question + settings_.currentProject->quotedPath() + " ?")) {
     settings_.currentProject.reset();
     forgetProjectValues(settings_);
@@ -237,7 +237,7 @@ void ProjectView::openProject() {
   if (auto* const open = project()) {
     try {
       if (open->sources.empty()) {
-        desktop_.message(
+        desktop_.hint(
             "This project doesn't have any Java source files!\nClick on the Files button to add files to this "
             "project's context.");
       }
@@ -281,7 +281,7 @@ bool ProjectView::takeExisting() {
 void ProjectView::chooseFiles() {
   ProjectContext* const open = project();
   if (!open) {
-    desktop_.message(noProject);
+    desktop_.hint(noProject);
     return;
   }
   if (ProjectFilesDlg(settings_, *open).runModal() == DIALOG_OK) open->save();
@@ -298,7 +298,7 @@ void ProjectView::chooseFiles() {
 void ProjectView::editSources() {
   settings_.saveIfWindowMoved();
   if (!project()) {
-    desktop_.message(noProject);
+    desktop_.hint(noProject);
     return;
   }
   using std::chrono::milliseconds;
@@ -363,7 +363,7 @@ bool ProjectView::readyToRun() {
 void ProjectView::runProject(bool debugging) {
   try {
     if (!readyToRun()) {
-      desktop_.message(notCompiled);
+      desktop_.hint(notCompiled);
       return;
     }
     FileForSubprocess target;
@@ -385,8 +385,14 @@ void ProjectView::runProject(bool debugging) {
 void ProjectView::runApplet(bool debugging) {
   settings_.saveIfWindowMoved();
   try {
-    if (project()->htmlFile.empty()) throw Tarnwickexception("No html file defined for this project.");
-    if (!readyToRun()) throw Tarnwickexception(notCompiled);
+    const std::string missing = project()->htmlFile.empty() ? "No html file defined for this project."
+                                : readyToRun()              ? ""
+                                                            : notCompiled;
+    if (!missing.empty()) {
+      refreshButtons();
+      desktop_.hint(missing);
+      return;
+    }
     if (!platform::changeDirectory(project()->folderNoSlash()))
       throw Tarnwickexception("Can't access project directory.");
     FileForSubprocess html(project()->quotedFolder(), project()->htmlFile);

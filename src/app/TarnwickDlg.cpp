@@ -6,9 +6,9 @@
 #include "base/Text.h"
 #include "dialogbase/Desktop.h"
 #include "platform/FileSystem.h"
-#include "platform/Path.h"
 #include "resources/DialogLayout.h"
 #include "resources/PanelLayouts.h"
+#include "resources/SystemWords.h"
 #include "settings/JdkDiscovery.h"
 #include "settings/SettingsContext.h"
 #include "settingsdialog/SettingsDialog.h"
@@ -191,14 +191,13 @@ void TarnwickDlg::tellRefusedConfiguration() {
 }
 
 void TarnwickDlg::welcomeFirstUse(int status) {
-  WelcomeDlg(
-      desktop_,
-      "You seem to be using Tarnwick for the first time,\n"
-      "as I can't find any data from a previous session.",
-      platform::localText("Please make sure that you have an installation of a JDK (J2SE) on your system.\n\n"
-                          "On the next display you will have to tell Tarnwick where the JDK programs are located.\n"
-                          "Look for a file \"javac.exe\" in a \"bin\" subfolder of the JDK installation tree and\n"
-                          "enter it in the field \"Tools .exe directory\".\n"))
+  WelcomeDlg(desktop_,
+             "You seem to be using Tarnwick for the first time,\n"
+             "as I can't find any data from a previous session.",
+             inSystemWords("Please make sure that you have an installation of a JDK (J2SE) on your system.\n\n"
+                           "On the next display you will have to tell Tarnwick where the JDK programs are located.\n"
+                           "Look for a file \"javac.exe\" in a \"bin\" subfolder of the JDK installation tree and\n"
+                           "enter it in the field \"Tools .exe directory\".\n"))
       .runModal();
   const bool noConfiguration = status == READ_FILE_LOST;
   const std::string known = settings_.javaPath;

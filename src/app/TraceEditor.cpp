@@ -28,7 +28,7 @@ void TraceEditor::open(const TraceLink& trace) const {
   // A console has no settings dialog: it never writes the configuration.
   const EditorSource source{[this] { return settings_.editorChoice(); },
                             [&desktop] {
-                              desktop.message("Choose the editor for your sources in Tarnwick's settings first");
+                              desktop.hint("Choose the editor for your sources in Tarnwick's settings first");
                               return false;
                             }};
   showEach(desktop, openEditor(source, file, {trace.line, 0}).failures);

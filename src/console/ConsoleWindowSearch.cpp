@@ -77,7 +77,7 @@ bool ConsoleWindowSearch::close() {
     std::this_thread::sleep_for(timing_.restoreWait);
   }
   if (!windows_.askToClose(consoleWindow_)) {
-    desktop_.message("Please close also the console window associated with JDK.");
+    desktop_.hint("Please close also the console window associated with JDK.");
   }
   return true;
 }

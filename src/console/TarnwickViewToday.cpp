@@ -73,7 +73,7 @@ void TarnwickView::findNext(bool back) {
   if (hit) {
     showFound(*hit);
   } else {
-    desktop_.message("There is no \"" + search_.text() + "\" in the console.");
+    desktop_.hint("There is no \"" + search_.text() + "\" in the console.");
   }
 }
 

@@ -42,8 +42,10 @@ class Desktop {
  public:
   virtual ~Desktop() = default;
 
-  /// A message box with OK.
+  /// A message box with OK about what has failed.
   virtual void message(const std::string& text) = 0;
+  /// The same where nothing has failed: it tells what is to be done first, or what has been done.
+  virtual void hint(const std::string& text) = 0;
   virtual bool askOkCancel(const std::string& text) = 0;
   virtual bool askYesNo(const std::string& text) = 0;
 

@@ -81,7 +81,7 @@ void JavadocDlg::onOk() {
   inputFiles_ = trimLeft(inputFiles_);
   if (inputFiles_.empty()) {
     // Packages alone don't do: a list of files is needed beside them.
-    desktop_.message("No input files for javadoc selected.");
+    desktop_.hint("No input files for javadoc selected.");
     onCancel();
     return;
   }

@@ -34,7 +34,7 @@ void SelectSubdirectoryDlg::initialise(DialogWindow& window) {
   const auto folders = subfolderWords(folder_);
   window.setEntries(SelectSubdirectory::FOLDERS, folders);
   if (!folders.empty()) return;
-  desktop_.message("This folder has no subfolders.");
+  desktop_.hint("This folder has no subfolders.");
   onCancel();
 }
 

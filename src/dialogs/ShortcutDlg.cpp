@@ -8,6 +8,7 @@
 #include "platform/Path.h"
 #include "project/ProjectContext.h"
 #include "resources/DialogLayout.h"
+#include "resources/SystemWords.h"
 #include "settings/Settings.h"
 #include "settings/SettingsContext.h"
 #include "settingsdialog/SettingsDialog.h"
@@ -24,17 +25,19 @@ constexpr int javaPageIndex = 2;
 
 std::vector<ToolTip> shortcutToolTips() {
   return {
-      {Control::APPLICATION, ".class or .jar file to be represented by a Windows shortcut"},
-      {Control::BROWSE_APPLICATION, "Locate class or jar file to be represented by a Windows shortcut"},
+      {Control::APPLICATION, inSystemWords(".class or .jar file to be represented by a Windows shortcut")},
+      {Control::BROWSE_APPLICATION, inSystemWords("Locate class or jar file to be represented by a Windows shortcut")},
       {Control::NAME, "Name to be used for shortcut to java application"},
       {Control::DESCRIPTION, "Description of shortcut (will appear in tooltip)"},
       {Control::ON_DESKTOP, "Create an icon on the desktop that can be used to start your java application"},
-      {Control::IN_STARTMENU, "Create an entry for your java application in the Windows startbutton menu"},
+      {Control::IN_STARTMENU,
+       inSystemWords("Create an entry for your java application in the Windows startbutton menu")},
       {Control::STARTMENU_FOLDER,
-       "Folder location corresponding to a lower level popup menu for the Windows startbutton"},
+       inSystemWords("Folder location corresponding to a lower level popup menu for the Windows startbutton")},
       {Control::BROWSE_STARTMENU,
-       "Find the folder location corresponding to a lower level popup menu for the Windows startbutton"},
-      {Control::IN_FOLDER, "Create a Windows shortcut to your java application in a folder of your choice"},
+       inSystemWords("Find the folder location corresponding to a lower level popup menu for the Windows startbutton")},
+      {Control::IN_FOLDER,
+       inSystemWords("Create a Windows shortcut to your java application in a folder of your choice")},
       {Control::FOLDER, "Folder location where a shortcut to your java application will be placed"},
       {Control::BROWSE_FOLDER, "Find the folder location where a shortcut to your java application will be placed"},
       {Control::UNDER_CONTROL,
@@ -190,7 +193,7 @@ platform::Shortcut ShortcutDlg::gathered() {
 void ShortcutDlg::makeLinks(ShortcutMaker& maker) {
   const auto mayOverwrite = [this](const std::string& question) { return desktop_.askYesNo(question); };
   const auto tell = [this](ShortcutResult result) {
-    if (result == ShortcutResult::Truncated) desktop_.message(truncatedArguments);
+    if (result == ShortcutResult::Truncated) desktop_.message(truncatedArguments());
   };
   if (getCheck(Control::ON_DESKTOP)) tell(maker.makeOnDesktop(mayOverwrite));
   if (getCheck(Control::IN_STARTMENU)) tell(maker.makeInStartMenu(getText(Control::STARTMENU_FOLDER), mayOverwrite));

@@ -2,6 +2,7 @@
 
 #include "dialogs/FormLine.h"
 #include "resources/DialogLayout.h"
+#include "resources/SystemWords.h"
 
 namespace tarnwick {
 
@@ -39,9 +40,9 @@ DialogItem placementGroup() {
   return group(0, " Shortcut placement ",
                {
                    checkBox(Control::ON_DESKTOP, "Create shortcut on desktop"),
-                   place(Control::IN_STARTMENU, "Create shortcut in startmenu",
-                         edit(Control::STARTMENU_FOLDER, folderWidth).named("Folder in the startmenu"),
-                         button(Control::BROWSE_STARTMENU, "Browse").named("Browse the startmenu")),
+                   place(Control::IN_STARTMENU, inSystemWords("Create shortcut in startmenu"),
+                         edit(Control::STARTMENU_FOLDER, folderWidth).named(inSystemWords("Folder in the startmenu")),
+                         button(Control::BROWSE_STARTMENU, "Browse").named(inSystemWords("Browse the startmenu"))),
                    place(Control::IN_FOLDER, "Create shortcut in arbitrary location",
                          edit(Control::FOLDER, folderWidth).named("Folder for the shortcut"),
                          button(Control::BROWSE_FOLDER, "Browse").named("Browse for a folder")),
@@ -61,7 +62,7 @@ DialogItem executionGroup() {
 
 const DialogLayout& shortcutLayout() {
   static const DialogLayout dialog = {
-      196, "Create Windows shortcut to Java application", false,
+      196, inSystemWords("Create Windows shortcut to Java application"), false,
       column({
           applicationRows(),
           placementGroup(),

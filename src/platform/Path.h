@@ -28,9 +28,6 @@ bool endsInSeparator(const std::string& path);
 /// The file of a JDK tool: "javac" gives "javac.exe" on Windows and "javac" on Linux, "javaw" gives "java" there.
 std::string toolFileName(const std::string& tool);
 
-/// A text that names a tool's file or says ".exe", in this platform's words.
-std::string localText(const std::string& text);
-
 /// True if the two names are the same file name here.
 bool sameFileName(const std::string& left, const std::string& right);
 

@@ -8,6 +8,7 @@
 #include "platform/Process.h"
 #include "process/Subprocess.h"
 #include "process/WinApp.h"
+#include "resources/SystemWords.h"
 #include "settings/EditorChoice.h"
 
 #include <optional>
@@ -56,6 +57,11 @@ std::vector<Words> editorsFor(const std::string& editor, bool useNotepad) {
   return editors;
 }
 
+/// What is told of an editor that does not start.
+std::string unableToStart(const std::string& editor, bool isNotepad) {
+  return isNotepad ? inSystemWords("Unable to start Notepad") : "Unable to start " + editor;
+}
+
 /// A file to be edited.
 struct Edited {
   std::string name;
@@ -74,7 +80,7 @@ LaunchResult startOn(const std::string& editor, bool useNotepad, const Edited& e
     if (!reason) return {true, {}};
     if (!failure) failure = reason;
   }
-  return {false, {detachedStartFailure(editor, *failure)}};
+  return {false, {withReason(unableToStart(editor, useNotepad), *failure)}};
 }
 
 /// One word of a command text. Names in it have been made such that they mislead nobody.
@@ -146,7 +152,7 @@ std::vector<std::string> showLog(const ToolLog& log, const EditorChoice& choice)
     if (!failures) return result.failures;
     if (!reasons) reasons = failures;
   }
-  result.failures.push_back("Unable to start " + editor + " for log file display.\n\n" + reasons.value_or(""));
+  result.failures.push_back(unableToStart(editor, useNotepad) + " for log file display.\n\n" + reasons.value_or(""));
   return result.failures;
 }
 

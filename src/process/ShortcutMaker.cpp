@@ -5,10 +5,13 @@
 #include "base/Tarnwickfile.h"
 #include "base/Text.h"
 #include "platform/FileSystem.h"
+#include "resources/SystemWords.h"
 
 namespace tarnwick {
 
-const char truncatedArguments[] = "Warning: Windows may have truncated shortcut arguments!";
+std::string truncatedArguments() {
+  return inSystemWords("Warning: Windows may have truncated shortcut arguments!");
+}
 
 namespace {
 

@@ -22,7 +22,7 @@ enum class ShortcutResult {
 };
 
 /// What is said of arguments that the system has not kept whole.
-extern const char truncatedArguments[];
+std::string truncatedArguments();
 
 /// Makes the files of one shortcut. Asks by the question alone, and shows nothing.
 class ShortcutMaker {

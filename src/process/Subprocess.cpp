@@ -45,7 +45,11 @@ std::optional<std::string> enterFolderOf(const Filename& file) {
 }
 
 std::string detachedStartFailure(const std::string& program, const platform::SystemError& failure) {
-  return "Unable to start " + program + ".\n\n" + failure.reason + "  (" + std::to_string(failure.code) + ')';
+  return withReason("Unable to start " + program, failure);
+}
+
+std::string withReason(const std::string& what, const platform::SystemError& failure) {
+  return what + ".\n\n" + failure.reason + "  (" + std::to_string(failure.code) + ')';
 }
 
 Subprocess::Subprocess(Desktop& desktop, ToolLog& log, std::string executable)

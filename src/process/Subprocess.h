@@ -27,6 +27,9 @@ struct SystemError;
 /// Makes the folder of a file the current one, if its name has one. Gives what to tell the user if that fails.
 std::optional<std::string> enterFolderOf(const Filename& file);
 
+/// What has failed, and below it the system's reason.
+std::string withReason(const std::string& what, const platform::SystemError& failure);
+
 /// What the user is told of a program that should have gone its own way and could not be started.
 std::string detachedStartFailure(const std::string& program, const platform::SystemError& failure);
 

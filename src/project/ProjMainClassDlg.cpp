@@ -22,20 +22,23 @@ int ProjMainClassDlg::runModal() {
 void ProjMainClassDlg::initialise(DialogWindow& window) {
   ToolTipDlg::initialise(window);
   try {
-    fillList();
+    const std::string missing = fillList();
+    if (missing.empty()) return;
+    desktop_.hint(missing);
+    onCancel();
   } catch (const Tarnwickexception& failure) {
     desktop_.message(failure.message);
     onCancel();
   }
 }
 
-void ProjMainClassDlg::fillList() {
-  if (!project_) throw Tarnwickexception("You have not opened a project yet.");
+std::string ProjMainClassDlg::fillList() {
+  if (!project_) return "You have not opened a project yet.";
   askForToolsFolder(project_->settings());
   project_->update();
   // Every class counts, whether or not it has a main method.
   const auto classes = project_->collectClasses(ProjectContext::CLASSES);
-  if (classes.empty()) throw Tarnwickexception("No classes defined in this project.");
+  if (classes.empty()) return "No classes defined in this project.";
   // Where packages have no roots, nothing would tell the run which class is meant.
   const bool tellsApart = !project_->sourceRoots().empty();
   std::map<std::string, std::set<const JavaSourcefile*>> declaring;
@@ -50,6 +53,7 @@ void ProjMainClassDlg::fillList() {
   }
   sortNames(shown);
   window()->setEntries(CLASS_LIST, shown);
+  return "";
 }
 
 void ProjMainClassDlg::onDoubleClick(int) {

@@ -29,8 +29,8 @@ class ProjMainClassDlg : public ToolTipDlg {
     std::string source;  ///< empty where the name alone tells the class
   };
 
-  /// Throws a Tarnwickexception where there is nothing to pick from.
-  void fillList();
+  /// Gives what is to be told where there is nothing to pick from.
+  std::string fillList();
 
   ProjectContext* project_;
   std::map<std::string, Entry> entries_;  ///< by what the list shows

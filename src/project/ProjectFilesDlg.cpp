@@ -234,7 +234,7 @@ bool ProjectFilesDlg::takeMembers(const std::vector<std::string>& names) {
     }
     const Tarnwickfile probe(project_.folder(), name, FileMode::Read);
     if (!html.empty()) {
-      desktop_.message("You can include only 1 html file in the project!");
+      desktop_.hint("You can include only 1 html file in the project!");
       return false;
     }
     html = quotedIfBlank(name);
@@ -246,9 +246,9 @@ bool ProjectFilesDlg::takeMembers(const std::vector<std::string>& names) {
 
 void ProjectFilesDlg::onCancel() {
   if (createdCount_ > 0) {
-    desktop_.message("You have created " + std::to_string(createdCount_) + " new project file" +
-                     (createdCount_ == 1 ? ". \nIt" : "s.\nThey") +
-                     " will remain in your project folder,\nalthough not as part of your project.");
+    desktop_.hint("You have created " + std::to_string(createdCount_) + " new project file" +
+                  (createdCount_ == 1 ? ". \nIt" : "s.\nThey") +
+                  " will remain in your project folder,\nalthough not as part of your project.");
     project_.sources.fromString(sourcesSnapshot_);
   }
   close(DIALOG_CANCEL);

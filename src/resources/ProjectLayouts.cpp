@@ -1,6 +1,7 @@
 #include "resources/ProjectLayouts.h"
 
 #include "resources/DialogLayout.h"
+#include "resources/SystemWords.h"
 
 namespace tarnwick {
 
@@ -12,8 +13,10 @@ const DialogLayout& selectProjectLayout() {
       column({
           row({comboBox(RECENT_LIST, {}).atLeast(44).named("Recent projects").stretched(),
                button(BROWSE_PROJECT, "Browse")}),
-          button(REGISTER_TYPE,
-                 "Click here to make Tarnwick the default program for\nopening .twp files (Explorer double-click)"),
+          button(
+              REGISTER_TYPE,
+              inSystemWords(
+                  "Click here to make Tarnwick the default program for\nopening .twp files (Explorer double-click)")),
           row({space(), button(IDOK_CONTROL, "OK").asDefault(), button(IDCANCEL_CONTROL, "Cancel")}),
       }),
       RECENT_LIST};

@@ -2,6 +2,7 @@
 
 #include "dialogbase/Desktop.h"
 #include "platform/Path.h"
+#include "resources/SystemWords.h"
 #include "settings/SettingsResources.h"
 #include "settingsdialog/SettingsPageLayouts.h"
 
@@ -32,7 +33,7 @@ EditorPage::EditorPage(Desktop& desktop, const TagRow* rows)
   toolTips_ = {
       {EDITOR, "File specification for editor exe/jar file"},
       {BROWSE, "Locate editor exe/jar file"},
-      {WITH_NOTEPAD, "Use Windows Notepad as the java source file editor"},
+      {WITH_NOTEPAD, inSystemWords("Use Windows Notepad as the java source file editor")},
       {WITH_EDITOR,
        "Use a user-defined editor for java source file editing. You must provide a file specification for your "
        "editor's exe/jar file."},
@@ -61,7 +62,7 @@ void EditorPage::updateControls() {
 void EditorPage::onCommand(int control) {
   if (control == WITH_NOTEPAD || control == WITH_EDITOR) {
     setCheck(WITH_NOTEPAD, control == WITH_NOTEPAD);
-    desktop_.message(nameTip);
+    desktop_.hint(nameTip);
   }
   if (control == OPEN_ALL || control == CHOOSE_FILES) setCheck(OPEN_ALL, control == OPEN_ALL);
   if (control == BROWSE) browse();
@@ -69,9 +70,9 @@ void EditorPage::onCommand(int control) {
 
 void EditorPage::browse() {
   FileRequest request;
-  request.filter = platform::localText("executable files and java archives|*.exe;*.com;*.jar||");
+  request.filter = inSystemWords("executable files and java archives|*.exe;*.com;*.jar||");
   request.startFolder = platform::startFolder("C:");
-  request.name = platform::localText("*.exe;*.com;*.jar");
+  request.name = inSystemWords("*.exe;*.com;*.jar");
   request.mustExist = true;
   if (const auto chosen = desktop_.openFile(request)) setText(EDITOR, *chosen);
 }

@@ -3,6 +3,7 @@
 #include "dialogbase/Messages.h"
 #include "platform/Path.h"
 #include "process/Subprocess.h"
+#include "resources/SystemWords.h"
 #include "settings/EditorChoice.h"
 #include "settings/SettingsContext.h"
 #include "settings/SettingsResources.h"
@@ -117,8 +118,8 @@ void JavaPage::showVersion() {
   const std::string folder = toolsPage_.toolsFolder();
   if (folder.empty()) {
     desktop_.message(
-        platform::localText("Don't know where to look for java.exe. Please set tools .exe directory in common "
-                            "parameters panel."));
+        inSystemWords("Don't know where to look for java.exe. Please set tools .exe directory in common "
+                      "parameters panel."));
     return;
   }
   Subprocess java(desktop_, context_.log, folder + platform::toolFileName("java"));

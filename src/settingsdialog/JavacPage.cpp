@@ -1,6 +1,7 @@
 #include "settingsdialog/JavacPage.h"
 
 #include "dialogbase/DirDialog.h"
+#include "resources/SystemWords.h"
 #include "settings/SettingsResources.h"
 #include "settingsdialog/SettingsPageLayouts.h"
 
@@ -62,8 +63,10 @@ std::vector<ToolTip> javacToolTips() {
       {DEBUG, "Store source code information within the class file to make it available to the debugger"},
       {VERBOSE, "Display detail information about the compilation process"},
       {DEPRECATION, "Do not accept deprecated java features"},
-      {SOUND_ON_SUCCESS, "Start the Windows Asterisk sound at the end of a compilation without diagnostics"},
-      {SOUND_ON_ERROR, "Start the Windows Exclamation sound at the end of a compilation that produced diagnostics"},
+      {SOUND_ON_SUCCESS,
+       inSystemWords("Start the Windows Asterisk sound at the end of a compilation without diagnostics")},
+      {SOUND_ON_ERROR,
+       inSystemWords("Start the Windows Exclamation sound at the end of a compilation that produced diagnostics")},
       {J_OPTION, "Special option to be passed to the java launcher (see also JDK documentation)"},
       {SOURCE,
        "Tells the compiler how to interpret the source. Important e.g. when using assertions (see also JDK "

@@ -1,12 +1,11 @@
 #include "settingsdialog/SettingsLayouts.h"
 
-#include "platform/Path.h"
 #include "resources/DialogLayout.h"
+#include "resources/SystemWords.h"
 
 namespace tarnwick {
 
 using namespace layout;
-using platform::localText;
 
 const DialogLayout& settingsLayout() {
   static const DialogLayout dialog = {
@@ -29,19 +28,20 @@ const DialogLayout& toolsPageLayout() {
   static const DialogLayout page = {
       144, "", false,
       column({
-          group(0, localText(" Tools .exe directory "),
+          group(0, inSystemWords(" Tools .exe directory "),
                 {
-                    label(localText("Folder of javac.exe, java.exe and the other tools of the JDK")),
-                    row({edit(1041, 48).named(localText("Tools .exe directory")).stretched(), button(1006, "Browse")}),
+                    label(inSystemWords("Folder of javac.exe, java.exe and the other tools of the JDK")),
+                    row({edit(1041, 48).named(inSystemWords("Tools .exe directory")).stretched(),
+                         button(1006, "Browse")}),
                     label("Several JDKs were found. Choose one, or browse for another:", 2001).collapsing(),
                     listBox(2002, 48).linesHigh(4).collapsing(),
                 }),
           group(0, " Display diagnostics with ",
-                {row({radioButton(1017, "Notepad"), radioButton(1018, "Sourcecode editor"),
+                {row({radioButton(1017, inSystemWords("Notepad")), radioButton(1018, "Sourcecode editor"),
                       radioButton(2111, "Messages window"), space()})}),
           checkBox(2120, "Show a tool that runs long, with a way to stop it"),
           group(0, " Create a shortcut to Tarnwick ",
-                {row({button(1204, "On Desktop"), button(1205, "In Startmenu ..."), space()})}),
+                {row({button(1204, "On Desktop"), button(1205, inSystemWords("In Startmenu ...")), space()})}),
       }),
       1041};
   return page;
@@ -54,8 +54,9 @@ const DialogLayout& alternateLocationLayout() {
           label("Tarnwick could not write configuration data to the default location:", 1167),
           label("You can define an alternate location for saving the configuration: Press the Browse button!"),
           label("", 1165),
-          label("For a permanent definition please update your system's environment settings or AUTOEXEC.BAT, "
-                "depending on your Windows version. Consult Tarnwick's usersguide.htm for more information."),
+          label(inSystemWords(
+              "For a permanent definition please update your system's environment settings or AUTOEXEC.BAT, "
+              "depending on your Windows version. Consult Tarnwick's usersguide.htm for more information.")),
           row({space(), button(1164, "Browse").asDefault(), button(IDCANCEL_CONTROL, "Cancel")}),
       }),
       1164};

@@ -1,6 +1,7 @@
 #include "settingsdialog/SettingsOnDesktop.h"
 
 #include "dialogbase/Desktop.h"
+#include "resources/SystemWords.h"
 #include "settingsdialog/AlternateLocationDlg.h"
 
 namespace tarnwick {
@@ -14,9 +15,10 @@ void moveConfiguration(Desktop& desktop, const ProgramInfo& program, const Tarnw
     AlternateLocationDlg dialog(desktop, program, failure);
     if (dialog.runModal() != DIALOG_OK) throw Tarnwickfile::FileNotOpenE(failure);
     saveAgain();
-    desktop.message("The following environment variable definition has been created:\n\n" + dialog.definition() +
-                    "\n\nThis definition remains effective until you terminate Tarnwick." +
-                    "\nUpdate your system's environment settings or AUTOEXEC.BAT\nfor a permanent definition!");
+    desktop.hint(
+        "The following environment variable definition has been created:\n\n" + dialog.definition() +
+        "\n\nThis definition remains effective until you terminate Tarnwick." +
+        inSystemWords("\nUpdate your system's environment settings or AUTOEXEC.BAT\nfor a permanent definition!"));
   } catch (const Tarnwickfile::FileNotOpenE& further) {
     desktop.message(further.message + "\nCan't save configuration data in " + further.file);
   }

@@ -1,6 +1,7 @@
 #include "settingsdialog/SettingsPageLayouts.h"
 
 #include "resources/DialogLayout.h"
+#include "resources/SystemWords.h"
 #include "settingsdialog/MarkedPage.h"
 
 namespace tarnwick {
@@ -24,8 +25,8 @@ DialogItem javacOptions() {
             {checkBox(1026, "Create debug\ntables (-g)"), checkBox(1024, "Fast code (-O)"),
              checkBox(1044, "-deprecation"), checkBox(1027, "-verbose")}),
       group(0, " Sounds ",
-            {checkBox(1021, "After successful compilation\n(Asterisk)"),
-             checkBox(1022, "After compilation with\ndiagnostics\n(Exclamation)")})
+            {checkBox(1021, inSystemWords("After successful compilation\n(Asterisk)")),
+             checkBox(1022, inSystemWords("After compilation with\ndiagnostics\n(Exclamation)"))})
           .stretched(),
   });
 }
@@ -156,7 +157,7 @@ const DialogLayout& editorPageLayout() {
       143, "", false,
       column({
           group(0, " Edit source files with ",
-                {row({radioButton(1013, "Notepad"), radioButton(1014, "some other editor"),
+                {row({radioButton(1013, inSystemWords("Notepad")), radioButton(1014, "some other editor"),
                       edit(1042, 36).named("Editor file").stretched(), button(1015, "Browse")}),
                  row({label("Arguments that open a line"), edit(2110, 24).stretched()})}),
           group(0, " Edit button in the Projectview ",

@@ -6,6 +6,7 @@
 #include "dialogbase/DirDialog.h"
 #include "platform/Path.h"
 #include "process/ShortcutMaker.h"
+#include "resources/SystemWords.h"
 #include "settings/SettingsContext.h"
 #include "settings/SettingsResources.h"
 #include "settingsdialog/SettingsLayouts.h"
@@ -36,9 +37,9 @@ ToolsPage::ToolsPage(SettingsContext& context, const TagRow* rows)
   tags_ = rows;
   bindings_ = {{FOLDER, &folder_}};
   toolTips_ = {
-      {FOLDER, platform::localText("Folder containing the file javac.exe (created by the installation of the JDK)")},
-      {BROWSE, platform::localText("Locate the file javac.exe in the JDK installation folder")},
-      {WITH_NOTEPAD, "Display compiler (and other) diagnostics with the Windows Notepad"},
+      {FOLDER, inSystemWords("Folder containing the file javac.exe (created by the installation of the JDK)")},
+      {BROWSE, inSystemWords("Locate the file javac.exe in the JDK installation folder")},
+      {WITH_NOTEPAD, inSystemWords("Display compiler (and other) diagnostics with the Windows Notepad")},
       {WITH_EDITOR, "Display compiler (and other) diagnostics with the editor you defined for editing source files"},
       {IN_MESSAGES,
        "Display compiler (and other) diagnostics in a window of Tarnwick's own that stays open. A double click on a "
@@ -46,8 +47,8 @@ ToolsPage::ToolsPage(SettingsContext& context, const TagRow* rows)
       {WATCH_RUNS,
        "When a tool has run for a second, a small window tells which, on what and for how long. \"Stop\" there, or "
        "Escape, ends it with all that it has started."},
-      {ON_DESKTOP, "Create an icon on the Windows desktop. A double click on it will start Tarnwick."},
-      {IN_STARTMENU, "Create an entry in the Windows startmenu tree that will start Tarnwick."},
+      {ON_DESKTOP, inSystemWords("Create an icon on the Windows desktop. A double click on it will start Tarnwick.")},
+      {IN_STARTMENU, inSystemWords("Create an entry in the Windows startmenu tree that will start Tarnwick.")},
       {FOUND_JDKS, "JDKs found on this computer, the newest first. Choose one to use its tools."},
   };
 }
@@ -147,7 +148,7 @@ std::string ToolsPage::toolsFolder() const {
 
 void ToolsPage::browse() {
   FileRequest request;
-  request.filter = platform::localText("javac.exe|javac.exe|all files|*.*||");
+  request.filter = inSystemWords("javac.exe|javac.exe|all files|*.*||");
   request.startFolder = platform::startFolder("C:\\");
   request.name = platform::toolFileName("javac");
   request.mustExist = true;

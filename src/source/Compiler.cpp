@@ -9,6 +9,7 @@
 #include "platform/Path.h"
 #include "platform/Process.h"
 #include "process/ToolLog.h"
+#include "resources/SystemWords.h"
 #include "settings/OptionList.h"
 #include "settings/PathRules.h"
 #include "settings/Settings.h"
@@ -34,7 +35,7 @@ std::string compilerPath(const Settings& settings) {
 }
 
 std::string noToolsFolder() {
-  return platform::localText("No path to javac.exe and other tools available from settings");
+  return inSystemWords("No path to javac.exe and other tools available from settings");
 }
 
 /// The declared JDK version decides which warning options exist; of a version that is none of those known, none. Each

@@ -36,13 +36,13 @@ void AddTemplateDlg::browse() {
 void AddTemplateDlg::onOk() {
   description_ = trim(getText(TEMPLATE_DESCRIPTION));
   if (description_.empty()) {
-    desktop_.message(
+    desktop_.hint(
         "Please enter a description.\nIt is needed to create an entry in the dropdown list for file templates.");
     return;
   }
   const std::string typed = trimLeft(getText(TEMPLATE_FILE));
   if (typed.empty()) {
-    desktop_.message("Please enter a filename for your template file");
+    desktop_.hint("Please enter a filename for your template file");
     return;
   }
   try {

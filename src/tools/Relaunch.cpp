@@ -3,6 +3,7 @@
 #include "base/Tarnwickfile.h"
 #include "dialogbase/Desktop.h"
 #include "platform/Path.h"
+#include "resources/SystemWords.h"
 #include "settings/OpenProject.h"
 #include "settings/Settings.h"
 #include "settings/SettingsContext.h"
@@ -46,7 +47,7 @@ bool jdkToolReady(Settings& settings, const std::string& tool) {
   Desktop& desktop = settings.context().desktop;
   askForToolsFolder(settings);
   if (settings.javaPath.empty()) {
-    desktop.message(platform::localText("No path to javac.exe and other tools available from settings"));
+    desktop.message(inSystemWords("No path to javac.exe and other tools available from settings"));
     return false;
   }
   try {

@@ -41,7 +41,7 @@ void cancel(wxDialog& dialog) {
 bool isUsable(WindowStack& stack, const std::string& path) {
   const std::string reason = platform::whyNoFile(path);
   if (reason.empty()) return true;
-  showMessage(stack, "Can't use " + path + "\n" + reason, MessageKind::Ok);
+  showMessage(stack, "Can't use " + path + "\n" + reason, MessageKind::Fault);
   return false;
 }
 

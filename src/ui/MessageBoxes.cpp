@@ -2,6 +2,7 @@
 
 #include "base/Tarnwickexception.h"
 #include "platform/Characters.h"
+#include "ui/MessageLooks.h"
 #include "ui/NativeLoop.h"
 #include "ui/Text.h"
 #include "ui/Toolkit.h"
@@ -22,7 +23,9 @@ long styleOf(MessageKind kind) {
       return wxOK | wxCANCEL | wxICON_QUESTION;
     case MessageKind::YesNo:
       return wxYES_NO | wxICON_QUESTION;
-    case MessageKind::Ok:
+    case MessageKind::Hint:
+      return wxOK | wxICON_INFORMATION;
+    case MessageKind::Fault:
       break;
   }
   return wxOK | wxICON_EXCLAMATION;
@@ -85,6 +88,7 @@ bool showMessage(WindowStack& stack, const std::string& text, MessageKind kind) 
   wxMessageDialog box(stack.parent(), toWx(shownPart(text)), "Tarnwick", styleOf(kind) | wxCENTRE);
   const WindowStack::Place place(stack, nullptr, [&box] { dismiss(box); });
   const NativeLoop posted;
+  const MessageLooks looks;
   const int answer = box.ShowModal();
   stack.goOn();
   return answer == wxID_OK || answer == wxID_YES;
@@ -104,7 +108,7 @@ void guarded(WindowStack& stack, const std::function<void()>& action) {
   } catch (...) {
     problem = "Internal error: unknown exception";
   }
-  if (!stack.isEnding()) showMessage(stack, problem, MessageKind::Ok);
+  if (!stack.isEnding()) showMessage(stack, problem, MessageKind::Fault);
 }
 
 }  // namespace tarnwick::ui

@@ -7,7 +7,8 @@
 
 namespace tarnwick::ui {
 
-enum class MessageKind { Ok, OkCancel, YesNo };
+/// The first two have an OK alone.
+enum class MessageKind { Fault, Hint, OkCancel, YesNo };
 
 /// A text of a message box, with the middle of a long one left out and endless words broken: the buttons must stay on
 /// the screen.

@@ -42,7 +42,11 @@ void WxDesktop::guard(const std::function<void()>& action) {
 }
 
 void WxDesktop::message(const std::string& text) {
-  showMessage(stack_, text, MessageKind::Ok);
+  showMessage(stack_, text, MessageKind::Fault);
+}
+
+void WxDesktop::hint(const std::string& text) {
+  showMessage(stack_, text, MessageKind::Hint);
 }
 
 bool WxDesktop::askOkCancel(const std::string& text) {

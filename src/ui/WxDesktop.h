@@ -24,6 +24,7 @@ class WxDesktop : public Desktop, public ConsoleFrameHost {
   ~WxDesktop() override;
 
   void message(const std::string& text) override;
+  void hint(const std::string& text) override;
   bool askOkCancel(const std::string& text) override;
   bool askYesNo(const std::string& text) override;
   void alert(AlertSound sound) override;

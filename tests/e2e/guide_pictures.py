@@ -122,8 +122,8 @@ def take_javadoc(scratch, camera, panel):
 
 def take_shortcut(camera, panel):
     turn_to(panel, "Utilities")
-    panel.press("WinShortcut")
-    dialog = Window("Create Windows shortcut to Java application")
+    panel.press("Shortcut")
+    dialog = Window("Create shortcut to Java application")
     dialog.press("Create shortcut on desktop")
     dialog.press("Execute under Tarnwick's control")
     camera.take(dialog, "shortcut")

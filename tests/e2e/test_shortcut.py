@@ -1,4 +1,4 @@
-"""Shortcuts that the window of "WinShortcut" makes, started from outside as a desktop starts them."""
+"""Shortcuts that the window of "Shortcut" makes, started from outside as a desktop starts them."""
 
 import configparser
 import os
@@ -10,10 +10,10 @@ from person import Window, wait_until
 from test_console import BANNER, nothing_left, shows
 from test_jar import jdks, picture, start as start_with_jdk
 
-TITLE = "Create Windows shortcut to Java application"
+TITLE = "Create shortcut to Java application"
 APPLICATION, NAME, DESCRIPTION, MENU_FOLDER, FOLDER = range(5)
 ON_DESKTOP = "Create shortcut on desktop"
-IN_MENU = "Create shortcut in startmenu"
+IN_MENU = "Create shortcut in applications menu"
 IN_FOLDER = "Create shortcut in arbitrary location"
 UNDER_CONTROL = "Execute under Tarnwick's control"
 WITHOUT_CONTROL = "Execute without Tarnwick"
@@ -59,7 +59,7 @@ def start(scratch, jdk):
 
 
 def open_dialog(panel, application):
-    panel.press("WinShortcut")
+    panel.press("Shortcut")
     dialog = Window(TITLE)
     dialog.write(application, APPLICATION)
     return dialog
@@ -178,7 +178,7 @@ def test_a_shortcut_to_a_project_of_packages_starts_its_class(scratch):
     program = scratch.start(project)
     panel = Window("Tarnwick")
     next(one for one in panel.controls() if one.role == "page tab" and one.label == "Utilities").click()
-    panel.press("WinShortcut")
+    panel.press("Shortcut")
     dialog = Window(TITLE)
     assert dialog.field(APPLICATION).text == f'"{source.removesuffix(".java")}.class"', dialog.field(APPLICATION).text
     folder = os.path.join(scratch.work, "short cuts")

@@ -62,7 +62,7 @@ def test_every_button_of_the_file_view_can_be_pressed(scratch):
     for label in ("New", "Browse", "Edit", "javac", "jdb debug", "java", "Settings", "Projectview", "Exit"):
         assert panel.control(label).enabled, label
     panel.control("Utilities").click()
-    for label in ("jar", "javadoc", "WinShortcut"):
+    for label in ("jar", "javadoc", "Shortcut"):
         assert panel.control(label).enabled, label
 
 

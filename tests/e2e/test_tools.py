@@ -166,7 +166,7 @@ def test_without_any_editor_our_own_shows_the_log(scratch):
     panel.write(world.quoted(source))
     panel.press("javac")
     log = wait_until("the editor's window", lambda: next(
-        (one for one in person.look() if one.name.endswith("- Tarnwick Notepad")), None))
+        (one for one in person.look() if one.name.endswith("- Tarnwick text editor")), None))
     assert log.name.startswith("Tarnwick_LOG"), log.name
     text = wait_until("the log", lambda: next((one.text for one in Window(log.name).controls() if "incompatible types" in one.text), None))
     assert "Broken.java:6: error: incompatible types: int cannot be converted to String" in text

@@ -67,7 +67,7 @@ std::string withoutComments(const std::string& text) {
 Source readSource(const std::string& name, const std::string& content) {
   static const std::regex directive(R"(^\s*#\s*([a-z]+)\s*(.*?)\s*$)");
   static const std::regex include(R"re(^(?:"([^"]*)"|<([^>]*)>))re");
-  static const std::regex box(R"((?:\.|->)\s*(?:message|askYesNo|askOkCancel)\s*\()");
+  static const std::regex box(R"((?:\.|->)\s*(?:message|hint|askYesNo|askOkCancel)\s*\()");
   Source source;
   const auto slash = name.find('/');
   if (slash != std::string::npos) source.folder = name.substr(0, slash);

@@ -15,6 +15,7 @@ class QuietDesktop : public Desktop {
   std::vector<std::string> messages;
 
   void message(const std::string& text) override { messages.push_back(text); }
+  void hint(const std::string& text) override { messages.push_back(text); }
   bool askOkCancel(const std::string& /*text*/) override { return false; }
   bool askYesNo(const std::string& /*text*/) override { return false; }
   void alert(AlertSound /*sound*/) override {}

@@ -19,6 +19,7 @@ namespace tarnwick::test {
 class RecordingDesktop : public Desktop {
  public:
   std::vector<std::string> messages;
+  std::vector<std::string> hints;
   std::vector<AlertSound> alerts;
   std::deque<std::optional<std::string>> saveAnswers;
   std::vector<FileRequest> saveRequests;
@@ -62,6 +63,7 @@ class RecordingDesktop : public Desktop {
   bool timersWork = true;
 
   void message(const std::string& text) override { messages.push_back(text); }
+  void hint(const std::string& text) override { hints.push_back(text); }
   bool askOkCancel(const std::string& text) override { return unexpected(text); }
   bool askYesNo(const std::string& text) override {
     if (yesNoAnswers.empty()) return unexpected(text);

@@ -243,6 +243,10 @@ ScriptedDesktop::~ScriptedDesktop() {
 void ScriptedDesktop::expectMessage(const std::string& text) {
   steps_.push_back({"message", text, {}, false, {}});
 }
+
+void ScriptedDesktop::expectHint(const std::string& text) {
+  steps_.push_back({"hint", text, {}, false, {}});
+}
 void ScriptedDesktop::expectQuestion(const std::string& text, bool answer) {
   steps_.push_back({"question", text, {}, answer, {}});
 }
@@ -279,6 +283,10 @@ std::optional<ScriptedDesktop::Step> ScriptedDesktop::take(const std::string& ki
 
 void ScriptedDesktop::message(const std::string& text) {
   take("message", text);
+}
+
+void ScriptedDesktop::hint(const std::string& text) {
+  take("hint", text);
 }
 
 bool ScriptedDesktop::ask(const std::string& text) {

@@ -165,6 +165,7 @@ class ScriptedDesktop : public Desktop {
   bool left = false;
 
   void expectMessage(const std::string& text);
+  void expectHint(const std::string& text);
   void expectQuestion(const std::string& text, bool answer);
   void expectOpenFile(std::optional<std::string> answer);
   /// For several; none stands for Cancel.
@@ -196,6 +197,7 @@ class ScriptedDesktop : public Desktop {
   void holdControlKey(bool held) { controlKey_ = held; }
 
   void message(const std::string& text) override;
+  void hint(const std::string& text) override;
   bool askOkCancel(const std::string& text) override { return ask(text); }
   bool askYesNo(const std::string& text) override { return ask(text); }
   void alert(AlertSound sound) override { alerts_.push_back(sound); }
@@ -220,7 +222,7 @@ class ScriptedDesktop : public Desktop {
 
  private:
   struct Step {
-    std::string kind;  ///< "message", "question", "open", "several", "save", "folder", "dialog", "main"
+    std::string kind;  ///< "message", "hint", "question", "open", "several", "save", "folder", "dialog", "main"
     std::string text;
     std::optional<std::string> answer;
     bool yes = false;

@@ -7,28 +7,6 @@
 
 namespace tarnwick::platform {
 
-namespace {
-
-void replaceAll(std::string& text, const std::string& from, const std::string& to) {
-  for (auto at = text.find(from); at != std::string::npos; at = text.find(from, at + to.size()))
-    text.replace(at, from.size(), to);
-}
-
-/// Drops each ".exe", and one blank with it where it stands as a word of its own.
-void dropExe(std::string& text) {
-  const std::string exe = ".exe";
-  for (auto at = text.find(exe); at != std::string::npos; at = text.find(exe, at)) {
-    text.erase(at, exe.size());
-    const bool blankBefore = at == 0 || text[at - 1] == ' ';
-    if (blankBefore && at < text.size() && text[at] == ' ')
-      text.erase(at, 1);
-    else if (blankBefore && at > 0 && at == text.size())
-      text.erase(at - 1, 1);
-  }
-}
-
-}  // namespace
-
 const char folderSeparator = '/';
 const char brokenBar[] = "\xC2\xA6";
 
@@ -50,13 +28,6 @@ bool endsInSeparator(const std::string& path) {
 
 std::string toolFileName(const std::string& tool) {
   return tool == "javaw" ? "java" : tool;
-}
-
-std::string localText(const std::string& text) {
-  std::string local = text;
-  replaceAll(local, "javaw.exe", "java");
-  dropExe(local);
-  return local;
 }
 
 bool sameFileName(const std::string& left, const std::string& right) {

@@ -2,6 +2,10 @@
 
 namespace tarnwick::platform {
 
+bool isWindowsDesktop() {
+  return false;
+}
+
 bool isWindows98() {
   return false;
 }

@@ -62,10 +62,6 @@ std::string toolFileName(const std::string& tool) {
   return tool + ".exe";
 }
 
-std::string localText(const std::string& text) {
-  return text;
-}
-
 bool sameFileName(const std::string& left, const std::string& right) {
   return upperCaseName(left) == upperCaseName(right);
 }

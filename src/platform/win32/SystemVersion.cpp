@@ -4,6 +4,10 @@
 
 namespace tarnwick::platform {
 
+bool isWindowsDesktop() {
+  return true;
+}
+
 bool isWindows98() {
   return tellsOfWindows98(HKEY_LOCAL_MACHINE, {"Software", "Microsoft", "Windows", "CurrentVersion"});
 }

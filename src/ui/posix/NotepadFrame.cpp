@@ -6,6 +6,7 @@
 #include "ui/FileDialogs.h"
 #include "ui/Icons.h"
 #include "ui/MessageBoxes.h"
+#include "ui/MessageLooks.h"
 #include "ui/Text.h"
 
 #include <wx/app.h>
@@ -35,7 +36,7 @@ std::string utf8Of(const wxString& text) {
 }  // namespace
 
 NotepadFrame::NotepadFrame()
-    : frame_(new wxFrame(nullptr, wxID_ANY, "Tarnwick Notepad")),
+    : frame_(new wxFrame(nullptr, wxID_ANY, "Tarnwick text editor")),
       text_(new wxTextCtrl(frame_, wxID_ANY, "", wxDefaultPosition, wxDefaultSize,
                            wxTE_MULTILINE | wxTE_DONTWRAP | wxTE_NOHIDESEL | wxTE_PROCESS_TAB)) {
   frame_->SetIcons(programIcons());
@@ -141,7 +142,7 @@ void NotepadFrame::open(const std::string& path) {
     file_.load(platform::absolutePath(path));
     take();
   } catch (const Tarnwickfile::FileNotOpenE& failure) {
-    showMessage(stack_, "Can't open " + failure.file + "\n" + failure.message, MessageKind::Ok);
+    showMessage(stack_, "Can't open " + failure.file + "\n" + failure.message, MessageKind::Fault);
   }
 }
 
@@ -170,7 +171,7 @@ void NotepadFrame::setModified(bool on) {
 }
 
 void NotepadFrame::updateTitle() {
-  frame_->SetTitle(toWx((modified_ ? "*" : "") + shownName() + " - Tarnwick Notepad"));
+  frame_->SetTitle(toWx((modified_ ? "*" : "") + shownName() + " - Tarnwick text editor"));
 }
 
 bool NotepadFrame::ask(const std::string& question) {
@@ -194,7 +195,7 @@ bool NotepadFrame::saveTo(const std::string& path) {
   try {
     file_.save(path, *bytes);
   } catch (const Tarnwickfile::FileNotOpenE& failure) {
-    showMessage(stack_, "Can't save " + failure.file + "\n" + failure.message, MessageKind::Ok);
+    showMessage(stack_, "Can't save " + failure.file + "\n" + failure.message, MessageKind::Fault);
     return false;
   }
   setModified(false);
@@ -223,9 +224,10 @@ bool NotepadFrame::saveAs() {
 bool NotepadFrame::changesMayGo() {
   if (!modified_) return true;
   wxMessageDialog box(stack_.parent(), toWx("Do you want to save the changes to " + shownName() + "?"),
-                      "Tarnwick Notepad", wxYES_NO | wxCANCEL | wxICON_QUESTION | wxCENTRE);
+                      "Tarnwick text editor", wxYES_NO | wxCANCEL | wxICON_QUESTION | wxCENTRE);
   box.SetYesNoCancelLabels("&Save", "&Don't save", "&Cancel");
   const WindowStack::Place place(stack_, nullptr);
+  const MessageLooks looks;
   const int answer = box.ShowModal();
   if (answer == wxID_YES) return save();
   return answer == wxID_NO;
@@ -277,7 +279,7 @@ void NotepadFrame::find(const wxString& words, bool forward, bool matchCase) {
     if (found == wxString::npos) found = text.rfind(wanted);
   }
   if (words.empty() || found == wxString::npos) {
-    showMessage(stack_, "Can't find \"" + fromWx(words) + '"', MessageKind::Ok);
+    showMessage(stack_, "Can't find \"" + fromWx(words) + '"', MessageKind::Hint);
     return;
   }
   const auto at = static_cast<long>(found);

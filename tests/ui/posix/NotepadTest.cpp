@@ -80,7 +80,7 @@ class NotepadTest : public WindowTest {
 TEST_F(NotepadTest, ShowsAFileInAFixedPitchFont) {
   waitForWindow();
   steps.then("look", [this] {
-    EXPECT_EQ(title(), "x.txt - Tarnwick Notepad");
+    EXPECT_EQ(title(), "x.txt - Tarnwick text editor");
     EXPECT_EQ(ui::fromWx(notepad.text().GetValue()), "\n\njavac -d . A.java\n\nA.java:3: error: \xC3\xA4\n");
     EXPECT_TRUE(notepad.text().GetFont().IsFixedWidth());
     EXPECT_EQ(notepad.text().GetTextExtent("iiii"), notepad.text().GetTextExtent("WWWW"));
@@ -120,9 +120,9 @@ TEST_F(NotepadTest, BeginsAtTheLineAndColumnThatItIsGiven) {
 TEST_F(NotepadTest, WhatIsTypedIsSavedByItsKey) {
   waitForWindow();
   steps.then("type", [this] { typeAtTheEnd("b"); });
-  steps.then("look", [this] { EXPECT_EQ(title(), "*x.txt - Tarnwick Notepad"); });
+  steps.then("look", [this] { EXPECT_EQ(title(), "*x.txt - Tarnwick text editor"); });
   steps.then("save", [] { key('S', wxMOD_CONTROL); });
-  steps.until("saved", [this] { return title() == "x.txt - Tarnwick Notepad"; });
+  steps.until("saved", [this] { return title() == "x.txt - Tarnwick text editor"; });
   thenClose();
   notepad.run({file("a\r\n")});
   EXPECT_EQ(contentOf(folder.file("x.txt")), "a\r\nb");
@@ -191,7 +191,7 @@ TEST_F(NotepadTest, AFailedSaveIsToldAndKeepsTheWindowWithItsText) {
     EXPECT_EQ(answers.shown, (Texts{"Do you want to save the changes to x.txt?",
                                     "Can't save " + folder.file("x.txt") + "\nIs a directory"}));
     EXPECT_EQ(notepad.text().GetValue(), "ab");
-    EXPECT_EQ(title(), "*x.txt - Tarnwick Notepad");
+    EXPECT_EQ(title(), "*x.txt - Tarnwick text editor");
     ::rmdir(folder.file("x.txt").c_str());
   });
   steps.then("now it can", [this] {
@@ -239,13 +239,13 @@ TEST_F(NotepadTest, ALetterThatTheCharacterSetLacksIsAskedAbout) {
 TEST_F(NotepadTest, ATextWithoutANameAsksForOne) {
   waitForWindow();
   steps.then("save", [this] {
-    EXPECT_EQ(title(), "Untitled - Tarnwick Notepad");
+    EXPECT_EQ(title(), "Untitled - Tarnwick text editor");
     typeAtTheEnd("new\n");
     answers.answers = {wxID_CANCEL};
     EXPECT_FALSE(notepad.save());
-    EXPECT_EQ(title(), "*Untitled - Tarnwick Notepad");
+    EXPECT_EQ(title(), "*Untitled - Tarnwick text editor");
     EXPECT_TRUE(notepad.saveTo(folder.file("new.txt")));
-    EXPECT_EQ(title(), "new.txt - Tarnwick Notepad");
+    EXPECT_EQ(title(), "new.txt - Tarnwick text editor");
   });
   thenClose();
   notepad.run({""});
@@ -264,7 +264,7 @@ TEST_F(NotepadTest, AnotherFileMayBeOpenedAfterTheQuestion) {
     answers.answers = {wxID_NO};
     notepad.open(folder.file("y.txt"));
     EXPECT_EQ(notepad.text().GetValue(), "other");
-    EXPECT_EQ(title(), "y.txt - Tarnwick Notepad");
+    EXPECT_EQ(title(), "y.txt - Tarnwick text editor");
   });
   steps.then("the file dialog opens by its key", [this] {
     answers.answers = {wxID_CANCEL};
@@ -281,7 +281,7 @@ TEST_F(NotepadTest, AFileThatCannotBeReadIsTold) {
   waitForWindow();
   steps.then("look", [this] {
     EXPECT_EQ(answers.shown, Texts{"Can't open " + folder.path() + "\nIs a directory"});
-    EXPECT_EQ(title(), "Untitled - Tarnwick Notepad");
+    EXPECT_EQ(title(), "Untitled - Tarnwick text editor");
   });
   thenClose();
   notepad.run({folder.path()});

@@ -97,7 +97,7 @@ TEST_F(CompileFirstTest, AProjectCompilesWhatHasChangedSince) {
   startWith(makeRunnable(), [&](ScriptedWindow& panel) {
     makeStale("Main");
     // The stand-in leaves the class as it is.
-    desktop_.expectMessage("Not all classes are up-to-date. Compile!");
+    desktop_.expectHint("Not all classes are up-to-date. Compile!");
     run(panel);
     EXPECT_TRUE(compiled("Main"));
     exit(panel);

@@ -80,7 +80,7 @@ TEST_F(ConsoleFindTest, HitsAreMarkedSelectedAndBroughtIntoView) {
 
 TEST_F(ConsoleFindTest, WhatIsNotThereIsTold) {
   lookFor("nowhere");
-  desktop_.expectMessage("There is no \"nowhere\" in the console.");
+  desktop_.expectHint("There is no \"nowhere\" in the console.");
   frame_->onCommand(COMMAND_FIND);
   EXPECT_EQ(selected(), "(none)");
 }

@@ -83,7 +83,7 @@ TEST_F(ConsoleTraceTest, WithoutAnEditorTheUserIsToldWhereToChooseOne) {
   settings().editorTarget = "";
   make(packageFolder("."));
   open();
-  desktop_.expectMessage("Choose the editor for your sources in Tarnwick's settings first");
+  desktop_.expectHint("Choose the editor for your sources in Tarnwick's settings first");
   click();
   expectNoEditor();
 }

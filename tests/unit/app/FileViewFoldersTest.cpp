@@ -25,7 +25,7 @@ class FileViewFoldersTest : public PanelFixture {
     runPanel([&](ScriptedWindow&, ScriptedWindow& panel) {
       panel.type(SOURCE, typed);
       desktop_.expectOpenFile(std::nullopt);
-      if (button == JAVAC) desktop_.expectMessage("No .java file known.");
+      if (button == JAVAC) desktop_.expectHint("No .java file known.");
       panel.press(button);
       exit(panel);
     });
@@ -68,7 +68,7 @@ TEST_F(FileViewFoldersTest, EditAndJavaAskThereToo) {
       panel.choose(TABS, tab);
       panel.page(TABS, tab).type(FIELD, quoted(userFolder() + "Gone"));
       desktop_.expectOpenFile(std::nullopt);
-      desktop_.expectMessage(tab == 0 ? "No known .class file" : "no htm* file known");
+      desktop_.expectHint(tab == 0 ? "No known .class file" : "no htm* file known");
       panel.page(TABS, tab).press(RIGHT);
       exit(panel);
     });

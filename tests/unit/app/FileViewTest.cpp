@@ -1,6 +1,7 @@
 #include "PanelFixture.h"
 #include "app/FileView.h"
 #include "support/BrokenTool.h"
+#include "support/SystemWords.h"
 
 #include <algorithm>
 #include <chrono>
@@ -30,8 +31,9 @@ TEST_F(FileViewTest, ShowsItsLabelsAndToolTips) {
   saveEarlierRun();
   runPanel([](ScriptedWindow&, ScriptedWindow& panel) {
     EXPECT_EQ(panel.tabLabels(TABS), (std::vector<std::string>{" Main program ", "  Applet  ", "  Utilities  "}));
-    const char* const labels[3][3] = {
-        {"Browse", "jdb debug", "java"}, {"Browse", "appletdebug", "appletviewer"}, {"jar", "javadoc", "WinShortcut"}};
+    const char* const labels[3][3] = {{"Browse", "jdb debug", "java"},
+                                      {"Browse", "appletdebug", "appletviewer"},
+                                      {"jar", "javadoc", said("WinShortcut", "Shortcut")}};
     for (int tab = 0; tab < 3; ++tab) {
       EXPECT_EQ(panel.page(TABS, tab).text(LEFT), labels[tab][0]);
       EXPECT_EQ(panel.page(TABS, tab).text(MIDDLE), labels[tab][1]);
@@ -183,7 +185,8 @@ TEST_F(FileViewTest, AnUnknownToolsFolderIsAskedForAndThenTold) {
   runPanel([&](ScriptedWindow&, ScriptedWindow& panel) {
     panel.type(SOURCE, quoted(source));
     desktop_.expectDialog("Tarnwick settings", [](ScriptedWindow& window) { window.press(IDCANCEL_CONTROL); });
-    desktop_.expectMessage(platform::localText("No path to javac.exe and other tools available from settings"));
+    desktop_.expectMessage(said("No path to javac.exe and other tools available from settings",
+                                "No path to javac and other tools available from settings"));
     panel.press(JAVAC);
     exit(panel);
   });
@@ -251,7 +254,7 @@ TEST_F(FileViewTest, NoSourceGivenIsTold) {
   saveEarlierRun();
   runPanel([&](ScriptedWindow&, ScriptedWindow& panel) {
     desktop_.expectOpenFile(std::nullopt);
-    desktop_.expectMessage("No .java file known.");
+    desktop_.expectHint("No .java file known.");
     panel.press(JAVAC);
     exit(panel);
   });
@@ -326,7 +329,7 @@ TEST_F(FileViewTest, CancelInTheFileDialogOfJavaIsTold) {
   saveEarlierRun();
   runPanel([&](ScriptedWindow&, ScriptedWindow& panel) {
     desktop_.expectOpenFile(std::nullopt);
-    desktop_.expectMessage("No known .class file");
+    desktop_.expectHint("No known .class file");
     panel.page(TABS, 0).press(RIGHT);
     exit(panel);
   });
@@ -394,7 +397,7 @@ TEST_F(FileViewTest, TheFileDialogIsGivenAWholePath) {
   runPanel([&](ScriptedWindow&, ScriptedWindow& panel) {
     panel.type(SOURCE, quoted("us er"));
     desktop_.expectOpenFile(std::nullopt);
-    desktop_.expectMessage("No .java file known.");
+    desktop_.expectHint("No .java file known.");
     panel.press(JAVAC);
     EXPECT_EQ(desktop_.lastRequest().startFolder, whole);
     // The search for a folder has entered it.
@@ -527,7 +530,7 @@ TEST_F(FileViewTest, NoClassForJdbIsTold) {
   saveEarlierRun();
   runPanel([&](ScriptedWindow&, ScriptedWindow& panel) {
     desktop_.expectOpenFile(std::nullopt);
-    desktop_.expectMessage("No known .class file");
+    desktop_.expectHint("No known .class file");
     panel.page(TABS, 0).press(MIDDLE);
     exit(panel);
   });
@@ -569,7 +572,7 @@ TEST_F(FileViewTest, NoHtmlFileIsTold) {
   runPanel([&](ScriptedWindow&, ScriptedWindow& panel) {
     for (const int button : {MIDDLE, RIGHT}) {
       desktop_.expectOpenFile(std::nullopt);
-      desktop_.expectMessage("no htm* file known");
+      desktop_.expectHint("no htm* file known");
       panel.page(TABS, 1).press(button);
     }
     EXPECT_EQ(desktop_.lastRequest().filter, "htm* files|*.htm*||");

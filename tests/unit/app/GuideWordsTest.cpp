@@ -1,20 +1,8 @@
 // The user's guide explains whatever can be pressed, marked or chosen.
-#include "app/ChooseSourceDlg.h"
-#include "console/FindDlg.h"
-#include "dialogs/JarLayout.h"
-#include "dialogs/JavadocLayout.h"
-#include "dialogs/ShortcutLayout.h"
-#include "resources/AddPathLayout.h"
-#include "resources/DialogLayout.h"
-#include "resources/HelpLayouts.h"
 #include "resources/Menu.h"
-#include "resources/PanelLayouts.h"
-#include "resources/ProjectLayouts.h"
-#include "resources/SourceLayouts.h"
-#include "resources/TemplateLayouts.h"
+#include "resources/SystemWords.h"
 #include "resources/Toolbar.h"
-#include "settingsdialog/SettingsLayouts.h"
-#include "settingsdialog/SettingsPageLayouts.h"
+#include "support/AllLayouts.h"
 #include "support/CheckoutFolder.h"
 #include "support/TestProgram.h"
 
@@ -54,6 +42,14 @@ std::string inGuide(std::string label) {
   return label;
 }
 
+/// The label, and what stands in its place on the other system.
+std::vector<std::string> onBothSystems(const std::string& label) {
+  for (const auto& pair : wordPairs()) {
+    if (pair.onWindows == label || pair.elsewhere == label) return {pair.onWindows, pair.elsewhere};
+  }
+  return {label};
+}
+
 void expectExplained(const DialogItem& item, const std::string& guide) {
   // Two buttons bear these for a moment only, until both views are there and the dialog's rules have been asked.
   if (item.text == "Switch view" || item.text == "Create shortcuts") return;
@@ -62,48 +58,15 @@ void expectExplained(const DialogItem& item, const std::string& guide) {
   // The sign on one button belongs to the system's character set.
   const bool plain = std::all_of(item.text.begin(), item.text.end(), [](unsigned char c) { return c < 128; });
   if (answers && plain) {
-    EXPECT_NE(guide.find(inGuide(item.text)), std::string::npos) << item.text;
+    for (const auto& label : onBothSystems(item.text))
+      EXPECT_NE(guide.find(inGuide(label)), std::string::npos) << label;
   }
   for (const auto& child : item.children) expectExplained(child, guide);
 }
 
 TEST(GuideWordsTest, ItNamesEveryButtonAndMark) {
   const std::string guide = wordsOfGuide();
-  for (const auto* layout : {&fileViewLayout(),
-                             &projectViewLayout(),
-                             &selectProjectLayout(),
-                             &projectFilesLayout(),
-                             &mainClassLayout(),
-                             &verticalBarLayout(),
-                             &horizontalBarLayout(),
-                             &flatBarLayout(),
-                             &settingsLayout(),
-                             &toolsPageLayout(),
-                             &javacPageLayout(),
-                             &javaPageLayout(),
-                             &jdbPageLayout(),
-                             &appletviewerPageLayout(),
-                             &editorPageLayout(),
-                             &pathsPageLayout(),
-                             &alternateLocationLayout(),
-                             &addPathLayout(),
-                             &addTemplateLayout(),
-                             &findLayout(),
-                             &chooseSourceLayout(),
-                             &newSourceLayout(NewSourceMode::NothingToEdit),
-                             &portabilityWarningLayout(),
-                             &jarLayout(),
-                             &selectSubdirectoryLayout(),
-                             &javadocLayout(),
-                             &javadocSourcesLayout(),
-                             &javadocPathsLayout(),
-                             &javadocOptionsLayout(),
-                             &docletPathsLayout(),
-                             &docletOptionsLayout(),
-                             &shortcutLayout(),
-                             &helpFileLayout(),
-                             &welcomeLayout(),
-                             &aboutLayout()}) {
+  for (const auto* layout : allLayouts()) {
     SCOPED_TRACE(layout->resource);
     expectExplained(layout->content, guide);
   }

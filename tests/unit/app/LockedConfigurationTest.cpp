@@ -1,5 +1,6 @@
 // A configuration that can't be written or read as it should never locks the user out of the panel.
 #include "PanelFixture.h"
+#include "support/SystemWords.h"
 
 #include <filesystem>
 
@@ -82,10 +83,10 @@ TEST_F(LockedConfigurationTest, AnotherFolderHoldsForTheWholeRun) {
       desktop_.expectBrowseFolder(other);
       dialog.press(1164);
     });
-    desktop_.expectMessage("The following environment variable definition has been created:\n\nTARNWICK_CFGDIR=\"" +
-                           other +
-                           "\"\n\nThis definition remains effective until you terminate Tarnwick."
-                           "\nUpdate your system's environment settings or AUTOEXEC.BAT\nfor a permanent definition!");
+    desktop_.expectHint("The following environment variable definition has been created:\n\nTARNWICK_CFGDIR=\"" +
+                        other + "\"\n\nThis definition remains effective until you terminate Tarnwick." +
+                        said("\nUpdate your system's environment settings or AUTOEXEC.BAT\nfor a permanent definition!",
+                             "\nAdd it to the file .profile in your home folder\nfor a permanent definition!"));
     window.press(IDOK_CONTROL);
   });
   runPanel([&](ScriptedWindow&, ScriptedWindow& panel) {
@@ -110,10 +111,10 @@ TEST_F(LockedConfigurationTest, AFolderChosenInAnyDialogHoldsForAllOfThem) {
       desktop_.expectBrowseFolder(other);
       dialog.press(1164);
     });
-    desktop_.expectMessage("The following environment variable definition has been created:\n\nTARNWICK_CFGDIR=\"" +
-                           other +
-                           "\"\n\nThis definition remains effective until you terminate Tarnwick."
-                           "\nUpdate your system's environment settings or AUTOEXEC.BAT\nfor a permanent definition!");
+    desktop_.expectHint("The following environment variable definition has been created:\n\nTARNWICK_CFGDIR=\"" +
+                        other + "\"\n\nThis definition remains effective until you terminate Tarnwick." +
+                        said("\nUpdate your system's environment settings or AUTOEXEC.BAT\nfor a permanent definition!",
+                             "\nAdd it to the file .profile in your home folder\nfor a permanent definition!"));
     desktop_.expectDialog("Create new .java/.html file",
                           [](ScriptedWindow& dialog) { dialog.press(IDCANCEL_CONTROL); });
     panel.press(NEW);

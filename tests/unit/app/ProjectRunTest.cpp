@@ -193,11 +193,11 @@ TEST_F(ProjectRunTest, TheRootOfWhatRunsComesFirst) {
 }
 
 TEST_F(ProjectRunTest, WhatIsNotCompiledDoesNotRun) {
-  for (const int button : {MIDDLE, RIGHT}) runStale(0, button, [&] { desktop_.expectMessage(notCompiled); });
+  for (const int button : {MIDDLE, RIGHT}) runStale(0, button, [&] { desktop_.expectHint(notCompiled); });
 }
 
 TEST_F(ProjectRunTest, NeitherDoesItsApplet) {
-  for (const int button : {MIDDLE, RIGHT}) runStale(1, button, [&] { desktop_.expectMessage(notCompiled); });
+  for (const int button : {MIDDLE, RIGHT}) runStale(1, button, [&] { desktop_.expectHint(notCompiled); });
 }
 
 TEST_F(ProjectRunTest, ASecondMainMethodIsToldWhenJavaIsPressed) {
@@ -381,7 +381,7 @@ TEST_F(ProjectRunTest, AProjectWithoutAnHtmlFileHasNoApplet) {
   makeCurrent("A");
   startWith(makeProject("PROJECT_SOURCES  A.java\nPROJECT_HTMLFILE  a.html\n"), [&](ScriptedWindow& panel) {
     project().htmlFile.clear();
-    desktop_.expectMessage("No html file defined for this project.");
+    desktop_.expectHint("No html file defined for this project.");
     panel.page(TABS, APPLET_TAB).press(RIGHT);
     exit(panel);
   });

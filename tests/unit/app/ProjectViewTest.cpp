@@ -1,4 +1,5 @@
 #include "ProjectViewFixture.h"
+#include "support/SystemWords.h"
 
 namespace tarnwick::test {
 namespace {
@@ -38,8 +39,9 @@ TEST_F(ProjectViewTest, ShowsItsLabels) {
     EXPECT_EQ(panel.text(CHANGED), "javac");
     EXPECT_EQ(panel.tabLabels(TABS), (std::vector<std::string>{" Main program ", "  Applet  ", "  Utilities  "}));
     EXPECT_EQ(panel.selection(TABS), 0);
-    const char* const labels[3][3] = {
-        {"Select", "jdb debug", "java"}, {"", "appletdebug", "appletviewer"}, {"jar", "javadoc", "WinShortcut"}};
+    const char* const labels[3][3] = {{"Select", "jdb debug", "java"},
+                                      {"", "appletdebug", "appletviewer"},
+                                      {"jar", "javadoc", said("WinShortcut", "Shortcut")}};
     for (int tab = 0; tab < 3; ++tab) {
       EXPECT_EQ(panel.page(TABS, tab).text(LEFT), labels[tab][0]);
       EXPECT_EQ(panel.page(TABS, tab).text(MIDDLE), labels[tab][1]);

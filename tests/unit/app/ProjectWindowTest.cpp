@@ -133,7 +133,7 @@ TEST_F(ProjectWindowTest, TheAppletSavesAMovedWindowBeforeAnythingCanFail) {
     writeFile(file, "PROJECT_SOURCES  A.java\nPROJECT_HTMLFILE  a.html\n");
     expectMoveSaved(file, [&](ScriptedWindow&, ScriptedWindow& panel) {
       project().htmlFile.clear();
-      desktop_.expectMessage("No html file defined for this project.");
+      desktop_.expectHint("No html file defined for this project.");
       panel.page(TABS, APPLET_TAB).press(button);
     });
     settings().currentProject.reset();

@@ -2,11 +2,12 @@
 #include "ProjectViewFixture.h"
 #include "dialogs/ShortcutLayout.h"
 #include "support/FakeShortcutShell.h"
+#include "support/SystemWords.h"
 
 namespace tarnwick::test {
 namespace {
 
-const char title[] = "Create Windows shortcut to Java application";
+const char* const title = said("Create Windows shortcut to Java application", "Create shortcut to Java application");
 
 class ShortcutButtonTest : public ProjectViewFixture {
  protected:

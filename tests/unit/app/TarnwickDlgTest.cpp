@@ -1,6 +1,7 @@
 #include "PanelFixture.h"
 #include "app/TarnwickDlg.h"
 #include "platform/OwnFiles.h"
+#include "support/SystemWords.h"
 
 namespace tarnwick::test {
 namespace {
@@ -8,11 +9,14 @@ namespace {
 const char firstUse[] =
     "You seem to be using Tarnwick for the first time,\n"
     "as I can't find any data from a previous session.";
-const char lookForJavac[] =
+const char* const lookForJavac = said(
     "Please make sure that you have an installation of a JDK (J2SE) on your system.\n\n"
     "On the next display you will have to tell Tarnwick where the JDK programs are located.\n"
     "Look for a file \"javac.exe\" in a \"bin\" subfolder of the JDK installation tree and\n"
-    "enter it in the field \"Tools .exe directory\".\n";
+    "enter it in the field \"Tools .exe directory\".\n",
+    "Please make sure that you have an installation of a JDK (J2SE) on your system.\n\nOn the next display you will "
+    "have to tell Tarnwick where the JDK programs are located.\nLook for a file \"javac\" in a \"bin\" subfolder of "
+    "the JDK installation tree and\nenter it in the field \"Tools directory\".\n");
 
 class TarnwickDlgTest : public PanelFixture {
  protected:
@@ -36,7 +40,7 @@ class TarnwickDlgTest : public PanelFixture {
 
   /// A start that finds no tools; the user names their folder in the dialog.
   void startWhereADialogNames(const std::string& tools) {
-    expectWelcome(firstUse, platform::localText(lookForJavac));
+    expectWelcome(firstUse, lookForJavac);
     desktop_.expectDialog("Tarnwick settings", [&tools](ScriptedWindow& window) {
       window.page(1092, 0).type(1041, tools);
       window.press(IDOK_CONTROL);
@@ -48,7 +52,7 @@ class TarnwickDlgTest : public PanelFixture {
 TEST_F(TarnwickDlgTest, AFirstUseIsWelcomedAndAskedForTheTools) {
   const ScopedEnvironment javaHome("JAVA_HOME", makeJdk("17.0.2"));
   std::string offered;
-  expectWelcome(firstUse, platform::localText(lookForJavac));
+  expectWelcome(firstUse, lookForJavac);
   desktop_.expectDialog("Tarnwick settings", [&](ScriptedWindow& window) {
     offered = window.page(1092, 0).text(1041);
     window.press(IDOK_CONTROL);
@@ -74,7 +78,7 @@ TEST_F(TarnwickDlgTest, TheVersionForTheWarningsFollowsTheJdkAtTheFirstUse) {
     platform::deleteFile(configFile());
     settings().resetAll();
     const ScopedEnvironment javaHome("JAVA_HOME", makeJdk(row.release));
-    expectWelcome(firstUse, platform::localText(lookForJavac));
+    expectWelcome(firstUse, lookForJavac);
     desktop_.expectDialog("Tarnwick settings", [&row](ScriptedWindow& window) {
       EXPECT_EQ(window.page(1092, 1).selection(1269), std::string(row.version) == "1.5" ? 2 : 0) << row.release;
       window.press(IDOK_CONTROL);
@@ -93,7 +97,7 @@ TEST_F(TarnwickDlgTest, FromVersion5OnTodaysJavaIsReadAtTheFirstUse) {
     platform::deleteFile(configFile());
     settings().resetAll();
     const ScopedEnvironment javaHome("JAVA_HOME", makeJdk(row.release));
-    expectWelcome(firstUse, platform::localText(lookForJavac));
+    expectWelcome(firstUse, lookForJavac);
     desktop_.expectDialog("Tarnwick settings", [&row](ScriptedWindow& window) {
       for (const int control : {2101, 2102}) EXPECT_EQ(window.page(1092, 1).checked(control), row.newer) << row.release;
       EXPECT_EQ(window.page(1092, 2).checked(2131), row.newer) << row.release;
@@ -117,7 +121,7 @@ TEST_F(TarnwickDlgTest, AWayOfReadingThatTheUserChoosesStays) {
     settings().resetAll();
     const ScopedEnvironment javaHome("JAVA_HOME", makeJdk("17"));
     const std::string other = Filename(makeJdk("25", "other"), "bin").fullName();
-    expectWelcome(firstUse, platform::localText(lookForJavac));
+    expectWelcome(firstUse, lookForJavac);
     desktop_.expectDialog("Tarnwick settings", [&](ScriptedWindow& window) {
       window.page(1092, 0).type(1041, other);
       window.page(1092, refused == 2131 ? 2 : refused == 2120 ? 0 : 1).press(refused);
@@ -138,7 +142,7 @@ TEST_F(TarnwickDlgTest, AVersionForTheWarningsThatTheUserChoosesStays) {
   const ScopedEnvironment javaHome("JAVA_HOME", "");
   const ScopedEnvironment path("PATH", scratch_.path());
   const std::string tools = Filename(makeJdk("25"), "bin").fullName();
-  expectWelcome(firstUse, platform::localText(lookForJavac));
+  expectWelcome(firstUse, lookForJavac);
   desktop_.expectDialog("Tarnwick settings", [&tools](ScriptedWindow& window) {
     window.page(1092, 0).type(1041, tools);
     window.page(1092, 1).choose(1269, 1);
@@ -153,7 +157,7 @@ TEST_F(TarnwickDlgTest, AnExistingConfigurationKeepsItsVersionForTheWarnings) {
   saveEarlierRun([](Settings& earlier) { earlier.javacMyJdkVersion = "Pre-1.4"; });
   writeFile(configFile(), contentOf(configFile()) + "SOMETHING  new\n");
   const ScopedEnvironment javaHome("JAVA_HOME", makeJdk("25"));
-  expectWelcome(firstUse, platform::localText(lookForJavac));
+  expectWelcome(firstUse, lookForJavac);
   desktop_.expectDialog("Tarnwick settings", [](ScriptedWindow& window) { window.press(IDOK_CONTROL); });
   runPanel([](ScriptedWindow&, ScriptedWindow& panel) { exit(panel); });
   EXPECT_EQ(saved("JAVAC_MY_JDKVERSION"), "Pre-1.4");
@@ -162,7 +166,7 @@ TEST_F(TarnwickDlgTest, AnExistingConfigurationKeepsItsVersionForTheWarnings) {
 
 TEST_F(TarnwickDlgTest, AnOlderJdkKeepsStrictChecks) {
   const ScopedEnvironment javaHome("JAVA_HOME", makeJdk("1.8.0_302"));
-  expectWelcome(firstUse, platform::localText(lookForJavac));
+  expectWelcome(firstUse, lookForJavac);
   desktop_.expectDialog("Tarnwick settings", [](ScriptedWindow& window) { window.press(IDOK_CONTROL); });
   runPanel([](ScriptedWindow&, ScriptedWindow& panel) { exit(panel); });
   EXPECT_TRUE(settings().javaXfuture);
@@ -190,7 +194,7 @@ TEST_F(TarnwickDlgTest, StrictChecksThatTheUserChoosesStay) {
     settings().resetAll();
     settings().javaPath.clear();
     const ScopedEnvironment javaHome("JAVA_HOME", makeJdk("25"));
-    expectWelcome(firstUse, platform::localText(lookForJavac));
+    expectWelcome(firstUse, lookForJavac);
     desktop_.expectDialog("Tarnwick settings", [&](ScriptedWindow& window) {
       if (withAnotherJdk) window.page(1092, 0).type(1041, other);
       window.page(1092, 2).press(1123);
@@ -224,7 +228,7 @@ TEST_F(TarnwickDlgTest, PiecesThatAKilledCompilationHasLeftAreClearedAtTheStart)
 TEST_F(TarnwickDlgTest, TheConfigurationIsSavedWhateverTheDialogsOutcome) {
   const ScopedEnvironment javaHome("JAVA_HOME", "");
   const ScopedEnvironment path("PATH", scratch_.path());
-  expectWelcome(firstUse, platform::localText(lookForJavac));
+  expectWelcome(firstUse, lookForJavac);
   desktop_.expectDialog("Tarnwick settings", [](ScriptedWindow& window) {
     EXPECT_EQ(window.page(1092, 0).text(1041), "") << "nothing found leaves the field empty";
     window.press(IDCANCEL_CONTROL);
@@ -236,7 +240,7 @@ TEST_F(TarnwickDlgTest, TheConfigurationIsSavedWhateverTheDialogsOutcome) {
 TEST_F(TarnwickDlgTest, OneUnknownTagCountsAsAFirstUseUntilItIsSavedAway) {
   saveEarlierRun();
   writeFile(configFile(), contentOf(configFile()) + "SOMETHING  new\n");
-  expectWelcome(firstUse, platform::localText(lookForJavac));
+  expectWelcome(firstUse, lookForJavac);
   desktop_.expectDialog("Tarnwick settings", [](ScriptedWindow& window) {
     EXPECT_EQ(window.page(1092, 0).text(1041), standInFolder()) << "a known folder is not replaced";
     window.press(IDCANCEL_CONTROL);
@@ -250,7 +254,7 @@ TEST_F(TarnwickDlgTest, ABadOrMissingValueCountsAsAFirstUseToo) {
   for (const char* row : {"FILEVIEW_TAB  12x\n", "FILEVIEW_TAB\n"}) {
     saveEarlierRun();
     writeFile(configFile(), contentOf(configFile()) + row);
-    expectWelcome(firstUse, platform::localText(lookForJavac));
+    expectWelcome(firstUse, lookForJavac);
     desktop_.expectDialog("Tarnwick settings", [](ScriptedWindow& window) { window.press(IDCANCEL_CONTROL); });
     runPanel([](ScriptedWindow&, ScriptedWindow& panel) { exit(panel); });
     // What was saved then is whole: the next start asks nothing.
@@ -270,7 +274,7 @@ TEST_F(TarnwickDlgTest, AConfigurationThatIsThereTakesAFoundJdkOnlyWithOk) {
       earlier.javaXfuture = true;
     });
     writeFile(configFile(), contentOf(configFile()) + "SOMETHING  new\n");
-    expectWelcome(firstUse, platform::localText(lookForJavac));
+    expectWelcome(firstUse, lookForJavac);
     desktop_.expectDialog("Tarnwick settings", [&](ScriptedWindow& window) {
       EXPECT_EQ(window.page(1092, 0).text(1041), found) << "it is offered";
       window.press(end);
@@ -293,7 +297,7 @@ TEST_F(TarnwickDlgTest, FromVersion13OnStrictChecksAreSwitchedOff) {
     const std::string home = makeJdk(version);
     const std::string tools = Filename(home, "bin").fullName() + platform::folderSeparator;
     const ScopedEnvironment javaHome("JAVA_HOME", home);
-    expectWelcome(firstUse, platform::localText(lookForJavac));
+    expectWelcome(firstUse, lookForJavac);
     desktop_.expectDialog("Tarnwick settings", [expected = strict](ScriptedWindow& window) {
       EXPECT_EQ(window.page(1092, 2).checked(1123), expected == 1) << "the dialog shows it";
       window.press(IDCANCEL_CONTROL);
@@ -307,7 +311,7 @@ TEST_F(TarnwickDlgTest, FromVersion13OnStrictChecksAreSwitchedOff) {
 TEST_F(TarnwickDlgTest, TheSettingsOpenOnTheirFirstPage) {
   const ScopedEnvironment javaHome("JAVA_HOME", "");
   const ScopedEnvironment path("PATH", scratch_.path());
-  expectWelcome(firstUse, platform::localText(lookForJavac));
+  expectWelcome(firstUse, lookForJavac);
   desktop_.expectDialog("Tarnwick settings", [](ScriptedWindow& window) {
     EXPECT_EQ(window.selection(1092), 0);
     window.press(IDCANCEL_CONTROL);

@@ -24,12 +24,12 @@ TEST_F(UnusableNameTest, WhatTheMatterIsIsToldBeforeTheUserIsAskedForAnother) {
     panel.type(SOURCE, source);
     desktop_.expectMessage(refusal(source));
     desktop_.expectOpenFile(std::nullopt);
-    desktop_.expectMessage("No .java file known.");
+    desktop_.expectHint("No .java file known.");
     panel.press(JAVAC);
     panel.page(TABS, 0).type(FIELD, classFile + " one");
     desktop_.expectMessage(refusal(classFile));
     desktop_.expectOpenFile(std::nullopt);
-    desktop_.expectMessage("No known .class file");
+    desktop_.expectHint("No known .class file");
     panel.page(TABS, 0).press(RIGHT);
     exit(panel);
   });
@@ -48,7 +48,7 @@ TEST_F(UnusableNameTest, OfAFileThatIsSimplyNotThereNothingIsTold) {
   runPanel([&](ScriptedWindow&, ScriptedWindow& panel) {
     panel.type(SOURCE, quoted(userFolder() + "Gone.java"));
     desktop_.expectOpenFile(std::nullopt);
-    desktop_.expectMessage("No .java file known.");
+    desktop_.expectHint("No .java file known.");
     panel.press(JAVAC);
     exit(panel);
   });

@@ -273,7 +273,7 @@ TEST_F(ConsoleWindowSearchTest, AWindowThatCannotBeToldToCloseIsLeftToTheUser) {
   findConsole();
   windows_.at(1).takesClose = false;
   EXPECT_TRUE(search().close());
-  EXPECT_EQ(desktop_.messages, (Texts{"Please close also the console window associated with JDK."}));
+  EXPECT_EQ(desktop_.hints, (Texts{"Please close also the console window associated with JDK."}));
 }
 
 TEST_F(ConsoleWindowSearchTest, NothingIsClosedThatWasNotFoundOrHasGone) {

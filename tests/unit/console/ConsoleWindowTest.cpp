@@ -109,7 +109,7 @@ TEST_F(ConsoleWindowTest, AWindowThatCannotBeClosedIsLeftToTheUser) {
   openFound();
   windows.at(3).takesClose = false;
   view->onClose();
-  EXPECT_EQ(desktop.messages, (std::vector<std::string>{"Please close also the console window associated with JDK."}));
+  EXPECT_EQ(desktop.hints, (std::vector<std::string>{"Please close also the console window associated with JDK."}));
   EXPECT_EQ(child->treesEnded(), 1) << "and what runs in it ends all the same";
 }
 

@@ -38,7 +38,7 @@ TEST_F(JavadocDlgRunTest, WithoutFilesTheDialogEndsAsByCancel) {
   for (const char* files : {"", "   "}) {
     EXPECT_EQ(run([this, files](ScriptedWindow& window) {
                 typeFiles(window, files);
-                desktop_.expectMessage("No input files for javadoc selected.");
+                desktop_.expectHint("No input files for javadoc selected.");
                 window.press(Javadoc::RUN);
               }),
               DIALOG_CANCEL);
@@ -49,7 +49,7 @@ TEST_F(JavadocDlgRunTest, WithoutFilesTheDialogEndsAsByCancel) {
 TEST_F(JavadocDlgRunTest, APackageListAloneIsNotEnough) {
   EXPECT_EQ(run([this](ScriptedWindow& window) {
               page(window, JAVADOC_SOURCES_PAGE).type(JavadocSources::PACKAGES, "p.one p.two");
-              desktop_.expectMessage("No input files for javadoc selected.");
+              desktop_.expectHint("No input files for javadoc selected.");
               window.press(Javadoc::RUN);
             }),
             DIALOG_CANCEL);

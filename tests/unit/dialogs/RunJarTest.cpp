@@ -2,6 +2,7 @@
 #include "process/WinApp.h"
 #include "support/BrokenTool.h"
 #include "support/Children.h"
+#include "support/SystemWords.h"
 #include "support/TestFolders.h"
 
 namespace tarnwick::test {
@@ -265,7 +266,8 @@ TEST_F(RunJarTest, WhatCannotBeStartedIsToldTheToolBeforeTheZipProgram) {
 TEST_F(RunJarTest, AToolsFolderThatStaysUnknownIsTold) {
   settings().javaPath.clear();
   desktop_.expectDialog("Tarnwick settings", [](ScriptedWindow& window) { window.press(IDCANCEL_CONTROL); });
-  desktop_.expectMessage(platform::localText("No path to javac.exe and other tools available from settings"));
+  desktop_.expectMessage(said("No path to javac.exe and other tools available from settings",
+                              "No path to javac and other tools available from settings"));
   runJar(settings(), session_);
 }
 

@@ -1,4 +1,5 @@
 #include "JavadocFixture.h"
+#include "support/SystemWords.h"
 
 namespace tarnwick::test {
 namespace {
@@ -98,7 +99,7 @@ TEST_F(RunJavadocTest, CancelRunsNothingAndKeepsTheFilesOfTheLastRun) {
   EXPECT_EQ(files_, "B.java");
   run([this](ScriptedWindow& window) {
     typeFiles(window, "");
-    desktop_.expectMessage("No input files for javadoc selected.");
+    desktop_.expectHint("No input files for javadoc selected.");
     window.press(Javadoc::RUN);
   });
   EXPECT_EQ(recorded(), "");
@@ -128,7 +129,8 @@ TEST_F(RunJavadocTest, AMovedWindowIsSavedAfterCancelToo) {
 TEST_F(RunJavadocTest, AToolsFolderThatStaysUnknownIsTold) {
   settings().javaPath.clear();
   desktop_.expectDialog("Tarnwick settings", [](ScriptedWindow& window) { window.press(IDCANCEL_CONTROL); });
-  desktop_.expectMessage(platform::localText("No path to javac.exe and other tools available from settings"));
+  desktop_.expectMessage(said("No path to javac.exe and other tools available from settings",
+                              "No path to javac and other tools available from settings"));
   runJavadoc(settings(), files_);
 }
 

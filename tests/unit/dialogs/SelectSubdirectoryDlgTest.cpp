@@ -63,7 +63,7 @@ TEST_F(SelectSubdirectoryDlgTest, ADoubleClickIsAnOk) {
 }
 
 TEST_F(SelectSubdirectoryDlgTest, AFolderWithoutSubfoldersIsTold) {
-  desktop_.expectMessage("This folder has no subfolders.");
+  desktop_.expectHint("This folder has no subfolders.");
   desktop_.expectDialog("Select folder", [](ScriptedWindow&) {});
   SelectSubdirectoryDlg dialog(desktop_, scratch_.file("A"));
   EXPECT_EQ(dialog.runModal(), DIALOG_CANCEL);

@@ -1,6 +1,7 @@
 // What "Create Shortcut" does.
 #include "ShortcutFixture.h"
 #include "platform/Shortcuts.h"
+#include "support/SystemWords.h"
 
 namespace tarnwick::test {
 namespace {
@@ -129,7 +130,9 @@ TEST_F(ShortcutDlgRunTest, TruncatedArgumentsAreWarnedOfInEachPlaceAndTheLinksSt
     fillIn(window);
     window.press(Control::ON_DESKTOP);
     window.press(Control::IN_STARTMENU);
-    for (int i = 0; i < 2; ++i) desktop_.expectMessage("Warning: Windows may have truncated shortcut arguments!");
+    for (int i = 0; i < 2; ++i)
+      desktop_.expectMessage(said("Warning: Windows may have truncated shortcut arguments!",
+                                  "Warning: Your desktop may have truncated shortcut arguments!"));
     window.press(Control::CREATE);
   });
   EXPECT_TRUE(platform::isFile(in(told_.desktop, "App.shortcut")));

@@ -1,4 +1,5 @@
 #include "ShortcutFixture.h"
+#include "support/SystemWords.h"
 
 namespace tarnwick::test {
 namespace {
@@ -14,20 +15,28 @@ TEST_F(ShortcutDlgTest, ShowsItsLabelsAndToolTips) {
     const char* text;
     const char* toolTip;
   } table[] = {
-      {Control::APPLICATION, "", ".class or .jar file to be represented by a Windows shortcut"},
-      {Control::BROWSE_APPLICATION, "Browse", "Locate class or jar file to be represented by a Windows shortcut"},
+      {Control::APPLICATION, "",
+       said(".class or .jar file to be represented by a Windows shortcut",
+            ".class or .jar file to be represented by a shortcut")},
+      {Control::BROWSE_APPLICATION, "Browse",
+       said("Locate class or jar file to be represented by a Windows shortcut",
+            "Locate class or jar file to be represented by a shortcut")},
       {Control::NAME, "", "Name to be used for shortcut to java application"},
       {Control::DESCRIPTION, "", "Description of shortcut (will appear in tooltip)"},
       {Control::ON_DESKTOP, "Create shortcut on desktop",
        "Create an icon on the desktop that can be used to start your java application"},
-      {Control::IN_STARTMENU, "Create shortcut in startmenu",
-       "Create an entry for your java application in the Windows startbutton menu"},
+      {Control::IN_STARTMENU, said("Create shortcut in startmenu", "Create shortcut in applications menu"),
+       said("Create an entry for your java application in the Windows startbutton menu",
+            "Create an entry for your java application in the applications menu")},
       {Control::STARTMENU_FOLDER, "",
-       "Folder location corresponding to a lower level popup menu for the Windows startbutton"},
+       said("Folder location corresponding to a lower level popup menu for the Windows startbutton",
+            "Folder below the one of the applications menu, where the entry will be placed")},
       {Control::BROWSE_STARTMENU, "Browse",
-       "Find the folder location corresponding to a lower level popup menu for the Windows startbutton"},
+       said("Find the folder location corresponding to a lower level popup menu for the Windows startbutton",
+            "Find the folder below the one of the applications menu, where the entry will be placed")},
       {Control::IN_FOLDER, "Create shortcut in arbitrary location",
-       "Create a Windows shortcut to your java application in a folder of your choice"},
+       said("Create a Windows shortcut to your java application in a folder of your choice",
+            "Create a shortcut to your java application in a folder of your choice")},
       {Control::FOLDER, "", "Folder location where a shortcut to your java application will be placed"},
       {Control::BROWSE_FOLDER, "Browse",
        "Find the folder location where a shortcut to your java application will be placed"},

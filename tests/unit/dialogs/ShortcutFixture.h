@@ -3,6 +3,7 @@
 #include "dialogs/ShortcutDlg.h"
 #include "dialogs/ShortcutLayout.h"
 #include "support/FakeShortcutShell.h"
+#include "support/SystemWords.h"
 #include "unit/project/ProjectFixture.h"
 
 #include <string>
@@ -30,11 +31,12 @@ class ShortcutFixture : public ProjectFixture {
 
   /// Runs the dialog, and closes it with Close.
   void run(const ScriptedDesktop::DialogScript& script) {
-    desktop_.expectDialog("Create Windows shortcut to Java application", [&](ScriptedWindow& window) {
-      script(window);
-      EXPECT_FALSE(window.closed()) << "only Close closes it";
-      window.press(ShortcutControls::CLOSE);
-    });
+    desktop_.expectDialog(said("Create Windows shortcut to Java application", "Create shortcut to Java application"),
+                          [&](ScriptedWindow& window) {
+                            script(window);
+                            EXPECT_FALSE(window.closed()) << "only Close closes it";
+                            window.press(ShortcutControls::CLOSE);
+                          });
     EXPECT_EQ(ShortcutDlg(settings()).runModal(), DIALOG_CANCEL);
   }
   /// An application, and a way of execution.

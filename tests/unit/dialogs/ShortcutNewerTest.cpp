@@ -3,6 +3,7 @@
 #include "dialogs/ShortcutLayout.h"
 #include "support/ClassBytes.h"
 #include "support/FakeShortcutShell.h"
+#include "support/SystemWords.h"
 #include "tools/ShortcutTexts.h"
 #include "unit/project/ProjectFixture.h"
 
@@ -42,10 +43,11 @@ class ShortcutNewerTest : public ProjectFixture {
   }
   std::string offeredNow() {
     std::string text;
-    desktop_.expectDialog("Create Windows shortcut to Java application", [&](ScriptedWindow& window) {
-      text = window.text(Control::APPLICATION) + '|' + window.text(Control::NAME);
-      window.press(Control::CLOSE);
-    });
+    desktop_.expectDialog(said("Create Windows shortcut to Java application", "Create shortcut to Java application"),
+                          [&](ScriptedWindow& window) {
+                            text = window.text(Control::APPLICATION) + '|' + window.text(Control::NAME);
+                            window.press(Control::CLOSE);
+                          });
     ShortcutDlg(settings()).runModal();
     return text;
   }

@@ -5,6 +5,7 @@
 #include "support/Children.h"
 #include "support/ScriptedDesktop.h"
 #include "support/Shown.h"
+#include "support/SystemWords.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -96,9 +97,10 @@ class EditorLaunchTest : public testing::Test {
 
   std::string logPath() const { return script_.folder().file("Tarnwick_LOG1.tmp"); }
 
-  static std::string unableToStart(const std::string& editor) {
+  static std::string unableToStart(const std::string& editor) { return told("Unable to start " + editor); }
+  static std::string told(const std::string& failure) {
     const std::string reason = "No such file or directory\n";
-    return "message: Unable to start " + editor + " for log file display.\n\n" + reason + reason;
+    return "message: " + failure + " for log file display.\n\n" + reason + reason;
   }
 
   bool recordIs(const std::string& expected) {
@@ -222,9 +224,10 @@ TEST_F(OpenEditorTest, AnEditorThatCannotBeStartedIsTold) {
 }
 
 TEST_F(OpenEditorTest, WithoutAnyNotepadTheUserIsToldSo) {
-  EXPECT_EQ(
-      edit("1", script_.folder().file("A.java"), "never tried"),
-      failedIn(script_.folder().path()) + "message: Unable to start Notepad.\n\nNo such file or directory  (2)\n");
+  EXPECT_EQ(edit("1", script_.folder().file("A.java"), "never tried"),
+            failedIn(script_.folder().path()) +
+                "message: " + test::said("Unable to start Notepad", "Unable to start a text editor") +
+                ".\n\nNo such file or directory  (2)\n");
 }
 
 TEST_F(OpenEditorTest, AFolderThatCannotBeEnteredIsTold) {
@@ -295,7 +298,8 @@ TEST_F(ShowLogTest, NotepadShowsTheLogThoughTheOtherEditorWouldBeAJar) {
 }
 
 TEST_F(ShowLogTest, WithoutAnyNotepadTheUserIsToldSo) {
-  EXPECT_EQ(show("0 1", "never tried"), logPath() + '\n' + unableToStart("Notepad"));
+  EXPECT_EQ(show("0 1", "never tried"),
+            logPath() + '\n' + told(test::said("Unable to start Notepad", "Unable to start a text editor")));
 }
 
 TEST_F(ShowLogTest, AnEditorThatCannotBeStartedIsToldWithBothReasons) {

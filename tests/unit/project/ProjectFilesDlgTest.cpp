@@ -218,7 +218,7 @@ TEST_F(ProjectFilesDlgTest, ASecondHtmlFileIsRefusedAndTheDialogStaysOpen) {
     window.press(ALLOW_MULTIPLE_MAIN);
     window.press(SELECT_ALL_FILES);
     window.press(ADD_FILES);
-    desktop_.expectMessage("You can include only 1 html file in the project!");
+    desktop_.expectHint("You can include only 1 html file in the project!");
     window.press(IDOK_CONTROL);
     EXPECT_FALSE(window.closed());
     EXPECT_EQ(project.htmlFile, "x.html");
@@ -324,7 +324,7 @@ TEST_F(ProjectFilesDlgTest, OneNewFileThenCancel) {
   ProjectContext& project = openWith("B.java");
   run(project, [&](ScriptedWindow& window) {
     create(window, "A.java");
-    desktop_.expectMessage(
+    desktop_.expectHint(
         "You have created 1 new project file. \nIt will remain in your project folder,\nalthough not as part of your "
         "project.");
     window.press(IDCANCEL_CONTROL);
@@ -342,7 +342,7 @@ TEST_F(ProjectFilesDlgTest, TwoNewFilesThenCancel) {
   run(project, [&](ScriptedWindow& window) {
     create(window, "A.java");
     create(window, "x.html");
-    desktop_.expectMessage(
+    desktop_.expectHint(
         "You have created 2 new project files.\nThey will remain in your project folder,\nalthough not as part of your "
         "project.");
     window.closeBox();

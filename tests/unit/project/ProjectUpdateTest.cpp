@@ -2,6 +2,7 @@
 #include "settingsdialog/ToolsFolder.h"
 #include "source/Compiler.h"
 #include "source/TypeIndex.h"
+#include "support/SystemWords.h"
 
 namespace tarnwick::test {
 namespace {
@@ -253,7 +254,8 @@ TEST_F(ProjectUpdateTest, AnUnknownToolsFolderIsAskedForBeforeAnythingElse) {
               askForToolsFolder(settings());
               project.update();
             }),
-            platform::localText("No path to javac.exe and other tools available from settings"));
+            said("No path to javac.exe and other tools available from settings",
+                 "No path to javac and other tools available from settings"));
   EXPECT_EQ(project.mainClass, "before");
   EXPECT_TRUE(project.sources[0].types().empty());
   settings().javaPath = scratch_.file("no jdk") + platform::folderSeparator;

@@ -1,6 +1,7 @@
 #include "ProjectFixture.h"
 #include "project/SelectProjectDlg.h"
 #include "resources/ProjectLayouts.h"
+#include "support/SystemWords.h"
 #include "support/TestFolders.h"
 
 namespace tarnwick::test {
@@ -42,7 +43,9 @@ TEST_F(SelectProjectDlgTest, ShowsItsLabels) {
   run([](ScriptedWindow& window) {
     EXPECT_EQ(window.text(BROWSE_PROJECT), "Browse");
     EXPECT_EQ(window.text(REGISTER_TYPE),
-              "Click here to make Tarnwick the default program for\nopening .twp files (Explorer double-click)");
+              said("Click here to make Tarnwick the default program for\nopening .twp files (Explorer double-click)",
+                   "Click here to make Tarnwick the default program for\nopening .twp files (double-click in the file "
+                   "manager)"));
     EXPECT_EQ(window.text(IDOK_CONTROL), "OK");
     EXPECT_EQ(window.text(IDCANCEL_CONTROL), "Cancel");
     window.press(IDCANCEL_CONTROL);

@@ -1,5 +1,6 @@
 // What a configuration file does to the settings, and how they are saved to files of somebody's choice.
 #include "support/SettingsFixture.h"
+#include "support/SystemWords.h"
 
 #include <filesystem>
 #include <gtest/gtest.h>
@@ -173,10 +174,10 @@ TEST_F(ConfigurationTest, AGivenFileThatIsClosedLeadsToAnotherFolder) {
     desktop_.expectBrowseFolder(other);
     window.press(1164);
   });
-  desktop_.expectMessage("The following environment variable definition has been created:\n\nTARNWICK_CFGDIR=\"" +
-                         other +
-                         "\"\n\nThis definition remains effective until you terminate Tarnwick."
-                         "\nUpdate your system's environment settings or AUTOEXEC.BAT\nfor a permanent definition!");
+  desktop_.expectHint("The following environment variable definition has been created:\n\nTARNWICK_CFGDIR=\"" + other +
+                      "\"\n\nThis definition remains effective until you terminate Tarnwick." +
+                      said("\nUpdate your system's environment settings or AUTOEXEC.BAT\nfor a permanent definition!",
+                           "\nAdd it to the file .profile in your home folder\nfor a permanent definition!"));
   settings().saveInto(file);
   EXPECT_EQ(settings().configPath(), other + platform::folderSeparator + defaultConfigurationName);
   EXPECT_TRUE(platform::isFile(settings().configPath()));

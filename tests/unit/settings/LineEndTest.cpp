@@ -2,6 +2,7 @@
 #include "base/TagRow.h"
 #include "settingsdialog/SettingsDialog.h"
 #include "support/SettingsFixture.h"
+#include "support/SystemWords.h"
 
 #include <gtest/gtest.h>
 
@@ -72,10 +73,10 @@ TEST_F(LineEndTest, AConfigurationFolderWithALineEndIsRefusedAndAnotherOneOffere
     desktop_.expectBrowseFolder(other);
     dialog.press(1164);
   });
-  desktop_.expectMessage("The following environment variable definition has been created:\n\nTARNWICK_CFGDIR=\"" +
-                         other +
-                         "\"\n\nThis definition remains effective until you terminate Tarnwick."
-                         "\nUpdate your system's environment settings or AUTOEXEC.BAT\nfor a permanent definition!");
+  desktop_.expectHint("The following environment variable definition has been created:\n\nTARNWICK_CFGDIR=\"" + other +
+                      "\"\n\nThis definition remains effective until you terminate Tarnwick." +
+                      said("\nUpdate your system's environment settings or AUTOEXEC.BAT\nfor a permanent definition!",
+                           "\nAdd it to the file .profile in your home folder\nfor a permanent definition!"));
   settings().saveCurrent();
   EXPECT_TRUE(platform::isFile(other + platform::folderSeparator + defaultConfigurationName));
   EXPECT_FALSE(platform::isFolder(bad));

@@ -1,5 +1,6 @@
 // How the settings reach the disk and come back.
 #include "support/SettingsFixture.h"
+#include "support/SystemWords.h"
 
 #include <gtest/gtest.h>
 
@@ -168,10 +169,10 @@ TEST_F(RelocationTest, AFailedSaveLeadsToAnotherFolder) {
     desktop_.expectBrowseFolder(other);
     window.press(1164);
   });
-  desktop_.expectMessage("The following environment variable definition has been created:\n\nTARNWICK_CFGDIR=\"" +
-                         other +
-                         "\"\n\nThis definition remains effective until you terminate Tarnwick."
-                         "\nUpdate your system's environment settings or AUTOEXEC.BAT\nfor a permanent definition!");
+  desktop_.expectHint("The following environment variable definition has been created:\n\nTARNWICK_CFGDIR=\"" + other +
+                      "\"\n\nThis definition remains effective until you terminate Tarnwick." +
+                      said("\nUpdate your system's environment settings or AUTOEXEC.BAT\nfor a permanent definition!",
+                           "\nAdd it to the file .profile in your home folder\nfor a permanent definition!"));
   settings().saveCurrent();
   EXPECT_EQ(settings().configPath(), other + platform::folderSeparator + defaultConfigurationName);
   EXPECT_TRUE(platform::isFile(settings().configPath()));

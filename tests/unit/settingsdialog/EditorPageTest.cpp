@@ -1,5 +1,6 @@
 #include "settings/EditorChoice.h"
 #include "support/SettingsPageFixture.h"
+#include "support/SystemWords.h"
 
 namespace tarnwick::test {
 namespace {
@@ -32,7 +33,8 @@ TEST_F(EditorPageTest, ToolTips) {
   playAndCancel([](ScriptedWindow& page) {
     EXPECT_EQ(page.toolTip(EDITOR), "File specification for editor exe/jar file");
     EXPECT_EQ(page.toolTip(BROWSE), "Locate editor exe/jar file");
-    EXPECT_EQ(page.toolTip(WITH_NOTEPAD), "Use Windows Notepad as the java source file editor");
+    EXPECT_EQ(page.toolTip(WITH_NOTEPAD), said("Use Windows Notepad as the java source file editor",
+                                               "Use your desktop's text editor as the java source file editor"));
     EXPECT_EQ(page.toolTip(WITH_EDITOR),
               "Use a user-defined editor for java source file editing. You must provide a file specification for your "
               "editor's exe/jar file.");
@@ -52,7 +54,7 @@ TEST_F(EditorPageTest, ToolTips) {
 
 TEST_F(EditorPageTest, Labels) {
   playAndCancel([](ScriptedWindow& page) {
-    EXPECT_EQ(page.text(WITH_NOTEPAD), "Notepad");
+    EXPECT_EQ(page.text(WITH_NOTEPAD), said("Notepad", "Text editor"));
     EXPECT_EQ(page.text(WITH_EDITOR), "some other editor");
     EXPECT_EQ(page.text(OPEN_ALL), "Single-click open all project files");
     EXPECT_EQ(page.text(CHOOSE_FILES), "Multiple-select file dialog");
@@ -82,19 +84,19 @@ TEST_F(EditorPageTest, ThePatternForALineIsKept) {
 TEST_F(EditorPageTest, NotepadDisablesTheFieldAndEitherChoiceShowsTheTip) {
   settings().editorTarget = "/usr/bin/ed";
   playAndOk([this](ScriptedWindow& page) {
-    desktop_.expectMessage(nameTip);
+    desktop_.expectHint(nameTip);
     page.press(WITH_NOTEPAD);
     EXPECT_TRUE(page.checked(WITH_NOTEPAD));
     EXPECT_FALSE(page.checked(WITH_EDITOR));
     EXPECT_FALSE(page.enabled(EDITOR));
     EXPECT_FALSE(page.enabled(BROWSE));
     EXPECT_FALSE(page.enabled(PLACE));
-    desktop_.expectMessage(nameTip);
+    desktop_.expectHint(nameTip);
     page.press(WITH_EDITOR);
     EXPECT_TRUE(page.enabled(EDITOR));
     EXPECT_TRUE(page.enabled(PLACE));
     EXPECT_FALSE(page.checked(WITH_NOTEPAD));
-    desktop_.expectMessage(nameTip);
+    desktop_.expectHint(nameTip);
     page.press(WITH_NOTEPAD);
   });
   EXPECT_TRUE(settings().editWithNotepad);
@@ -122,7 +124,7 @@ TEST_F(EditorPageTest, ATypedNameOutlivesAClick) {
     page.type(EDITOR, "typed");
     page.press(CHOOSE_FILES);
     EXPECT_EQ(page.text(EDITOR), "typed");
-    desktop_.expectMessage(nameTip);
+    desktop_.expectHint(nameTip);
     page.press(WITH_NOTEPAD);
     EXPECT_EQ(page.text(EDITOR), "typed");
   });
@@ -140,9 +142,9 @@ TEST_F(EditorPageTest, BrowseTakesTheChosenProgram) {
     EXPECT_EQ(page.text(EDITOR), "/pro grams/ed");
   });
   EXPECT_EQ(settings().editorTarget, "/pro grams/ed");
-  EXPECT_EQ(desktop_.lastRequest().filter,
-            platform::localText("executable files and java archives|*.exe;*.com;*.jar||"));
-  EXPECT_EQ(desktop_.lastRequest().name, platform::localText("*.exe;*.com;*.jar"));
+  EXPECT_EQ(desktop_.lastRequest().filter, said("executable files and java archives|*.exe;*.com;*.jar||",
+                                                "executable files and java archives|*;*.com;*.jar||"));
+  EXPECT_EQ(desktop_.lastRequest().name, said("*.exe;*.com;*.jar", "*;*.com;*.jar"));
   EXPECT_EQ(desktop_.lastRequest().startFolder, platform::startFolder("C:"));
   EXPECT_TRUE(desktop_.lastRequest().mustExist);
 }

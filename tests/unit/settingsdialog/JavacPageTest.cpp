@@ -1,4 +1,5 @@
 #include "support/SettingsPageFixture.h"
+#include "support/SystemWords.h"
 
 #include <algorithm>
 
@@ -41,9 +42,12 @@ TEST_F(JavacPageTest, ToolTips) {
               "Store source code information within the class file to make it available to the debugger");
     EXPECT_EQ(page.toolTip(1027), "Display detail information about the compilation process");
     EXPECT_EQ(page.toolTip(1044), "Do not accept deprecated java features");
-    EXPECT_EQ(page.toolTip(1021), "Start the Windows Asterisk sound at the end of a compilation without diagnostics");
+    EXPECT_EQ(page.toolTip(1021),
+              said("Start the Windows Asterisk sound at the end of a compilation without diagnostics",
+                   "Start the information sound at the end of a compilation without diagnostics"));
     EXPECT_EQ(page.toolTip(1022),
-              "Start the Windows Exclamation sound at the end of a compilation that produced diagnostics");
+              said("Start the Windows Exclamation sound at the end of a compilation that produced diagnostics",
+                   "Start the warning sound at the end of a compilation that produced diagnostics"));
     EXPECT_EQ(page.toolTip(1117), "Special option to be passed to the java launcher (see also JDK documentation)");
     EXPECT_EQ(page.toolTip(1179),
               "Tells the compiler how to interpret the source. Important e.g. when using assertions (see also JDK "
@@ -82,8 +86,10 @@ TEST_F(JavacPageTest, Labels) {
     EXPECT_EQ(page.text(1024), "Fast code (-O)");
     EXPECT_EQ(page.text(1044), "-deprecation");
     EXPECT_EQ(page.text(1027), "-verbose");
-    EXPECT_EQ(page.text(1021), "After successful compilation\n(Asterisk)");
-    EXPECT_EQ(page.text(1022), "After compilation with\ndiagnostics\n(Exclamation)");
+    EXPECT_EQ(page.text(1021),
+              said("After successful compilation\n(Asterisk)", "After successful compilation\n(information sound)"));
+    EXPECT_EQ(page.text(1022), said("After compilation with\ndiagnostics\n(Exclamation)",
+                                    "After compilation with\ndiagnostics\n(warning sound)"));
     EXPECT_EQ(page.text(1270), "no warnings");
     EXPECT_EQ(page.text(1271), "switchcheck");
     EXPECT_EQ(page.text(1264), "Conversions");

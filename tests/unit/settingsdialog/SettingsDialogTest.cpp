@@ -2,6 +2,7 @@
 #include "settings/SettingsResources.h"
 #include "settingsdialog/SettingsDialog.h"
 #include "support/SettingsFixture.h"
+#include "support/SystemWords.h"
 
 #include <gtest/gtest.h>
 #include <map>
@@ -30,9 +31,13 @@ TEST_F(SettingsDialogTest, OpensOnTheToolsPageWithItsValues) {
     EXPECT_TRUE(page.checked(WITH_NOTEPAD));
     EXPECT_FALSE(page.checked(WITH_EDITOR));
     EXPECT_EQ(page.toolTip(FOLDER),
-              platform::localText("Folder containing the file javac.exe (created by the installation of the JDK)"));
-    EXPECT_EQ(page.toolTip(1006), platform::localText("Locate the file javac.exe in the JDK installation folder"));
-    EXPECT_EQ(page.toolTip(WITH_NOTEPAD), "Display compiler (and other) diagnostics with the Windows Notepad");
+              said("Folder containing the file javac.exe (created by the installation of the JDK)",
+                   "Folder containing the file javac (created by the installation of the JDK)"));
+    EXPECT_EQ(page.toolTip(1006), said("Locate the file javac.exe in the JDK installation folder",
+                                       "Locate the file javac in the JDK installation folder"));
+    EXPECT_EQ(page.toolTip(WITH_NOTEPAD),
+              said("Display compiler (and other) diagnostics with the Windows Notepad",
+                   "Display compiler (and other) diagnostics with your desktop's text editor"));
     EXPECT_EQ(page.toolTip(WITH_EDITOR),
               "Display compiler (and other) diagnostics with the editor you defined for editing source files");
     EXPECT_EQ(
@@ -41,8 +46,11 @@ TEST_F(SettingsDialogTest, OpensOnTheToolsPageWithItsValues) {
         "a message opens your editor there; F4 leads to the next one.");
     EXPECT_EQ(page.text(IN_MESSAGES), "Messages window");
     EXPECT_FALSE(page.checked(IN_MESSAGES));
-    EXPECT_EQ(page.toolTip(1204), "Create an icon on the Windows desktop. A double click on it will start Tarnwick.");
-    EXPECT_EQ(page.toolTip(1205), "Create an entry in the Windows startmenu tree that will start Tarnwick.");
+    EXPECT_EQ(page.toolTip(1204),
+              said("Create an icon on the Windows desktop. A double click on it will start Tarnwick.",
+                   "Create an icon on the desktop. A double click on it will start Tarnwick."));
+    EXPECT_EQ(page.toolTip(1205), said("Create an entry in the Windows startmenu tree that will start Tarnwick.",
+                                       "Create an entry in the applications menu that will start Tarnwick."));
     EXPECT_EQ(window.toolTip(IDOK_CONTROL), "Apply new settings and close this window");
     EXPECT_EQ(window.toolTip(IDCANCEL_CONTROL), "Continue with the previously active settings");
     EXPECT_EQ(window.toolTip(1036), "Save settings in a separate file");
@@ -272,7 +280,7 @@ TEST_F(SettingsDialogTest, BrowseTakesTheFolderOfTheChosenFile) {
     window.press(IDCANCEL_CONTROL);
   });
   SettingsDialog(settings()).runModal(0);
-  EXPECT_EQ(desktop_.lastRequest().filter, platform::localText("javac.exe|javac.exe|all files|*.*||"));
+  EXPECT_EQ(desktop_.lastRequest().filter, said("javac.exe|javac.exe|all files|*.*||", "javac|javac|all files|*.*||"));
   EXPECT_EQ(desktop_.lastRequest().startFolder, platform::startFolder("C:\\"));
   EXPECT_EQ(desktop_.lastRequest().name, platform::toolFileName("javac"));
   EXPECT_TRUE(desktop_.lastRequest().mustExist);

@@ -1,8 +1,8 @@
 // The words that stand in the settings dialog and its pages, those included that no rule ever touches.
-#include "platform/Path.h"
 #include "settingsdialog/SettingsLayouts.h"
 #include "settingsdialog/SettingsPageLayouts.h"
 #include "support/LayoutWords.h"
+#include "support/SystemWords.h"
 
 #include <algorithm>
 #include <functional>
@@ -21,20 +21,22 @@ TEST(SettingsWordsTest, TheSettingsOwnButtons) {
 
 TEST(SettingsWordsTest, TheToolsPagesButtons) {
   for (const auto& [control, text] : {std::pair{1006, "Browse"},
-                                      {1017, "Notepad"},
+                                      {1017, said("Notepad", "Text editor")},
                                       {1018, "Sourcecode editor"},
                                       {1204, "On Desktop"},
-                                      {1205, "In Startmenu ..."}}) {
+                                      {1205, said("In Startmenu ...", "In applications menu ...")}}) {
     EXPECT_EQ(find(toolsPageLayout().content, control)->text, text);
   }
   const Words words = wordsOf(toolsPageLayout());
-  EXPECT_NE(std::find(words.begin(), words.end(), platform::localText(" Tools .exe directory ")), words.end());
+  EXPECT_NE(std::find(words.begin(), words.end(), said(" Tools .exe directory ", " Tools directory ")), words.end());
 }
 
 TEST(SettingsWordsTest, AnotherPlaceForTheConfiguration) {
-  const char permanent[] =
+  const char* const permanent = said(
       "For a permanent definition please update your system's environment settings or AUTOEXEC.BAT, depending on your "
-      "Windows version. Consult Tarnwick's usersguide.htm for more information.";
+      "Windows version. Consult Tarnwick's usersguide.htm for more information.",
+      "For a permanent definition please add it to the file .profile in your home folder, and log in again. Consult "
+      "Tarnwick's usersguide.htm for more information.");
   EXPECT_EQ(wordsOf(alternateLocationLayout()),
             (Words{"Tarnwick could not write configuration data to the default location:",
                    "You can define an alternate location for saving the configuration: Press the Browse button!",

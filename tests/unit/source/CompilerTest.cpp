@@ -2,6 +2,7 @@
 #include "support/AskingCompiler.h"
 #include "support/SettingsFixture.h"
 #include "support/Shown.h"
+#include "support/SystemWords.h"
 
 #include <gtest/gtest.h>
 
@@ -182,7 +183,8 @@ TEST_F(CompilerTest, AnUnknownFolderIsThrownAndNothingIsShown) {
     Compiler compiler = askingCompiler(settings());
     FAIL() << "no exception";
   } catch (const Compiler::CannotCompileE& failure) {
-    EXPECT_EQ(failure.message, platform::localText("No path to javac.exe and other tools available from settings"));
+    EXPECT_EQ(failure.message, said("No path to javac.exe and other tools available from settings",
+                                    "No path to javac and other tools available from settings"));
   }
 }
 
@@ -252,7 +254,8 @@ TEST_F(CompileTest, WithoutAFolderNothingIsCompiled) {
     shown(desktop_, compiler.compile(source, FileMode::Write));
     FAIL() << "no exception";
   } catch (const Compiler::CannotCompileE& failure) {
-    EXPECT_EQ(failure.message, platform::localText("No path to javac.exe and other tools available from settings"));
+    EXPECT_EQ(failure.message, said("No path to javac.exe and other tools available from settings",
+                                    "No path to javac and other tools available from settings"));
   }
   EXPECT_FALSE(platform::isFile(scratch_.file("record")));
 }

@@ -298,12 +298,12 @@ TEST_F(NewSourceFileDlgTest, ATemplateIsAddedAfterItsFieldsAreRight) {
   const std::string path = target("mine.txt");
   run(NewSourceMode::NewFile, [&](ScriptedWindow& dialog) {
     desktop_.expectDialog("Add template for new sourcefiles", [&](ScriptedWindow& add) {
-      desktop_.expectMessage(
+      desktop_.expectHint(
           "Please enter a description.\nIt is needed to create an entry in the dropdown list for file templates.");
       add.type(TEMPLATE_DESCRIPTION, "  ");
       add.press(IDOK_CONTROL);
       add.type(TEMPLATE_DESCRIPTION, " My bean ");
-      desktop_.expectMessage("Please enter a filename for your template file");
+      desktop_.expectHint("Please enter a filename for your template file");
       add.press(IDOK_CONTROL);
       desktop_.expectOpenFile(path);
       add.press(TEMPLATE_BROWSE);

@@ -1,5 +1,6 @@
 #include "support/BrokenTool.h"
 #include "support/SettingsFixture.h"
+#include "support/SystemWords.h"
 #include "tools/AppletviewerLauncher.h"
 
 #include <gtest/gtest.h>
@@ -111,7 +112,8 @@ TEST_F(AppletviewerLauncherTest, AToolsFolderThatStaysUnknownIsTold) {
   settings().javaPath.clear();
   for (const bool debugging : {false, true}) {
     desktop_.expectDialog("Tarnwick settings", [](ScriptedWindow& window) { window.press(IDCANCEL_CONTROL); });
-    desktop_.expectMessage(platform::localText("No path to javac.exe and other tools available from settings"));
+    desktop_.expectMessage(said("No path to javac.exe and other tools available from settings",
+                                "No path to javac and other tools available from settings"));
     runAppletviewer(settings(), file_, debugging);
   }
 }

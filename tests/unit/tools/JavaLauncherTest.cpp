@@ -1,5 +1,6 @@
 #include "support/Children.h"
 #include "support/SettingsFixture.h"
+#include "support/SystemWords.h"
 #include "tools/JavaLauncher.h"
 
 #include <algorithm>
@@ -248,7 +249,8 @@ TEST_F(JavaLauncherTest, AssertionListsOfBlanksGiveNothing) {
 TEST_F(JavaLauncherTest, AnUnknownToolsFolderIsAskedForAndThenTold) {
   settings().javaPath.clear();
   desktop_.expectDialog("Tarnwick settings", [](ScriptedWindow& window) { window.press(IDCANCEL_CONTROL); });
-  desktop_.expectMessage(platform::localText("No path to javac.exe and other tools available from settings"));
+  desktop_.expectMessage(said("No path to javac.exe and other tools available from settings",
+                              "No path to javac and other tools available from settings"));
   runJava(settings(), file_);
 }
 

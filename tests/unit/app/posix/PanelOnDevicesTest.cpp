@@ -59,7 +59,7 @@ TEST_F(PanelOnDevicesTest, ADeviceAsSourceLeadsToTheFileDialog) {
   runPanel([&](ScriptedWindow&, ScriptedWindow& panel) {
     panel.type(SOURCE, "/dev/zero");
     desktop_.expectOpenFile(std::nullopt);
-    desktop_.expectMessage("No .java file known.");
+    desktop_.expectHint("No .java file known.");
     panel.press(JAVAC);
     exit(panel);
   });

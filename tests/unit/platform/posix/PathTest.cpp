@@ -35,20 +35,6 @@ TEST(PosixPath, AToolsFileHasNoExeAndJavawIsJava) {
   EXPECT_EQ(toolFileName("javaw"), "java");
 }
 
-TEST(PosixPath, TextsNameTheToolsFilesAsTheyAreHere) {
-  EXPECT_EQ(localText("javac.exe"), "javac");
-  EXPECT_EQ(localText("Tools .exe directory"), "Tools directory");
-  EXPECT_EQ(localText("No path to javac.exe and other tools available from settings"),
-            "No path to javac and other tools available from settings");
-  EXPECT_EQ(localText("javaw.exe"), "java");
-  EXPECT_EQ(localText("java.exe, javaw.exe and jdb.exe"), "java, java and jdb");
-  EXPECT_EQ(localText("folder of .exe"), "folder of");
-  EXPECT_EQ(localText(".exe folder"), "folder");
-  EXPECT_EQ(localText(".exe"), "");
-  EXPECT_EQ(localText("nothing to change"), "nothing to change");
-  EXPECT_EQ(localText(""), "");
-}
-
 TEST(PosixPath, FileNamesCompareExactly) {
   EXPECT_TRUE(sameFileName("/a/B.java", "/a/B.java"));
   EXPECT_FALSE(sameFileName("/a/B.java", "/a/b.java"));

@@ -41,11 +41,6 @@ TEST(WindowsPath, AToolsFileEndsInExe) {
   EXPECT_EQ(toolFileName("javaw"), "javaw.exe");
 }
 
-TEST(WindowsPath, TextsStayAsTheyStand) {
-  EXPECT_EQ(localText("Tools .exe directory"), "Tools .exe directory");
-  EXPECT_EQ(localText("javaw.exe"), "javaw.exe");
-}
-
 TEST(WindowsPath, FileNamesCompareIgnoringCase) {
   EXPECT_TRUE(sameFileName("C:\\A\\b.JAVA", "c:\\a\\B.java"));
   EXPECT_FALSE(sameFileName("C:\\a\\b.java", "C:\\a\\b.jav"));

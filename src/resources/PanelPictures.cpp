@@ -24,7 +24,8 @@ const PanelPicture pictures[] = {
     {"appletdebug", "debug"},
     {"jar", "archive"},
     {"javadoc", "document"},
-    {"WinShortcut", "link"},
+    {"WinShortcut", "link"},  // on Windows
+    {"Shortcut", "link"},     // elsewhere
     {"Settings", "settings"},
     {"Switch view", "switch-view"},
     {"Projectview", "switch-view"},

@@ -244,7 +244,8 @@ int widthOfCharacters(const wxWindow& window, int characters) {
 
 int rowHeight(wxWindow& window) {
   // The toolkit's usual height of a button does not follow the size of the letters.
-  return std::max(wxButton::GetDefaultSize(&window).y, leastFieldHeight(window));
+  const int withPicture = window.FromDIP(buttonPictureSize(PictureRoom::Alone).y + 8);
+  return std::max({wxButton::GetDefaultSize(&window).y, leastFieldHeight(window), withPicture});
 }
 
 wxPanel* makePanel(wxWindow& parent) {

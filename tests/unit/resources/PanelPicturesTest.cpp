@@ -3,6 +3,7 @@
 #include "resources/Drawings.h"
 #include "resources/PanelLayouts.h"
 #include "resources/PanelPictures.h"
+#include "resources/SystemWords.h"
 
 #include <gtest/gtest.h>
 #include <set>
@@ -18,8 +19,9 @@ void collect(const DialogItem& item, std::set<std::string>& words) {
 
 std::set<std::string> wordsOfThePanel() {
   // Those that the rules give.
-  std::set<std::string> words = {"Projectview", "Fileview", "Browse",  "Select",     "jdb debug",
-                                 "java",        "jar",      "javadoc", "WinShortcut"};
+  std::set<std::string> words = {"Projectview", "Fileview",  "Browse",
+                                 "Select",      "jdb debug", "java",
+                                 "jar",         "javadoc",   inSystemWords("WinShortcut")};
   for (const auto* layout : {&fileViewLayout(), &projectViewLayout(), &panelPageLayout(), &verticalBarLayout(),
                              &horizontalBarLayout(), &flatBarLayout()}) {
     collect(layout->content, words);

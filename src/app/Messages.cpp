@@ -71,7 +71,7 @@ void Messages::show(bool said) {
   view_.setText(textOf(said ? contentOf(log.path()) : "", log.parts()));
   if (!window_) window_ = host_.makeMessagesWindow(*this);
   if (!window_) return;
-  window_->setSummary(messagesSummary(view_.text(), log.elapsed()));
+  window_->setSummary(messagesSummary(view_.text(), log.elapsed(), log.end()));
   window_->show();
 }
 

@@ -235,12 +235,7 @@ RunResult Compiler::run(const FileForSubprocess& first, const GatheredSources& g
 
 bool Compiler::tellMisplaced(const std::vector<std::string>& notes) {
   if (notes.empty()) return false;
-  ToolLog& log = settings_.context().log;
-  log.open(FileMode::Append);
-  std::string text = platform::lineEnd;
-  for (const auto& note : notes) text += platform::lineEnd + note + platform::lineEnd;
-  log.append(text.data(), text.size());
-  log.close();
+  settings_.context().log.addNotes(FileMode::Append, notes);
   return true;
 }
 

@@ -35,6 +35,10 @@ void PanelPage::onCommand(int control) {
   panel_.onPageButton(control);
 }
 
+std::function<void()> PanelPage::controlReturn(int control) {
+  return control == FIELD ? panel_.controlReturnInField() : nullptr;
+}
+
 ButtonBar::ButtonBar(Desktop& desktop, PanelDlg& panel, const DialogLayout& layout)
     : ToolTipDlg(desktop, layout.resource, 0), panel_(panel), layout_(layout) {}
 
@@ -97,6 +101,11 @@ void PanelDlg::onPageButton(int page, int control) {
   if (control == PanelPage::LEFT) runJar(settings_, jarSession_);
   if (control == PanelPage::MIDDLE) runJavadoc(settings_, javadocInput_);
   if (control == PanelPage::RIGHT) makeShortcut();
+}
+
+std::function<void()> PanelDlg::controlReturnInField() {
+  if (currentPage() != MAIN_PROGRAM) return {};
+  return [this] { compileAndRun(); };
 }
 
 void PanelDlg::makeShortcut() {

@@ -23,6 +23,7 @@ class PanelPage : public TabPage {
 
   void initialise(DialogWindow& window) override;
   void onCommand(int control) override;
+  std::function<void()> controlReturn(int control) override;
 
   /// The page's window; null while the panel has none.
   using TabPage::window;
@@ -98,6 +99,9 @@ class PanelDlg : public TabbedDialog {
   /// A button of the page with this index, by PanelPage::Control. Knows the utilities'.
   virtual void onPageButton(int page, int control);
 
+  /// What Ctrl+Return does in the field of the page that is open.
+  std::function<void()> controlReturnInField();
+
   /// A button of the page that is open.
   void onPageButton(int control) { onPageButton(currentPage(), control); }
 
@@ -107,6 +111,8 @@ class PanelDlg : public TabbedDialog {
   /// Starts the user's editor on a file, or on none with the empty text. False when no editor could be chosen or
   /// started.
   bool openEditor(const std::string& name);
+  /// Compiles what is not up to date, and runs the program if nothing was said.
+  virtual void compileAndRun() = 0;
   /// The dialog that makes shortcuts.
   virtual void makeShortcut();
 

@@ -313,6 +313,14 @@ void WxDialogWindow::command(int control) {
   guard([&] { handler_.onCommand(control); });
 }
 
+std::function<void()> WxDialogWindow::controlReturnOf(const wxWindow* field) const {
+  for (const auto& [number, control] : controls_)
+    if (control.window == field) return handler_.controlReturn(number);
+  for (const auto& child : children_)
+    if (auto action = child->controlReturnOf(field)) return action;
+  return {};
+}
+
 void WxDialogWindow::askChildrenToClose() {
   for (const auto& child : children_) {
     if (!child->surface_.IsShownOnScreen()) continue;

@@ -5,7 +5,12 @@
 #include "platform/FileSystem.h"
 
 #include <algorithm>
+#include <array>
 #include <cctype>
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+#include <memory>
 #include <string_view>
 
 namespace tarnwick {
@@ -78,10 +83,25 @@ std::string wordsOf(RunEnd end) {
   return end == RunEnd::BySignal ? "ended by a signal" : "";
 }
 
-/// Seconds with one digit behind the point.
-std::string seconds(std::chrono::milliseconds time) {
-  const auto tenths = (time.count() + 50) / 100;
-  return std::to_string(tenths / 10) + '.' + std::to_string(tenths % 10) + " s";
+/// The most that is shown of a log, in bytes.
+constexpr std::size_t longestLog = std::size_t{4} * 1024 * 1024;
+
+struct Closer {
+  void operator()(std::FILE* stream) const { std::fclose(stream); }
+};
+
+/// The log's bytes, of a log that is too long a few more than are shown. Throws Tarnwickfile::FileNotOpenE.
+std::string contentOf(const std::string& path) {
+  const std::unique_ptr<std::FILE, Closer> stream(platform::openFile(path, "rb"));
+  if (!stream) throw Tarnwickfile::FileNotOpenE(std::strerror(errno), path);
+  std::string content;
+  std::array<char, 8192> block;
+  while (content.size() <= longestLog) {
+    const std::size_t count = std::fread(block.data(), 1, block.size(), stream.get());
+    if (count == 0) break;
+    content.append(block.data(), count);
+  }
+  return content;
 }
 
 }  // namespace
@@ -104,6 +124,20 @@ MessagesText messagesText(const std::string& log, const std::vector<LoggedPart>&
   return text;
 }
 
+MessagesText textOfLog(const ToolLog& log) {
+  std::string content = contentOf(log.path());
+  const bool isCut = content.size() > longestLog;
+  if (isCut) content.resize(content.rfind('\n', longestLog - 1) + 1);
+  MessagesText text = messagesText(content, log.parts());
+  text.shortened = text.shortened || isCut;
+  return text;
+}
+
+std::string secondsText(std::chrono::milliseconds time) {
+  const auto tenths = (time.count() + 50) / 100;
+  return std::to_string(tenths / 10) + '.' + std::to_string(tenths % 10) + " s";
+}
+
 std::string messagesSummary(const MessagesText& text, std::chrono::milliseconds elapsed, RunEnd runEnd) {
   const std::string count = countText(countOf(text.messages));
   const std::string end = wordsOf(runEnd);
@@ -111,7 +145,7 @@ std::string messagesSummary(const MessagesText& text, std::chrono::milliseconds 
   if (count.empty()) begin = text.lines.empty() ? "No messages" : end.empty() ? "No errors or warnings" : "";
   if (!end.empty()) begin += (begin.empty() ? "" : ", ") + end;
   if (count.empty() && !begin.empty()) begin[0] = static_cast<char>(std::toupper(static_cast<unsigned char>(begin[0])));
-  return begin + ", " + seconds(elapsed) + (text.shortened ? " (the log is longer than what is shown)" : "");
+  return begin + ", " + secondsText(elapsed) + (text.shortened ? " (the log is longer than what is shown)" : "");
 }
 
 }  // namespace tarnwick

@@ -3,6 +3,7 @@
 #include "base/Text.h"
 #include "ui/Icons.h"
 #include "ui/Link.h"
+#include "ui/StatusLine.h"
 #include "ui/Text.h"
 #include "ui/Toolkit.h"
 
@@ -169,6 +170,8 @@ wxWindow* makeWindow(wxWindow& parent, const DialogItem& item) {
     case ItemKind::Button:
       return new wxButton(&parent, wxID_ANY, toWx(item.text), wxDefaultPosition, wxDefaultSize,
                           item.compact ? wxBU_EXACTFIT : 0);
+    case ItemKind::StatusLine:
+      return new StatusLine(parent);
     case ItemKind::CheckBox:
       return new wxCheckBox(&parent, wxID_ANY, toWx(item.text));
     case ItemKind::RadioButton:
@@ -196,6 +199,7 @@ void connect(wxWindow& window, const DialogItem& item, const ControlEvents& even
   };
   switch (item.kind) {
     case ItemKind::Button:
+    case ItemKind::StatusLine:
       window.Bind(wxEVT_BUTTON, tell(events.command));
       break;
     case ItemKind::CheckBox:
@@ -299,6 +303,7 @@ wxSize naturalSize(const DialogItem& item, const Control& control) {
   }
   // Before it shows, a label does not know that its font has changed.
   if (item.kind == ItemKind::Heading) size.IncTo(window.GetTextExtent(window.GetLabel()) + wxSize(2, 2));
+  if (item.kind == ItemKind::StatusLine) size.y = std::max(size.y, leastFieldHeight(window));
   if (item.kind == ItemKind::Button && item.compact) {
     // With room for the layout's own text, which may be the longest of several that the rules give it.
     const int text = std::max(window.GetTextExtent(window.GetLabel()).x, window.GetTextExtent(toWx(item.text)).x);
@@ -347,6 +352,8 @@ std::string textOf(const Control& control) {
       return fromWx(entryHolder(control)->GetStringSelection());
     case ItemKind::Label:
       return as<Label>(control).text();
+    case ItemKind::StatusLine:
+      return as<StatusLine>(control).text();
     default:
       return fromWx(wxControl::RemoveMnemonics(control.window->GetLabel()));
   }
@@ -365,6 +372,9 @@ void setTextOf(const Control& control, const std::string& text) {
     case ItemKind::Label:
       // Such a text is data: an "&" in a path is no mnemonic.
       as<Label>(control).set(text, wxControl::EscapeMnemonics(shown));
+      break;
+    case ItemKind::StatusLine:
+      as<StatusLine>(control).set(text);
       break;
     default:
       control.window->SetLabel(shown);

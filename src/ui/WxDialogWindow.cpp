@@ -23,6 +23,7 @@ constexpr int pageMargin = 10;
 bool isForKeyboard(const Control& control) {
   switch (control.kind) {
     case ItemKind::Link:
+    case ItemKind::StatusLine:
     case ItemKind::Edit:
     case ItemKind::Button:
     case ItemKind::CheckBox:

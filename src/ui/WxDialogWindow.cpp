@@ -305,31 +305,6 @@ WxDialogWindow* WxDialogWindow::childInSight(const Control& control) const {
   return nullptr;
 }
 
-bool WxDialogWindow::hasUsable(int control) const {
-  const auto found = controls_.find(control);
-  return found != controls_.end() && found->second.window->IsEnabled() && found->second.window->IsShown();
-}
-
-void WxDialogWindow::command(int control) {
-  guard([&] { handler_.onCommand(control); });
-}
-
-std::function<void()> WxDialogWindow::controlReturnOf(const wxWindow* field) const {
-  for (const auto& [number, control] : controls_)
-    if (control.window == field) return handler_.controlReturn(number);
-  for (const auto& child : children_)
-    if (auto action = child->controlReturnOf(field)) return action;
-  return {};
-}
-
-void WxDialogWindow::askChildrenToClose() {
-  for (const auto& child : children_) {
-    if (!child->surface_.IsShownOnScreen()) continue;
-    child->askChildrenToClose();
-    guard([&child] { child->handler_.onCloseRequest(); });
-  }
-}
-
 const Control& WxDialogWindow::at(int control) const {
   const auto found = controls_.find(control);
   if (found == controls_.end()) throw std::out_of_range("no control " + std::to_string(control));

@@ -117,6 +117,20 @@ TEST_F(StatusLineTest, AProjectIsNamed) {
   });
 }
 
+TEST_F(StatusLineTest, AllSourcesOfARunAreCounted) {
+  saveEarlierRun();
+  makeSource("Two");
+  makeRunnable();
+  for (const std::string oneRun : {"ON", "OFF"}) {
+    const std::string rows = "STATUS_LINE  ON\nPROJECT_SOURCES  Main.java;Two.java\nJAVAC_ONE_RUN  " + oneRun + '\n';
+    startWith(makeProject(rows), [this](ScriptedWindow& panel) {
+      panel.press(ALL);
+      EXPECT_TRUE(panel.text(LINE).starts_with("Compiled 2 sources in ")) << panel.text(LINE);
+      exit(panel);
+    });
+  }
+}
+
 TEST_F(StatusLineTest, APressShowsTheLastLogWhereThereIsOne) {
   saveWith(true);
   makeSource("One");

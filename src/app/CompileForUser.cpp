@@ -23,8 +23,10 @@ bool hasSaid(const Settings& settings, const RunResult& result) {
 CompileEnd compileForUser(const Settings& settings, const std::function<bool()>& compile,
                           const std::function<void()>& afterwards) {
   Desktop& desktop = settings.context().desktop;
+  const auto& onRunEnds = settings.context().onRunEnds;
   try {
     const bool said = compile();
+    onRunEnds(said);
     if (said ? settings.javacSoundOnError : settings.javacSoundOnSuccess)
       desktop.alert(said ? AlertSound::Exclamation : AlertSound::Asterisk);
     showRun(settings, said);
@@ -32,10 +34,13 @@ CompileEnd compileForUser(const Settings& settings, const std::function<bool()>&
     return {!said};
   } catch (const DontWantToSplitE&) {
     // The user has said so; there is nothing to tell.
+    onRunEnds(std::nullopt);
   } catch (const RefusedE& failure) {
+    onRunEnds(std::nullopt);
     desktop.message(failure.message);
     return {false, failure.source};
   } catch (const Tarnwickexception& failure) {
+    onRunEnds(std::nullopt);
     desktop.message(failure.message);
   }
   return {};

@@ -33,7 +33,8 @@ std::array<PageWords, 2> pageWords() {
   return {{{{"Browse", "jdb debug", "java"},
             {{PanelPage::LEFT, "Select executable class file"},
              {PanelPage::MIDDLE, "Execute class file under debugger control"},
-             {PanelPage::RIGHT, "Execute class file; Ctrl+click compiles first what is not up to date"},
+             {PanelPage::RIGHT,
+              "Execute class file; Ctrl+click, or Ctrl+Return in the field, compiles first what is not up to date"},
              {PanelPage::FIELD, "File specification for executable class, optionally followed by runtime arguments"}}},
            {{"Browse", "appletdebug", "appletviewer"},
             {{PanelPage::LEFT, "Select HTML file"},
@@ -174,13 +175,19 @@ void FileView::onPageButton(int page, int control) {
   if (page == MAIN_PROGRAM && control == PanelPage::LEFT) browse(runFilter(), classField_);
   if (page == MAIN_PROGRAM && control == PanelPage::MIDDLE) debugClass();
   if (page == MAIN_PROGRAM && control == PanelPage::RIGHT) {
-    // With the Control key: compiled first.
-    if (!desktop_.controlKeyHeld() || bringUpToDate()) runClass();
+    if (desktop_.controlKeyHeld())
+      compileAndRun();
+    else
+      runClass();
   }
   if (page == APPLET && control == PanelPage::LEFT) browse(htmlFilter, htmlField_);
   if (page == APPLET && control == PanelPage::MIDDLE) runApplet(true);
   if (page == APPLET && control == PanelPage::RIGHT) runApplet(false);
   PanelDlg::onPageButton(page, control);
+}
+
+void FileView::compileAndRun() {
+  if (bringUpToDate()) runClass();
 }
 
 void FileView::makeShortcut() {

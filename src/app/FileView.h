@@ -35,6 +35,7 @@ class FileView : public PanelDlg {
   void onTabChanged() override;
   using PanelDlg::onPageButton;
   void onPageButton(int page, int control) override;
+  void compileAndRun() override;
   void makeShortcut() override;
 
  private:

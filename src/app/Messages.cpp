@@ -7,47 +7,14 @@
 
 #include <algorithm>
 #include <array>
-#include <cerrno>
 #include <charconv>
-#include <cstdio>
 #include <cstdlib>
-#include <cstring>
 #include <string_view>
 #include <utility>
 
 namespace tarnwick {
 
 namespace {
-
-/// The most that is shown of a log, in bytes.
-constexpr std::size_t longestLog = std::size_t{4} * 1024 * 1024;
-
-struct Closer {
-  void operator()(std::FILE* stream) const { std::fclose(stream); }
-};
-
-/// The log's bytes, of a log that is too long a few more than are shown. Throws Tarnwickfile::FileNotOpenE.
-std::string contentOf(const std::string& path) {
-  const std::unique_ptr<std::FILE, Closer> stream(platform::openFile(path, "rb"));
-  if (!stream) throw Tarnwickfile::FileNotOpenE(std::strerror(errno), path);
-  std::string content;
-  std::array<char, 8192> block;
-  while (content.size() <= longestLog) {
-    const std::size_t count = std::fread(block.data(), 1, block.size(), stream.get());
-    if (count == 0) break;
-    content.append(block.data(), count);
-  }
-  return content;
-}
-
-/// What is shown of a log: whole lines.
-MessagesText textOf(std::string content, const std::vector<LoggedPart>& parts) {
-  const bool isCut = content.size() > longestLog;
-  if (isCut) content.resize(content.rfind('\n', longestLog - 1) + 1);
-  MessagesText text = messagesText(content, parts);
-  text.shortened = text.shortened || isCut;
-  return text;
-}
 
 std::string withSystemLineEnds(std::string text) {
   if (std::string_view(platform::lineEnd) == "\r\n") return text;
@@ -68,10 +35,10 @@ void Messages::show(bool said) {
   const bool isOpen = window_ && window_->isOpen();
   if (!said && (!isOpen || log.runs() == shownRuns_)) return;
   shownRuns_ = log.runs();
-  view_.setText(textOf(said ? contentOf(log.path()) : "", log.parts()));
+  view_.setText(said ? textOfLog(log) : MessagesText());
   if (!window_) window_ = host_.makeMessagesWindow(*this);
   if (!window_) return;
-  window_->setSummary(messagesSummary(view_.text(), log.elapsed()));
+  window_->setSummary(messagesSummary(view_.text(), log.elapsed(), log.end()));
   window_->show();
 }
 

@@ -5,7 +5,12 @@
 #include "platform/FileSystem.h"
 
 #include <algorithm>
+#include <array>
 #include <cctype>
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+#include <memory>
 #include <string_view>
 
 namespace tarnwick {
@@ -47,20 +52,20 @@ std::string wholePath(const std::string& name, const std::string& folder) {
 }
 
 /// Adds one run: its command, and what the tool has said.
-void addPart(MessagesText& text, std::string_view part, const std::string& folder) {
+void addPart(MessagesText& text, std::string_view part, const LoggedPart& logged) {
   const auto start = part.find_first_not_of("\r\n");
   if (start == std::string_view::npos) return;
   part.remove_prefix(start);
   if (!text.lines.empty()) text.lines.push_back({});
   const std::size_t first = text.lines.size();
   for (const auto& line : linesOf(part)) text.lines.push_back(lineOf(line, LineKind::Other));
-  text.lines[first].kind = LineKind::Command;
+  if (logged.hasCommand) text.lines[first].kind = LineKind::Command;
   for (auto message : toolMessages(part)) {
     if (message.logLine == 0) continue;
     message.logLine += first;
     message.lastLine += first;
     text.lines[message.logLine].kind = kindOf(message.kind);
-    if (message.place) message.place->file = wholePath(message.place->file, folder);
+    if (message.place) message.place->file = wholePath(message.place->file, logged.folder);
     text.messages.push_back(std::move(message));
   }
 }
@@ -72,20 +77,31 @@ void shorten(MessagesText& text, std::size_t mostLines) {
   while (!text.messages.empty() && text.messages.back().lastLine >= mostLines) text.messages.pop_back();
 }
 
-/// How a tool ended that did not end by itself, by the notes behind what it said; empty if all have.
-std::string earlyEnd(const MessagesText& text) {
-  std::string end;
-  for (const auto& line : text.lines) {
-    if (line.text == "Stopped.") end = "stopped";
-    if (line.text.starts_with("Ended by a signal: ")) end = "ended by a signal";
-  }
-  return end;
+/// The words for tools that did not end by themselves; empty for the others.
+std::string wordsOf(RunEnd end) {
+  if (end == RunEnd::Stopped) return "stopped";
+  return end == RunEnd::BySignal ? "ended by a signal" : "";
 }
 
-/// Seconds with one digit behind the point.
-std::string seconds(std::chrono::milliseconds time) {
-  const auto tenths = (time.count() + 50) / 100;
-  return std::to_string(tenths / 10) + '.' + std::to_string(tenths % 10) + " s";
+/// The most that is shown of a log, in bytes.
+constexpr std::size_t longestLog = std::size_t{4} * 1024 * 1024;
+
+struct Closer {
+  void operator()(std::FILE* stream) const { std::fclose(stream); }
+};
+
+/// The log's bytes, of a log that is too long a few more than are shown. Throws Tarnwickfile::FileNotOpenE.
+std::string contentOf(const std::string& path) {
+  const std::unique_ptr<std::FILE, Closer> stream(platform::openFile(path, "rb"));
+  if (!stream) throw Tarnwickfile::FileNotOpenE(std::strerror(errno), path);
+  std::string content;
+  std::array<char, 8192> block;
+  while (content.size() <= longestLog) {
+    const std::size_t count = std::fread(block.data(), 1, block.size(), stream.get());
+    if (count == 0) break;
+    content.append(block.data(), count);
+  }
+  return content;
 }
 
 }  // namespace
@@ -101,21 +117,35 @@ MessagesText messagesText(const std::string& log, const std::vector<LoggedPart>&
   for (std::size_t i = 0; i < parts.size(); ++i) {
     const std::size_t begin = std::min(parts[i].begin, log.size());
     const std::size_t end = i + 1 < parts.size() ? std::min(parts[i + 1].begin, log.size()) : log.size();
-    addPart(text, std::string_view(log).substr(begin, end - begin), parts[i].folder);
+    addPart(text, std::string_view(log).substr(begin, end - begin), parts[i]);
     shorten(text, mostLines);
     if (text.shortened) break;
   }
   return text;
 }
 
-std::string messagesSummary(const MessagesText& text, std::chrono::milliseconds elapsed) {
+MessagesText textOfLog(const ToolLog& log) {
+  std::string content = contentOf(log.path());
+  const bool isCut = content.size() > longestLog;
+  if (isCut) content.resize(content.rfind('\n', longestLog - 1) + 1);
+  MessagesText text = messagesText(content, log.parts());
+  text.shortened = text.shortened || isCut;
+  return text;
+}
+
+std::string secondsText(std::chrono::milliseconds time) {
+  const auto tenths = (time.count() + 50) / 100;
+  return std::to_string(tenths / 10) + '.' + std::to_string(tenths % 10) + " s";
+}
+
+std::string messagesSummary(const MessagesText& text, std::chrono::milliseconds elapsed, RunEnd runEnd) {
   const std::string count = countText(countOf(text.messages));
-  const std::string end = earlyEnd(text);
+  const std::string end = wordsOf(runEnd);
   std::string begin = count;
   if (count.empty()) begin = text.lines.empty() ? "No messages" : end.empty() ? "No errors or warnings" : "";
   if (!end.empty()) begin += (begin.empty() ? "" : ", ") + end;
   if (count.empty() && !begin.empty()) begin[0] = static_cast<char>(std::toupper(static_cast<unsigned char>(begin[0])));
-  return begin + ", " + seconds(elapsed) + (text.shortened ? " (the log is longer than what is shown)" : "");
+  return begin + ", " + secondsText(elapsed) + (text.shortened ? " (the log is longer than what is shown)" : "");
 }
 
 }  // namespace tarnwick

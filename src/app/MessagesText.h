@@ -31,7 +31,13 @@ struct MessagesText {
 /// Takes a log apart into the lines of its runs. Only so many are kept.
 MessagesText messagesText(const std::string& log, const std::vector<LoggedPart>& parts, std::size_t mostLines = 20000);
 
-/// What stands above the text, as in "3 errors, 1 warning in 2 files, 1.4 s".
-std::string messagesSummary(const MessagesText& text, std::chrono::milliseconds elapsed);
+/// The same of a log's file, of which only so much is read: whole lines. Throws Tarnwickfile::FileNotOpenE.
+MessagesText textOfLog(const ToolLog& log);
+
+/// With one digit behind the point, as in "1.4 s".
+std::string secondsText(std::chrono::milliseconds time);
+
+/// What stands above the text of runs that took so long and ended so, as in "3 errors, 1 warning in 2 files, 1.4 s".
+std::string messagesSummary(const MessagesText& text, std::chrono::milliseconds elapsed, RunEnd end = RunEnd::ByItself);
 
 }  // namespace tarnwick

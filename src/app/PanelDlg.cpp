@@ -1,8 +1,12 @@
 #include "app/PanelDlg.h"
 
+#include "app/RunStatus.h"
 #include "app/UserEditor.h"
+#include "base/Tarnwickexception.h"
+#include "dialogbase/Desktop.h"
 #include "dialogs/RunJavadoc.h"
 #include "dialogs/ShortcutDlg.h"
+#include "process/ToolLog.h"
 #include "resources/DialogLayout.h"
 #include "resources/PanelLayouts.h"
 #include "resources/SystemWords.h"
@@ -41,6 +45,10 @@ void PanelPage::initialise(DialogWindow& window) {
 
 void PanelPage::onCommand(int control) {
   panel_.onPageButton(control);
+}
+
+std::function<void()> PanelPage::controlReturn(int control) {
+  return control == FIELD ? panel_.controlReturnInField() : nullptr;
 }
 
 ButtonBar::ButtonBar(Desktop& desktop, PanelDlg& panel, const DialogLayout& layout)
@@ -83,10 +91,8 @@ void PanelDlg::setPartner(PanelDlg* partner, const std::string& switchLabel) {
 
 void PanelDlg::onCommand(int control) {
   const int now = settings_.panelLayout.value;
-  if (control == ButtonBar::SETTINGS) {
-    SettingsDialog(settings_).runModal(0);
-    settings_.saveIfWindowMoved();
-  }
+  if (control == ButtonBar::SETTINGS) editSettings();
+  if (control == PANEL_STATUS_LINE) showLastLog();
   if (control == ButtonBar::SWITCH_VIEW) switchView();
   if (control == ButtonBar::EXIT) exitProgram();
   if (control == ButtonBar::LAYOUT_LEFT) {
@@ -100,11 +106,37 @@ void PanelDlg::onCommand(int control) {
   if (ofLayout) bar().window()->focus(control);
 }
 
+void PanelDlg::editSettings() {
+  const bool hadStatusLine = settings_.statusLine;
+  SettingsDialog(settings_).runModal(0);
+  settings_.saveIfWindowMoved();
+  if (settings_.statusLine != hadStatusLine) applyLayout();
+}
+
+void PanelDlg::showLastLog() {
+  const SettingsContext& context = settings_.context();
+  if (!context.showMessages || context.log.path().empty()) return desktop_.alert(AlertSound::Beep);
+  try {
+    context.showMessages(true);
+  } catch (const Tarnwickexception& failure) {
+    desktop_.message(failure.message);
+  }
+}
+
+void PanelDlg::updateStatus() {
+  if (window()) window()->setText(PANEL_STATUS_LINE, statusText(settings_, mainDialog_.runs()));
+}
+
 void PanelDlg::onPageButton(int page, int control) {
   if (page != UTILITIES) return;
   if (control == PanelPage::LEFT) runJar(settings_, jarSession_);
   if (control == PanelPage::MIDDLE) runJavadoc(settings_, javadocInput_);
   if (control == PanelPage::RIGHT) makeShortcut();
+}
+
+std::function<void()> PanelDlg::controlReturnInField() {
+  if (currentPage() != MAIN_PROGRAM) return {};
+  return [this] { compileAndRun(); };
 }
 
 void PanelDlg::makeShortcut() {
@@ -154,6 +186,7 @@ void PanelDlg::buildLayouts() {
     if (index == LayoutValue::VERTICAL) arrangeVertical(places);
     if (index == LayoutValue::HORIZONTAL) arrangeHorizontal(places);
     if (index == LayoutValue::FLAT) arrangeFlat(places);
+    feet_[static_cast<std::size_t>(index)] = PanelFoot(places, window()->rect(PANEL_STATUS_LINE).height());
     auto& layout = layouts_[static_cast<std::size_t>(index)];
     layout = std::make_unique<PanelLayout>(index);
     addPlaces(*layout, std::move(places));
@@ -161,9 +194,11 @@ void PanelDlg::buildLayouts() {
 }
 
 void PanelDlg::applyLayout() {
-  PanelLayout* const layout = layouts_[static_cast<std::size_t>(settings_.panelLayout.value)].get();
+  const auto index = static_cast<std::size_t>(settings_.panelLayout.value);
+  PanelLayout* const layout = layouts_[index].get();
   if (!layout) return;
   LayoutItem& top = layout->findWindow(mainWindow());
+  feet_[index].adjust(*layout, *window(), mainWindow(), settings_.statusLine);
   try {
     const int left = settings_.windowPosition.getLeft();
     top.moveTo(left, settings_.windowPosition.getTop());
@@ -173,6 +208,8 @@ void PanelDlg::applyLayout() {
     top.moveTo(now.left, now.top);
   }
   layout->apply();
+  feet_[index].show(*window(), settings_.statusLine);
+  updateStatus();
   window()->select(TAB_CONTROL, currentPage());
   updateTitle();
   mainWindow().redraw();

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/PanelArrangement.h"
+#include "app/PanelFoot.h"
 #include "dialogbase/TabbedDialog.h"
 #include "dialogs/RunJar.h"
 #include "settings/Settings.h"
@@ -23,6 +24,7 @@ class PanelPage : public TabPage {
 
   void initialise(DialogWindow& window) override;
   void onCommand(int control) override;
+  std::function<void()> controlReturn(int control) override;
 
   /// The page's window; null while the panel has none.
   using TabPage::window;
@@ -69,6 +71,8 @@ struct MainDialog {
   std::function<void()> save;
   /// Ends the dialog as with OK.
   std::function<void()> end;
+  /// What there is to tell of the tools' runs.
+  std::function<std::string()> runs;
 };
 
 /// The common base of the panels of the main window.
@@ -91,12 +95,17 @@ class PanelDlg : public TabbedDialog {
   /// Arranges the panel as the settings say, puts the main window to its stored place and names it.
   virtual void applyLayout();
   virtual void updateTitle() = 0;
+  /// The status line tells how things stand now.
+  void updateStatus();
   bool isShown() const { return shown_; }
   /// Shows the other panel in the place of this one.
   virtual void switchView();
   virtual void exitProgram();
   /// A button of the page with this index, by PanelPage::Control. Knows the utilities'.
   virtual void onPageButton(int page, int control);
+
+  /// What Ctrl+Return does in the field of the page that is open.
+  std::function<void()> controlReturnInField();
 
   /// A button of the page that is open.
   void onPageButton(int control) { onPageButton(currentPage(), control); }
@@ -107,6 +116,8 @@ class PanelDlg : public TabbedDialog {
   /// Starts the user's editor on a file, or on none with the empty text. False when no editor could be chosen or
   /// started.
   bool openEditor(const std::string& name);
+  /// Compiles what is not up to date, and runs the program if nothing was said.
+  virtual void compileAndRun() = 0;
   /// The dialog that makes shortcuts.
   virtual void makeShortcut();
 
@@ -130,12 +141,16 @@ class PanelDlg : public TabbedDialog {
  private:
   PanelPlaces placesNow();
   void changeLayout(int layout);
+  void editSettings();
+  /// Shows the last log, if there is one.
+  void showLastLog();
   /// The bar of the present arrangement.
   ButtonBar& bar() { return *bars_[static_cast<std::size_t>(settings_.panelLayout.value)]; }
 
   std::array<ButtonBar*, 3> bars_;
   std::array<PanelPage*, 3> pages_;
   std::array<std::unique_ptr<PanelLayout>, 3> layouts_;
+  std::array<PanelFoot, 3> feet_;
   PanelDlg* partner_ = nullptr;
   std::string title_;
   MainDialog mainDialog_;

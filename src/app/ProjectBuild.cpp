@@ -2,7 +2,6 @@
 
 #include "base/Text.h"
 #include "dialogbase/RunSteps.h"
-#include "platform/FileSystem.h"
 #include "process/ToolLog.h"
 #include "settings/PathRules.h"
 #include "settings/SettingsContext.h"
@@ -56,58 +55,65 @@ std::vector<Batch> batchesOf(const Settings& settings, const std::vector<const J
   return batches;
 }
 
-/// Tells the log that the user has stopped the command between two runs.
-void noteStopped(ToolLog& log) {
-  log.open(FileMode::Append);
-  const std::string note = std::string(platform::lineEnd) + platform::lineEnd + "Stopped." + platform::lineEnd;
-  log.append(note.data(), note.size());
-  log.close();
-}
+/// The compiler's runs of one command, whose user may stop it in one of them or between two.
+class CompileRuns {
+ public:
+  CompileRuns(const Settings& settings, std::size_t runs) : settings_(settings), steps_(desktopOf(settings), runs) {}
+
+  /// False if the user wants no more of them.
+  bool next() {
+    if (isStopped_ || steps_.next()) return !isStopped_;
+    settings_.context().log.addNotes(logMode_, {stoppedNote}, RunEnd::Stopped);
+    isStopped_ = said_ = true;
+    return false;
+  }
+  /// The one that comes next adds to the log of those before.
+  FileMode logMode() const { return logMode_; }
+  void take(const RunResult& result) {
+    if (hasSaid(settings_, result)) said_ = true;
+    isStopped_ = result.end == RunEnd::Stopped;
+    logMode_ = FileMode::Append;
+  }
+  /// True if there was something to say in any of them.
+  bool haveSaid() const { return said_; }
+
+ private:
+  static Desktop& desktopOf(const Settings& settings) { return settings.context().desktop; }
+
+  const Settings& settings_;
+  RunSteps steps_;
+  FileMode logMode_ = FileMode::Write;
+  bool said_ = false;
+  bool isStopped_ = false;
+};
 
 // Deliberate: asked from the last to the first; a run may make others current.
-bool compileEach(Settings& settings, const ProjectContext& project, bool all, Compiler& compiler) {
+bool compileEach(const Settings& settings, const ProjectContext& project, bool all, Compiler& compiler) {
   const TypeIndex index(project.collectClasses(ProjectContext::ALL_TYPES));
-  bool failed = false;
-  FileMode logMode = FileMode::Write;
-  RunSteps steps(settings.context().desktop, project.sources.size());
-  for (std::size_t i = project.sources.size(); i-- > 0;) {
+  CompileRuns runs(settings, project.sources.size());
+  for (std::size_t i = project.sources.size(); i-- > 0 && runs.next();) {
     const JavaSourcefile& source = project.sources[i];
-    if (!steps.next()) {
-      noteStopped(settings.context().log);
-      return true;
-    }
     if (!all && source.isUpToDate(index, settings.javacDestination, project.folderNoSlash())) continue;
     FileForSubprocess file(source.name().fullName());
-    const RunResult result = compiler.compile(file, logMode);
-    if (hasSaid(settings, result)) failed = true;
-    if (result.stopped) break;
-    logMode = FileMode::Append;
+    runs.take(compiler.compile(file, runs.logMode()));
   }
-  return failed;
+  return runs.haveSaid();
 }
 
-bool compileTogether(Settings& settings, const ProjectContext& project, bool all, Compiler& compiler) {
+bool compileTogether(const Settings& settings, const ProjectContext& project, bool all, Compiler& compiler) {
   const TypeIndex index(project.collectClasses(ProjectContext::ALL_TYPES));
   std::vector<const JavaSourcefile*> stale;
   for (std::size_t i = project.sources.size(); i-- > 0;) {
     const JavaSourcefile& source = project.sources[i];
     if (all || !source.isUpToDate(index, settings.javacDestination, project.folderNoSlash())) stale.push_back(&source);
   }
-  bool failed = false;
-  FileMode logMode = FileMode::Write;
   const auto batches = batchesOf(settings, stale);
-  RunSteps steps(settings.context().desktop, batches.size());
+  CompileRuns runs(settings, batches.size());
   for (const auto& batch : batches) {
-    if (!steps.next()) {
-      noteStopped(settings.context().log);
-      return true;
-    }
-    const RunResult result = compiler.compileTogether(batch.names, logMode);
-    if (hasSaid(settings, result)) failed = true;
-    if (result.stopped) break;
-    logMode = FileMode::Append;
+    if (!runs.next()) break;
+    runs.take(compiler.compileTogether(batch.names, runs.logMode()));
   }
-  return failed;
+  return runs.haveSaid();
 }
 
 /// True if `javac` had something to say of any source.

@@ -29,7 +29,8 @@ std::array<PageWords, 2> pageWords() {
       {{{"Select", "jdb debug", "java"},
         {{PanelPage::LEFT, "Select a class for execution (must have a public static void main() method!)"},
          {PanelPage::MIDDLE, "Execute application under debugger control"},
-         {PanelPage::RIGHT, "Execute application; Ctrl+click compiles first what is not up to date"},
+         {PanelPage::RIGHT,
+          "Execute application; Ctrl+click, or Ctrl+Return in the field, compiles first what is not up to date"},
          {PanelPage::FIELD, "File name for executable class, optionally followed by runtime arguments"}}},
        {{"", "appletdebug", "appletviewer"},
         {{PanelPage::MIDDLE, "Start appletviewer under debugger control"}, {PanelPage::RIGHT, "Start appletviewer"}}}}};
@@ -113,12 +114,18 @@ void ProjectView::onPageButton(int page, int control) {
   if (page == MAIN_PROGRAM && control == PanelPage::LEFT) selectMainClass();
   if (page == MAIN_PROGRAM && control == PanelPage::MIDDLE) runProject(true);
   if (page == MAIN_PROGRAM && control == PanelPage::RIGHT) {
-    // With the Control key: what is not up to date is compiled first.
-    if (!desktop_.controlKeyHeld() || bringUpToDate()) runProject(false);
+    if (desktop_.controlKeyHeld())
+      compileAndRun();
+    else
+      runProject(false);
   }
   if (page == APPLET && control == PanelPage::MIDDLE) runApplet(true);
   if (page == APPLET && control == PanelPage::RIGHT) runApplet(false);
   PanelDlg::onPageButton(page, control);
+}
+
+void ProjectView::compileAndRun() {
+  if (bringUpToDate()) runProject(false);
 }
 
 void ProjectView::updateTitle() {

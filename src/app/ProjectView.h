@@ -31,6 +31,7 @@ class ProjectView : public PanelDlg {
   void onTabChanged() override { refreshButtons(); }
   using PanelDlg::onPageButton;
   void onPageButton(int page, int control) override;
+  void compileAndRun() override;
 
  private:
   void newProject();

@@ -16,6 +16,8 @@
 #include "source/PieceFolder.h"
 #include "source/PrivatePieces.h"
 
+#include <cstddef>
+#include <optional>
 #include <utility>
 
 namespace tarnwick {
@@ -34,11 +36,32 @@ TarnwickDlg::TarnwickDlg(Settings& settings, std::string argument)
     : ToolTipDlg(settings.context().desktop, mainLayout().resource, 0),
       settings_(settings),
       argument_(std::move(argument)),
+      runs_(settings.context().log),
       fileView_(settings, mainDialog()),
-      projectView_(settings, mainDialog()) {}
+      projectView_(settings, mainDialog()) {
+  followRuns();
+}
 
 TarnwickDlg::~TarnwickDlg() {
-  settings_.context().mainWindow = nullptr;
+  SettingsContext& context = settings_.context();
+  context.mainWindow = nullptr;
+  context.onRunBegins = [](const std::string&, std::size_t) {};
+  context.onRunEnds = [](std::optional<bool>) {};
+}
+
+void TarnwickDlg::followRuns() {
+  const auto show = [this] {
+    fileView_.updateStatus();
+    projectView_.updateStatus();
+  };
+  settings_.context().onRunBegins = [this, show](const std::string& what, std::size_t sources) {
+    runs_.begins(what, sources);
+    show();
+  };
+  settings_.context().onRunEnds = [this, show](std::optional<bool> said) {
+    runs_.ends(said);
+    show();
+  };
 }
 
 void TarnwickDlg::setZipApplication(const WinApp& application) {
@@ -125,6 +148,7 @@ MainDialog TarnwickDlg::mainDialog() {
   dialog.emptyFileFields = [this] { fileView_.emptyFields(); };
   dialog.save = [this] { saveWhatStands(); };
   dialog.end = [this] { close(DIALOG_OK); };
+  dialog.runs = [this] { return runs_.text(); };
   return dialog;
 }
 
@@ -215,6 +239,7 @@ void TarnwickDlg::welcomeFirstUse(int status) {
     if (chosen.oneRun != offeredChoices.oneRun) settings_.javacOneRun = chosen.oneRun;
     if (chosen.newerConsole != offeredChoices.newerConsole) settings_.newerConsole = chosen.newerConsole;
     if (chosen.watchRuns != offeredChoices.watchRuns) settings_.watchRuns = chosen.watchRuns;
+    if (chosen.statusLine != offeredChoices.statusLine) settings_.statusLine = chosen.statusLine;
     if (chosen.strictChecks != offeredChoices.strictChecks) settings_.javaXfuture = chosen.strictChecks;
   }
   // Into a configuration that is there nothing comes that its user has not accepted.
@@ -223,8 +248,8 @@ void TarnwickDlg::welcomeFirstUse(int status) {
 }
 
 TarnwickDlg::JdkChoices TarnwickDlg::jdkChoices() const {
-  return {settings_.javacMyJdkVersion, settings_.newerJava, settings_.javacOneRun,
-          settings_.newerConsole,      settings_.watchRuns, settings_.javaXfuture};
+  return {settings_.javacMyJdkVersion, settings_.newerJava,   settings_.javacOneRun, settings_.newerConsole,
+          settings_.watchRuns,         settings_.javaXfuture, settings_.statusLine};
 }
 
 void TarnwickDlg::suitJdk() {
@@ -233,7 +258,7 @@ void TarnwickDlg::suitJdk() {
   if (version >= 5) settings_.javacMyJdkVersion = "1.5";
   // Before version 5 the language was what the classic way knows.
   settings_.newerJava = settings_.javacOneRun = settings_.newerConsole = version >= 5;
-  settings_.watchRuns = version >= 5;
+  settings_.watchRuns = settings_.statusLine = version >= 5;
   // From version 13 on, java warns about -Xfuture, and later ones refuse it. An existing configuration keeps it.
   if (version >= 13) settings_.javaXfuture = false;
 }

@@ -2,6 +2,7 @@
 
 #include "app/FileView.h"
 #include "app/ProjectView.h"
+#include "app/RunStatus.h"
 #include "dialogbase/ToolTipDlg.h"
 
 #include <functional>
@@ -54,13 +55,15 @@ class TarnwickDlg : public ToolTipDlg {
   /// One step of it, with the words of a failure; gives the path of the source that was refused, if one was.
   std::string openProject(const std::function<void()>& step);
   MainDialog mainDialog();
+  /// The status lines tell of the tools' runs from now on.
+  void followRuns();
   /// What every end of the panel saves: a moved window, and what stands in the fields.
   void saveWhatStands();
   void readSettings();
   /// What a JDK suggests and the user may choose otherwise in the settings.
   struct JdkChoices {
     std::string version;
-    bool newerJava, oneRun, newerConsole, watchRuns, strictChecks;
+    bool newerJava, oneRun, newerConsole, watchRuns, strictChecks, statusLine;
   };
   void welcomeFirstUse(int status);
   /// Tells if what bears the configuration's name is none that could be read.
@@ -74,6 +77,7 @@ class TarnwickDlg : public ToolTipDlg {
   std::string argument_;
   /// The panel stands, and its end has saved nothing yet.
   bool unsaved_ = false;
+  RunStatus runs_;
   FileView fileView_;
   ProjectView projectView_;
 };

@@ -90,6 +90,8 @@ class DialogHandler {
   virtual void initialise(DialogWindow& window) = 0;
   /// A button, check box or radio button was pressed by the user; or Return or Escape stood for one.
   virtual void onCommand(int control) = 0;
+  /// What Ctrl+Return does in a field; nothing where it has no meaning of its own, and stands for Return.
+  virtual std::function<void()> controlReturn(int /*control*/) { return {}; }
   /// The user changed the text of a field.
   virtual void onTextChanged(int /*control*/) {}
   /// The user chose another entry of a combo box or list, or another tab.

@@ -27,10 +27,7 @@ void LoggedRun::waitForEnd() {
   child_.wait();
   const bool settled = settle();
   finish();
-  if (endsStopped())
-    note("Stopped.");
-  else
-    noteDeath();
+  noteEnd();
   if (!settled) note("The tool has ended, but something that it has left behind still writes.");
   log_.close();
 }
@@ -131,10 +128,16 @@ void LoggedRun::note(const std::string& text) {
   }
 }
 
-/// A tool that was killed may not have said a word, and nobody may take that for success.
-void LoggedRun::noteDeath() {
-  const std::string cause = child_.causeOfDeath();
-  if (!cause.empty()) note("Ended by a signal: " + cause);
+void LoggedRun::noteEnd() {
+  if (endsStopped()) {
+    end_ = RunEnd::Stopped;
+    note(stoppedNote);
+  } else if (const std::string cause = child_.causeOfDeath(); !cause.empty()) {
+    // A tool that was killed may not have said a word, and nobody may take that for success.
+    end_ = RunEnd::BySignal;
+    note("Ended by a signal: " + cause);
+  }
+  log_.noteEnd(end_);
 }
 
 /// Something that the tool left behind may still be writing; the run ends when nothing more comes. Where both outputs

@@ -3,6 +3,7 @@
 #include "platform/Process.h"
 #include "platform/ThreadFactory.h"
 #include "process/NameReplacer.h"
+#include "process/RunResult.h"
 #include "process/ToolLog.h"
 
 #include <atomic>
@@ -52,8 +53,8 @@ class LoggedRun {
   /// and nothing more of it is waited for. Any thread.
   void stop();
 
-  /// True if the user has stopped it.
-  bool isStopped() const { return stopped_; }
+  /// How it has ended.
+  RunEnd end() const { return end_; }
   /// True if the tool has said anything.
   bool hadOutput() const { return outputBytes_ > 0 || lostOutput_; }
   /// True if some of what it said was lost for lack of memory.
@@ -67,7 +68,8 @@ class LoggedRun {
   void appendRest(NameReplacer& replacer);
   /// Adds a line of ours behind what the tool has said.
   void note(const std::string& text);
-  void noteDeath();
+  /// Takes down how the tool has ended, and tells it if that was not by itself.
+  void noteEnd();
   /// From now on nobody can stop it; true if somebody has.
   bool endsStopped();
   /// False if something still writes.
@@ -83,10 +85,11 @@ class LoggedRun {
   std::thread error_;
   std::atomic<std::size_t> outputBytes_{0};
   std::atomic<bool> lostOutput_{false};
-  std::atomic<bool> stopped_{false};
+  RunEnd end_ = RunEnd::ByItself;
   bool finished_ = false;
-  std::mutex endLock_;  ///< of the three below
+  std::mutex endLock_;  ///< of the four below
   int endedOutputs_ = 0;
+  bool stopped_ = false;
   bool givenUp_ = false;
   bool isOver_ = false;
   std::condition_variable ended_;

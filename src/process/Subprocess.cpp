@@ -145,7 +145,7 @@ RunResult Subprocess::run(const FileForSubprocess* file, FileMode logOpenMode) {
   const std::string unwritten = log_.fault();
   if (!unwritten.empty()) failures.push_back(unwritten + "\nCan't write log file " + log_.path());
   result.said = run.hadOutput();
-  result.stopped = run.isStopped();
+  result.end = run.end();
   return result;
 }
 

@@ -2,6 +2,7 @@
 
 #include "platform/FileSystem.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
@@ -31,7 +32,7 @@ void ToolLog::beginPart(FileMode mode) {
     size_ = 0;
     elapsed_ = {};
   }
-  parts_.push_back({size_, platform::currentDirectory()});
+  parts_.push_back({size_, platform::currentDirectory(), RunEnd::ByItself, true});
   ++runs_;
   opened_ = std::chrono::steady_clock::now();
   isOpen_ = true;
@@ -53,6 +54,22 @@ void ToolLog::close() {
   if (std::exchange(isOpen_, false)) elapsed_ += std::chrono::steady_clock::now() - opened_;
 }
 
+void ToolLog::noteEnd(RunEnd end) {
+  const std::lock_guard lock(lock_);
+  if (isOpen_) parts_.back().end = end;
+}
+
+void ToolLog::addNotes(FileMode mode, const std::vector<std::string>& notes, RunEnd end) {
+  const std::lock_guard lock(lock_);
+  open(mode);
+  parts_.back().hasCommand = false;
+  std::string text = platform::lineEnd;
+  for (const auto& note : notes) text += platform::lineEnd + note + platform::lineEnd;
+  append(text.data(), text.size());
+  noteEnd(end);
+  close();
+}
+
 int ToolLog::runs() const {
   const std::lock_guard lock(lock_);
   return runs_;
@@ -66,6 +83,13 @@ std::vector<LoggedPart> ToolLog::parts() const {
 std::chrono::milliseconds ToolLog::elapsed() const {
   const std::lock_guard lock(lock_);
   return std::chrono::duration_cast<std::chrono::milliseconds>(elapsed_);
+}
+
+RunEnd ToolLog::end() const {
+  const std::lock_guard lock(lock_);
+  const auto early =
+      std::find_if(parts_.rbegin(), parts_.rend(), [](const auto& part) { return part.end != RunEnd::ByItself; });
+  return early == parts_.rend() ? RunEnd::ByItself : early->end;
 }
 
 void ToolLog::noteFault() {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/TempFile.h"
+#include "process/RunResult.h"
 
 #include <chrono>
 #include <cstddef>
@@ -12,11 +13,16 @@
 
 namespace tarnwick {
 
-/// One of the runs that a log tells of.
+/// One of the runs that a log tells of, or notes of ours between them.
 struct LoggedPart {
-  std::size_t begin = 0;  ///< the first byte of it in the log
-  std::string folder;     ///< in which the tool ran
+  std::size_t begin = 0;          ///< the first byte of it in the log
+  std::string folder;             ///< in which the tool ran
+  RunEnd end = RunEnd::ByItself;  ///< how it has ended
+  bool hasCommand = true;         ///< notes have none
 };
+
+/// What the log tells of a user who has stopped the command.
+inline constexpr const char* stoppedNote = "Stopped.";
 
 /// The tools' output of one process: one temporary file, made with the first run and opened anew for each.
 class ToolLog {
@@ -32,7 +38,11 @@ class ToolLog {
   /// Appends bytes, as they are, to the open log's file. Gives the count written. Throws Tarnwickfile::FileNotOpenE if
   /// it is closed.
   std::size_t append(const char* bytes, std::size_t size);
+  /// The run that the log was opened for has ended so.
+  void noteEnd(RunEnd end);
   void close();
+  /// Adds lines of ours as a part of their own, which ends the command so. Throws as `open` does.
+  void addNotes(FileMode mode, const std::vector<std::string>& notes, RunEnd end = RunEnd::ByItself);
   /// The system's sentence for the first thing since `open` that could not be written; empty if all went well.
   std::string fault() const;
   /// The log's path; empty before the first run.
@@ -43,6 +53,8 @@ class ToolLog {
   /// The runs since the log was last begun anew, and how long they have taken in all.
   std::vector<LoggedPart> parts() const;
   std::chrono::milliseconds elapsed() const;
+  /// How the last of them has ended that did not end by itself.
+  RunEnd end() const;
 
   /// The lock of the log; whoever puts several appends together holds it. Recursive.
   std::recursive_mutex& lock() { return lock_; }

@@ -50,6 +50,10 @@ DialogItem link(int control, const std::string& address) {
   return item(ItemKind::Link, control, address);
 }
 
+DialogItem statusLine(int control) {
+  return item(ItemKind::StatusLine, control);
+}
+
 DialogItem edit(int control, int characters) {
   return item(ItemKind::Edit, control).atLeast(characters);
 }

@@ -21,6 +21,7 @@ enum class ItemKind {
   Link,     ///< a web address that can be pressed; its text is what it opens
   Edit,     ///< one line of text
   Button,
+  StatusLine,  ///< a line of text that can be pressed; what it has no room for is cut
   CheckBox,
   RadioButton,  ///< a run of neighbours in one row or column excludes one another
   ComboBox,     ///< fixed entries
@@ -141,6 +142,7 @@ DialogItem label(const std::string& text, int control = 0);
 DialogItem link(int control, const std::string& address);
 DialogItem edit(int control, int characters);
 DialogItem button(int control, const std::string& text);
+DialogItem statusLine(int control);
 DialogItem checkBox(int control, const std::string& text);
 DialogItem radioButton(int control, const std::string& text);
 DialogItem comboBox(int control, std::vector<std::string> entries);

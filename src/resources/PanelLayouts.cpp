@@ -16,10 +16,11 @@ DialogItem pictureButton(int control, const std::string& text) {
   return button(control, text).withItsPicture();
 }
 
-/// The three bars share their place; one of them shows.
+/// The three bars share their place; one of them shows. The status line comes behind them.
 DialogItem bars() {
   return layers({slot(VERTICAL_BAR_SLOT), slot(HORIZONTAL_BAR_SLOT).floating().hiddenAtFirst(),
-                 slot(FLAT_BAR_SLOT).floating().hiddenAtFirst()});
+                 slot(FLAT_BAR_SLOT).floating().hiddenAtFirst(),
+                 statusLine(PANEL_STATUS_LINE).floating().hiddenAtFirst()});
 }
 
 }  // namespace

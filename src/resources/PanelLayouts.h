@@ -24,5 +24,7 @@ const DialogLayout& flatBarLayout();
 enum MainSlot { FILE_VIEW_SLOT = 130, PROJECT_VIEW_SLOT = 157 };
 /// Slots of a panel.
 enum PanelSlot { VERTICAL_BAR_SLOT = 197, HORIZONTAL_BAR_SLOT = 198, FLAT_BAR_SLOT = 199 };
+/// The line at the foot of a panel, which the panel's rules show and place.
+inline constexpr int PANEL_STATUS_LINE = 2151;
 
 }  // namespace tarnwick

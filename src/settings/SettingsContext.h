@@ -1,7 +1,9 @@
 #pragma once
 
+#include <cstddef>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -42,6 +44,11 @@ struct SettingsContext {
   /// Shows the log in the messages' window; one that stays silent is only told of in a window that is open. The
   /// application sets it.
   std::function<void(bool said)> showMessages = {};
+  /// Hears what a tool begins to work on, as in "javac Greeter.java"; `sources` counts those that it compiles.
+  std::function<void(const std::string& what, std::size_t sources)> onRunBegins = [](const std::string&, std::size_t) {
+  };
+  /// Hears that a command has ended, and whether its tools had something to say; nothing if it has not come so far.
+  std::function<void(std::optional<bool> said)> onRunEnds = [](std::optional<bool>) {};
   /// Makes this program the opener of project files. The application sets it.
   std::function<void()> registerProjectType = [] {};
   /// The warning before a source is split; stands in no file, so each run of the program begins with it.

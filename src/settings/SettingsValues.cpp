@@ -157,6 +157,7 @@ SettingsValues::SettingsValues(PlacedWindow* const& mainWindow) : windowPosition
       later(flag("DISPLAY_MESSAGES", displayMessages, false, TOOLS_PAGE, SETTINGS_DIALOG, 2111)),
       later(text("MESSAGES_PLACE", messagesPlace, nullptr, 0, 0, 0)),
       later(flag("WATCH_RUNS", watchRuns, false, TOOLS_PAGE, SETTINGS_DIALOG, 2120)),
+      later(flag("STATUS_LINE", statusLine, false, TOOLS_PAGE, SETTINGS_DIALOG, 2150)),
       endOfRows,
   };
   // clang-format on

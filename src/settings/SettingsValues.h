@@ -37,7 +37,7 @@ struct SettingsValues {
 
   // JDK tools
   std::string javaPath;
-  bool displayWithNotepad = false, displayMessages = false, watchRuns = false;
+  bool displayWithNotepad = false, displayMessages = false, watchRuns = false, statusLine = false;
   std::string messagesPlace;
 
   // javac

@@ -23,6 +23,7 @@ enum Control {
   WITH_NOTEPAD = 1017,
   WITH_EDITOR = 1018,
   WATCH_RUNS = 2120,
+  STATUS_LINE = 2150,
   ON_DESKTOP = 1204,
   IN_STARTMENU = 1205,
   FOUND_LABEL = 2001,
@@ -47,6 +48,9 @@ ToolsPage::ToolsPage(SettingsContext& context, const TagRow* rows)
       {WATCH_RUNS,
        "When a tool has run for a second, a small window tells which, on what and for how long. \"Stop\" there, or "
        "Escape, ends it with all that it has started."},
+      {STATUS_LINE,
+       "A line at the foot of the panel tells what runs, how the last run has ended, the open project and the "
+       "configuration. A press on it opens the messages window."},
       {ON_DESKTOP, inSystemWords("Create an icon on the Windows desktop. A double click on it will start Tarnwick.")},
       {IN_STARTMENU, inSystemWords("Create an entry in the Windows startmenu tree that will start Tarnwick.")},
       {FOUND_JDKS, "JDKs found on this computer, the newest first. Choose one to use its tools."},

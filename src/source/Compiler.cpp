@@ -163,7 +163,8 @@ void Compiler::tellTool(const CompilerPaths& paths) {
   for (const auto& argument : javacArguments(settings_, paths)) tool_.addArg(argument);
 }
 
-void Compiler::show(const std::string& sources) {
+void Compiler::show(const std::string& sources, std::size_t count) {
+  settings_.context().onRunBegins("javac " + sources, count);
   if (settings_.watchRuns) tool_.showWhileItRuns(sources);
 }
 
@@ -194,7 +195,7 @@ RunResult Compiler::compile(FileForSubprocess& source, FileMode logMode) {
   // The pieces live until the tool has ended.
   GatheredSources gathered(settings_.context().program.configDirectory());
   gather(source.name(), gathered);
-  show(source.name().nameWithExtension());
+  show(source.name().nameWithExtension(), 1);
   source.args().clear();
   for (const auto& name : gathered.names) source.args().push_back(platform::fileWord(name));
   return run(source, gathered, logMode);
@@ -209,8 +210,9 @@ RunResult Compiler::compileTogether(const std::vector<std::string>& sources, Fil
   writeArgumentFile(list, gathered.names);
   const std::string word = platform::commandWord("@" + list.name().fullName());
   tool_.replaceInLog(word, shownNames(gathered.names));
-  show(sources.size() == 1 ? Filename(sources.front()).nameWithExtension()
-                           : std::to_string(sources.size()) + " sources");
+  show(
+      sources.size() == 1 ? Filename(sources.front()).nameWithExtension() : std::to_string(sources.size()) + " sources",
+      sources.size());
   FileForSubprocess first(sources.front());
   first.args() = {word};
   return run(first, gathered, logMode);
@@ -236,12 +238,7 @@ RunResult Compiler::run(const FileForSubprocess& first, const GatheredSources& g
 
 bool Compiler::tellMisplaced(const std::vector<std::string>& notes) {
   if (notes.empty()) return false;
-  ToolLog& log = settings_.context().log;
-  log.open(FileMode::Append);
-  std::string text = platform::lineEnd;
-  for (const auto& note : notes) text += platform::lineEnd + note + platform::lineEnd;
-  log.append(text.data(), text.size());
-  log.close();
+  settings_.context().log.addNotes(FileMode::Append, notes);
   return true;
 }
 

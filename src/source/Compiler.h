@@ -71,8 +71,8 @@ class Compiler {
 
   void checkTool() const;
   void tellTool(const CompilerPaths& paths);
-  /// The user sees this of what is compiled, if it lasts.
-  void show(const std::string& sources);
+  /// The user sees this of what is compiled: so many sources.
+  void show(const std::string& sources, std::size_t count);
   void beginRun();
   /// Adds what `javac` is given for the source.
   void gather(const Filename& source, GatheredSources& gathered);

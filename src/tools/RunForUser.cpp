@@ -10,13 +10,18 @@
 namespace tarnwick {
 
 void runForUser(const Settings& settings, Subprocess& tool, const FileForSubprocess* file, Silence silence) {
-  Desktop& desktop = settings.context().desktop;
+  const SettingsContext& context = settings.context();
+  // Of what goes its own way nobody knows the end.
+  const bool isWaitedFor = silence == Silence::Shown;
+  if (isWaitedFor && !tool.arguments().empty()) context.onRunBegins(tool.arguments().front(), 0);
   try {
     const RunResult result = tool.run(file, FileMode::Write);
-    showEach(desktop, result.failures);
+    if (isWaitedFor) context.onRunEnds(result.said);
+    showEach(context.desktop, result.failures);
     showRun(settings, result.said, silence);
   } catch (const Tarnwickfile::FileNotOpenE& failure) {
-    desktop.message(failure.message);
+    context.onRunEnds(std::nullopt);
+    context.desktop.message(failure.message);
   }
 }
 

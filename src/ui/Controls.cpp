@@ -4,6 +4,7 @@
 #include "ui/Icons.h"
 #include "ui/Link.h"
 #include "ui/PictureButton.h"
+#include "ui/StatusLine.h"
 #include "ui/Text.h"
 #include "ui/Toolkit.h"
 
@@ -176,6 +177,8 @@ wxWindow* makeWindow(wxWindow& parent, const DialogItem& item) {
       return makeEdit(parent, item);
     case ItemKind::Button:
       return makeButton(parent, item);
+    case ItemKind::StatusLine:
+      return new StatusLine(parent);
     case ItemKind::CheckBox:
       return new wxCheckBox(&parent, wxID_ANY, toWx(item.text));
     case ItemKind::RadioButton:
@@ -203,6 +206,7 @@ void connect(wxWindow& window, const DialogItem& item, const ControlEvents& even
   };
   switch (item.kind) {
     case ItemKind::Button:
+    case ItemKind::StatusLine:
       window.Bind(wxEVT_BUTTON, tell(events.command));
       break;
     case ItemKind::CheckBox:
@@ -307,6 +311,7 @@ wxSize naturalSize(const DialogItem& item, const Control& control) {
   }
   // Before it shows, a label does not know that its font has changed.
   if (item.kind == ItemKind::Heading) size.IncTo(window.GetTextExtent(window.GetLabel()) + wxSize(2, 2));
+  if (item.kind == ItemKind::StatusLine) size.y = std::max(size.y, leastFieldHeight(window));
   if (const auto* const button = dynamic_cast<const PictureButton*>(&window)) {
     // With room for the layout's own text, which may be the longest of several that the rules give it.
     size = button->sizeFor(item.text);
@@ -356,6 +361,8 @@ std::string textOf(const Control& control) {
       return fromWx(entryHolder(control)->GetStringSelection());
     case ItemKind::Label:
       return as<Label>(control).text();
+    case ItemKind::StatusLine:
+      return as<StatusLine>(control).text();
     case ItemKind::Button:
       if (const auto* const button = dynamic_cast<const PictureButton*>(control.window)) return button->text();
       [[fallthrough]];
@@ -377,6 +384,9 @@ void setTextOf(const Control& control, const std::string& text) {
     case ItemKind::Label:
       // Such a text is data: an "&" in a path is no mnemonic.
       as<Label>(control).set(text, wxControl::EscapeMnemonics(shown));
+      break;
+    case ItemKind::StatusLine:
+      as<StatusLine>(control).set(text);
       break;
     default:
       if (auto* const button = dynamic_cast<PictureButton*>(control.window)) {

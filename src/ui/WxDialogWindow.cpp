@@ -23,6 +23,7 @@ constexpr int pageMargin = 10;
 bool isForKeyboard(const Control& control) {
   switch (control.kind) {
     case ItemKind::Link:
+    case ItemKind::StatusLine:
     case ItemKind::Edit:
     case ItemKind::Button:
     case ItemKind::CheckBox:
@@ -302,23 +303,6 @@ WxDialogWindow* WxDialogWindow::childInSight(const Control& control) const {
     return children.at(static_cast<std::size_t>(selected));
   }
   return nullptr;
-}
-
-bool WxDialogWindow::hasUsable(int control) const {
-  const auto found = controls_.find(control);
-  return found != controls_.end() && found->second.window->IsEnabled() && found->second.window->IsShown();
-}
-
-void WxDialogWindow::command(int control) {
-  guard([&] { handler_.onCommand(control); });
-}
-
-void WxDialogWindow::askChildrenToClose() {
-  for (const auto& child : children_) {
-    if (!child->surface_.IsShownOnScreen()) continue;
-    child->askChildrenToClose();
-    guard([&child] { child->handler_.onCloseRequest(); });
-  }
 }
 
 const Control& WxDialogWindow::at(int control) const {

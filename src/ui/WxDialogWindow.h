@@ -87,6 +87,8 @@ class WxDialogWindow : public DialogWindow {
   WindowStack& stack() { return stack_; }
   bool hasUsable(int control) const;
   void command(int control);
+  /// What Ctrl+Return does in this field, which may be a child window's; nothing for all that is no such field.
+  std::function<void()> controlReturnOf(const wxWindow* field) const;
   /// Tells the child windows that show, the inner ones first, that the user asks to close.
   void askChildrenToClose();
 

@@ -43,6 +43,11 @@ class FileDrop : public wxFileDropTarget {
   Take take_;
 };
 
+bool isControlReturn(const wxKeyEvent& event) {
+  const int key = event.GetKeyCode();
+  return (key == WXK_RETURN || key == WXK_NUMPAD_ENTER) && event.GetModifiers() == wxMOD_CONTROL;
+}
+
 wxDialog* makeDialog(WxTopWindow::Role role, const DialogLayout& layout, wxWindow* parent) {
   long style = wxCAPTION | wxSYSTEM_MENU | wxCLOSE_BOX;
   if (layout.minimiseBox) style |= wxMINIMIZE_BOX;
@@ -147,9 +152,19 @@ void WxTopWindow::onKey(wxKeyEvent& event) {
   const bool listIsOpen = focus && isListOpen(*focus);
   if (event.GetKeyCode() == WXK_ESCAPE && event.GetModifiers() == wxMOD_NONE && !listIsOpen) {
     onEscape();
-  } else {
+  } else if (!isControlReturn(event) || !onControlReturn(focus)) {
     event.Skip();
   }
+}
+
+bool WxTopWindow::onControlReturn(const wxWindow* focus) {
+  const auto action = controlReturnOf(focus);
+  if (!action) return false;
+  // Not at once: on Windows keys are heard in the midst of the system's own work. A tool may run by then.
+  dialog_->CallAfter([this, action] {
+    if (running_ && isInnermost()) guard(action);
+  });
+  return true;
 }
 
 void WxTopWindow::onEscape() {

@@ -51,6 +51,8 @@ class WxTopWindow : public WxDialogWindow {
   void takeDrops(wxWindow& window);
   void onKey(wxKeyEvent& event);
   void onEscape();
+  /// False if the key means nothing of its own in the control with the focus.
+  bool onControlReturn(const wxWindow* focus);
   /// Leads a focus that nobody sees, of a control that was hidden or disabled, on to the next one of use.
   void keepFocusInSight();
   void end();

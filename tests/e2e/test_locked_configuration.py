@@ -194,7 +194,7 @@ def test_configuration_that_is_a_link_stays_one(scratch):
     panel.press("Exit")
     assert program.wait(person.LIMIT) == 0
     assert os.path.islink(scratch.configuration)
-    assert len(scratch.settings()) == 111 + 4
+    assert len(scratch.settings()) == 111 + 5
     assert os.listdir(scratch.config) == ["Tarnwickdefault.CFG"] and os.listdir(os.path.dirname(real)) == ["meine.cfg"]
     program = scratch.start()
     listens(Window("Tarnwick"))
@@ -236,7 +236,7 @@ def test_configuration_folder_that_is_missing_is_made(scratch):
     scratch.configuration = os.path.join(scratch.config, "Tarnwickdefault.CFG")
     scratch.environment["TARNWICK_CFGDIR"] = scratch.config
     program, panel = scratch.first_start()
-    assert len(scratch.settings()) == 111 + 4
+    assert len(scratch.settings()) == 111 + 5
     panel.press("Exit")
     assert program.wait(person.LIMIT) == 0
     assert os.listdir(scratch.config) == ["Tarnwickdefault.CFG"]

@@ -28,7 +28,8 @@ def is_wide(width, height):
 
 
 def is_flat(width, height):
-    return width > 10 * height
+    # The status line, which a first use brings, makes the strip higher.
+    return width > 8 * height
 
 
 def restarted(program, scratch, panel):

@@ -28,9 +28,10 @@ def test_first_start_welcomes_asks_for_the_jdk_and_saves_all_settings(scratch):
     with open(scratch.configuration, encoding="utf-8") as lines:
         rows = lines.read().split("\n")
     assert rows[:2] == [f"REM  This configuration file was written by {world.VERSION}", "REM"], rows[:2]
-    assert rows[-1] == "" and len(rows) == 2 + 111 + 4 + 1, len(rows)
+    assert rows[-1] == "" and len(rows) == 2 + 111 + 5 + 1, len(rows)
     # On from the first use where the JDK is of version 5 or newer.
-    assert rows[-5:-1] == ["NEWER_JAVA  ON", "JAVAC_ONE_RUN  ON", "NEWER_CONSOLE  ON", "WATCH_RUNS  ON"], rows[-5:]
+    assert rows[-6:-1] == ["NEWER_JAVA  ON", "JAVAC_ONE_RUN  ON", "NEWER_CONSOLE  ON", "WATCH_RUNS  ON",
+                           "STATUS_LINE  ON"], rows[-6:]
     assert scratch.settings()["JAVA_PATH"] == folder
     assert scratch.settings()["TARNWICK_VERSION"] == world.VERSION
     panel.press("Exit")
@@ -42,7 +43,7 @@ def test_cancel_at_the_first_start_still_saves_and_opens_the_panel(scratch):
     Window("Welcome to Tarnwick").press("OK")
     Window("Tarnwick settings").press("Cancel")
     panel = Window("Tarnwick")
-    assert len(scratch.settings()) == 111 + 4
+    assert len(scratch.settings()) == 111 + 5
     panel.press("Exit")
     assert program.wait(person.LIMIT) == 0
 

@@ -91,6 +91,13 @@ void ScriptedWindow::type(int control, const std::string& text) {
   handler_.onTextChanged(control);
 }
 
+bool ScriptedWindow::pressControlReturn(int control) {
+  if (!usable(control, "press Ctrl+Return in")) return false;
+  const auto action = handler_.controlReturn(control);
+  if (action) action();
+  return static_cast<bool>(action);
+}
+
 void ScriptedWindow::choose(int control, int index) {
   Control* chosen = usable(control, "choose in");
   if (!chosen) return;

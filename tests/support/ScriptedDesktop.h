@@ -40,6 +40,8 @@ class ScriptedWindow : public DialogWindow {
   // What a person does.
   void press(int control);
   void type(int control, const std::string& text);
+  /// False if Ctrl+Return means nothing of its own in the field.
+  bool pressControlReturn(int control);
   void choose(int control, int index);
   void doubleClick(int control, int index);
   void closeBox() { handler_.onCloseRequest(); }

@@ -23,12 +23,13 @@ constexpr int TABS = 1231;
 struct View {
   LayoutValue::Layout layout;
   bool project;
+  bool statusLine = false;
 };
 
 inline std::string nameOf(const View& view) {
   LayoutValue value;
   value.value = view.layout;
-  return (view.project ? "project" : "file") + value.toString();
+  return (view.project ? "project" : "file") + value.toString() + (view.statusLine ? "Status" : "");
 }
 
 inline std::ostream& operator<<(std::ostream& out, const View& view) {
@@ -41,6 +42,7 @@ class PanelsFixture : public WindowTest {
     program_.programDirectory = scratch_.path();
     Settings earlier(context_);
     earlier.panelLayout.value = view_.layout;
+    earlier.statusLine = view_.statusLine;
     earlier.windowPosition.fromString("20;30");
     earlier.saveDefaultConfiguration();
   }

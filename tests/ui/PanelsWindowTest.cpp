@@ -219,7 +219,12 @@ TEST_P(PanelsWindowTest, EveryControlHasANameForReadersOfTheScreen) {
 INSTANTIATE_TEST_SUITE_P(Views, PanelsWindowTest,
                          testing::Values(View{LayoutValue::VERTICAL, false}, View{LayoutValue::HORIZONTAL, false},
                                          View{LayoutValue::FLAT, false}, View{LayoutValue::VERTICAL, true},
-                                         View{LayoutValue::HORIZONTAL, true}, View{LayoutValue::FLAT, true}),
+                                         View{LayoutValue::HORIZONTAL, true}, View{LayoutValue::FLAT, true},
+                                         View{LayoutValue::VERTICAL, false, true},
+                                         View{LayoutValue::HORIZONTAL, false, true},
+                                         View{LayoutValue::FLAT, false, true}, View{LayoutValue::VERTICAL, true, true},
+                                         View{LayoutValue::HORIZONTAL, true, true},
+                                         View{LayoutValue::FLAT, true, true}),
                          [](const auto& info) { return nameOf(info.param); });
 INSTANTIATE_TEST_SUITE_P(Views, LeavingTest,
                          testing::Values(View{LayoutValue::VERTICAL, false}, View{LayoutValue::HORIZONTAL, true}),

@@ -22,6 +22,10 @@ class Recorder : public DialogHandler {
     const auto found = onPress.find(control);
     if (found != onPress.end()) found->second();
   }
+  std::function<void()> controlReturn(int control) override {
+    const auto found = onControlReturn.find(control);
+    return found == onControlReturn.end() ? nullptr : found->second;
+  }
   void onTextChanged(int control) override { hear("text", control); }
   void onSelectionChanged(int control) override { hear("selection", control); }
   void onDoubleClick(int control) override { hear("double", control); }
@@ -43,6 +47,7 @@ class Recorder : public DialogHandler {
   std::vector<std::string> heard;
   std::function<void(DialogWindow&)> onInitialise;
   std::map<int, std::function<void()>> onPress;
+  std::map<int, std::function<void()>> onControlReturn;
   std::function<void()> onClose;
 
  private:

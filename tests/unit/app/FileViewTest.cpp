@@ -42,7 +42,8 @@ TEST_F(FileViewTest, ShowsItsLabelsAndToolTips) {
     auto& main = panel.page(TABS, 0);
     EXPECT_EQ(main.toolTip(LEFT), "Select executable class file");
     EXPECT_EQ(main.toolTip(MIDDLE), "Execute class file under debugger control");
-    EXPECT_EQ(main.toolTip(RIGHT), "Execute class file; Ctrl+click compiles first what is not up to date");
+    EXPECT_EQ(main.toolTip(RIGHT),
+              "Execute class file; Ctrl+click, or Ctrl+Return in the field, compiles first what is not up to date");
     EXPECT_EQ(main.toolTip(FIELD), "File specification for executable class, optionally followed by runtime arguments");
     auto& applet = panel.page(TABS, 1);
     EXPECT_EQ(applet.toolTip(LEFT), "Select HTML file");

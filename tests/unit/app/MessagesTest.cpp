@@ -68,12 +68,13 @@ class MessagesTest : public test::SettingsFixture {
   }
 
   /// What a tool's run leaves in the log.
-  void run(const std::string& said, FileMode mode = FileMode::Write) {
+  void run(const std::string& said, FileMode mode = FileMode::Write, RunEnd end = RunEnd::ByItself) {
     log_.open(mode);
     if (!said.empty()) {
       const std::string all = "\n\njavac x\n\n" + said;
       log_.append(all.data(), all.size());
     }
+    log_.noteEnd(end);
     log_.close();
   }
 
@@ -126,6 +127,15 @@ TEST_F(MessagesTest, OfALogBeyondMeasureWholeLinesShowAndTheSumSaysSo) {
   EXPECT_TRUE(shown.ends_with("\n" + std::string(4999, 'x')) || shown.ends_with("\n" + std::string(4999, 'x') + "\n") ||
               shown.ends_with("\r\n" + std::string(4999, 'x') + "\r\n"))
       << "the last line is whole";
+}
+
+TEST_F(MessagesTest, AStoppedRunIsSummedUpAsOneHoweverLongItsLogIs) {
+  std::string said;
+  for (int i = 0; i < 30000; ++i) said += "x\n";
+  run(said, FileMode::Write, RunEnd::Stopped);
+  EXPECT_EQ(showLog(log_, settings().editorChoice()), std::vector<std::string>{});
+  EXPECT_TRUE(host.summary.starts_with("Stopped, ")) << host.summary;
+  EXPECT_TRUE(host.summary.ends_with(" s (the log is longer than what is shown)")) << host.summary;
 }
 
 TEST_F(MessagesTest, ARunWithNothingToSayOpensNoWindowButEmptiesAnOpenOne) {

@@ -109,14 +109,24 @@ TEST(MessagesTextTest, TheSummaryTellsTheTimeToo) {
 }
 
 TEST(MessagesTextTest, NobodyTakesAToolThatWasEndedForOneThatHadNothingToSay) {
-  const auto sum = [](const std::string& said) {
-    return messagesSummary(messagesText("\n\njavac\n\n" + said, {{0, folder()}}), milliseconds(1000));
+  const auto sum = [](const std::string& said, RunEnd end, std::size_t mostLines = 20000) {
+    return messagesSummary(messagesText("\n\njavac\n\n" + said, {{0, folder()}}, mostLines), milliseconds(1000), end);
   };
-  EXPECT_EQ(sum("\nStopped.\n"), "Stopped, 1.0 s");
-  EXPECT_EQ(sum("\nStopped.\n\nThe tool has ended, but something that it has left behind still writes.\n"),
-            "Stopped, 1.0 s");
-  EXPECT_EQ(sum("A.java:1: error: x\n\nStopped.\n"), "1 error in 1 file, stopped, 1.0 s");
-  EXPECT_EQ(sum("\nEnded by a signal: Killed\n"), "Ended by a signal, 1.0 s");
+  EXPECT_EQ(sum("\nStopped.\n", RunEnd::Stopped), "Stopped, 1.0 s");
+  EXPECT_EQ(sum("A.java:1: error: x\n\nStopped.\n", RunEnd::Stopped), "1 error in 1 file, stopped, 1.0 s");
+  EXPECT_EQ(sum("\nEnded by a signal: Killed\n", RunEnd::BySignal), "Ended by a signal, 1.0 s");
+  EXPECT_EQ(sum("a\nb\n\nStopped.\n", RunEnd::Stopped, 3), "Stopped, 1.0 s (the log is longer than what is shown)");
+  EXPECT_EQ(sum("Stopped.\nEnded by a signal: none\n", RunEnd::ByItself), "No errors or warnings, 1.0 s")
+      << "a tool's own words";
+}
+
+TEST(MessagesTextTest, NotesOfOursHaveNoCommand) {
+  const std::string said = "\n\njavac A.java\n\nx\n";
+  const MessagesText text = messagesText(said + "\n\nStopped.\n", {{0, folder()}, {said.size(), folder(), {}, false}});
+  ASSERT_EQ(text.lines.size(), 5u);
+  EXPECT_EQ(text.lines[0].kind, MessagesText::LineKind::Command);
+  EXPECT_EQ(text.lines[4].text, "Stopped.");
+  EXPECT_EQ(text.lines[4].kind, MessagesText::LineKind::Other);
 }
 
 }  // namespace

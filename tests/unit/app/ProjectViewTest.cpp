@@ -65,7 +65,8 @@ TEST_F(ProjectViewTest, ShowsItsToolTips) {
     auto& main = panel.page(TABS, 0);
     EXPECT_EQ(main.toolTip(LEFT), "Select a class for execution (must have a public static void main() method!)");
     EXPECT_EQ(main.toolTip(MIDDLE), "Execute application under debugger control");
-    EXPECT_EQ(main.toolTip(RIGHT), "Execute application; Ctrl+click compiles first what is not up to date");
+    EXPECT_EQ(main.toolTip(RIGHT),
+              "Execute application; Ctrl+click, or Ctrl+Return in the field, compiles first what is not up to date");
     EXPECT_EQ(main.toolTip(FIELD), "File name for executable class, optionally followed by runtime arguments");
     auto& applet = panel.page(TABS, 1);
     EXPECT_EQ(applet.toolTip(MIDDLE), "Start appletviewer under debugger control");

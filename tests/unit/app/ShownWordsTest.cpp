@@ -135,6 +135,7 @@ const std::set<std::pair<std::string, std::string>>& namesOfThings() {
       {"settings/SettingsValues.cpp", "EDITOR=NOTEPAD"},
       {"settings/SettingsValues.cpp", "DISPLAY=NOTEPAD"},
       {"process/EditorLaunch.cpp", "Notepad"},
+      {"resources/PanelPictures.cpp", "WinShortcut"},
       {"process/EditorLaunch.cpp", ".exe"},
       {"process/EditorForms.cpp", ".exe"},
   };

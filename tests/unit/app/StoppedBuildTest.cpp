@@ -83,6 +83,7 @@ TEST_F(StoppedBuildTest, WhatIsStoppedEndsTheWholeCommandAndNothingSaysSuccess) 
   EXPECT_EQ(watching_.seen, (Seen{"1/3 javac C.java", "2/3 javac B.java"}));
   EXPECT_EQ(watching_.alerts(), std::vector{AlertSound::Exclamation});
   EXPECT_NE(contentOf(log_.path()).find("Stopped."), std::string::npos);
+  EXPECT_EQ(log_.end(), RunEnd::Stopped);
   EXPECT_EQ(watching_.step, "0/0 ");
 }
 
@@ -92,6 +93,7 @@ TEST_F(StoppedBuildTest, AStopThatCameTooLateForOneStepKeepsTheNextFromBeginning
   EXPECT_EQ(watching_.seen, Seen{"1/3 javac C.java"});
   EXPECT_EQ(watching_.alerts(), std::vector{AlertSound::Exclamation}) << "the command has not done what it was to do";
   EXPECT_NE(contentOf(log_.path()).find("Stopped."), std::string::npos);
+  EXPECT_EQ(log_.end(), RunEnd::Stopped);
   EXPECT_EQ(watching_.step, "0/0 ");
 }
 
@@ -103,6 +105,7 @@ TEST_F(StoppedBuildTest, SoItDoesForTheBatchesOfOneRun) {
   compileAll();
   EXPECT_EQ(watching_.seen, Seen{"1/2 javac 2 sources"});
   EXPECT_NE(contentOf(log_.path()).find("Stopped."), std::string::npos);
+  EXPECT_EQ(log_.end(), RunEnd::Stopped);
 }
 
 TEST_F(StoppedBuildTest, SoAreTheBatchesOfOneRun) {

@@ -101,7 +101,7 @@ TEST_F(TarnwickDlgTest, FromVersion5OnTodaysJavaIsReadAtTheFirstUse) {
     desktop_.expectDialog("Tarnwick settings", [&row](ScriptedWindow& window) {
       for (const int control : {2101, 2102}) EXPECT_EQ(window.page(1092, 1).checked(control), row.newer) << row.release;
       EXPECT_EQ(window.page(1092, 2).checked(2131), row.newer) << row.release;
-      EXPECT_EQ(window.page(1092, 0).checked(2120), row.newer) << row.release;
+      for (const int control : {2120, 2150}) EXPECT_EQ(window.page(1092, 0).checked(control), row.newer) << row.release;
       window.press(IDOK_CONTROL);
     });
     runPanel([](ScriptedWindow&, ScriptedWindow& panel) { exit(panel); });
@@ -112,11 +112,12 @@ TEST_F(TarnwickDlgTest, FromVersion5OnTodaysJavaIsReadAtTheFirstUse) {
     EXPECT_EQ(saved->javacOneRun, row.newer) << row.release;
     EXPECT_EQ(saved->newerConsole, row.newer) << row.release;
     EXPECT_EQ(saved->watchRuns, row.newer) << row.release;
+    EXPECT_EQ(saved->statusLine, row.newer) << row.release;
   }
 }
 
 TEST_F(TarnwickDlgTest, AWayOfReadingThatTheUserChoosesStays) {
-  for (const int refused : {2101, 2102, 2131, 2120}) {
+  for (const int refused : {2101, 2102, 2131, 2120, 2150}) {
     platform::deleteFile(configFile());
     settings().resetAll();
     const ScopedEnvironment javaHome("JAVA_HOME", makeJdk("17"));
@@ -124,7 +125,7 @@ TEST_F(TarnwickDlgTest, AWayOfReadingThatTheUserChoosesStays) {
     expectWelcome(firstUse, lookForJavac);
     desktop_.expectDialog("Tarnwick settings", [&](ScriptedWindow& window) {
       window.page(1092, 0).type(1041, other);
-      window.page(1092, refused == 2131 ? 2 : refused == 2120 ? 0 : 1).press(refused);
+      window.page(1092, refused == 2131 ? 2 : refused == 2120 || refused == 2150 ? 0 : 1).press(refused);
       window.press(IDOK_CONTROL);
     });
     runPanel([](ScriptedWindow&, ScriptedWindow& panel) { exit(panel); });
@@ -135,6 +136,7 @@ TEST_F(TarnwickDlgTest, AWayOfReadingThatTheUserChoosesStays) {
     EXPECT_EQ(saved->javacOneRun, refused == 2102 ? 0 : 1);
     EXPECT_EQ(saved->newerConsole, refused == 2131 ? 0 : 1);
     EXPECT_EQ(saved->watchRuns, refused == 2120 ? 0 : 1);
+    EXPECT_EQ(saved->statusLine, refused == 2150 ? 0 : 1);
   }
 }
 

@@ -45,6 +45,43 @@ TEST_F(LoggedPartsTest, ItKnowsWhereEachRunBeginsAndInWhichFolder) {
   platform::changeDirectory(before);
 }
 
+TEST_F(LoggedPartsTest, ItKnowsHowItsRunsHaveEnded) {
+  log.noteEnd(RunEnd::Stopped);
+  EXPECT_EQ(log.end(), RunEnd::ByItself) << "of no run at all";
+  const auto runUntil = [this](RunEnd end, FileMode mode) {
+    log.open(mode);
+    log.noteEnd(end);
+    log.close();
+  };
+  runUntil(RunEnd::BySignal, FileMode::Write);
+  EXPECT_EQ(log.end(), RunEnd::BySignal);
+  runUntil(RunEnd::ByItself, FileMode::Append);
+  EXPECT_EQ(log.end(), RunEnd::BySignal) << "the command has not come through whole";
+  runUntil(RunEnd::Stopped, FileMode::Append);
+  EXPECT_EQ(log.end(), RunEnd::Stopped);
+  ASSERT_EQ(log.parts().size(), 3u);
+  EXPECT_EQ(log.parts()[0].end, RunEnd::BySignal);
+  EXPECT_EQ(log.parts()[1].end, RunEnd::ByItself);
+  log.noteEnd(RunEnd::BySignal);
+  EXPECT_EQ(log.end(), RunEnd::Stopped) << "no run is on its way";
+  runUntil(RunEnd::ByItself, FileMode::Write);
+  EXPECT_EQ(log.end(), RunEnd::ByItself) << "a new log knows of none before";
+}
+
+TEST_F(LoggedPartsTest, NotesOfOursAreAPartWithoutCommand) {
+  run("one\n", FileMode::Write);
+  log.addNotes(FileMode::Append, {"a note", "another"});
+  EXPECT_EQ(log.end(), RunEnd::ByItself);
+  log.addNotes(FileMode::Append, {stoppedNote}, RunEnd::Stopped);
+  std::string text = test::contentOf(log.path());
+  std::erase(text, '\r');
+  EXPECT_EQ(text, "one\n\n\na note\n\nanother\n\n\nStopped.\n");
+  ASSERT_EQ(log.parts().size(), 3u);
+  EXPECT_TRUE(log.parts()[0].hasCommand);
+  EXPECT_FALSE(log.parts()[1].hasCommand);
+  EXPECT_EQ(log.end(), RunEnd::Stopped);
+}
+
 TEST_F(LoggedPartsTest, ItKnowsHowLongItsRunsHaveTaken) {
   using std::chrono::milliseconds;
   log.open(FileMode::Write);

@@ -62,7 +62,7 @@ TEST_F(StoppingTest, WhatIsNotToBeSeenCannotBeStopped) {
   EXPECT_FALSE(desktop_.shown->stop);
   EXPECT_EQ(desktop_.shown->tool, "");
   EXPECT_TRUE(desktop_.shown->giveUp) << "the program's end is another matter";
-  EXPECT_FALSE(result.stopped);
+  EXPECT_EQ(result.end, RunEnd::ByItself);
 }
 
 TEST_F(StoppingTest, WhatIsSeenIsTheToolAndWhatItWorksOn) {
@@ -72,7 +72,7 @@ TEST_F(StoppingTest, WhatIsSeenIsTheToolAndWhatItWorksOn) {
   EXPECT_EQ(desktop_.shown->tool, "javac");
   EXPECT_EQ(desktop_.shown->on, "A.java");
   EXPECT_TRUE(desktop_.shown->stop);
-  EXPECT_FALSE(result.stopped);
+  EXPECT_EQ(result.end, RunEnd::ByItself);
   EXPECT_FALSE(result.said);
 }
 
@@ -85,10 +85,11 @@ TEST_F(StoppingTest, WhoStopsItEndsAllThatItStartedAndTheLogTells) {
     desktop_.shown->stop();
   };
   const RunResult result = run();
-  EXPECT_TRUE(result.stopped);
+  EXPECT_EQ(result.end, RunEnd::Stopped);
   EXPECT_TRUE(result.said);
   EXPECT_EQ(child_->treesEnded(), 1);
   EXPECT_EQ(logText(), "\n\njavac -g\n\na warning\n\nStopped.\n");
+  EXPECT_EQ(log_.end(), RunEnd::Stopped);
 }
 
 TEST_F(StoppingTest, ASilentOneThatWasStoppedIsNoSuccess) {
@@ -113,7 +114,7 @@ TEST_F(StoppingTest, WhatHasEndedIsNotStopped) {
   tool.addArg("javac");
   tool.showWhileItRuns("A.java");
   const RunResult result = tool.run(nullptr, FileMode::Write);
-  EXPECT_FALSE(result.stopped);
+  EXPECT_EQ(result.end, RunEnd::ByItself);
   EXPECT_FALSE(result.said);
   EXPECT_EQ(child_->treesEnded(), 0);
 }

@@ -60,7 +60,7 @@ class StoppedToolTest : public testing::Test {
 
 TEST_F(StoppedToolTest, NobodyIsToldOfTheSignalThatHeSentHimself) {
   const RunResult result = run("echo at work\n" + ready() + "while :; do sleep 1; done\n");
-  EXPECT_TRUE(result.stopped);
+  EXPECT_EQ(result.end, RunEnd::Stopped);
   EXPECT_EQ(test::contentOf(log_.path()), "\n\njavac\n\nat work\n\nStopped.\n");
   EXPECT_TRUE(isGone());
 }
@@ -68,7 +68,7 @@ TEST_F(StoppedToolTest, NobodyIsToldOfTheSignalThatHeSentHimself) {
 TEST_F(StoppedToolTest, OneThatIgnoresItGoesTooWithWhatItStarted) {
   const RunResult result = run("trap '' TERM INT HUP\nsetsid sleep 600 & child=$!\necho $child >" + quoted("child") +
                                "\n" + ready() + "while :; do sleep 1; done\n");
-  EXPECT_TRUE(result.stopped);
+  EXPECT_EQ(result.end, RunEnd::Stopped);
   EXPECT_TRUE(isGone());
   const std::string child = test::contentOf(folder_.file("child"));
   const std::string number = child.substr(0, child.find('\n'));

@@ -55,11 +55,13 @@ TEST_F(PosixSubprocessTest, AToolThatASignalEndsHasSaidSo) {
   script_.setScript("signal 9");
   EXPECT_TRUE(run()) << "though it did not write a byte";
   EXPECT_EQ(test::contentOf(log_.path()), "\n\njavac\n\nEnded by a signal: Killed\n");
+  EXPECT_EQ(log_.end(), RunEnd::BySignal);
   script_.setScript("outraw 41\nsignal 11");
   EXPECT_TRUE(run());
   EXPECT_EQ(test::contentOf(log_.path()), "\n\njavac\n\nA\nEnded by a signal: Segmentation fault\n");
   script_.setScript("exit 137");
   EXPECT_FALSE(run()) << "an exit code is never read";
+  EXPECT_EQ(log_.end(), RunEnd::ByItself);
 }
 
 TEST_F(PosixSubprocessTest, AToolThatCannotBeRunIsTold) {

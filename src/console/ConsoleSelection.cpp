@@ -84,6 +84,10 @@ void ConsoleSelection::select(const ConsoleCell& start, const ConsoleCell& end, 
   finish();
 }
 
+void ConsoleSelection::followGrid(int widestLine) {
+  if (!rects_.empty()) computeRects(widestLine);
+}
+
 std::string ConsoleSelection::text(const TarnwickDoc& document) const {
   const auto [first, last] = before(end_, start_) ? std::pair(end_, start_) : std::pair(start_, end_);
   std::string selected;

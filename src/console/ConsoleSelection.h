@@ -46,6 +46,9 @@ class ConsoleSelection {
   /// Selects these cells. `widestLine` as in the document.
   void select(const ConsoleCell& start, const ConsoleCell& end, int widestLine);
 
+  /// The cells have another size: the rectangles follow. `widestLine` as in the document.
+  void followGrid(int widestLine);
+
   /// The selected text, its lines parted by "\r\n".
   std::string text(const TarnwickDoc& document) const;
 

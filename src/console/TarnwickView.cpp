@@ -62,6 +62,7 @@ void TarnwickView::makeChild() {
 
 void TarnwickView::onStart(ConsoleSurface& surface) {
   surface_ = &surface;
+  if (look_.letters != 0) surface_->setLetters(look_.letters);
   if (!surface_->hasFont()) desktop_.message("Error creating font");
   if (!measure()) desktop_.message("Error getting font metrics");
   if (child_->childState() == -1) child_->start();

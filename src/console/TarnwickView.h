@@ -1,6 +1,7 @@
 #pragma once
 
 #include "console/ConsoleChild.h"
+#include "console/ConsoleLooks.h"
 #include "console/ConsoleProgram.h"
 #include "console/ConsoleScreen.h"
 #include "console/ConsoleSelection.h"
@@ -69,6 +70,13 @@ class TarnwickView : public ConsoleSurfaceClient {
   bool canRunAgain() const { return childState() == 0; }
   /// What opens the places of stack traces, on a click with the Control key.
   void openTracesBy(std::function<void(const TraceLink&)> open) { openTrace_ = std::move(open); }
+  /// How the text looks from the start on, and what is told when the user changes that.
+  void lookLike(const TextLook& look, std::function<void(const TextLook&)> changed);
+  const TextLook& textLook() const { return look_; }
+  /// Makes the letters larger by so many steps, or smaller.
+  void stepLetters(int steps);
+  bool canStepLetters(int steps) const;
+  void useUsualLetters();
 
   /// Closes the console's window.
   void closeWindow();
@@ -78,6 +86,7 @@ class TarnwickView : public ConsoleSurfaceClient {
   void onWake() override;
   void onResized() override;
   void onScrolled() override;
+  bool onZoom(int steps) override;
   bool onKey(ConsoleKey key, int modifiers) override;
   void onCharacter(const std::string& character, int repeatCount) override;
   void onLeftDown(const MouseState& mouse) override;
@@ -113,6 +122,7 @@ class TarnwickView : public ConsoleSurfaceClient {
   Rect underlineOf(const PointedPlace& place) const;
   void openTraceUnder(const Point& at);
   void makeChild();
+  void setLetters(int letters);
   void showTitle();
   /// True if the user has scrolled back, in a console that then holds still.
   bool holdsStill() const;
@@ -156,6 +166,8 @@ class TarnwickView : public ConsoleSurfaceClient {
   TextSearch search_;
   std::function<void(const TraceLink&)> openTrace_;
   std::optional<PointedPlace> pointed_;
+  TextLook look_;
+  std::function<void(const TextLook&)> lookChanged_;
   InputEditor editor_;
 
   int scrollColumns_ = 0;

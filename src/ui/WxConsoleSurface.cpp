@@ -1,5 +1,6 @@
 #include "ui/WxConsoleSurface.h"
 
+#include "console/ConsoleLooks.h"
 #include "dialogbase/Desktop.h"
 #include "ui/ConsoleKeys.h"
 #include "ui/HintWindow.h"
@@ -27,12 +28,9 @@ bool isFunctionKey(ConsoleKey key) {
   return key >= ConsoleKey::F5 && key <= ConsoleKey::F12;
 }
 
-wxFont consoleFont() {
-  constexpr int leastPoints = 10;
-  const int points = std::max(leastPoints, wxSystemSettings::GetFont(wxSYS_DEFAULT_GUI_FONT).GetPointSize());
+wxFont consoleFont(int points) {
   const wxFontInfo font = wxFontInfo(points).Family(wxFONTFAMILY_TELETYPE);
-  // Where it is known, this one reads better than what the toolkit picks for the family.
-  const wxString preferred = "Consolas";
+  const wxString preferred = preferredLetters;
   return wxFontEnumerator::IsValidFacename(preferred) ? wxFont(wxFontInfo(font).FaceName(preferred)) : wxFont(font);
 }
 
@@ -46,7 +44,7 @@ WxConsoleSurface::WxConsoleSurface(wxWindow* parent, WindowStack& stack, Desktop
                    wxVSCROLL | wxHSCROLL | wxWANTS_CHARS | wxBORDER_NONE, "console");
   SetBackgroundColour(*wxWHITE);
   SetCursor(wxCursor(wxCURSOR_IBEAM));
-  measureCell();
+  useFont(0);
   bindEvents();
   gate_ = std::make_shared<WakeGate>([&desktop](WakeGate::Task task) { desktop.post(std::move(task)); },
                                      [&desktop](int milliseconds, const WakeGate::Task& task) {
@@ -64,8 +62,17 @@ WxConsoleSurface::~WxConsoleSurface() {
   stop();
 }
 
-void WxConsoleSurface::measureCell() {
-  const wxFont font = consoleFont();
+int WxConsoleSurface::usualLetters() const {
+  return std::max(leastUsualLetters, wxSystemSettings::GetFont(wxSYS_DEFAULT_GUI_FONT).GetPointSize());
+}
+
+void WxConsoleSurface::setLetters(int points) {
+  useFont(points);
+  invalidateAll();
+}
+
+void WxConsoleSurface::useFont(int points) {
+  const wxFont font = consoleFont(points == 0 ? usualLetters() : points);
   hasFont_ = font.IsOk();
   if (hasFont_) SetFont(font);
   constexpr int many = 100;
@@ -268,7 +275,17 @@ void WxConsoleSurface::onScrollTo(wxScrollWinEvent& event) {
   }
 }
 
+bool WxConsoleSurface::zoom(const wxMouseEvent& event) {
+  if (!event.ControlDown() || event.GetWheelAxis() != wxMOUSE_WHEEL_VERTICAL) return false;
+  const int step = std::max(1, event.GetWheelDelta());
+  bool used = false;
+  tell([&] { used = client_.onZoom((zoomTurn_ + event.GetWheelRotation()) / step); });
+  zoomTurn_ = used ? (zoomTurn_ + event.GetWheelRotation()) % step : 0;
+  return used;
+}
+
 void WxConsoleSurface::onWheel(wxMouseEvent& event) {
+  if (zoom(event)) return;
   const int turn = event.GetWheelRotation() * wheelLines / std::max(1, event.GetWheelDelta());
   if (event.GetWheelAxis() == wxMOUSE_WHEEL_HORIZONTAL || event.ShiftDown()) {
     const int direction = event.GetWheelAxis() == wxMOUSE_WHEEL_HORIZONTAL ? 1 : -1;

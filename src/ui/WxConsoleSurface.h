@@ -32,6 +32,8 @@ class WxConsoleSurface : public wxWindow, public ConsoleSurface {
 
   bool hasFont() const override { return hasFont_; }
   Point cell() const override { return cell_; }
+  int usualLetters() const override;
+  void setLetters(int points) override;
   Point clientSize() const override;
   Point scrollPosition() const override { return scroll_; }
   void setScrollSizes(const Point& size) override;
@@ -51,13 +53,15 @@ class WxConsoleSurface : public wxWindow, public ConsoleSurface {
   void DoSetSize(int x, int y, int width, int height, int flags) override;
 
  private:
-  void measureCell();
+  /// The size in points; 0 for the usual one.
+  void useFont(int points);
   void bindEvents();
   void onPaint(wxPaintEvent& event);
   void onSize(wxSizeEvent& event);
   void onScroll(wxScrollWinEvent& event, int lines, bool pages);
   void onScrollTo(wxScrollWinEvent& event);
   void onWheel(wxMouseEvent& event);
+  bool zoom(const wxMouseEvent& event);
   void onKeyDown(wxKeyEvent& event);
   void onKeyUp(wxKeyEvent& event);
   void onCharacter(wxKeyEvent& event);
@@ -80,6 +84,7 @@ class WxConsoleSurface : public wxWindow, public ConsoleSurface {
   bool exactAdvance_ = true;
   Point document_;
   Point scroll_;
+  int zoomTurn_ = 0;  ///< what the wheel has turned of its next step
   bool alive_ = false;
   bool altServed_ = false;  ///< the Alt that is held was pressed for a key of ours
 };

@@ -28,6 +28,7 @@ class FakeSurface : public ConsoleSurface {
   bool hand = false;
   std::vector<std::string> titles;
   bool fontMade = true;
+  int letters = 0;  ///< as they were set
   std::atomic<int> wakes{0};
   /// Told of its end within `close`, as a window may do it.
   ConsoleSurfaceClient* endsAtOnce = nullptr;
@@ -41,6 +42,11 @@ class FakeSurface : public ConsoleSurface {
 
   bool hasFont() const override { return fontMade; }
   Point cell() const override { return cellSize; }
+  int usualLetters() const override { return 10; }
+  void setLetters(int points) override {
+    letters = points;
+    cellSize = points == 0 ? Point{8, 16} : Point{points * 4 / 5, points * 8 / 5};
+  }
   Point clientSize() const override { return client; }
   Point scrollPosition() const override { return position; }
   void setScrollSizes(const Point& size) override {

@@ -47,6 +47,22 @@ TEST_F(ConsoleFrameTest, TheConsoleOfTodayHasKeysOfItsOwn) {
   play();
 }
 
+TEST_F(ConsoleFrameTest, TheKeysOfTheLettersSizeStandOnTheNumericKeypadToo) {
+  console.today = true;
+  waitForFrame();
+  const Heard larger{"command 32861"}, smaller{"command 32862"}, usual{"command 32863"};
+  for (const auto& [code, heard] : std::initializer_list<std::pair<int, Heard>>{
+           {'=', larger}, {WXK_NUMPAD_ADD, larger}, {'-', smaller}, {WXK_NUMPAD_SUBTRACT, smaller}, {'0', usual}}) {
+    press(code, wxMOD_CONTROL);
+    thenExpect(heard);
+  }
+  // As plus is typed where it needs Shift.
+  press('=', wxMOD_CONTROL | wxMOD_SHIFT);
+  thenExpect(larger);
+  thenClose();
+  play();
+}
+
 TEST_F(ConsoleFrameTest, InTheClassicConsoleTheSameKeysAreTyped) {
   waitForFrame();
   press('D', wxMOD_CONTROL);

@@ -171,6 +171,63 @@ TEST_F(ConsoleTest, TheWheelScrollsThreeLines) {
   play();
 }
 
+TEST_F(ConsoleTest, WithControlTheWheelIsTheViewsStepByStep) {
+  const auto turn = [this](int rotation) {
+    wxMouseEvent wheel(wxEVT_MOUSEWHEEL);
+    wheel.m_wheelRotation = rotation;
+    wheel.m_wheelDelta = 120;
+    wheel.SetControlDown(true);
+    window()->ProcessWindowEvent(wheel);
+  };
+  waitForFrame();
+  steps.then("the classic console scrolls", [&] {
+    const Point cell = console.surface->cell();
+    console.surface->setScrollSizes({cell.x, 100 * cell.y});
+    turn(-120);
+    EXPECT_EQ(console.surface->scrollPosition(), (Point{0, 3 * cell.y}));
+    EXPECT_EQ(console.heard, Heard{});
+  });
+  steps.then("the other does not", [&] {
+    console.today = true;
+    const Point before = console.surface->scrollPosition();
+    turn(120);
+    turn(-240);
+    // Some wheels turn by less.
+    turn(50);
+    turn(50);
+    turn(50);
+    EXPECT_EQ(console.heard, (Heard{"zoom 1", "zoom -2", "zoom 0", "zoom 0", "zoom 1"}));
+    EXPECT_EQ(console.surface->scrollPosition(), before);
+  });
+  thenClose();
+  play();
+}
+
+TEST_F(ConsoleTest, LettersOfAnotherSizeMakeOtherCells) {
+  console.onPaint = [this](ConsolePainter& painter) { painter.drawText(0, 0, "MMMM", red); };
+  waitForFrame();
+  Point usual;
+  steps.then("larger", [&] {
+    usual = console.surface->cell();
+    EXPECT_GE(console.surface->usualLetters(), 10);
+    console.surface->setLetters(3 * console.surface->usualLetters());
+    EXPECT_NEAR(console.surface->cell().x, 3 * usual.x, 3);
+    EXPECT_NEAR(console.surface->cell().y, 3 * usual.y, 6);
+  });
+  steps.settle(10);
+  steps.then("look", [&] {
+    shoot("console-large");
+    const Point cell = console.surface->cell();
+    const wxImage picture = pictureOf(*window());
+    EXPECT_GT(countIn(picture, wxRect(3 * cell.x, 0, cell.x, cell.y), isReddish), cell.x * cell.y / 10);
+    EXPECT_EQ(countIn(picture, wxRect(4 * cell.x, 0, cell.x, cell.y), isReddish), 0);
+    console.surface->setLetters(0);
+    EXPECT_EQ(console.surface->cell(), usual);
+  });
+  thenClose();
+  play();
+}
+
 TEST_F(ConsoleTest, OnlyTheInvalidPartIsPainted) {
   Rect clip;
   waitForFrame();

@@ -37,6 +37,10 @@ class FakeConsole : public ConsoleFrame, public ConsoleSurfaceClient {
   void onWake() override { wakes.push_back(std::chrono::steady_clock::now()); }
   void onResized() override { ++resized; }
   void onScrolled() override { ++scrolled; }
+  bool onZoom(int steps) override {
+    if (today) heard.push_back("zoom " + std::to_string(steps));
+    return today;
+  }
   bool onKey(ConsoleKey key, int modifiers) override {
     if (key == ConsoleKey::Modifier) ++modifierKeys;
     if (key == ConsoleKey::Other || key == ConsoleKey::Modifier) {

@@ -84,6 +84,10 @@ void MessagesView::setLetters(int letters) {
   lettersChanged_(letters_);
 }
 
+Colour MessagesView::ground() const {
+  return messageColours(isDark_()).ground;
+}
+
 void MessagesView::paint(ConsolePainter& painter) {
   if (!surface_) return;
   if (!grid_.known()) fitSurface();

@@ -40,6 +40,7 @@ class MessagesView : public ConsoleSurfaceClient {
   void useUsualLetters() { setLetters(0); }
 
   void onStart(ConsoleSurface& surface) override;
+  Colour ground() const override;
   void paint(ConsolePainter& painter) override;
   void onWake() override {}
   void onScrolled() override {}

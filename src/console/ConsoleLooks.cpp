@@ -1,5 +1,7 @@
 #include "console/ConsoleLooks.h"
 
+#include "console/ConsoleSegment.h"
+
 #include <algorithm>
 #include <array>
 
@@ -8,7 +10,35 @@ namespace {
 
 constexpr std::array sizes{smallestLetters, 7, 8, 9, 10, 11, 12, 13, 14, 16, 18, 20, 22, 24, 28, 32, largestLetters};
 
+constexpr Colour white{255, 255, 255};
+constexpr Colour black{0, 0, 0};
+constexpr Colour darkGround{30, 30, 30};
+constexpr Colour brightGreen{0, 255, 0};
+constexpr Colour yellow{255, 224, 102};
+
 }  // namespace
+
+// The banner's light green could hardly be read on white: it has a dark ground of its own.
+const ConsolePalette classicPalette{white,           black,        {0, 0, 255}, {255, 0, 0}, {brightGreen, black},
+                                    {black, yellow}, {0, 102, 204}};
+const ConsolePalette lightPalette{white,           black,       {0, 0, 255}, {176, 0, 0}, {brightGreen, black},
+                                  {black, yellow}, {0, 88, 176}};
+const ConsolePalette darkPalette{
+    darkGround,      {222, 222, 222}, {130, 180, 255}, {255, 140, 140}, {{90, 220, 90}, darkGround},
+    {black, yellow}, {130, 180, 255}};
+
+StyledColours ConsolePalette::of(int kind) const {
+  switch (kind) {
+    case KIND_OUTPUT:
+      return {output, ground};
+    case KIND_ERROR:
+      return {error, ground};
+    case KIND_BANNER:
+      return banner;
+    default:
+      return {typed, ground};
+  }
+}
 
 int steppedLetters(int points, int steps) {
   for (; steps > 0; --steps) {

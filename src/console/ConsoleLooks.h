@@ -1,5 +1,9 @@
-// How the console's text looks: its letters and their sizes. Those of the messages' window are the same.
+// How the console's text looks: its letters, their sizes and its colours. The letters of the messages' window are the
+// same.
 #pragma once
+
+#include "console/ConsoleSurface.h"
+#include "console/StyledColours.h"
 
 namespace tarnwick {
 
@@ -14,8 +18,31 @@ inline constexpr const char* preferredLetters = "Consolas";
 /// The usual size is that of the desktop's own letters, but no smaller than this.
 inline constexpr int leastUsualLetters = 10;
 
+/// What the console of today leaves free above the text and right of it, in pixels; at the left the grid itself does.
+inline constexpr int textMargin = 4;
+
 inline constexpr int smallestLetters = 6;
 inline constexpr int largestLetters = 36;
+
+/// The colours of the text on one ground. Each can be read on what it stands on.
+struct ConsolePalette {
+  Colour ground;
+  Colour typed;
+  Colour output;
+  Colour error;
+  StyledColours banner;
+  StyledColours mark;  ///< what the search has found
+  Colour link;         ///< under a place that a click opens
+
+  /// The colours of a kind of text that has no style of its own.
+  StyledColours of(int kind) const;
+};
+
+/// The classic console's, whatever the desktop's colours are.
+extern const ConsolePalette classicPalette;
+/// Those of the console of today, on light desktops and on dark ones.
+extern const ConsolePalette lightPalette;
+extern const ConsolePalette darkPalette;
 
 /// The size that is so many steps larger, or smaller, as far as there is one.
 int steppedLetters(int points, int steps);

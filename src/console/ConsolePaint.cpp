@@ -20,7 +20,8 @@ Rect cells(const ConsoleGrid& grid, int first, int last, int y) {
   return {grid.x(first), y, grid.x(last), y + grid.charHeight};
 }
 
-void paintLine(ConsolePainter& painter, const ConsoleLine& line, const ConsoleGrid& grid, int y, const Span& visible) {
+void paintLine(ConsolePainter& painter, const ConsoleLine& line, const ConsoleGrid& grid, int y, const Span& visible,
+               const ConsolePalette& palette) {
   int column = 0;
   for (const auto& segment : line.segments()) {
     const int from = std::max(visible.first - column, 0);
@@ -28,9 +29,9 @@ void paintLine(ConsolePainter& painter, const ConsoleLine& line, const ConsoleGr
     if (from < to) {
       const TextPlace start = characterAtColumn(segment.text, segment.columns, from);
       const std::size_t end = byteAtColumn(segment.text, segment.columns, to);
-      const StyledColours colours = coloursOf(segment.style, {colourOf(segment.kind), backgroundOf(segment.kind)});
+      const StyledColours colours = coloursOf(segment.style, palette.of(segment.kind));
       const Rect area = cells(grid, column + from, column + to, y);
-      if (colours.ground != consoleBackground) painter.fill(area, colours.ground);
+      if (colours.ground != palette.ground) painter.fill(area, colours.ground);
       const std::string text = segment.text.substr(start.byte, end - start.byte);
       const int x = grid.x(column + start.column);
       painter.drawText(x, y, text, colours.ink);
@@ -43,7 +44,7 @@ void paintLine(ConsolePainter& painter, const ConsoleLine& line, const ConsoleGr
 }
 
 void paintMarks(ConsolePainter& painter, const ConsoleLine& line, const ConsoleGrid& grid, int y, const Span& visible,
-                const std::vector<ColumnRange>& hits) {
+                const std::vector<ColumnRange>& hits, const StyledColours& mark) {
   if (hits.empty()) return;
   const std::string text = line.text();
   for (const auto& hit : hits) {
@@ -52,33 +53,15 @@ void paintMarks(ConsolePainter& painter, const ConsoleLine& line, const ConsoleG
     if (from >= to) continue;
     const TextPlace start = characterAtColumn(text, line.length(), from);
     const std::size_t end = byteAtColumn(text, line.length(), to);
-    painter.fill(cells(grid, from, to, y), markGround);
-    painter.drawText(grid.x(start.column), y, text.substr(start.byte, end - start.byte), {0, 0, 0});
+    painter.fill(cells(grid, from, to, y), mark.ground);
+    painter.drawText(grid.x(start.column), y, text.substr(start.byte, end - start.byte), mark.ink);
   }
 }
 
 }  // namespace
 
-Colour colourOf(int kind) {
-  switch (kind) {
-    case KIND_OUTPUT:
-      return {0, 0, 255};
-    case KIND_ERROR:
-      return {255, 0, 0};
-    case KIND_BANNER:
-      return {0, 255, 0};
-    default:
-      return {0, 0, 0};
-  }
-}
-
-Colour backgroundOf(int kind) {
-  // The banner's light green could hardly be read on white.
-  return kind == KIND_BANNER ? Colour{0, 0, 0} : consoleBackground;
-}
-
-void paintText(ConsolePainter& painter, const TarnwickDoc& document, const ConsoleGrid& grid,
-               const TextSearch& search) {
+void paintText(ConsolePainter& painter, const TarnwickDoc& document, const ConsoleGrid& grid, const TextSearch& search,
+               const ConsolePalette& palette) {
   // A line may be a million characters long: only what is seen is handed on.
   const Rect clip = painter.clip();
   const Span visible{(clip.left - ConsoleGrid::leftMargin) / grid.charWidth - 1,
@@ -87,8 +70,8 @@ void paintText(ConsolePainter& painter, const TarnwickDoc& document, const Conso
   const int last = std::min(clip.bottom / grid.charHeight + 1, document.lineCount());
   for (int number = first; number < last; ++number) {
     const ConsoleLine& line = document.lines()[static_cast<std::size_t>(number)];
-    paintLine(painter, line, grid, grid.y(number), visible);
-    paintMarks(painter, line, grid, grid.y(number), visible, search.hitsIn(line));
+    paintLine(painter, line, grid, grid.y(number), visible, palette);
+    paintMarks(painter, line, grid, grid.y(number), visible, search.hitsIn(line), palette.mark);
   }
 }
 

@@ -38,6 +38,8 @@ class ConsoleSurface {
 
   /// False if the system had no fixed-pitch font; the text then shows in the window's own.
   virtual bool hasFont() const = 0;
+  /// True if the desktop wants light letters on dark ground.
+  virtual bool isDark() const = 0;
   /// The fixed-pitch character cell in pixels: width and height.
   virtual Point cell() const = 0;
   /// The usual size of the letters, in points.
@@ -119,6 +121,8 @@ class ConsoleSurfaceClient {
 
   /// The window stands and has its size; once, before it shows.
   virtual void onStart(ConsoleSurface& surface) = 0;
+  /// What the text stands on, where it is painted.
+  virtual Colour ground() const = 0;
   virtual void paint(ConsolePainter& painter) = 0;
   virtual void onWake() = 0;
   virtual void onResized() = 0;

@@ -98,8 +98,8 @@ void TarnwickView::paint(ConsolePainter& painter) {
   if (!surface_ || (!screen_.grid.known() && !measure())) return;
   {
     const TextGuard guard(screen_.lock());
-    paintText(painter, screen_.document, screen_.grid, search_);
-    if (pointed_) painter.fill(underlineOf(*pointed_), linkColour);
+    paintText(painter, screen_.document, screen_.grid, search_, palette());
+    if (pointed_) painter.fill(underlineOf(*pointed_), palette().link);
     screen_.caret.draw(painter, ConsoleCaret::width, screen_.grid.charHeight);
   }
   for (const auto& rect : selection_.rects()) painter.invert(rect);

@@ -82,6 +82,7 @@ class TarnwickView : public ConsoleSurfaceClient {
   void closeWindow();
 
   void onStart(ConsoleSurface& surface) override;
+  Colour ground() const override { return palette().ground; }
   void paint(ConsolePainter& painter) override;
   void onWake() override;
   void onResized() override;
@@ -121,6 +122,7 @@ class TarnwickView : public ConsoleSurfaceClient {
   /// Of the underline; the caller holds the text lock.
   Rect underlineOf(const PointedPlace& place) const;
   void openTraceUnder(const Point& at);
+  const ConsolePalette& palette() const;
   void makeChild();
   void setLetters(int letters);
   void showTitle();

@@ -11,6 +11,11 @@ void TarnwickView::lookLike(const TextLook& look, std::function<void(const TextL
   lookChanged_ = std::move(changed);
 }
 
+const ConsolePalette& TarnwickView::palette() const {
+  if (!screen_.today) return classicPalette;
+  return surface_ && surface_->isDark() ? darkPalette : lightPalette;
+}
+
 bool TarnwickView::onZoom(int steps) {
   if (!screen_.today) return false;
   stepLetters(steps);

@@ -6,6 +6,7 @@
 #include "ui/HintWindow.h"
 #include "ui/MessageBoxes.h"
 #include "ui/Text.h"
+#include "ui/Toolkit.h"
 #include "ui/WxConsolePainter.h"
 
 #include <wx/dcbuffer.h>
@@ -42,7 +43,6 @@ WxConsoleSurface::WxConsoleSurface(wxWindow* parent, WindowStack& stack, Desktop
   SetBackgroundStyle(wxBG_STYLE_PAINT);  // before the window is made: it paints every pixel itself
   wxWindow::Create(parent, wxID_ANY, wxDefaultPosition, wxDefaultSize,
                    wxVSCROLL | wxHSCROLL | wxWANTS_CHARS | wxBORDER_NONE, "console");
-  SetBackgroundColour(*wxWHITE);
   SetCursor(wxCursor(wxCURSOR_IBEAM));
   useFont(0);
   bindEvents();
@@ -60,6 +60,16 @@ WxConsoleSurface::WxConsoleSurface(wxWindow* parent, WindowStack& stack, Desktop
 
 WxConsoleSurface::~WxConsoleSurface() {
   stop();
+}
+
+bool WxConsoleSurface::isDark() const {
+  return wxSystemSettings::GetAppearance().IsUsingDarkBackground();
+}
+
+void WxConsoleSurface::useTodaysWays() {
+  today_ = true;
+  margin_ = FromDIP(textMargin);
+  keepScrollBarsInSight(*this);
 }
 
 int WxConsoleSurface::usualLetters() const {
@@ -119,7 +129,7 @@ void WxConsoleSurface::bindMouse(const wxEventTypeTag<wxMouseEvent>& type,
   Bind(type, [this, operation](wxMouseEvent& event) {
     event.Skip();  // a press gives the focus
     MouseState state;
-    state.at = {event.GetX(), event.GetY()};
+    state.at = {event.GetX(), event.GetY() - margin_};
     state.leftDown = event.LeftIsDown();
     state.otherButtonDown = event.RightIsDown() || event.MiddleIsDown();
     state.shift = event.ShiftDown();
@@ -133,7 +143,7 @@ void WxConsoleSurface::pointAnew(bool control) {
   const wxPoint at = ScreenToClient(wxGetMousePosition());
   if (!wxRect(GetClientSize()).Contains(at) || wxGetMouseState().LeftIsDown()) return;
   MouseState state;
-  state.at = {at.x, at.y};
+  state.at = {at.x, at.y - margin_};
   state.control = control;
   tell([&] { client_.onMouseMove(state); });
 }
@@ -162,7 +172,7 @@ void WxConsoleSurface::DoSetSize(int x, int y, int width, int height, int flags)
 
 Point WxConsoleSurface::clientSize() const {
   const wxSize size = GetClientSize();
-  return {size.x, size.y};
+  return {std::max(size.x - margin_, 1), std::max(size.y - margin_, 1)};
 }
 
 Point WxConsoleSurface::lastPosition() const {
@@ -201,7 +211,7 @@ void WxConsoleSurface::scrollTo(const Point& position) {
 }
 
 void WxConsoleSurface::invalidate(const Rect& rect) {
-  RefreshRect(wxRect(rect.left - scroll_.x, rect.top - scroll_.y, rect.width(), rect.height()), false);
+  RefreshRect(wxRect(rect.left - scroll_.x, rect.top - scroll_.y + margin_, rect.width(), rect.height()), false);
 }
 
 void WxConsoleSurface::invalidateAll() {
@@ -210,7 +220,11 @@ void WxConsoleSurface::invalidateAll() {
 
 void WxConsoleSurface::showHint(bool on) {
   if (on && !hint_) hint_ = std::make_unique<HintWindow>(stack_, *this);
-  if (hint_) hint_->showWindow(on);
+  if (!hint_) return;
+  if (on && today_)
+    hint_->showAwayFrom(ScreenToClient(wxGetMousePosition()), cell_.y);
+  else
+    hint_->showWindow(on);
 }
 
 void WxConsoleSurface::showHand(bool on) {
@@ -230,15 +244,24 @@ void WxConsoleSurface::setTitle(const std::string& title) {
 
 void WxConsoleSurface::onPaint(wxPaintEvent&) {
   wxAutoBufferedPaintDC dc(this);
-  dc.SetBackground(*wxWHITE_BRUSH);
+  const Colour ground = client_.ground();
+  dc.SetBackground(wxBrush(wxColour(ground.red, ground.green, ground.blue)));
   dc.Clear();
   if (!alive_) return;
   dc.SetFont(GetFont());
   dc.SetBackgroundMode(wxBRUSHSTYLE_TRANSPARENT);
-  dc.SetDeviceOrigin(-scroll_.x, -scroll_.y);
+  dc.SetDeviceOrigin(-scroll_.x, margin_ - scroll_.y);
   wxRect clip = GetUpdateRegion().GetBox();
   if (clip.IsEmpty()) clip = wxRect(GetClientSize());
-  clip.Offset(scroll_.x, scroll_.y);
+  clip.Offset(scroll_.x, scroll_.y - margin_);
+  if (margin_ > 0) {
+    // What is scrolled halfway out of sight ends at the margins.
+    const Point room = clientSize();
+    const wxRect text(scroll_.x, scroll_.y, room.x, room.y);
+    clip.Intersect(text);
+    if (clip.IsEmpty()) return;
+    dc.SetClippingRegion(text);
+  }
   WxConsolePainter painter(dc, clip, cell_, exactAdvance_);
   tell([&] { client_.paint(painter); });
 }

@@ -18,7 +18,7 @@ namespace tarnwick::ui {
 
 class HintWindow;
 
-/// The console's window: fixed-pitch cells on white, scrolled by pixels.
+/// The console's window: fixed-pitch cells on one ground, scrolled by pixels.
 class WxConsoleSurface : public wxWindow, public ConsoleSurface {
  public:
   WxConsoleSurface(wxWindow* parent, WindowStack& stack, Desktop& desktop, ConsoleSurfaceClient& client,
@@ -32,6 +32,7 @@ class WxConsoleSurface : public wxWindow, public ConsoleSurface {
 
   bool hasFont() const override { return hasFont_; }
   Point cell() const override { return cell_; }
+  bool isDark() const override;
   int usualLetters() const override;
   void setLetters(int points) override;
   Point clientSize() const override;
@@ -42,6 +43,11 @@ class WxConsoleSurface : public wxWindow, public ConsoleSurface {
   void invalidateAll() override;
   void wake() override { gate_->wake(); }
   void showHint(bool on) override;
+  /// For a console of today: margins around the text, bars that stay in sight while there is something to scroll, and a
+  /// hint that keeps within the window's width and away from the mouse.
+  void useTodaysWays();
+  /// What the margins take of the window.
+  wxSize margins() const { return {margin_, margin_}; }
   void showHand(bool on) override;
   platform::WindowNumber bringToFront() override;
   void setTitle(const std::string& title) override;
@@ -81,6 +87,8 @@ class WxConsoleSurface : public wxWindow, public ConsoleSurface {
   std::unique_ptr<HintWindow> hint_;
   Point cell_;
   bool hasFont_ = false;
+  bool today_ = false;
+  int margin_ = 0;  ///< above the text and right of it
   bool exactAdvance_ = true;
   Point document_;
   Point scroll_;

@@ -28,6 +28,7 @@ class FakeSurface : public ConsoleSurface {
   bool hand = false;
   std::vector<std::string> titles;
   bool fontMade = true;
+  bool dark = false;
   int letters = 0;  ///< as they were set
   std::atomic<int> wakes{0};
   /// Told of its end within `close`, as a window may do it.
@@ -41,6 +42,7 @@ class FakeSurface : public ConsoleSurface {
   bool takeWake() { return wakes.exchange(0) > 0; }
 
   bool hasFont() const override { return fontMade; }
+  bool isDark() const override { return dark; }
   Point cell() const override { return cellSize; }
   int usualLetters() const override { return 10; }
   void setLetters(int points) override {

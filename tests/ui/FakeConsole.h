@@ -22,6 +22,7 @@ class FakeConsole : public ConsoleFrame, public ConsoleSurfaceClient {
   }
   const Toolbar* toolbar() const override { return buttons; }
   std::string title() const override { return "Console under test"; }
+  bool isOfToday() const override { return today; }
   bool commandEnabled(int command) const override { return disabled.count(command) == 0; }
   void onCommand(int command) override { heard.push_back("command " + std::to_string(command)); }
   ConsoleSurfaceClient& view() override { return *this; }
@@ -30,6 +31,7 @@ class FakeConsole : public ConsoleFrame, public ConsoleSurfaceClient {
     surface = &opened;
     sizeAtStart = opened.clientSize();
   }
+  Colour ground() const override { return paper; }
   void paint(ConsolePainter& painter) override {
     ++paints;
     if (onPaint) onPaint(painter);
@@ -76,6 +78,7 @@ class FakeConsole : public ConsoleFrame, public ConsoleSurfaceClient {
   ConsoleSurface* surface = nullptr;
   Point sizeAtStart;
   bool today = false;
+  Colour paper{255, 255, 255};
   int modifierKeys = 0;
   int paints = 0;
   int resized = 0;

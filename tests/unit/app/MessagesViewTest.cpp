@@ -267,7 +267,7 @@ TEST_F(MessagesViewTest, OnADarkDesktopTheGroundIsDark) {
 }
 
 /// How much lighter one colour is than the other, as readers with weak eyes see it: 1 to 21.
-double contrast(Colour left, Colour right) {
+double contrastOf(Colour left, Colour right) {
   const auto light = [](Colour colour) {
     const auto part = [](std::uint8_t value) {
       const double share = value / 255.0;
@@ -284,7 +284,7 @@ TEST(MessageColoursTest, AllCanBeReadOnBothGrounds) {
     const MessageColours& colours = messageColours(dark);
     for (const Colour ground : {colours.ground, colours.current}) {
       for (const Colour letters : {colours.text, colours.dimmed, colours.error, colours.warning, colours.note})
-        EXPECT_GE(contrast(letters, ground), 4.5) << dark << ' ' << int{letters.red};
+        EXPECT_GE(contrastOf(letters, ground), 4.5) << dark << ' ' << int{letters.red};
     }
   }
 }

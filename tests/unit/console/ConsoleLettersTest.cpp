@@ -166,6 +166,28 @@ TEST_F(ConsoleLettersTest, InTheClassicConsoleTheWheelScrollsWhateverIsHeld) {
   EXPECT_EQ(surface.letters, 0);
 }
 
+TEST_F(ConsoleLettersTest, TheColoursFollowTheDesktop) {
+  openLong();
+  EXPECT_EQ(view->ground(), lightPalette.ground);
+  surface.dark = true;
+  EXPECT_EQ(view->ground(), darkPalette.ground);
+  test::FakePainter painter({0, end(), 644, end() + 400});
+  view->paint(painter);
+  ASSERT_FALSE(painter.drawn.empty());
+  EXPECT_EQ(painter.drawn[0].colour, darkPalette.output);
+}
+
+TEST_F(ConsoleLettersTest, TheClassicConsoleIsWhiteOnEveryDesktop) {
+  program.today = false;
+  openLong();
+  surface.dark = true;
+  EXPECT_EQ(view->ground(), (Colour{255, 255, 255}));
+  test::FakePainter painter({0, end(), 644, end() + 400});
+  view->paint(painter);
+  ASSERT_FALSE(painter.drawn.empty());
+  EXPECT_EQ(painter.drawn[0].colour, (Colour{0, 0, 255}));
+}
+
 TEST_F(ConsoleLettersTest, AClosedConsoleChangesNothing) {
   openLong();
   view->onClose();

@@ -34,7 +34,8 @@ CMainFrame::CMainFrame(Desktop& desktop, Settings& settings, const ConsoleStart&
   view_.openTracesBy([this](const TraceLink& trace) { traceEditor_.open(trace); });
   if (!view_.ofToday()) return;
   const ProgramInfo& info = settings.context().program;
-  view_.lookLike(rememberedLook(info), [&info](const TextLook& look) { rememberLook(info, look); });
+  view_.lookLike(rememberedLook(info),
+                 [&info](const TextLook& before, const TextLook& now) { rememberChange(info, before, now); });
 }
 
 std::optional<bool> CMainFrame::todayEnabled(int command) const {
@@ -47,6 +48,7 @@ std::optional<bool> CMainFrame::todayEnabled(int command) const {
     case COMMAND_FIND_NEXT:
     case COMMAND_FIND_PREVIOUS:
     case COMMAND_USUAL_LETTERS:
+    case COMMAND_WRAP_LINES:
       return true;
     case COMMAND_LARGER_LETTERS:
     case COMMAND_SMALLER_LETTERS:
@@ -88,6 +90,10 @@ bool CMainFrame::commandEnabled(int command) const {
   }
 }
 
+bool CMainFrame::commandMarked(int command) const {
+  return command == COMMAND_WRAP_LINES && view_.textLook().wrapLines;
+}
+
 bool CMainFrame::onCommandOfToday(int command) {
   if (!view_.ofToday()) return false;
   switch (command) {
@@ -126,6 +132,9 @@ bool CMainFrame::onCommandOfToday(int command) {
       return true;
     case COMMAND_USUAL_LETTERS:
       view_.useUsualLetters();
+      return true;
+    case COMMAND_WRAP_LINES:
+      view_.setWrapLines(!view_.textLook().wrapLines);
       return true;
     default:
       return false;

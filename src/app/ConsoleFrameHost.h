@@ -22,6 +22,8 @@ class ConsoleFrame {
   /// True for a console of today, whose window looks after some things in its own way.
   virtual bool isOfToday() const { return false; }
   virtual bool commandEnabled(int command) const = 0;
+  /// Of a menu entry that is a mark: what it stands for is on.
+  virtual bool commandMarked(int /*command*/) const { return false; }
   virtual void onCommand(int command) = 0;
   virtual ConsoleSurfaceClient& view() = 0;
 };

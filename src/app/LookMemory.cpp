@@ -46,7 +46,9 @@ class LookTable {
  private:
   std::string file_;
   TextLook look_;
-  TagRow rows_[2] = {{"CONSOLE_LETTERS", &look_.letters, nullptr, 0, 0, 0, 0, true}, endOfRows};
+  TagRow rows_[3] = {{"CONSOLE_LETTERS", &look_.letters, nullptr, 0, 0, 0, 0, true},
+                     {"CONSOLE_WRAP", &look_.wrapLines, nullptr, 0, 0, 0, 0, true},
+                     endOfRows};
   TagTable table_;
 };
 
@@ -58,6 +60,13 @@ TextLook rememberedLook(const ProgramInfo& program) {
 
 void rememberLook(const ProgramInfo& program, const TextLook& look) {
   LookTable(program).write(look);
+}
+
+void rememberChange(const ProgramInfo& program, const TextLook& before, const TextLook& now) {
+  TextLook look = rememberedLook(program);
+  if (now.letters != before.letters) look.letters = now.letters;
+  if (now.wrapLines != before.wrapLines) look.wrapLines = now.wrapLines;
+  rememberLook(program, look);
 }
 
 }  // namespace tarnwick

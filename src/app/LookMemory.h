@@ -18,4 +18,7 @@ TextLook rememberedLook(const ProgramInfo& program);
 /// Remembers it for the windows that open from now on. If it can't be written, it is not remembered.
 void rememberLook(const ProgramInfo& program, const TextLook& look);
 
+/// Remembers what has changed between the two, and leaves the rest to those who have changed that meanwhile.
+void rememberChange(const ProgramInfo& program, const TextLook& before, const TextLook& now);
+
 }  // namespace tarnwick

@@ -9,7 +9,8 @@ namespace tarnwick {
 
 /// What of the look is the user's choice, and is remembered.
 struct TextLook {
-  int letters = 0;  ///< their size in points; 0 for the usual one
+  int letters = 0;         ///< their size in points; 0 for the usual one
+  bool wrapLines = false;  ///< long lines are broken at the window's width
   bool operator==(const TextLook&) const = default;
 };
 

@@ -4,6 +4,7 @@
 #include "console/ConsoleGrid.h"
 #include "console/ConsoleLooks.h"
 #include "console/ConsoleSurface.h"
+#include "console/LineRows.h"
 #include "console/TarnwickDoc.h"
 #include "console/TextSearch.h"
 
@@ -13,5 +14,9 @@ namespace tarnwick {
 /// lock.
 void paintText(ConsolePainter& painter, const TarnwickDoc& document, const ConsoleGrid& grid,
                const TextSearch& search = {}, const ConsolePalette& palette = classicPalette);
+
+/// The same for lines that are broken into rows.
+void paintBrokenText(ConsolePainter& painter, const TarnwickDoc& document, const ConsoleGrid& grid,
+                     const LineRows& rows, const TextSearch& search, const ConsolePalette& palette);
 
 }  // namespace tarnwick

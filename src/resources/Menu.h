@@ -9,6 +9,7 @@ namespace tarnwick {
 struct MenuItem {
   std::string text;  ///< with "&" before the mnemonic and the shown shortcut behind a tab; empty for a separator
   int command = 0;
+  bool isMark = false;  ///< it shows whether something is on
 };
 
 struct Menu {
@@ -50,6 +51,7 @@ enum ConsoleCommand {
   COMMAND_LARGER_LETTERS = 32861,
   COMMAND_SMALLER_LETTERS = 32862,
   COMMAND_USUAL_LETTERS = 32863,
+  COMMAND_WRAP_LINES = 32864,
   COMMAND_JDB_HELP = 32818,
   COMMAND_HELP = 32817,
   COMMAND_ABOUT = 57664,

@@ -15,7 +15,6 @@ namespace {
 constexpr int margin = 10;
 constexpr int distance = 20;  // from the view's left top corner
 
-/// The labels among the windows below this one, and what the others take of its width.
 std::vector<wxStaticText*> labelsBelow(const wxWindow& window) {
   std::vector<wxStaticText*> labels;
   for (wxWindow* const child : window.GetChildren()) {

@@ -84,7 +84,7 @@ void WxConsoleFrame::buildMenus() {
         list->AppendSeparator();
         continue;
       }
-      list->Append(++id, toWx(item.text));
+      list->Append(++id, toWx(item.text), "", item.isMark ? wxITEM_CHECK : wxITEM_NORMAL);
       commandOfId_[id] = item.command;
     }
     bar->Append(list, toWx(menu.title));
@@ -116,7 +116,10 @@ void WxConsoleFrame::buildToolbar() {
 void WxConsoleFrame::updateMenus() {
   guarded(stack_, [this] {
     for (const auto& [id, number] : commandOfId_) {
-      if (auto* const item = frame_->GetMenuBar()->FindItem(id)) item->Enable(rules_.commandEnabled(number));
+      auto* const item = frame_->GetMenuBar()->FindItem(id);
+      if (!item) continue;
+      item->Enable(rules_.commandEnabled(number));
+      if (item->IsCheckable()) item->Check(rules_.commandMarked(number));
     }
   });
 }

@@ -130,6 +130,7 @@ TEST_P(ConsoleMenusTest, MenusAskWhatIsEnabledWhenTheyOpen) {
   waitForFrame();
   steps.then("open the menu", [this] {
     console.disabled = {COMMAND_STOP_RECORDING, COMMAND_JDB_HELP, COMMAND_RUN_AGAIN};
+    console.marked = {COMMAND_WRAP_LINES, COMMAND_COPY};
     wxMenuEvent open(wxEVT_MENU_OPEN, 0, frame()->GetMenuBar()->GetMenu(0));
     frame()->ProcessWindowEvent(open);
     wxMenuBar& bar = *frame()->GetMenuBar();
@@ -144,6 +145,10 @@ TEST_P(ConsoleMenusTest, MenusAskWhatIsEnabledWhenTheyOpen) {
         if (!items[k]->IsSeparator()) {
           EXPECT_EQ(items[k]->IsEnabled(), console.commandEnabled(described.items[k].command))
               << described.items[k].text;
+          EXPECT_EQ(items[k]->IsCheckable(), described.items[k].isMark) << described.items[k].text;
+          if (items[k]->IsCheckable()) {
+            EXPECT_TRUE(items[k]->IsChecked());
+          }
         }
       }
     }

@@ -24,6 +24,7 @@ class FakeConsole : public ConsoleFrame, public ConsoleSurfaceClient {
   std::string title() const override { return "Console under test"; }
   bool isOfToday() const override { return today; }
   bool commandEnabled(int command) const override { return disabled.count(command) == 0; }
+  bool commandMarked(int command) const override { return marked.count(command) != 0; }
   void onCommand(int command) override { heard.push_back("command " + std::to_string(command)); }
   ConsoleSurfaceClient& view() override { return *this; }
 
@@ -84,6 +85,7 @@ class FakeConsole : public ConsoleFrame, public ConsoleSurfaceClient {
   int resized = 0;
   int scrolled = 0;
   std::set<int> disabled;
+  std::set<int> marked;
   std::vector<std::chrono::steady_clock::time_point> wakes;
   Heard heard;
   std::string lastMove;

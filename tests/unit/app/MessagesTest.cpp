@@ -176,26 +176,26 @@ TEST_F(MessagesTest, WhatIsSelectedIsCopied) {
 }
 
 TEST_F(MessagesTest, TheLettersHaveTheSizeOfTheConsoles) {
-  rememberLook(program_, {18});
+  rememberLook(program_, {18, false});
   test::FakeSurface surface;
   runAndShow(twoErrors);
   messages().view().onStart(surface);
   EXPECT_EQ(surface.letters, 18);
   messages().onCommand(MessagesCommand::LargerLetters);
-  EXPECT_EQ(rememberedLook(program_), TextLook{20});
+  EXPECT_EQ(rememberedLook(program_), (TextLook{20, false}));
   messages().onCommand(MessagesCommand::SmallerLetters);
   messages().onCommand(MessagesCommand::SmallerLetters);
-  EXPECT_EQ(rememberedLook(program_), TextLook{16});
+  EXPECT_EQ(rememberedLook(program_), (TextLook{16, false}));
   messages().view().onClose();
   messages().close();
   // Meanwhile a console has been given others.
-  rememberLook(program_, {9});
+  rememberLook(program_, {9, true});
   runAndShow(twoErrors);
   messages().view().onStart(surface);
   EXPECT_EQ(surface.letters, 9);
   messages().onCommand(MessagesCommand::UsualLetters);
   EXPECT_EQ(surface.letters, 0);
-  EXPECT_EQ(rememberedLook(program_), TextLook{});
+  EXPECT_EQ(rememberedLook(program_), (TextLook{0, true})) << "wrapping is the console's matter";
   messages().view().onClose();
 }
 

@@ -16,7 +16,8 @@ class ConsoleLettersTest : public test::ConsoleFixture {
       throw platform::SystemError{"CreateProcess", 2, ""};
     };
     view = std::make_unique<TarnwickView>(document, desktop, program, [](int, int) { return std::string(); });
-    if (program.today) view->lookLike({letters}, [this](const TextLook& look) { told.push_back(look.letters); });
+    if (program.today)
+      view->lookLike({letters, false}, [this](const TextLook&, const TextLook& now) { told.push_back(now.letters); });
     view->onStart(surface);
     ASSERT_TRUE(until([&] { return !desktop.messages.empty(); }));
     {

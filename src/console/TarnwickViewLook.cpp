@@ -105,10 +105,8 @@ int TarnwickView::topAgain() {
 }
 
 Rect TarnwickView::caretRect() const {
-  const int column = screen_.caret.column();
-  const int line = screen_.document.lineCount() - 1;
-  // Behind a line that ends with its row, it stands at the end of that.
-  const ConsoleCell at = screen_.rows.shown({column, line}, column >= screen_.document.lastLineLength());
+  // Behind a line that ends with its row, that is the end of this row.
+  const ConsoleCell at = screen_.rows.shown({screen_.caret.column(), screen_.document.lineCount() - 1}, false);
   const int x = screen_.grid.x(at.column);
   return {x, screen_.grid.y(at.line), x + ConsoleCaret::width, screen_.grid.y(at.line + 1)};
 }

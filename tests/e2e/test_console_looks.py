@@ -68,6 +68,8 @@ def test_letters_and_long_lines_are_as_the_user_wants_them_and_stay_so(scratch):
     person.key("ctrl+plus", "ctrl+plus")
     larger = cell(view)
     console.press("View")
+    console.control("Wrap long lines")
+    picture(scratch, "console-view-menu")
     console.press("Wrap long lines")
     wait_until("both are remembered", lambda: remembered(scratch).get("CONSOLE_WRAP") == "ON")
     assert int(remembered(scratch)["CONSOLE_LETTERS"]) > 10

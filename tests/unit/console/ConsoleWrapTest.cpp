@@ -160,6 +160,8 @@ TEST_F(ConsoleWrapTest, ABrokenLineIsSelectedAndCopiedAsOne) {
   EXPECT_EQ(inverted[2], (Rect{4, 16, 4 + 3 * 8, 32}));
   EXPECT_EQ(selectedBetween(2, 1, 2, 2), "23456789\r\nsh");
   EXPECT_EQ(selectedBetween(0, 0, 100, 0), "abcdefghijklmnopqrst") << "beyond the row's end";
+  EXPECT_EQ(painted().inverted, (std::vector<Rect>{{4, 3 * 16, 6, 4 * 16}, {4, 0, 4 + columns * 8, 16}}))
+      << "nothing of the row below";
   EXPECT_EQ(selectedBetween(0, 1, 100, 1), "0123456789");
   view->selectAll();
   EXPECT_EQ(view->selectedText(), thirty + "\r\nshort\r\n");

@@ -1,5 +1,6 @@
 #include "app/CMainFrame.h"
 
+#include "app/LookMemory.h"
 #include "base/ProgramInfo.h"
 #include "console/JdbCommands.h"
 #include "resources/Menu.h"
@@ -31,6 +32,10 @@ CMainFrame::CMainFrame(Desktop& desktop, Settings& settings, const ConsoleStart&
       view_(document_, desktop, programOf(start, settings),
             [&settings](int group, int index) { return settings.functionKeys.key(group, index); }) {
   view_.openTracesBy([this](const TraceLink& trace) { traceEditor_.open(trace); });
+  if (!view_.ofToday()) return;
+  const ProgramInfo& info = settings.context().program;
+  view_.lookLike(rememberedLook(info),
+                 [&info](const TextLook& before, const TextLook& now) { rememberChange(info, before, now); });
 }
 
 std::optional<bool> CMainFrame::todayEnabled(int command) const {
@@ -42,7 +47,12 @@ std::optional<bool> CMainFrame::todayEnabled(int command) const {
     case COMMAND_FIND:
     case COMMAND_FIND_NEXT:
     case COMMAND_FIND_PREVIOUS:
+    case COMMAND_USUAL_LETTERS:
+    case COMMAND_WRAP_LINES:
       return true;
+    case COMMAND_LARGER_LETTERS:
+    case COMMAND_SMALLER_LETTERS:
+      return view_.canStepLetters(command == COMMAND_LARGER_LETTERS ? 1 : -1);
     case COMMAND_COPY_OR_STOP:
       return view_.canCopy() || view_.canStop();
     case COMMAND_END_OF_INPUT:
@@ -80,6 +90,10 @@ bool CMainFrame::commandEnabled(int command) const {
   }
 }
 
+bool CMainFrame::commandMarked(int command) const {
+  return command == COMMAND_WRAP_LINES && view_.textLook().wrapLines;
+}
+
 bool CMainFrame::onCommandOfToday(int command) {
   if (!view_.ofToday()) return false;
   switch (command) {
@@ -111,6 +125,16 @@ bool CMainFrame::onCommandOfToday(int command) {
       return true;
     case COMMAND_RUN_AGAIN:
       view_.runAgain();
+      return true;
+    case COMMAND_LARGER_LETTERS:
+    case COMMAND_SMALLER_LETTERS:
+      view_.stepLetters(command == COMMAND_LARGER_LETTERS ? 1 : -1);
+      return true;
+    case COMMAND_USUAL_LETTERS:
+      view_.useUsualLetters();
+      return true;
+    case COMMAND_WRAP_LINES:
+      view_.setWrapLines(!view_.textLook().wrapLines);
       return true;
     default:
       return false;

@@ -35,7 +35,9 @@ class CMainFrame : public ConsoleFrame {
   }
   const Toolbar* toolbar() const override { return debugging_ ? &debuggerToolbar() : nullptr; }
   std::string title() const override { return document_.title(); }
+  bool isOfToday() const override { return view_.ofToday(); }
   bool commandEnabled(int command) const override;
+  bool commandMarked(int command) const override;
   void onCommand(int command) override;
   ConsoleSurfaceClient& view() override { return view_; }
 

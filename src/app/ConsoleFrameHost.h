@@ -19,7 +19,11 @@ class ConsoleFrame {
   /// Null for a frame without one.
   virtual const Toolbar* toolbar() const { return nullptr; }
   virtual std::string title() const = 0;
+  /// True for a console of today, whose window looks after some things in its own way.
+  virtual bool isOfToday() const { return false; }
   virtual bool commandEnabled(int command) const = 0;
+  /// Of a menu entry that is a mark: what it stands for is on.
+  virtual bool commandMarked(int /*command*/) const { return false; }
   virtual void onCommand(int command) = 0;
   virtual ConsoleSurfaceClient& view() = 0;
 };

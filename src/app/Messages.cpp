@@ -1,5 +1,6 @@
 #include "app/Messages.h"
 
+#include "app/LookMemory.h"
 #include "console/TarnwickView.h"
 #include "platform/FileSystem.h"
 #include "platform/Process.h"
@@ -38,8 +39,18 @@ void Messages::show(bool said) {
   view_.setText(said ? textOfLog(log) : MessagesText());
   if (!window_) window_ = host_.makeMessagesWindow(*this);
   if (!window_) return;
+  if (!window_->isOpen()) useRememberedLetters();
   window_->setSummary(messagesSummary(view_.text(), log.elapsed(), log.end()));
   window_->show();
+}
+
+void Messages::useRememberedLetters() {
+  const ProgramInfo& program = settings_.context().program;
+  view_.useLetters(rememberedLook(program).letters, [&program](int letters) {
+    TextLook look = rememberedLook(program);
+    look.letters = letters;
+    rememberLook(program, look);
+  });
 }
 
 void Messages::close() {
@@ -57,6 +68,13 @@ void Messages::onCommand(MessagesCommand command) {
       break;
     case MessagesCommand::SelectAll:
       view_.selectAll();
+      break;
+    case MessagesCommand::LargerLetters:
+    case MessagesCommand::SmallerLetters:
+      view_.stepLetters(command == MessagesCommand::LargerLetters ? 1 : -1);
+      break;
+    case MessagesCommand::UsualLetters:
+      view_.useUsualLetters();
       break;
   }
 }

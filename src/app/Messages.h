@@ -35,6 +35,7 @@ class Messages : public MessagesFrame {
   void step(bool forward);
   void open(const ToolMessage& message);
   void copy();
+  void useRememberedLetters();
 
   Settings& settings_;
   ConsoleFrameHost& host_;

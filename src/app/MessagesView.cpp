@@ -24,6 +24,7 @@ MessagesView::MessagesView(std::function<bool()> isDark, std::function<void(cons
 
 void MessagesView::onStart(ConsoleSurface& surface) {
   surface_ = &surface;
+  if (letters_ != 0) surface_->setLetters(letters_);
   fitSurface();
 }
 
@@ -53,6 +54,38 @@ void MessagesView::onResized() {
   if (!surface_) return;
   fitSurface();
   surface_->invalidateAll();
+}
+
+void MessagesView::useLetters(int letters, std::function<void(int letters)> changed) {
+  letters_ = letters;
+  lettersChanged_ = std::move(changed);
+}
+
+bool MessagesView::onZoom(int steps) {
+  stepLetters(steps);
+  return true;
+}
+
+void MessagesView::stepLetters(int steps) {
+  if (surface_) setLetters(steppedLetters(letters_, steps, surface_->usualLetters()));
+}
+
+void MessagesView::setLetters(int letters) {
+  if (!surface_ || letters == letters_) return;
+  letters_ = letters;
+  const Point position = surface_->scrollPosition();
+  const int line = position.y / grid_.charHeight;
+  const int column = position.x / grid_.charWidth;
+  surface_->setLetters(letters_);
+  fitSurface();
+  selection_.followGrid(width());
+  surface_->scrollTo({column * grid_.charWidth, grid_.y(line)});
+  surface_->invalidateAll();
+  lettersChanged_(letters_);
+}
+
+Colour MessagesView::ground() const {
+  return messageColours(isDark_()).ground;
 }
 
 void MessagesView::paint(ConsolePainter& painter) {

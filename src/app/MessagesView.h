@@ -2,6 +2,7 @@
 
 #include "app/MessagesText.h"
 #include "console/ConsoleGrid.h"
+#include "console/ConsoleLooks.h"
 #include "console/ConsoleSelection.h"
 #include "console/ConsoleSurface.h"
 
@@ -32,10 +33,18 @@ class MessagesView : public ConsoleSurfaceClient {
   std::string selectedText() const;
   void selectAll();
 
+  /// The size of the letters in points, 0 for the usual one; and what is told when the user changes it.
+  void useLetters(int letters, std::function<void(int letters)> changed);
+  /// Makes the letters larger by so many steps, or smaller.
+  void stepLetters(int steps);
+  void useUsualLetters() { setLetters(0); }
+
   void onStart(ConsoleSurface& surface) override;
+  Colour ground() const override;
   void paint(ConsolePainter& painter) override;
   void onWake() override {}
   void onScrolled() override {}
+  bool onZoom(int steps) override;
   void onResized() override;
   bool onKey(ConsoleKey key, int modifiers) override;
   void onCharacter(const std::string& character, int repeatCount) override;
@@ -48,6 +57,7 @@ class MessagesView : public ConsoleSurfaceClient {
 
  private:
   void fitSurface();
+  void setLetters(int letters);
   void moveTo(std::optional<std::size_t> message);
   void showCurrent();
   void openCurrent();
@@ -61,6 +71,8 @@ class MessagesView : public ConsoleSurfaceClient {
   std::function<void(const ToolMessage&)> open_;
   MessagesText text_;
   int widest_ = 0;
+  int letters_ = 0;
+  std::function<void(int letters)> lettersChanged_ = [](int) {};
   ConsoleGrid grid_;
   ConsoleSelection selection_{grid_};
   std::optional<std::size_t> current_;

@@ -3,6 +3,7 @@
 #include "console/ConsoleCaret.h"
 #include "console/ConsoleChanges.h"
 #include "console/ConsoleGrid.h"
+#include "console/LineRows.h"
 #include "console/TarnwickDoc.h"
 #include "console/TerminalCursor.h"
 
@@ -11,7 +12,7 @@ namespace tarnwick {
 /// All that the text lock guards: the text, its caret, and what of it the window has yet to be told.
 struct ConsoleScreen {
   explicit ConsoleScreen(TarnwickDoc& text, bool ofToday = false)
-      : today(ofToday), document(text), cursor(text), caret(text, grid, changes) {}
+      : today(ofToday), document(text), rows(text), cursor(text), caret(text, grid, changes) {}
   ConsoleScreen(const ConsoleScreen&) = delete;
   ConsoleScreen& operator=(const ConsoleScreen&) = delete;
 
@@ -25,6 +26,7 @@ struct ConsoleScreen {
   /// The console of today rather than the classic one: what is typed stays together, and is sent as it is seen.
   const bool today;
   TarnwickDoc& document;
+  LineRows rows;
   TerminalCursor cursor;  ///< only in the console of today
   ConsoleGrid grid;
   ConsoleChanges changes;

@@ -73,7 +73,8 @@ bool ConsoleSelection::selectWord(const TarnwickDoc& document, const ConsoleCell
 void ConsoleSelection::selectAll(const TarnwickDoc& document) {
   start_ = {0, 0};
   end_ = {document.widestLine(), document.lineCount()};
-  rects_ = {{grid_.x(0), 0, grid_.x(end_.column), grid_.y(end_.line)}};
+  rects_ = {{grid_.x(0), 0, grid_.x(broken() ? rows_->width() : end_.column),
+             grid_.y(broken() ? rows_->count() : end_.line)}};
   state_ = STATE_STANDS;
 }
 
@@ -82,6 +83,10 @@ void ConsoleSelection::select(const ConsoleCell& start, const ConsoleCell& end, 
   end_ = end;
   computeRects(widestLine);
   finish();
+}
+
+void ConsoleSelection::followGrid(int widestLine) {
+  if (!rects_.empty()) computeRects(widestLine);
 }
 
 std::string ConsoleSelection::text(const TarnwickDoc& document) const {
@@ -102,8 +107,13 @@ std::string ConsoleSelection::text(const TarnwickDoc& document) const {
 void ConsoleSelection::computeRects(int widestLine) {
   rects_.clear();
   if (start_ == end_) return;
-  const auto [first, last] = before(end_, start_) ? std::pair(end_, start_) : std::pair(start_, end_);
-  const int right = grid_.x(widestLine);
+  auto [first, last] = before(end_, start_) ? std::pair(end_, start_) : std::pair(start_, end_);
+  if (broken()) {
+    const bool empty = first == last;
+    first = rows_->shown(first, false);
+    last = empty ? first : rows_->shown(last, true);
+  }
+  const int right = grid_.x(broken() ? rows_->width() : widestLine);
   if (first.line == last.line) {
     rects_.push_back({grid_.x(first.column), grid_.y(first.line), grid_.x(last.column), grid_.y(first.line + 1)});
     return;

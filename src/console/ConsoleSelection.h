@@ -2,6 +2,7 @@
 
 #include "base/Geometry.h"
 #include "console/ConsoleGrid.h"
+#include "console/LineRows.h"
 #include "console/TarnwickDoc.h"
 
 #include <string>
@@ -10,7 +11,7 @@
 namespace tarnwick {
 
 /// What of the text is selected, and the rectangles that show it inverted. User-interface thread only; what reads the
-/// text wants the text lock held.
+/// text wants the text lock held, and so does what makes rectangles where lines may be broken.
 class ConsoleSelection {
  public:
   enum State {
@@ -19,10 +20,11 @@ class ConsoleSelection {
     STATE_STANDS = 2,
   };
 
-  explicit ConsoleSelection(const ConsoleGrid& grid) : grid_(grid) {}
+  /// `rows` tells how lines are broken; null for lines that never are.
+  explicit ConsoleSelection(const ConsoleGrid& grid, const LineRows* rows = nullptr) : grid_(grid), rows_(rows) {}
 
   State state() const { return state_; }
-  /// First line, last line, the lines between; in pixels of the document.
+  /// First row, last row, the rows between; in pixels of the document.
   const std::vector<Rect>& rects() const { return rects_; }
   const ConsoleCell& start() const { return start_; }
   const ConsoleCell& end() const { return end_; }
@@ -46,6 +48,9 @@ class ConsoleSelection {
   /// Selects these cells. `widestLine` as in the document.
   void select(const ConsoleCell& start, const ConsoleCell& end, int widestLine);
 
+  /// The cells have another size: the rectangles follow. `widestLine` as in the document.
+  void followGrid(int widestLine);
+
   /// The selected text, its lines parted by "\r\n".
   std::string text(const TarnwickDoc& document) const;
 
@@ -55,7 +60,10 @@ class ConsoleSelection {
  private:
   void computeRects(int widestLine);
 
+  bool broken() const { return rows_ && rows_->broken(); }
+
   const ConsoleGrid& grid_;
+  const LineRows* rows_;
   State state_ = STATE_NONE;
   ConsoleCell start_;
   ConsoleCell end_;

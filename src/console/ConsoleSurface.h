@@ -38,8 +38,15 @@ class ConsoleSurface {
 
   /// False if the system had no fixed-pitch font; the text then shows in the window's own.
   virtual bool hasFont() const = 0;
+  /// True if the desktop wants light letters on dark ground.
+  virtual bool isDark() const = 0;
   /// The fixed-pitch character cell in pixels: width and height.
   virtual Point cell() const = 0;
+  /// The usual size of the letters, in points.
+  virtual int usualLetters() const = 0;
+  /// Gives the letters this size in points, or the usual one for 0, and so the cells another. Nothing else changes by
+  /// it.
+  virtual void setLetters(int points) = 0;
   /// Width and height of the visible part in pixels.
   virtual Point clientSize() const = 0;
   /// Document pixel at the window's left top corner.
@@ -114,11 +121,16 @@ class ConsoleSurfaceClient {
 
   /// The window stands and has its size; once, before it shows.
   virtual void onStart(ConsoleSurface& surface) = 0;
+  /// What the text stands on, where it is painted.
+  virtual Colour ground() const = 0;
   virtual void paint(ConsolePainter& painter) = 0;
   virtual void onWake() = 0;
   virtual void onResized() = 0;
   /// The user has scrolled.
   virtual void onScrolled() = 0;
+  /// The wheel has turned by so many steps while Control was held, upwards above 0; by less than one for 0. False if
+  /// that is of no use here: then it scrolls.
+  virtual bool onZoom(int steps) = 0;
   /// A key with no character of its own. False if it is of no use here.
   virtual bool onKey(ConsoleKey key, int modifiers) = 0;
   /// One typed character (or control character) as bytes of the platform's character set.

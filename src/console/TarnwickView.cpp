@@ -62,9 +62,14 @@ void TarnwickView::makeChild() {
 
 void TarnwickView::onStart(ConsoleSurface& surface) {
   surface_ = &surface;
+  if (look_.letters != 0) surface_->setLetters(look_.letters);
   if (!surface_->hasFont()) desktop_.message("Error creating font");
   if (!measure()) desktop_.message("Error getting font metrics");
   if (child_->childState() == -1) child_->start();
+  {
+    const TextGuard guard(screen_.lock());
+    breakLines();
+  }
   surface_->setScrollSizes({1, 1});
   blinkTimer_ = startTimer(blinkPeriod, [this] {
     const TextGuard guard(screen_.lock());
@@ -97,9 +102,17 @@ void TarnwickView::paint(ConsolePainter& painter) {
   if (!surface_ || (!screen_.grid.known() && !measure())) return;
   {
     const TextGuard guard(screen_.lock());
-    paintText(painter, screen_.document, screen_.grid, search_);
-    if (pointed_) painter.fill(underlineOf(*pointed_), linkColour);
-    screen_.caret.draw(painter, ConsoleCaret::width, screen_.grid.charHeight);
+    if (screen_.rows.broken())
+      paintBrokenText(painter, screen_.document, screen_.grid, screen_.rows, search_, palette());
+    else
+      paintText(painter, screen_.document, screen_.grid, search_, palette());
+    if (pointed_) {
+      for (const auto& line : underlinesOf(*pointed_)) painter.fill(line, palette().link);
+    }
+    if (screen_.rows.broken())
+      painter.invert(caretRect());
+    else
+      screen_.caret.draw(painter, ConsoleCaret::width, screen_.grid.charHeight);
   }
   for (const auto& rect : selection_.rects()) painter.invert(rect);
 }
@@ -121,6 +134,10 @@ void TarnwickView::onWake() {
 void TarnwickView::onResized() {
   if (!surface_) return;
   measure();
+  if (screen_.rows.broken()) {
+    const int last = std::max(screen_.grid.y(scrollRows_) - surface_->clientSize().y, 0);
+    return layOutAnew(surface_->scrollPosition().y < std::min(followedTo_, last), 0);
+  }
   surface_->invalidateAll();
   // A window that showed the end goes on showing it.
   const Point position = surface_->scrollPosition();
@@ -133,8 +150,12 @@ void TarnwickView::onResized() {
 TarnwickView::Snapshot TarnwickView::takeChanges() {
   const TextGuard guard(screen_.lock());
   TarnwickDoc& document = screen_.document;
-  return {std::exchange(screen_.changes, {}), document.widestLine(), document.linesDropped(), document.linesGone(),
-          document.takeRecordFailure()};
+  return {std::exchange(screen_.changes, {}),
+          document.widestLine(),
+          document.linesDropped(),
+          document.linesGone(),
+          document.takeRecordFailure(),
+          screen_.rows.broken() ? screen_.rows.count() : 0};
 }
 
 void TarnwickView::refresh(int rows, int firstColumn, int lastColumn) {
@@ -167,6 +188,7 @@ void TarnwickView::follow(const Snapshot& snapshot) {
   const ConsoleChanges& changes = snapshot.changes;
   const ConsoleGrid& grid = screen_.grid;
   if (!grid.known()) return;
+  if (snapshot.rowCount > 0) return followBroken(snapshot);
   const int shownRows = std::exchange(scrollRows_, changes.rows);
   const int shownColumns = std::exchange(scrollColumns_, snapshot.widestLine + 1);
   if (shownColumns != scrollColumns_ || shownRows != scrollRows_) {
@@ -193,6 +215,18 @@ void TarnwickView::follow(const Snapshot& snapshot) {
   ConsoleChanges tail = changes;
   tail.topRow = std::min(tail.topRow, std::max(shownRows, 1));
   invalidateTail(tail, position, client);
+}
+
+// So many rows may have moved by whatever was written that all of them are painted again.
+void TarnwickView::followBroken(const Snapshot& snapshot) {
+  const bool held = holdsStill();
+  scrollRows_ = snapshot.rowCount;
+  scrollColumns_ = snapshot.widestLine + 1;
+  surface_->setScrollSizes({1, screen_.grid.y(scrollRows_)});
+  followedTo_ = std::max(screen_.grid.y(scrollRows_) - surface_->clientSize().y, 0);
+  goneAtRefresh_ = snapshot.linesGone;
+  surface_->scrollTo({0, held ? topAgain() : followedTo_});
+  surface_->invalidateAll();
 }
 
 void TarnwickView::invalidateTail(const ConsoleChanges& changes, const Point& position, const Point& client) {

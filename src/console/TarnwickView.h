@@ -1,6 +1,7 @@
 #pragma once
 
 #include "console/ConsoleChild.h"
+#include "console/ConsoleLooks.h"
 #include "console/ConsoleProgram.h"
 #include "console/ConsoleScreen.h"
 #include "console/ConsoleSelection.h"
@@ -19,11 +20,15 @@
 #include <optional>
 #include <string>
 #include <utility>
+#include <vector>
 
 namespace tarnwick {
 
 /// The text of a function key: group as the modifiers add up, 0 for F5 to 7 for F12.
 using FunctionKeyLookup = std::function<std::string(int group, int index)>;
+
+/// Hears how the text looked, and how it looks now that the user has changed that.
+using LookListener = std::function<void(const TextLook& before, const TextLook& now)>;
 
 /// The console: shows the document, lets the user edit one input line at its end, and runs the child.
 /// User-interface thread only.
@@ -69,15 +74,26 @@ class TarnwickView : public ConsoleSurfaceClient {
   bool canRunAgain() const { return childState() == 0; }
   /// What opens the places of stack traces, on a click with the Control key.
   void openTracesBy(std::function<void(const TraceLink&)> open) { openTrace_ = std::move(open); }
+  /// How the text looks from the start on, and what is told when the user changes that.
+  void lookLike(const TextLook& look, LookListener changed);
+  const TextLook& textLook() const { return look_; }
+  /// Makes the letters larger by so many steps, or smaller.
+  void stepLetters(int steps);
+  bool canStepLetters(int steps) const;
+  void useUsualLetters();
+  /// Breaks long lines at the window's width, or leaves them whole.
+  void setWrapLines(bool on);
 
   /// Closes the console's window.
   void closeWindow();
 
   void onStart(ConsoleSurface& surface) override;
+  Colour ground() const override { return palette().ground; }
   void paint(ConsolePainter& painter) override;
   void onWake() override;
   void onResized() override;
   void onScrolled() override;
+  bool onZoom(int steps) override;
   bool onKey(ConsoleKey key, int modifiers) override;
   void onCharacter(const std::string& character, int repeatCount) override;
   void onLeftDown(const MouseState& mouse) override;
@@ -95,6 +111,15 @@ class TarnwickView : public ConsoleSurfaceClient {
     bool linesDropped = false;
     std::uint64_t linesGone = 0;
     std::string recordFailure;
+    int rowCount = 0;  ///< of the broken lines; 0 where they are whole
+  };
+
+  /// What stands at the window's top: a line, counted from the first there ever was, the column with which its row
+  /// begins, and how much of the row is out of sight.
+  struct TopPlace {
+    std::uint64_t line = 0;
+    int column = 0;
+    int pixels = 0;
   };
 
   /// The columns of a place in the line of this number, counted from the first there ever was.
@@ -109,10 +134,22 @@ class TarnwickView : public ConsoleSurfaceClient {
   /// Shows the place under the mouse as one that a click opens, if it is one.
   void pointAt(const MouseState& mouse);
   void pointAt(const std::optional<PointedPlace>& place);
-  /// Of the underline; the caller holds the text lock.
-  Rect underlineOf(const PointedPlace& place) const;
+  /// Of the underline, in each row that it is in; the caller holds the text lock.
+  std::vector<Rect> underlinesOf(const PointedPlace& place) const;
   void openTraceUnder(const Point& at);
+  const ConsolePalette& palette() const;
   void makeChild();
+  void setLetters(int letters);
+  void changeLook(const TextLook& look);
+  /// Breaks the lines as it is wanted now; the caller holds the text lock.
+  void breakLines();
+  /// The rows or their cells have changed: the end stays in sight, or what was at the top.
+  void layOutAnew(bool held, int leftColumn);
+  /// Remembers what is at the top.
+  void noteTop();
+  /// Where that is now.
+  int topAgain();
+  Rect caretRect() const;
   void showTitle();
   /// True if the user has scrolled back, in a console that then holds still.
   bool holdsStill() const;
@@ -128,6 +165,7 @@ class TarnwickView : public ConsoleSurfaceClient {
   Snapshot takeChanges();
   void apply(const Snapshot& snapshot);
   void follow(const Snapshot& snapshot);
+  void followBroken(const Snapshot& snapshot);
   void invalidateTail(const ConsoleChanges& changes, const Point& position, const Point& client);
   void continueInput();
   void resumeInput();
@@ -139,14 +177,14 @@ class TarnwickView : public ConsoleSurfaceClient {
   void hideHint();
   int startTimer(int milliseconds, std::function<void()> tick);
   void stopTimer(int& timer);
+  /// The caller holds the text lock.
   ConsoleCell cellAt(const Point& at) const;
   ConsoleCell borderAt(const Point& at);
-  int widestLine();
 
   Desktop& desktop_;
   FunctionKeyLookup functionKeys_;
   ConsoleScreen screen_;
-  ConsoleSelection selection_{screen_.grid};
+  ConsoleSelection selection_{screen_.grid, &screen_.rows};
   ConsoleSurface* surface_ = nullptr;  ///< null before the start and after the close
   std::atomic<bool> wakePending_{false};
   ConsoleProgram program_;
@@ -156,6 +194,9 @@ class TarnwickView : public ConsoleSurfaceClient {
   TextSearch search_;
   std::function<void(const TraceLink&)> openTrace_;
   std::optional<PointedPlace> pointed_;
+  TextLook look_;
+  TopPlace top_;
+  LookListener lookChanged_;
   InputEditor editor_;
 
   int scrollColumns_ = 0;

@@ -23,24 +23,22 @@ ConsoleCell TarnwickView::cellAt(const Point& at) const {
   const ConsoleGrid& grid = screen_.grid;
   const Point scroll = surface_->scrollPosition();
   // The border between two columns lies half-way through a character. Outside the window's left top there is no text.
-  const int column = (at.x + scroll.x + grid.charWidth / 2 - ConsoleGrid::leftMargin) / grid.charWidth;
-  return {std::max(column, 0), std::max((at.y + scroll.y) / grid.charHeight, 0)};
+  const int column = std::max((at.x + scroll.x + grid.charWidth / 2 - ConsoleGrid::leftMargin) / grid.charWidth, 0);
+  const LineRows& rows = screen_.rows;
+  const ConsoleCell row = rows.at(std::max((at.y + scroll.y) / grid.charHeight, 0));
+  return {row.column + (rows.broken() ? std::min(column, rows.width()) : column), row.line};
 }
 
 /// A selection begins and ends between characters: what shows as selected is what will be copied.
 ConsoleCell TarnwickView::borderAt(const Point& at) {
-  ConsoleCell cell = cellAt(at);
   const TextGuard guard(screen_.lock());
+  ConsoleCell cell = cellAt(at);
   const auto& lines = screen_.document.lines();
   const auto line = static_cast<std::size_t>(cell.line);
   if (line >= lines.size() || !isWithinCharacter(lines[line], cell.column)) return cell;
-  cell.column += at.x + surface_->scrollPosition().x < screen_.grid.x(cell.column) ? -1 : 1;
+  const int border = screen_.grid.x(screen_.rows.shown(cell, false).column);
+  cell.column += at.x + surface_->scrollPosition().x < border ? -1 : 1;
   return cell;
-}
-
-int TarnwickView::widestLine() {
-  const TextGuard guard(screen_.lock());
-  return screen_.document.widestLine();
 }
 
 void TarnwickView::onLeftDown(const MouseState& mouse) {
@@ -55,7 +53,10 @@ void TarnwickView::onLeftDown(const MouseState& mouse) {
   }
   const ConsoleCell cell = borderAt(mouse.at);
   if (mouse.shift && selection_.state() == ConsoleSelection::STATE_STANDS) {
-    selection_.extend(cell, widestLine());
+    {
+      const TextGuard guard(screen_.lock());
+      selection_.extend(cell, screen_.document.widestLine());
+    }
     surface_->invalidateAll();
   } else {
     clearSelection();
@@ -70,7 +71,12 @@ void TarnwickView::onMouseMove(const MouseState& mouse) {
     selection_.finish();
     return;
   }
-  if (!selection_.drag(borderAt(mouse.at), widestLine())) return;
+  const ConsoleCell cell = borderAt(mouse.at);
+  {
+    const TextGuard guard(screen_.lock());
+    if (!selection_.drag(cell, screen_.document.widestLine())) return;
+    if (screen_.rows.broken()) return surface_->invalidateAll();
+  }
   const Point scroll = surface_->scrollPosition();
   const Point client = surface_->clientSize();
   const Rect band = selection_.dragBand();

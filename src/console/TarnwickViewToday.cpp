@@ -20,6 +20,7 @@ void TarnwickView::showTitle() {
 
 void TarnwickView::onScrolled() {
   pointAt(std::nullopt);
+  noteTop();
   showTitle();
 }
 
@@ -79,17 +80,26 @@ void TarnwickView::findNext(bool back) {
 
 void TarnwickView::showFound(const TextSearch::Hit& hit) {
   const ConsoleGrid& grid = screen_.grid;
-  selection_.select({hit.first, hit.line}, {hit.last, hit.line}, widestLine());
+  ConsoleCell first{hit.first, hit.line};
+  ConsoleCell last{hit.last, hit.line};
+  {
+    const TextGuard guard(screen_.lock());
+    selection_.select(first, last, screen_.document.widestLine());
+    first = screen_.rows.shown(first, false);
+    last = screen_.rows.shown(last, true);
+  }
   const Point client = surface_->clientSize();
   const Point position = surface_->scrollPosition();
   Point wanted = position;
-  if (grid.y(hit.line) < position.y || grid.y(hit.line + 1) > position.y + client.y) {
-    wanted.y = std::clamp(grid.y(hit.line) - client.y / 2, 0, followedTo_);
+  if (grid.y(first.line) < position.y || grid.y(last.line + 1) > position.y + client.y) {
+    wanted.y = std::clamp(grid.y(first.line) - client.y / 2, 0, followedTo_);
   }
-  if (grid.x(hit.first) < position.x || grid.x(hit.last) > position.x + client.x) {
-    wanted.x = std::max(grid.x(hit.last + 1) - client.x, 0);
+  if (grid.x(first.column) < position.x || grid.x(last.column) > position.x + client.x) {
+    wanted.x = std::max(grid.x(last.column + 1) - client.x, 0);
   }
+  if (screen_.rows.broken()) wanted.x = 0;
   if (wanted != position) surface_->scrollTo(wanted);
+  noteTop();
   surface_->invalidateAll();
   showTitle();
 }

@@ -11,25 +11,37 @@ std::optional<TraceLink> TarnwickView::traceUnder(const Point& at, PointedPlace&
   if (!screen_.today || !openTrace_ || !surface_ || !grid.known() || at.x < 0 || at.y < 0) return std::nullopt;
   const Point scroll = surface_->scrollPosition();
   const int x = at.x + scroll.x - ConsoleGrid::leftMargin;
-  const int line = (at.y + scroll.y) / grid.charHeight;
+  ConsoleCell row;
   std::optional<ConsoleLine> found;
   {
     const TextGuard guard(screen_.lock());
     const TarnwickDoc& document = screen_.document;
-    if (x < 0 || line >= document.lineCount()) return std::nullopt;
-    found = document.lines()[static_cast<std::size_t>(line)];
-    place.line = document.linesGone() + static_cast<std::uint64_t>(line);
+    row = screen_.rows.at((at.y + scroll.y) / grid.charHeight);
+    if (x < 0 || row.line >= document.lineCount()) return std::nullopt;
+    if (screen_.rows.broken() && x / grid.charWidth >= screen_.rows.width()) return std::nullopt;
+    found = document.lines()[static_cast<std::size_t>(row.line)];
+    place.line = document.linesGone() + static_cast<std::uint64_t>(row.line);
   }
-  auto trace = traceLinkAt(*found, x / grid.charWidth);
+  auto trace = traceLinkAt(*found, row.column + x / grid.charWidth);
   if (trace) place.columns = trace->columns;
   return trace;
 }
 
-Rect TarnwickView::underlineOf(const PointedPlace& place) const {
+std::vector<Rect> TarnwickView::underlinesOf(const PointedPlace& place) const {
   const std::uint64_t gone = screen_.document.linesGone();
   if (place.line < gone) return {};
-  const int bottom = screen_.grid.y(static_cast<int>(place.line - gone) + 1);
-  return {screen_.grid.x(place.columns.start), bottom - 2, screen_.grid.x(place.columns.end), bottom - 1};
+  const int line = static_cast<int>(place.line - gone);
+  const ConsoleGrid& grid = screen_.grid;
+  const ConsoleCell first = screen_.rows.shown({place.columns.start, line}, false);
+  const ConsoleCell last = screen_.rows.shown({place.columns.end, line}, true);
+  std::vector<Rect> lines;
+  for (int row = first.line; row <= last.line; ++row) {
+    const int left = row == first.line ? first.column : 0;
+    const int right = row == last.line ? last.column : screen_.rows.width();
+    const int bottom = grid.y(row + 1);
+    lines.push_back({grid.x(left), bottom - 2, grid.x(right), bottom - 1});
+  }
+  return lines;
 }
 
 void TarnwickView::pointAt(const MouseState& mouse) {
@@ -44,7 +56,7 @@ void TarnwickView::pointAt(const std::optional<PointedPlace>& place) {
   for (const auto& changed : {std::exchange(pointed_, place), place}) {
     if (!changed) continue;
     const TextGuard guard(screen_.lock());
-    surface_->invalidate(underlineOf(*changed));
+    for (const auto& line : underlinesOf(*changed)) surface_->invalidate(line);
   }
 }
 

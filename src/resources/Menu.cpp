@@ -46,6 +46,12 @@ const MenuBar& newerConsoleMenuBar() {
         {"Find previous\tShift+F3", COMMAND_FIND_PREVIOUS},
         {"", 0},
         {"Clear", COMMAND_CLEAR}}},
+      {"&View",
+       {{"Larger letters\tCtrl++", COMMAND_LARGER_LETTERS},
+        {"Smaller letters\tCtrl+-", COMMAND_SMALLER_LETTERS},
+        {"Usual size\tCtrl+0", COMMAND_USUAL_LETTERS},
+        {"", 0},
+        {"Wrap long lines", COMMAND_WRAP_LINES, true}}},
       {"&Program",
        {{"End of input\tCtrl+D", COMMAND_END_OF_INPUT},
         {"Stop ... (Ctrl+Break)", COMMAND_STOP},
@@ -77,7 +83,10 @@ const std::vector<Accelerator>& newerConsoleAccelerators() {
                            {true, false, Key::Break, 0, COMMAND_STOP},
                            {true, false, Key::Letter, 'F', COMMAND_FIND},
                            {false, false, Key::F3, 0, COMMAND_FIND_NEXT},
-                           {false, true, Key::F3, 0, COMMAND_FIND_PREVIOUS}});
+                           {false, true, Key::F3, 0, COMMAND_FIND_PREVIOUS},
+                           {true, false, Key::Plus, 0, COMMAND_LARGER_LETTERS},
+                           {true, false, Key::Minus, 0, COMMAND_SMALLER_LETTERS},
+                           {true, false, Key::Zero, 0, COMMAND_USUAL_LETTERS}});
     return all;
   }();
   return accelerators;

@@ -9,6 +9,7 @@ namespace tarnwick {
 struct MenuItem {
   std::string text;  ///< with "&" before the mnemonic and the shown shortcut behind a tab; empty for a separator
   int command = 0;
+  bool isMark = false;  ///< it shows whether something is on
 };
 
 struct Menu {
@@ -19,7 +20,7 @@ struct Menu {
 using MenuBar = std::vector<Menu>;
 
 struct Accelerator {
-  enum class Key { Letter, Insert, Delete, Break, F3 };
+  enum class Key { Letter, Insert, Delete, Break, F3, Plus, Minus, Zero };
   bool control = false;
   bool shift = false;
   Key key = Key::Letter;
@@ -47,6 +48,10 @@ enum ConsoleCommand {
   COMMAND_FIND = 32858,
   COMMAND_FIND_NEXT = 32859,
   COMMAND_FIND_PREVIOUS = 32860,
+  COMMAND_LARGER_LETTERS = 32861,
+  COMMAND_SMALLER_LETTERS = 32862,
+  COMMAND_USUAL_LETTERS = 32863,
+  COMMAND_WRAP_LINES = 32864,
   COMMAND_JDB_HELP = 32818,
   COMMAND_HELP = 32817,
   COMMAND_ABOUT = 57664,

@@ -66,11 +66,23 @@ std::string characterOf(const wxKeyEvent& event) {
   return fromWx(wxString(wxUniChar(character)));
 }
 
+bool isPlusKey(const wxKeyEvent& event) {
+  // With Shift on one keyboard, without it on another; and the key on which it stands with Shift serves without it.
+  const int key = event.GetKeyCode();
+  return key == '+' || key == '=' || key == WXK_NUMPAD_ADD;
+}
+
 bool matches(const wxKeyEvent& event, const Accelerator& accelerator) {
-  if (event.ControlDown() != accelerator.control || event.ShiftDown() != accelerator.shift || event.AltDown()) {
-    return false;
-  }
+  if (event.ControlDown() != accelerator.control || event.AltDown()) return false;
+  if (accelerator.key == Accelerator::Key::Plus) return isPlusKey(event);
+  if (event.ShiftDown() != accelerator.shift) return false;
   switch (accelerator.key) {
+    case Accelerator::Key::Plus:
+      break;
+    case Accelerator::Key::Minus:
+      return event.GetKeyCode() == '-' || event.GetKeyCode() == WXK_NUMPAD_SUBTRACT;
+    case Accelerator::Key::Zero:
+      return event.GetKeyCode() == '0' || event.GetKeyCode() == WXK_NUMPAD0;
     case Accelerator::Key::Insert:
       return event.GetKeyCode() == WXK_INSERT;
     case Accelerator::Key::Delete:

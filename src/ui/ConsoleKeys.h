@@ -18,6 +18,9 @@ int modifiersOf(const wxKeyEvent& event);
 /// The character that the event brings, as bytes of the platform's character set; empty if it brings none.
 std::string characterOf(const wxKeyEvent& event);
 
+/// True for a key that stands for plus where Control is held, whatever keyboard that is.
+bool isPlusKey(const wxKeyEvent& event);
+
 /// True if the event is the key of this accelerator.
 bool matches(const wxKeyEvent& event, const Accelerator& accelerator);
 

@@ -19,6 +19,8 @@ class HintWindow : private DialogHandler, public WxDialogWindow {
   void setTitle(const std::string&) override {}
   void addSystemCommand(const std::string&, std::function<void()>) override {}
   void showWindow(bool on) override;
+  /// Shows it within the width of the view, above or below this point of it and a line of text there.
+  void showAwayFrom(const wxPoint& point, int lineHeight);
   std::optional<Point> position() const override { return std::nullopt; }
   void moveTo(const Point&) override {}
   void close(int) override { showWindow(false); }
@@ -31,6 +33,8 @@ class HintWindow : private DialogHandler, public WxDialogWindow {
   void initialise(DialogWindow&) override {}
   void onCommand(int) override {}
   void onCloseRequest() override {}
+
+  void fitWidth(int width);
 
   wxWindow& view_;
   Popup popup_;

@@ -62,6 +62,9 @@ void describeLink(wxWindow& link, const std::string& address);
 /// Lets Tab find its way into a window that was hidden so far. It has a brother or sister.
 void joinTabOrder(wxWindow& window);
 
+/// Lets a window's scroll bars show as long as there is something to scroll, not only while the mouse is near.
+void keepScrollBarsInSight(wxWindow& window);
+
 /// True while the list of a combo box hangs open, which Return and Escape then belong to.
 bool isListOpen(wxWindow& comboBox);
 

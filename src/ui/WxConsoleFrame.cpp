@@ -29,9 +29,11 @@ WxConsoleFrame::WxConsoleFrame(WindowStack& stack, Desktop& desktop, ConsoleFram
   buildMenus();
   buildToolbar();
   surface_ = new WxConsoleSurface(frame_.get(), stack_, desktop, rules_.view(), [this] { requestClose(); });
+  if (rules_.isOfToday()) surface_->useTodaysWays();
   const int bar = std::max(0, wxSystemSettings::GetMetric(wxSYS_VSCROLL_X, frame_.get()));
   // One column more for the margin at the left.
   wxSize size((columns + 1) * surface_->cell().x + bar, rows * surface_->cell().y);
+  size += surface_->margins();
   // A debugger's buttons all show, however wide the system makes them.
   if (auto* const buttons = frame_->GetToolBar()) size.x = std::max(size.x, buttons->GetBestSize().x);
   frame_->SetClientSize(size);
@@ -47,6 +49,10 @@ WxConsoleFrame::WxConsoleFrame(WindowStack& stack, Desktop& desktop, ConsoleFram
     command(found->second);
     // What a button has typed is completed at the keyboard.
     surface_->SetFocus();
+  });
+  frame_->Bind(wxEVT_SYS_COLOUR_CHANGED, [this](wxSysColourChangedEvent& event) {
+    event.Skip();
+    surface_->invalidateAll();
   });
   frame_->Bind(wxEVT_ICONIZE, [this](wxIconizeEvent& event) {
     event.Skip();
@@ -78,7 +84,7 @@ void WxConsoleFrame::buildMenus() {
         list->AppendSeparator();
         continue;
       }
-      list->Append(++id, toWx(item.text));
+      list->Append(++id, toWx(item.text), "", item.isMark ? wxITEM_CHECK : wxITEM_NORMAL);
       commandOfId_[id] = item.command;
     }
     bar->Append(list, toWx(menu.title));
@@ -110,7 +116,10 @@ void WxConsoleFrame::buildToolbar() {
 void WxConsoleFrame::updateMenus() {
   guarded(stack_, [this] {
     for (const auto& [id, number] : commandOfId_) {
-      if (auto* const item = frame_->GetMenuBar()->FindItem(id)) item->Enable(rules_.commandEnabled(number));
+      auto* const item = frame_->GetMenuBar()->FindItem(id);
+      if (!item) continue;
+      item->Enable(rules_.commandEnabled(number));
+      if (item->IsCheckable()) item->Check(rules_.commandMarked(number));
     }
   });
 }

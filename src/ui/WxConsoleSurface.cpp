@@ -1,10 +1,12 @@
 #include "ui/WxConsoleSurface.h"
 
+#include "console/ConsoleLooks.h"
 #include "dialogbase/Desktop.h"
 #include "ui/ConsoleKeys.h"
 #include "ui/HintWindow.h"
 #include "ui/MessageBoxes.h"
 #include "ui/Text.h"
+#include "ui/Toolkit.h"
 #include "ui/WxConsolePainter.h"
 
 #include <wx/dcbuffer.h>
@@ -27,12 +29,9 @@ bool isFunctionKey(ConsoleKey key) {
   return key >= ConsoleKey::F5 && key <= ConsoleKey::F12;
 }
 
-wxFont consoleFont() {
-  constexpr int leastPoints = 10;
-  const int points = std::max(leastPoints, wxSystemSettings::GetFont(wxSYS_DEFAULT_GUI_FONT).GetPointSize());
+wxFont consoleFont(int points) {
   const wxFontInfo font = wxFontInfo(points).Family(wxFONTFAMILY_TELETYPE);
-  // Where it is known, this one reads better than what the toolkit picks for the family.
-  const wxString preferred = "Consolas";
+  const wxString preferred = preferredLetters;
   return wxFontEnumerator::IsValidFacename(preferred) ? wxFont(wxFontInfo(font).FaceName(preferred)) : wxFont(font);
 }
 
@@ -44,9 +43,8 @@ WxConsoleSurface::WxConsoleSurface(wxWindow* parent, WindowStack& stack, Desktop
   SetBackgroundStyle(wxBG_STYLE_PAINT);  // before the window is made: it paints every pixel itself
   wxWindow::Create(parent, wxID_ANY, wxDefaultPosition, wxDefaultSize,
                    wxVSCROLL | wxHSCROLL | wxWANTS_CHARS | wxBORDER_NONE, "console");
-  SetBackgroundColour(*wxWHITE);
   SetCursor(wxCursor(wxCURSOR_IBEAM));
-  measureCell();
+  useFont(0);
   bindEvents();
   gate_ = std::make_shared<WakeGate>([&desktop](WakeGate::Task task) { desktop.post(std::move(task)); },
                                      [&desktop](int milliseconds, const WakeGate::Task& task) {
@@ -64,8 +62,27 @@ WxConsoleSurface::~WxConsoleSurface() {
   stop();
 }
 
-void WxConsoleSurface::measureCell() {
-  const wxFont font = consoleFont();
+bool WxConsoleSurface::isDark() const {
+  return wxSystemSettings::GetAppearance().IsUsingDarkBackground();
+}
+
+void WxConsoleSurface::useTodaysWays() {
+  today_ = true;
+  margin_ = FromDIP(textMargin);
+  keepScrollBarsInSight(*this);
+}
+
+int WxConsoleSurface::usualLetters() const {
+  return std::max(leastUsualLetters, wxSystemSettings::GetFont(wxSYS_DEFAULT_GUI_FONT).GetPointSize());
+}
+
+void WxConsoleSurface::setLetters(int points) {
+  useFont(points);
+  invalidateAll();
+}
+
+void WxConsoleSurface::useFont(int points) {
+  const wxFont font = consoleFont(points == 0 ? usualLetters() : points);
   hasFont_ = font.IsOk();
   if (hasFont_) SetFont(font);
   constexpr int many = 100;
@@ -112,7 +129,7 @@ void WxConsoleSurface::bindMouse(const wxEventTypeTag<wxMouseEvent>& type,
   Bind(type, [this, operation](wxMouseEvent& event) {
     event.Skip();  // a press gives the focus
     MouseState state;
-    state.at = {event.GetX(), event.GetY()};
+    state.at = {event.GetX(), event.GetY() - margin_};
     state.leftDown = event.LeftIsDown();
     state.otherButtonDown = event.RightIsDown() || event.MiddleIsDown();
     state.shift = event.ShiftDown();
@@ -126,7 +143,7 @@ void WxConsoleSurface::pointAnew(bool control) {
   const wxPoint at = ScreenToClient(wxGetMousePosition());
   if (!wxRect(GetClientSize()).Contains(at) || wxGetMouseState().LeftIsDown()) return;
   MouseState state;
-  state.at = {at.x, at.y};
+  state.at = {at.x, at.y - margin_};
   state.control = control;
   tell([&] { client_.onMouseMove(state); });
 }
@@ -155,7 +172,7 @@ void WxConsoleSurface::DoSetSize(int x, int y, int width, int height, int flags)
 
 Point WxConsoleSurface::clientSize() const {
   const wxSize size = GetClientSize();
-  return {size.x, size.y};
+  return {std::max(size.x - margin_, 1), std::max(size.y - margin_, 1)};
 }
 
 Point WxConsoleSurface::lastPosition() const {
@@ -194,7 +211,7 @@ void WxConsoleSurface::scrollTo(const Point& position) {
 }
 
 void WxConsoleSurface::invalidate(const Rect& rect) {
-  RefreshRect(wxRect(rect.left - scroll_.x, rect.top - scroll_.y, rect.width(), rect.height()), false);
+  RefreshRect(wxRect(rect.left - scroll_.x, rect.top - scroll_.y + margin_, rect.width(), rect.height()), false);
 }
 
 void WxConsoleSurface::invalidateAll() {
@@ -203,7 +220,11 @@ void WxConsoleSurface::invalidateAll() {
 
 void WxConsoleSurface::showHint(bool on) {
   if (on && !hint_) hint_ = std::make_unique<HintWindow>(stack_, *this);
-  if (hint_) hint_->showWindow(on);
+  if (!hint_) return;
+  if (on && today_)
+    hint_->showAwayFrom(ScreenToClient(wxGetMousePosition()), cell_.y);
+  else
+    hint_->showWindow(on);
 }
 
 void WxConsoleSurface::showHand(bool on) {
@@ -223,15 +244,24 @@ void WxConsoleSurface::setTitle(const std::string& title) {
 
 void WxConsoleSurface::onPaint(wxPaintEvent&) {
   wxAutoBufferedPaintDC dc(this);
-  dc.SetBackground(*wxWHITE_BRUSH);
+  const Colour ground = client_.ground();
+  dc.SetBackground(wxBrush(wxColour(ground.red, ground.green, ground.blue)));
   dc.Clear();
   if (!alive_) return;
   dc.SetFont(GetFont());
   dc.SetBackgroundMode(wxBRUSHSTYLE_TRANSPARENT);
-  dc.SetDeviceOrigin(-scroll_.x, -scroll_.y);
+  dc.SetDeviceOrigin(-scroll_.x, margin_ - scroll_.y);
   wxRect clip = GetUpdateRegion().GetBox();
   if (clip.IsEmpty()) clip = wxRect(GetClientSize());
-  clip.Offset(scroll_.x, scroll_.y);
+  clip.Offset(scroll_.x, scroll_.y - margin_);
+  if (margin_ > 0) {
+    // What is scrolled halfway out of sight ends at the margins.
+    const Point room = clientSize();
+    const wxRect text(scroll_.x, scroll_.y, room.x, room.y);
+    clip.Intersect(text);
+    if (clip.IsEmpty()) return;
+    dc.SetClippingRegion(text);
+  }
   WxConsolePainter painter(dc, clip, cell_, exactAdvance_);
   tell([&] { client_.paint(painter); });
 }
@@ -268,7 +298,17 @@ void WxConsoleSurface::onScrollTo(wxScrollWinEvent& event) {
   }
 }
 
+bool WxConsoleSurface::zoom(const wxMouseEvent& event) {
+  if (!event.ControlDown() || event.GetWheelAxis() != wxMOUSE_WHEEL_VERTICAL) return false;
+  const int step = std::max(1, event.GetWheelDelta());
+  bool used = false;
+  tell([&] { used = client_.onZoom((zoomTurn_ + event.GetWheelRotation()) / step); });
+  zoomTurn_ = used ? (zoomTurn_ + event.GetWheelRotation()) % step : 0;
+  return used;
+}
+
 void WxConsoleSurface::onWheel(wxMouseEvent& event) {
+  if (zoom(event)) return;
   const int turn = event.GetWheelRotation() * wheelLines / std::max(1, event.GetWheelDelta());
   if (event.GetWheelAxis() == wxMOUSE_WHEEL_HORIZONTAL || event.ShiftDown()) {
     const int direction = event.GetWheelAxis() == wxMOUSE_WHEEL_HORIZONTAL ? 1 : -1;

@@ -18,7 +18,7 @@ namespace tarnwick::ui {
 
 class HintWindow;
 
-/// The console's window: fixed-pitch cells on white, scrolled by pixels.
+/// The console's window: fixed-pitch cells on one ground, scrolled by pixels.
 class WxConsoleSurface : public wxWindow, public ConsoleSurface {
  public:
   WxConsoleSurface(wxWindow* parent, WindowStack& stack, Desktop& desktop, ConsoleSurfaceClient& client,
@@ -32,6 +32,9 @@ class WxConsoleSurface : public wxWindow, public ConsoleSurface {
 
   bool hasFont() const override { return hasFont_; }
   Point cell() const override { return cell_; }
+  bool isDark() const override;
+  int usualLetters() const override;
+  void setLetters(int points) override;
   Point clientSize() const override;
   Point scrollPosition() const override { return scroll_; }
   void setScrollSizes(const Point& size) override;
@@ -40,6 +43,11 @@ class WxConsoleSurface : public wxWindow, public ConsoleSurface {
   void invalidateAll() override;
   void wake() override { gate_->wake(); }
   void showHint(bool on) override;
+  /// For a console of today: margins around the text, bars that stay in sight while there is something to scroll, and a
+  /// hint that keeps within the window's width and away from the mouse.
+  void useTodaysWays();
+  /// What the margins take of the window.
+  wxSize margins() const { return {margin_, margin_}; }
   void showHand(bool on) override;
   platform::WindowNumber bringToFront() override;
   void setTitle(const std::string& title) override;
@@ -51,13 +59,15 @@ class WxConsoleSurface : public wxWindow, public ConsoleSurface {
   void DoSetSize(int x, int y, int width, int height, int flags) override;
 
  private:
-  void measureCell();
+  /// The size in points; 0 for the usual one.
+  void useFont(int points);
   void bindEvents();
   void onPaint(wxPaintEvent& event);
   void onSize(wxSizeEvent& event);
   void onScroll(wxScrollWinEvent& event, int lines, bool pages);
   void onScrollTo(wxScrollWinEvent& event);
   void onWheel(wxMouseEvent& event);
+  bool zoom(const wxMouseEvent& event);
   void onKeyDown(wxKeyEvent& event);
   void onKeyUp(wxKeyEvent& event);
   void onCharacter(wxKeyEvent& event);
@@ -77,9 +87,12 @@ class WxConsoleSurface : public wxWindow, public ConsoleSurface {
   std::unique_ptr<HintWindow> hint_;
   Point cell_;
   bool hasFont_ = false;
+  bool today_ = false;
+  int margin_ = 0;  ///< above the text and right of it
   bool exactAdvance_ = true;
   Point document_;
   Point scroll_;
+  int zoomTurn_ = 0;  ///< what the wheel has turned of its next step
   bool alive_ = false;
   bool altServed_ = false;  ///< the Alt that is held was pressed for a key of ours
 };

@@ -1,5 +1,6 @@
 #include "ui/WxMessagesFrame.h"
 
+#include "ui/ConsoleKeys.h"
 #include "ui/Icons.h"
 #include "ui/MessageBoxes.h"
 #include "ui/ScreenPlace.h"
@@ -34,6 +35,14 @@ std::optional<MessagesCommand> copyingOf(const wxKeyEvent& event) {
   if (!event.ControlDown() || event.ShiftDown() || event.AltDown()) return std::nullopt;
   if (event.GetKeyCode() == 'C' || event.GetKeyCode() == WXK_INSERT) return MessagesCommand::Copy;
   return event.GetKeyCode() == 'A' ? std::optional(MessagesCommand::SelectAll) : std::nullopt;
+}
+
+std::optional<MessagesCommand> sizeOf(const wxKeyEvent& event) {
+  using Key = Accelerator::Key;
+  if (matches(event, {true, false, Key::Plus, 0, 0})) return MessagesCommand::LargerLetters;
+  if (matches(event, {true, false, Key::Minus, 0, 0})) return MessagesCommand::SmallerLetters;
+  if (matches(event, {true, false, Key::Zero, 0, 0})) return MessagesCommand::UsualLetters;
+  return std::nullopt;
 }
 
 }  // namespace
@@ -148,6 +157,8 @@ void WxMessagesFrame::onFrameKey(wxKeyEvent& event) {
   const auto chosen = step ? step : copyingOf(event);
   if (chosen)
     command(*chosen);
+  else if (const auto size = sizeOf(event))
+    guarded(stack_, [&] { rules_.onCommand(*size); });
   else if (event.GetKeyCode() == WXK_ESCAPE && event.GetModifiers() == wxMOD_NONE)
     guarded(stack_, [this] { close(); });
   else if (!page(event.GetKeyCode()))

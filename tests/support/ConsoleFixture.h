@@ -29,6 +29,17 @@ inline std::vector<std::string> textOf(const TarnwickDoc& document) {
   return lines;
 }
 
+/// Adds output with its line ends. The caller holds the text lock.
+inline void addOutput(TarnwickDoc& document, const std::string& text) {
+  std::size_t start = 0;
+  for (std::size_t end = text.find('\n'); end != std::string::npos; end = text.find('\n', start)) {
+    document.addText(text.substr(start, end - start), KIND_OUTPUT);
+    document.newLine();
+    start = end + 1;
+  }
+  if (start < text.size()) document.addText(text.substr(start), KIND_OUTPUT);
+}
+
 /// The segments of a line, each as its kind, a colon and its text.
 inline std::vector<std::string> segmentsOf(const ConsoleLine& line) {
   std::vector<std::string> segments;

@@ -28,6 +28,8 @@ class FakeSurface : public ConsoleSurface {
   bool hand = false;
   std::vector<std::string> titles;
   bool fontMade = true;
+  bool dark = false;
+  int letters = 0;  ///< as they were set
   std::atomic<int> wakes{0};
   /// Told of its end within `close`, as a window may do it.
   ConsoleSurfaceClient* endsAtOnce = nullptr;
@@ -40,7 +42,13 @@ class FakeSurface : public ConsoleSurface {
   bool takeWake() { return wakes.exchange(0) > 0; }
 
   bool hasFont() const override { return fontMade; }
+  bool isDark() const override { return dark; }
   Point cell() const override { return cellSize; }
+  int usualLetters() const override { return 10; }
+  void setLetters(int points) override {
+    letters = points;
+    cellSize = points == 0 ? Point{8, 16} : Point{points * 4 / 5, points * 8 / 5};
+  }
   Point clientSize() const override { return client; }
   Point scrollPosition() const override { return position; }
   void setScrollSizes(const Point& size) override {

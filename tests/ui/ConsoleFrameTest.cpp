@@ -47,6 +47,22 @@ TEST_F(ConsoleFrameTest, TheConsoleOfTodayHasKeysOfItsOwn) {
   play();
 }
 
+TEST_F(ConsoleFrameTest, TheKeysOfTheLettersSizeStandOnTheNumericKeypadToo) {
+  console.today = true;
+  waitForFrame();
+  const Heard larger{"command 32861"}, smaller{"command 32862"}, usual{"command 32863"};
+  for (const auto& [code, heard] : std::initializer_list<std::pair<int, Heard>>{
+           {'=', larger}, {WXK_NUMPAD_ADD, larger}, {'-', smaller}, {WXK_NUMPAD_SUBTRACT, smaller}, {'0', usual}}) {
+    press(code, wxMOD_CONTROL);
+    thenExpect(heard);
+  }
+  // As plus is typed where it needs Shift.
+  press('=', wxMOD_CONTROL | wxMOD_SHIFT);
+  thenExpect(larger);
+  thenClose();
+  play();
+}
+
 TEST_F(ConsoleFrameTest, InTheClassicConsoleTheSameKeysAreTyped) {
   waitForFrame();
   press('D', wxMOD_CONTROL);
@@ -114,6 +130,7 @@ TEST_P(ConsoleMenusTest, MenusAskWhatIsEnabledWhenTheyOpen) {
   waitForFrame();
   steps.then("open the menu", [this] {
     console.disabled = {COMMAND_STOP_RECORDING, COMMAND_JDB_HELP, COMMAND_RUN_AGAIN};
+    console.marked = {COMMAND_WRAP_LINES, COMMAND_COPY};
     wxMenuEvent open(wxEVT_MENU_OPEN, 0, frame()->GetMenuBar()->GetMenu(0));
     frame()->ProcessWindowEvent(open);
     wxMenuBar& bar = *frame()->GetMenuBar();
@@ -128,6 +145,10 @@ TEST_P(ConsoleMenusTest, MenusAskWhatIsEnabledWhenTheyOpen) {
         if (!items[k]->IsSeparator()) {
           EXPECT_EQ(items[k]->IsEnabled(), console.commandEnabled(described.items[k].command))
               << described.items[k].text;
+          EXPECT_EQ(items[k]->IsCheckable(), described.items[k].isMark) << described.items[k].text;
+          if (items[k]->IsCheckable()) {
+            EXPECT_TRUE(items[k]->IsChecked());
+          }
         }
       }
     }

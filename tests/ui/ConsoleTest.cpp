@@ -3,6 +3,7 @@
 #include "ui/ConsoleKeys.h"
 #include "ui/ConsoleWindow.h"
 #include "ui/Pixels.h"
+#include "ui/ProgramAnew.h"
 #include "ui/Text.h"
 
 #include <wx/uiaction.h>
@@ -166,6 +167,63 @@ TEST_F(ConsoleTest, TheWheelScrollsThreeLines) {
     wheel.m_wheelDelta = 120;
     window()->ProcessWindowEvent(wheel);
     EXPECT_EQ(console.surface->scrollPosition(), (Point{0, 3 * cell.y}));
+  });
+  thenClose();
+  play();
+}
+
+TEST_F(ConsoleTest, WithControlTheWheelIsTheViewsStepByStep) {
+  const auto turn = [this](int rotation) {
+    wxMouseEvent wheel(wxEVT_MOUSEWHEEL);
+    wheel.m_wheelRotation = rotation;
+    wheel.m_wheelDelta = 120;
+    wheel.SetControlDown(true);
+    window()->ProcessWindowEvent(wheel);
+  };
+  waitForFrame();
+  steps.then("the classic console scrolls", [&] {
+    const Point cell = console.surface->cell();
+    console.surface->setScrollSizes({cell.x, 100 * cell.y});
+    turn(-120);
+    EXPECT_EQ(console.surface->scrollPosition(), (Point{0, 3 * cell.y}));
+    EXPECT_EQ(console.heard, Heard{});
+  });
+  steps.then("the other does not", [&] {
+    console.today = true;
+    const Point before = console.surface->scrollPosition();
+    turn(120);
+    turn(-240);
+    // Some wheels turn by less.
+    turn(50);
+    turn(50);
+    turn(50);
+    EXPECT_EQ(console.heard, (Heard{"zoom 1", "zoom -2", "zoom 0", "zoom 0", "zoom 1"}));
+    EXPECT_EQ(console.surface->scrollPosition(), before);
+  });
+  thenClose();
+  play();
+}
+
+TEST_F(ConsoleTest, LettersOfAnotherSizeMakeOtherCells) {
+  console.onPaint = [this](ConsolePainter& painter) { painter.drawText(0, 0, "MMMM", red); };
+  waitForFrame();
+  Point usual;
+  steps.then("larger", [&] {
+    usual = console.surface->cell();
+    EXPECT_GE(console.surface->usualLetters(), 10);
+    console.surface->setLetters(3 * console.surface->usualLetters());
+    EXPECT_NEAR(console.surface->cell().x, 3 * usual.x, 3);
+    EXPECT_NEAR(console.surface->cell().y, 3 * usual.y, 6);
+  });
+  steps.settle(10);
+  steps.then("look", [&] {
+    shoot("console-large");
+    const Point cell = console.surface->cell();
+    const wxImage picture = pictureOf(*window());
+    EXPECT_GT(countIn(picture, wxRect(3 * cell.x, 0, cell.x, cell.y), isReddish), cell.x * cell.y / 10);
+    EXPECT_EQ(countIn(picture, wxRect(4 * cell.x, 0, cell.x, cell.y), isReddish), 0);
+    console.surface->setLetters(0);
+    EXPECT_EQ(console.surface->cell(), usual);
   });
   thenClose();
   play();
@@ -422,6 +480,103 @@ TEST_F(ConsoleTest, TheHintShowsNearTheCornerAndLeavesTheFocus) {
   });
   steps.settle();
   steps.then("look again", [&] { EXPECT_TRUE(!hint() || !hint()->IsShown()); });
+  thenClose();
+  play();
+}
+
+TEST_F(ConsoleTest, TodaysHintKeepsWithinTheWindowAndOffTheLineUnderTheMouse) {
+  console.today = true;
+  waitForFrame();
+  for (const auto& [width, share] :
+       std::initializer_list<std::pair<int, int>>{{700, 1}, {700, 3}, {320, 1}, {320, 3}}) {
+    steps.then("resize", [this, w = width] { frame()->SetClientSize(w, 480); });
+    steps.until("it has the size", [this, w = width] { return std::abs(frame()->GetClientSize().x - w) < 3; });
+    steps.settle(5);
+    steps.then("point", [this, s = share] {
+      wxUIActionSimulator().MouseMove(window()->ClientToScreen(wxPoint(60, window()->GetClientSize().y * s / 4)));
+    });
+    steps.settle(5);
+    steps.then("show", [this] { console.surface->showHint(true); });
+    steps.until("it shows", [this] { return hint() && hint()->IsShown(); });
+    steps.settle(10);
+    steps.then("look", [this, w = width, s = share] {
+      shoot("console-hint-" + std::to_string(w) + "-" + std::to_string(s));
+      const wxRect area = hint()->GetScreenRect();
+      const wxRect seen(window()->ClientToScreen(wxPoint(0, 0)), window()->GetClientSize());
+      EXPECT_GE(area.x, seen.x);
+      EXPECT_LE(area.GetRight(), seen.GetRight());
+      const int mouse = window()->ClientToScreen(wxPoint(0, window()->GetClientSize().y * s / 4)).y;
+      EXPECT_TRUE(area.y > mouse || area.GetBottom() < mouse) << area.y << ' ' << area.GetBottom() << ' ' << mouse;
+      for (const wxWindow* const part : hint()->GetChildren())
+        EXPECT_TRUE(wxRect(area.GetSize()).Contains(part->GetRect())) << part->GetLabel();
+      console.surface->showHint(false);
+    });
+  }
+  thenClose();
+  play();
+}
+
+TEST_F(ConsoleTest, TodaysTextHasMarginsAndTheViewsOwnGround) {
+  console.today = true;
+  console.paper = {30, 30, 30};
+  console.onPaint = [this](ConsolePainter& painter) {
+    const Point cell = console.surface->cell();
+    for (int row = 0; row < 100; ++row) painter.fill({0, row * cell.y, 400 * cell.x, (row + 1) * cell.y}, red);
+  };
+  waitForFrame();
+  steps.then("scroll", [this] {
+    const Point cell = console.surface->cell();
+    console.surface->setScrollSizes({400 * cell.x, 100 * cell.y});
+    console.surface->scrollTo({cell.x / 2, cell.y / 2});
+  });
+  steps.settle(10);
+  steps.then("look", [this] {
+    shoot("console-margins");
+    const wxImage picture = pictureOf(*window());
+    const wxSize size = window()->GetClientSize();
+    const int margin = window()->FromDIP(4);
+    EXPECT_EQ(console.surface->clientSize(), (Point{size.x - margin, size.y - margin}));
+    const auto shade = [&](int x, int y) { return picture.GetRed(x, y); };
+    EXPECT_EQ(shade(size.x / 2, margin - 1), 30);
+    EXPECT_EQ(shade(size.x / 2, margin), 200);
+    EXPECT_EQ(shade(size.x - margin, size.y / 2), 30);
+    EXPECT_EQ(shade(size.x - margin - 1, size.y / 2), 200);
+  });
+  steps.then("click", [this] {
+    wxUIActionSimulator hand;
+    hand.MouseMove(window()->ClientToScreen(wxPoint(40, 60)));
+    hand.MouseClick(wxMOUSE_BTN_LEFT);
+  });
+  steps.until("it is told", [this] { return console.heard.size() >= 2; });
+  steps.then("look", [this] { EXPECT_EQ(console.heard[0], "down 40," + std::to_string(60 - window()->FromDIP(4))); });
+  thenClose();
+  play();
+}
+
+TEST_F(ConsoleTest, TodaysFrameHoldsAsManyColumnsAndRows) {
+  console.today = true;
+  waitForFrame();
+  steps.then("look", [this] {
+    const Point cell = console.surface->cell();
+    const Point size = console.surface->clientSize();
+    EXPECT_GE(size.x, 80 * cell.x);
+    EXPECT_GE(size.y, 25 * cell.y);
+  });
+  thenClose();
+  play();
+}
+
+TEST_F(ConsoleTest, TodaysScrollBarTakesItsRoomWhileThereIsSomethingToScroll) {
+  if (onWindows()) GTEST_SKIP() << "the system's bars always do";
+  console.today = true;
+  waitForFrame();
+  int before = 0;
+  steps.then("more than it shows", [&] {
+    before = console.surface->clientSize().x;
+    console.surface->setScrollSizes({1, 100 * console.surface->cell().y});
+  });
+  steps.until("the bar has its room", [&] { return console.surface->clientSize().x < before; });
+  steps.then("shoot", [this] { shoot("console-bar"); });
   thenClose();
   play();
 }

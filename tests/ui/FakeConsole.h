@@ -22,7 +22,9 @@ class FakeConsole : public ConsoleFrame, public ConsoleSurfaceClient {
   }
   const Toolbar* toolbar() const override { return buttons; }
   std::string title() const override { return "Console under test"; }
+  bool isOfToday() const override { return today; }
   bool commandEnabled(int command) const override { return disabled.count(command) == 0; }
+  bool commandMarked(int command) const override { return marked.count(command) != 0; }
   void onCommand(int command) override { heard.push_back("command " + std::to_string(command)); }
   ConsoleSurfaceClient& view() override { return *this; }
 
@@ -30,6 +32,7 @@ class FakeConsole : public ConsoleFrame, public ConsoleSurfaceClient {
     surface = &opened;
     sizeAtStart = opened.clientSize();
   }
+  Colour ground() const override { return paper; }
   void paint(ConsolePainter& painter) override {
     ++paints;
     if (onPaint) onPaint(painter);
@@ -37,6 +40,10 @@ class FakeConsole : public ConsoleFrame, public ConsoleSurfaceClient {
   void onWake() override { wakes.push_back(std::chrono::steady_clock::now()); }
   void onResized() override { ++resized; }
   void onScrolled() override { ++scrolled; }
+  bool onZoom(int steps) override {
+    if (today) heard.push_back("zoom " + std::to_string(steps));
+    return today;
+  }
   bool onKey(ConsoleKey key, int modifiers) override {
     if (key == ConsoleKey::Modifier) ++modifierKeys;
     if (key == ConsoleKey::Other || key == ConsoleKey::Modifier) {
@@ -72,11 +79,13 @@ class FakeConsole : public ConsoleFrame, public ConsoleSurfaceClient {
   ConsoleSurface* surface = nullptr;
   Point sizeAtStart;
   bool today = false;
+  Colour paper{255, 255, 255};
   int modifierKeys = 0;
   int paints = 0;
   int resized = 0;
   int scrolled = 0;
   std::set<int> disabled;
+  std::set<int> marked;
   std::vector<std::chrono::steady_clock::time_point> wakes;
   Heard heard;
   std::string lastMove;

@@ -208,7 +208,18 @@ TEST_F(MessagesWindowTest, InItsOwnWindowTheKeysStepCopyOpenAndClose) {
   pressKey(WXK_F4, wxMOD_SHIFT);
   pressKey('A', wxMOD_CONTROL);
   pressKey('C', wxMOD_CONTROL);
-  steps.then("look", [this] { EXPECT_EQ(messages.heard, (std::vector<int>{next, previous, selecting, copying})); });
+  steps.then("look", [this] {
+    EXPECT_EQ(messages.heard, (std::vector<int>{next, previous, selecting, copying}));
+    messages.heard.clear();
+  });
+  pressKey('=', wxMOD_CONTROL);
+  pressKey('-', wxMOD_CONTROL);
+  pressKey('0', wxMOD_CONTROL);
+  steps.then("look", [this] {
+    EXPECT_EQ(messages.heard, (std::vector<int>{static_cast<int>(MessagesCommand::LargerLetters),
+                                                static_cast<int>(MessagesCommand::SmallerLetters),
+                                                static_cast<int>(MessagesCommand::UsualLetters)}));
+  });
   pressKey(WXK_DOWN);
   pressKey(WXK_RETURN);
   steps.then("look", [this] {

@@ -154,6 +154,11 @@ std::string spokenName(wxWindow& control) {
   return found;
 }
 
+void keepScrollBarsInSight(wxWindow& window) {
+  GtkWidget* const frame = widget(window);
+  if (GTK_IS_SCROLLED_WINDOW(frame)) gtk_scrolled_window_set_overlay_scrolling(GTK_SCROLLED_WINDOW(frame), FALSE);
+}
+
 void keepFirstFocus(wxWindow&) {}
 
 wxStaticBox* makeFrame(wxWindow& parent, const wxString& title) {

@@ -134,6 +134,9 @@ wxStaticBox* makeFrame(wxWindow& parent, const wxString& title) {
 // The address is the window's text already.
 void describeLink(wxWindow&, const std::string&) {}
 
+// The system's always do.
+void keepScrollBarsInSight(wxWindow&) {}
+
 bool isListOpen(wxWindow& comboBox) {
   return SendMessageW(static_cast<HWND>(comboBox.GetHandle()), CB_GETDROPPEDSTATE, 0, 0) != 0;
 }

@@ -1,4 +1,5 @@
 #include "app/CMainFrame.h"
+#include "app/LookMemory.h"
 #include "support/Children.h"
 #include "support/FakeSurface.h"
 #include "support/SettingsFixture.h"
@@ -71,9 +72,11 @@ TEST_F(CMainFrameTest, OnlyADebuggersFrameHasAToolbarAndItsButtonsAreAlwaysEnabl
 }
 
 TEST_F(CMainFrameTest, TheConsoleOfTodayHasItsOwnMenusAndKeys) {
-  const std::set<int> ofToday = {COMMAND_COPY_ALL,  COMMAND_CLEAR,        COMMAND_COPY_OR_STOP, COMMAND_END_OF_INPUT,
-                                 COMMAND_END_KEY,   COMMAND_STOP,         COMMAND_RUN_AGAIN,    COMMAND_FIND,
-                                 COMMAND_FIND_NEXT, COMMAND_FIND_PREVIOUS};
+  const std::set<int> ofToday = {COMMAND_COPY_ALL,      COMMAND_CLEAR,          COMMAND_COPY_OR_STOP,
+                                 COMMAND_END_OF_INPUT,  COMMAND_END_KEY,        COMMAND_STOP,
+                                 COMMAND_RUN_AGAIN,     COMMAND_FIND,           COMMAND_FIND_NEXT,
+                                 COMMAND_FIND_PREVIOUS, COMMAND_LARGER_LETTERS, COMMAND_SMALLER_LETTERS,
+                                 COMMAND_USUAL_LETTERS, COMMAND_WRAP_LINES};
   CMainFrame classic(desktop_, settings(), {"Main", "", "", false});
   EXPECT_EQ(&classic.menuBar(), &consoleMenuBar());
   EXPECT_EQ(&classic.accelerators(), &consoleAccelerators());
@@ -82,11 +85,64 @@ TEST_F(CMainFrameTest, TheConsoleOfTodayHasItsOwnMenusAndKeys) {
   CMainFrame frame(desktop_, settings(), {"Main", "", "", false});
   EXPECT_EQ(&frame.menuBar(), &newerConsoleMenuBar());
   EXPECT_EQ(&frame.accelerators(), &newerConsoleAccelerators());
-  const std::set<int> always = {COMMAND_COPY_ALL, COMMAND_CLEAR,     COMMAND_END_KEY,
-                                COMMAND_FIND,     COMMAND_FIND_NEXT, COMMAND_FIND_PREVIOUS};
+  const std::set<int> always = {COMMAND_COPY_ALL,  COMMAND_CLEAR,         COMMAND_END_KEY,       COMMAND_FIND,
+                                COMMAND_FIND_NEXT, COMMAND_FIND_PREVIOUS, COMMAND_USUAL_LETTERS, COMMAND_WRAP_LINES};
   for (const int command : ofToday) EXPECT_EQ(frame.commandEnabled(command), always.contains(command)) << command;
   EXPECT_FALSE(frame.commandEnabled(COMMAND_CUT));
   EXPECT_TRUE(frame.commandEnabled(COMMAND_SELECT_ALL));
+}
+
+TEST_F(CMainFrameTest, TheLettersSizeIsRememberedForTheNextConsole) {
+  settings().newerConsole = true;
+  const ConsoleStart start{"Main", StandInScript::tool("java"), " Main", false};
+  {
+    CMainFrame frame(desktop_, settings(), start);
+    FakeSurface surface;
+    frame.view().onStart(surface);
+    EXPECT_TRUE(frame.commandEnabled(COMMAND_LARGER_LETTERS));
+    frame.onCommand(COMMAND_LARGER_LETTERS);
+    frame.onCommand(COMMAND_LARGER_LETTERS);
+    frame.onCommand(COMMAND_SMALLER_LETTERS);
+    EXPECT_EQ(surface.letters, 11);
+    frame.view().onClose();
+  }
+  EXPECT_EQ(rememberedLook(program_), (TextLook{11, false}));
+  CMainFrame frame(desktop_, settings(), start);
+  FakeSurface surface;
+  frame.view().onStart(surface);
+  EXPECT_EQ(surface.letters, 11);
+  frame.onCommand(COMMAND_USUAL_LETTERS);
+  frame.view().onClose();
+  EXPECT_EQ(rememberedLook(program_), TextLook{});
+}
+
+TEST_F(CMainFrameTest, WrappingIsAMarkInTheMenuAndRememberedForTheNextConsole) {
+  settings().newerConsole = true;
+  const ConsoleStart start{"Main", StandInScript::tool("java"), " Main", false};
+  for (const bool on : {true, false}) {
+    CMainFrame frame(desktop_, settings(), start);
+    FakeSurface surface;
+    frame.view().onStart(surface);
+    EXPECT_EQ(frame.commandMarked(COMMAND_WRAP_LINES), !on);
+    frame.onCommand(COMMAND_WRAP_LINES);
+    EXPECT_EQ(frame.commandMarked(COMMAND_WRAP_LINES), on);
+    EXPECT_FALSE(frame.commandMarked(COMMAND_COPY));
+    frame.view().onClose();
+    EXPECT_EQ(rememberedLook(program_).wrapLines, on);
+  }
+}
+
+TEST_F(CMainFrameTest, TheClassicConsoleKeepsItsLetters) {
+  rememberLook(program_, {20, true});
+  CMainFrame frame(desktop_, settings(), {"Main", StandInScript::tool("java"), " Main", false});
+  FakeSurface surface;
+  frame.view().onStart(surface);
+  frame.onCommand(COMMAND_LARGER_LETTERS);
+  EXPECT_EQ(surface.letters, 0);
+  frame.onCommand(COMMAND_WRAP_LINES);
+  EXPECT_FALSE(frame.commandMarked(COMMAND_WRAP_LINES));
+  frame.view().onClose();
+  EXPECT_EQ(rememberedLook(program_), (TextLook{20, true}));
 }
 
 TEST_F(CMainFrameTest, AProgramThatReadsToTheEndIsEndedAndRunAgain) {

@@ -50,7 +50,7 @@ class ConsoleFindTest : public SettingsFixture {
     frame_->view().paint(painter);
     std::vector<Rect> rects;
     for (const auto& [rect, colour] : painter.filled) {
-      if (colour == markGround) rects.push_back(rect);
+      if (colour == lightPalette.mark.ground) rects.push_back(rect);
     }
     return rects;
   }

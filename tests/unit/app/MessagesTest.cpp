@@ -1,3 +1,4 @@
+#include "app/LookMemory.h"
 #include "app/Messages.h"
 #include "process/EditorLaunch.h"
 #include "settings/EditorChoice.h"
@@ -181,6 +182,30 @@ TEST_F(MessagesTest, WhatIsSelectedIsCopied) {
   messages().onCommand(MessagesCommand::SelectAll);
   messages().onCommand(MessagesCommand::Copy);
   EXPECT_EQ(desktop_.clipboardText(), onDisk("javac x\n\nA.java:3: error: x\n  y\n  ^\nB.java:4: error: x"));
+  messages().view().onClose();
+}
+
+TEST_F(MessagesTest, TheLettersHaveTheSizeOfTheConsoles) {
+  rememberLook(program_, {18, false});
+  test::FakeSurface surface;
+  runAndShow(twoErrors);
+  messages().view().onStart(surface);
+  EXPECT_EQ(surface.letters, 18);
+  messages().onCommand(MessagesCommand::LargerLetters);
+  EXPECT_EQ(rememberedLook(program_), (TextLook{20, false}));
+  messages().onCommand(MessagesCommand::SmallerLetters);
+  messages().onCommand(MessagesCommand::SmallerLetters);
+  EXPECT_EQ(rememberedLook(program_), (TextLook{16, false}));
+  messages().view().onClose();
+  messages().close();
+  // Meanwhile a console has been given others.
+  rememberLook(program_, {9, true});
+  runAndShow(twoErrors);
+  messages().view().onStart(surface);
+  EXPECT_EQ(surface.letters, 9);
+  messages().onCommand(MessagesCommand::UsualLetters);
+  EXPECT_EQ(surface.letters, 0);
+  EXPECT_EQ(rememberedLook(program_), (TextLook{0, true})) << "wrapping is the console's matter";
   messages().view().onClose();
 }
 

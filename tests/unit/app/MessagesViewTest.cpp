@@ -92,6 +92,26 @@ TEST_F(MessagesViewTest, TheSurfaceIsAsLargeAsTheText) {
   EXPECT_EQ(surface.sizes, (Point{4 + (24 + 4) * cellWidth, 123 * cellHeight}));
 }
 
+TEST_F(MessagesViewTest, OtherLettersLeaveTheTopLineAndTheSelectionWhereTheyAre) {
+  std::vector<int> told;
+  view.useLetters(0, [&](int letters) { told.push_back(letters); });
+  surface.position.y = 50 * cellHeight;
+  view.onLeftDown(at(5, 52));
+  view.onMouseMove(at(8, 52));
+  view.onLeftUp({});
+  const std::string selected = view.selectedText();
+  EXPECT_TRUE(view.onZoom(5));
+  EXPECT_EQ(surface.letters, 16);
+  EXPECT_EQ(surface.sizes, (Point{4 + (24 + 4) * 12, 123 * 25}));
+  EXPECT_EQ(surface.position.y, 50 * 25);
+  EXPECT_EQ(view.selectedText(), selected);
+  EXPECT_EQ(painted().inverted, (std::vector<Rect>{{4 + 5 * 12, 52 * 25, 4 + 8 * 12, 53 * 25}}));
+  view.stepLetters(0);
+  view.useUsualLetters();
+  EXPECT_EQ(surface.position.y, 50 * cellHeight);
+  EXPECT_EQ(told, (std::vector<int>{16, 0}));
+}
+
 TEST_F(MessagesViewTest, StepsLeadThroughThePlacesInTheirOrderAndEndThere) {
   EXPECT_EQ(view.current(), std::nullopt);
   for (int line = 1; line <= 40; ++line) {
@@ -247,7 +267,7 @@ TEST_F(MessagesViewTest, OnADarkDesktopTheGroundIsDark) {
 }
 
 /// How much lighter one colour is than the other, as readers with weak eyes see it: 1 to 21.
-double contrast(Colour left, Colour right) {
+double contrastOf(Colour left, Colour right) {
   const auto light = [](Colour colour) {
     const auto part = [](std::uint8_t value) {
       const double share = value / 255.0;
@@ -264,7 +284,7 @@ TEST(MessageColoursTest, AllCanBeReadOnBothGrounds) {
     const MessageColours& colours = messageColours(dark);
     for (const Colour ground : {colours.ground, colours.current}) {
       for (const Colour letters : {colours.text, colours.dimmed, colours.error, colours.warning, colours.note})
-        EXPECT_GE(contrast(letters, ground), 4.5) << dark << ' ' << int{letters.red};
+        EXPECT_GE(contrastOf(letters, ground), 4.5) << dark << ' ' << int{letters.red};
     }
   }
 }

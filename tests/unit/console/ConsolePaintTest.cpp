@@ -28,11 +28,12 @@ class ConsolePaintTest : public testing::Test {
 };
 
 TEST_F(ConsolePaintTest, EveryKindHasItsColour) {
-  EXPECT_EQ(colourOf(KIND_INPUT), (Colour{0, 0, 0}));
-  EXPECT_EQ(colourOf(KIND_OUTPUT), (Colour{0, 0, 255}));
-  EXPECT_EQ(colourOf(KIND_ERROR), (Colour{255, 0, 0}));
-  EXPECT_EQ(colourOf(KIND_BANNER), (Colour{0, 255, 0}));
-  EXPECT_EQ(consoleBackground, (Colour{255, 255, 255}));
+  const Colour white{255, 255, 255};
+  EXPECT_EQ(classicPalette.of(KIND_INPUT), (StyledColours{{0, 0, 0}, white}));
+  EXPECT_EQ(classicPalette.of(KIND_OUTPUT), (StyledColours{{0, 0, 255}, white}));
+  EXPECT_EQ(classicPalette.of(KIND_ERROR), (StyledColours{{255, 0, 0}, white}));
+  EXPECT_EQ(classicPalette.of(KIND_BANNER), (StyledColours{{0, 255, 0}, {0, 0, 0}}));
+  EXPECT_EQ(classicPalette.ground, white);
 }
 
 TEST_F(ConsolePaintTest, SegmentsFollowOneAnotherCellByCell) {
@@ -106,17 +107,56 @@ double lightness(const Colour& colour) {
   return 0.2126 * part(colour.red) + 0.7152 * part(colour.green) + 0.0722 * part(colour.blue);
 }
 
-double contrast(int kind) {
-  const double text = lightness(colourOf(kind)) + 0.05;
-  const double ground = lightness(backgroundOf(kind)) + 0.05;
-  return std::max(text, ground) / std::min(text, ground);
+double contrastOf(const StyledColours& colours) {
+  const double ink = lightness(colours.ink) + 0.05;
+  const double ground = lightness(colours.ground) + 0.05;
+  return std::max(ink, ground) / std::min(ink, ground);
 }
 
 TEST(ConsoleColours, TextStandsOutFromWhatItStandsOn) {
-  EXPECT_GT(contrast(KIND_INPUT), 20.9);
-  EXPECT_GT(contrast(KIND_OUTPUT), 8.5);
-  EXPECT_GT(contrast(KIND_ERROR), 3.9);
-  EXPECT_GT(contrast(KIND_BANNER), 15.0);
+  EXPECT_GT(contrastOf(classicPalette.of(KIND_INPUT)), 20.9);
+  EXPECT_GT(contrastOf(classicPalette.of(KIND_OUTPUT)), 8.5);
+  EXPECT_GT(contrastOf(classicPalette.of(KIND_ERROR)), 3.9);
+  EXPECT_GT(contrastOf(classicPalette.of(KIND_BANNER)), 15.0);
+}
+
+TEST(ConsoleColours, InTheConsoleOfTodayEachStandsFarOutOnBothGrounds) {
+  for (const ConsolePalette* const palette : {&lightPalette, &darkPalette}) {
+    SCOPED_TRACE(palette == &darkPalette ? "dark" : "light");
+    EXPECT_EQ(lightness(palette->ground) < 0.1, palette == &darkPalette);
+    for (const int kind : {KIND_NONE, KIND_INPUT, KIND_OUTPUT, KIND_ERROR, KIND_BANNER})
+      EXPECT_GE(contrastOf(palette->of(kind)), 7.0) << kind;
+    EXPECT_GE(contrastOf(palette->mark), 7.0);
+    // Where the link's line is drawn, the text's own colour stands as well.
+    EXPECT_GE(contrastOf({palette->link, palette->ground}), 4.5);
+  }
+}
+
+TEST(ConsoleColours, OutputIsBlueErrorsAreRedAndTheBannerIsGreenOnBothGrounds) {
+  for (const ConsolePalette* const palette : {&lightPalette, &darkPalette}) {
+    const auto& [red, green, blue] = palette->output;
+    EXPECT_TRUE(blue > red + 50 && blue > green + 50);
+    EXPECT_GT(palette->error.red, palette->error.green + 50);
+    EXPECT_GT(palette->error.red, palette->error.blue + 50);
+    EXPECT_GT(palette->banner.ink.green, palette->banner.ink.red + 50);
+    EXPECT_GT(palette->banner.ink.green, palette->banner.ink.blue + 50);
+  }
+}
+
+TEST_F(ConsolePaintTest, TextIsPaintedInTheColoursOfItsPalette) {
+  document.addText("out", KIND_OUTPUT);
+  document.addText("er", KIND_ERROR);
+  document.addText("in", KIND_INPUT);
+  FakePainter painter;
+  TextSearch search;
+  search.lookFor("er");
+  paintText(painter, document, grid, search, darkPalette);
+  EXPECT_EQ(painter.drawn, (Drawn{{4, 0, "out", darkPalette.output},
+                                  {28, 0, "er", darkPalette.error},
+                                  {44, 0, "in", darkPalette.typed},
+                                  {28, 0, "er", darkPalette.mark.ink}}));
+  EXPECT_EQ(painter.filled, (std::vector<std::pair<Rect, Colour>>{{{28, 0, 44, 16}, darkPalette.mark.ground}}))
+      << "its own ground is there already";
 }
 
 TEST_F(ConsolePaintTest, TheBannerStandsOnADarkBandOfItsOwnCells) {

@@ -33,7 +33,8 @@ class ConsoleTracesTest : public test::ConsoleFixture {
     test::FakePainter painter;
     view->paint(painter);
     const Rect line{4 + 8 * 11, 16 * 3 - 2, 4 + 8 * 23, 16 * 3 - 1};
-    return std::find(painter.filled.begin(), painter.filled.end(), std::pair(line, linkColour)) != painter.filled.end();
+    return std::find(painter.filled.begin(), painter.filled.end(), std::pair(line, lightPalette.link)) !=
+           painter.filled.end();
   }
 
   std::vector<TraceLink> opened;
@@ -129,7 +130,7 @@ TEST_F(ConsoleTracesTest, ThePlaceGoesWithItsLine) {
   view->paint(painter);
   std::vector<Rect> lines;
   for (const auto& [rect, colour] : painter.filled)
-    if (colour == linkColour) lines.push_back(rect);
+    if (colour == lightPalette.link) lines.push_back(rect);
   ASSERT_EQ(lines.size(), 1U);
   const std::uint64_t gone = [&] {
     const TextGuard guard(document.textLock());
@@ -151,7 +152,7 @@ TEST_F(ConsoleTracesTest, LinesThatHaveFallenOffBeforeAreCounted) {
   view->onMouseMove(at(1, 7));
   test::FakePainter painter;
   view->paint(painter);
-  const auto isLink = [](const auto& one) { return one.second == linkColour; };
+  const auto isLink = [](const auto& one) { return one.second == lightPalette.link; };
   const auto found = std::find_if(painter.filled.begin(), painter.filled.end(), isLink);
   ASSERT_NE(found, painter.filled.end());
   EXPECT_EQ(found->first.bottom, 16 * 8 - 1);

@@ -237,20 +237,23 @@ TEST(StyledColoursTest, NumbersStandForTheColoursThatTerminalsGiveThem) {
 
 TEST(StyledColoursTest, TextWithoutColoursShowsAsEver) {
   for (const int kind : {KIND_INPUT, KIND_OUTPUT, KIND_ERROR, KIND_BANNER}) {
-    const StyledColours plain{colourOf(kind), backgroundOf(kind)};
+    const StyledColours plain = classicPalette.of(kind);
     EXPECT_EQ(coloursOf({}, plain), plain);
     EXPECT_EQ(coloursOf({TextStyle::plain, TextStyle::plain, true, true}, plain), plain);
   }
 }
 
 TEST(StyledColoursTest, WhateverIsChosenCanBeReadOnItsGround) {
-  for (const int kind : {KIND_OUTPUT, KIND_ERROR}) {
+  const std::pair<const ConsolePalette*, int> kinds[] = {{&lightPalette, KIND_OUTPUT},
+                                                         {&lightPalette, KIND_ERROR},
+                                                         {&darkPalette, KIND_OUTPUT},
+                                                         {&darkPalette, KIND_ERROR}};
+  for (const auto& [palette, kind] : kinds) {
     for (int ink = TextStyle::plain; ink < 256; ++ink) {
       for (int ground = TextStyle::plain; ground < 256; ground += ground < 16 ? 1 : 7) {
         for (const bool inverse : {false, true}) {
           if (ink == TextStyle::plain && ground == TextStyle::plain && !inverse) continue;
-          const StyledColours colours =
-              coloursOf({ink, ground, false, false, inverse}, {colourOf(kind), consoleBackground});
+          const StyledColours colours = coloursOf({ink, ground, false, false, inverse}, palette->of(kind));
           ASSERT_GE(contrast(colours.ink, colours.ground), 4.5)
               << ink << " on " << ground << (inverse ? " inverse" : "");
         }
@@ -283,7 +286,7 @@ TEST_F(TerminalTextTest, PaintingShowsTheStyles) {
   test::FakePainter painter;
   paintText(painter, document, screen.grid);
   const Colour blue{0, 0, 255};
-  const StyledColours chosen = coloursOf({1, 3}, {blue, consoleBackground});
+  const StyledColours chosen = coloursOf({1, 3}, classicPalette.of(KIND_OUTPUT));
   const std::vector<Drawn> drawn = {{4, 0, "a", blue},   {12, 0, "B", blue},       {13, 0, "B", blue},
                                     {20, 0, "CC", blue}, {36, 0, "D", chosen.ink}, {44, 0, "E", {255, 255, 255}}};
   EXPECT_EQ(painter.drawn, drawn);

@@ -45,7 +45,7 @@ TEST(Menu, ConsoleAcceleratorsReachTheirCommands) {
 
 TEST(Menu, TheConsoleOfTodayAddsToTheClassicMenus) {
   const MenuBar& bar = newerConsoleMenuBar();
-  ASSERT_EQ(bar.size(), 4U);
+  ASSERT_EQ(bar.size(), 5U);
   EXPECT_EQ(itemsOf(bar[0]), itemsOf(consoleMenuBar()[0]));
   EXPECT_EQ(bar[1].title, "&Edit");
   EXPECT_EQ(itemsOf(bar[1]), (Items{{"Copy\tCtrl+C", COMMAND_COPY},
@@ -58,18 +58,30 @@ TEST(Menu, TheConsoleOfTodayAddsToTheClassicMenus) {
                                     {"Find previous\tShift+F3", COMMAND_FIND_PREVIOUS},
                                     {"", 0},
                                     {"Clear", COMMAND_CLEAR}}));
-  EXPECT_EQ(bar[2].title, "&Program");
-  EXPECT_EQ(itemsOf(bar[2]), (Items{{"End of input\tCtrl+D", COMMAND_END_OF_INPUT},
+  EXPECT_EQ(bar[2].title, "&View");
+  EXPECT_EQ(itemsOf(bar[2]), (Items{{"Larger letters\tCtrl++", COMMAND_LARGER_LETTERS},
+                                    {"Smaller letters\tCtrl+-", COMMAND_SMALLER_LETTERS},
+                                    {"Usual size\tCtrl+0", COMMAND_USUAL_LETTERS},
+                                    {"", 0},
+                                    {"Wrap long lines", COMMAND_WRAP_LINES}}));
+  EXPECT_EQ(bar[3].title, "&Program");
+  EXPECT_EQ(itemsOf(bar[3]), (Items{{"End of input\tCtrl+D", COMMAND_END_OF_INPUT},
                                     {"Stop ... (Ctrl+Break)", COMMAND_STOP},
                                     {"Run again\tCtrl+R", COMMAND_RUN_AGAIN}}));
-  EXPECT_EQ(itemsOf(bar[3]), itemsOf(consoleMenuBar()[2]));
+  EXPECT_EQ(itemsOf(bar[4]), itemsOf(consoleMenuBar()[2]));
+}
+
+TEST(Menu, OnlyWhatIsOnOrOffIsAMark) {
+  for (const auto& menu : newerConsoleMenuBar()) {
+    for (const auto& item : menu.items) EXPECT_EQ(item.isMark, item.command == COMMAND_WRAP_LINES) << item.text;
+  }
 }
 
 TEST(Menu, TheConsoleOfTodayAddsToTheClassicKeys) {
   using Key = Accelerator::Key;
   const auto& classic = consoleAccelerators();
   const auto& all = newerConsoleAccelerators();
-  ASSERT_EQ(all.size(), classic.size() + 6);
+  ASSERT_EQ(all.size(), classic.size() + 9);
   for (std::size_t i = 0; i < classic.size(); ++i) {
     const bool copies = classic[i].letter == 'C';
     EXPECT_EQ(all[i].command, copies ? int{COMMAND_COPY_OR_STOP} : classic[i].command);
@@ -79,9 +91,15 @@ TEST(Menu, TheConsoleOfTodayAddsToTheClassicKeys) {
     added.emplace_back(all[i].control, all[i].shift, all[i].key, all[i].letter, all[i].command);
   }
   const std::vector<std::tuple<bool, bool, Key, char, int>> expected = {
-      {true, false, Key::Letter, 'D', COMMAND_END_KEY},    {true, false, Key::Letter, 'R', COMMAND_RUN_AGAIN},
-      {true, false, Key::Break, char{0}, COMMAND_STOP},    {true, false, Key::Letter, 'F', COMMAND_FIND},
-      {false, false, Key::F3, char{0}, COMMAND_FIND_NEXT}, {false, true, Key::F3, char{0}, COMMAND_FIND_PREVIOUS},
+      {true, false, Key::Letter, 'D', COMMAND_END_KEY},
+      {true, false, Key::Letter, 'R', COMMAND_RUN_AGAIN},
+      {true, false, Key::Break, char{0}, COMMAND_STOP},
+      {true, false, Key::Letter, 'F', COMMAND_FIND},
+      {false, false, Key::F3, char{0}, COMMAND_FIND_NEXT},
+      {false, true, Key::F3, char{0}, COMMAND_FIND_PREVIOUS},
+      {true, false, Key::Plus, char{0}, COMMAND_LARGER_LETTERS},
+      {true, false, Key::Minus, char{0}, COMMAND_SMALLER_LETTERS},
+      {true, false, Key::Zero, char{0}, COMMAND_USUAL_LETTERS},
   };
   EXPECT_EQ(added, expected);
 }

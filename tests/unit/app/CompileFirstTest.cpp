@@ -140,7 +140,7 @@ TEST_F(CompileFirstTest, InAProjectsFieldTheyCompileWhatHasChangedSince) {
   startWith(makeRunnable(), [&](ScriptedWindow& panel) {
     makeStale("Main");
     // The stand-in leaves the class as it is.
-    desktop_.expectMessage("Not all classes are up-to-date. Compile!");
+    desktop_.expectHint("Not all classes are up-to-date. Compile!");
     EXPECT_TRUE(panel.page(TABS, 0).pressControlReturn(PanelPage::FIELD));
     EXPECT_TRUE(compiled("Main"));
     exit(panel);

@@ -35,7 +35,7 @@ long styleOf(MessageKind kind) {
 constexpr std::size_t mostBytes = 800;
 constexpr std::size_t mostLines = 12;
 /// Windows break lines at blanks only.
-constexpr std::size_t longestWord = 150;
+constexpr std::size_t longestWord = 120;
 
 /// The end of what is shown of the beginning.
 std::size_t headEnd(std::string_view text) {

@@ -97,7 +97,7 @@ def test_arguments_behind_the_class_reach_the_program(scratch):
 def test_output_is_blue_errors_are_red_and_the_banner_is_green(scratch):
     _, console = started(scratch, scratch.source("Colours.java"))
     shows(scratch, console, "part of a line")
-    assert has_colour(console, "#0000FF") and has_colour(console, "#FF0000")
+    assert has_colour(console, "#0000FF") and has_colour(console, "#B00000")
     assert not has_colour(console, "#00FF00")
     type_line(console, "")
     shows(scratch, console, BANNER)

@@ -50,7 +50,8 @@ TEST_F(ControlReturnTest, WithOtherKeysHeldToItIsAnother) {
   steps.settle(10);
   steps.then("look", [this] { EXPECT_EQ(done, 0); });
   thenClose();
-  play();
+  // Windows presses the default button by it all the same, which does nothing here.
+  desktop().runDialog(sampleLayout(), rules);
 }
 
 TEST_F(ControlReturnTest, TheFieldMayStandOnATab) {

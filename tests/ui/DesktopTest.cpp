@@ -160,8 +160,8 @@ TEST_F(DesktopTest, ALongMessageLosesItsMiddle) {
 TEST_F(DesktopTest, AnEndlessWordOfAMessageIsBroken) {
   Answers answers;
   desktop().message("short " + std::string(310, 'x') + "\nend");
-  EXPECT_EQ(answers.shown, (Heard{"short " + std::string(150, 'x') + "\n" + std::string(150, 'x') + "\n" +
-                                  std::string(10, 'x') + "\nend"}));
+  EXPECT_EQ(answers.shown, (Heard{"short " + std::string(120, 'x') + "\n" + std::string(120, 'x') + "\n" +
+                                  std::string(70, 'x') + "\nend"}));
 }
 
 TEST_F(DesktopTest, AMessageBoxShowsBeforeAnyMainLoopAndClosesByReturn) {

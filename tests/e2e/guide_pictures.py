@@ -45,6 +45,21 @@ def take_new_file(camera, panel):
     new.is_gone()
 
 
+def take_messages(scratch, camera, panel):
+    panel.press("Settings")
+    settings = Window("Tarnwick settings")
+    settings.press("Messages window")
+    settings.press("OK")
+    settings.is_gone()
+    panel.write(world.quoted(scratch.sample("Broken.java")))
+    panel.press("javac")
+    messages = Window("Messages - Tarnwick")
+    wait_until("the sum", lambda: "error" in messages.labels())
+    camera.take(messages, "messages")
+    messages.close()
+    messages.is_gone()
+
+
 def take_console(scratch, camera, panel):
     console = scratch.run_class(panel, scratch.compile(panel, scratch.sample("Greeter.java")))
     for expected, line in (("What is your name? ", "Ada Lovelace"), ("Hello, Ada Lovelace!", "Ça va, Zoë από Αθήνα?"),
@@ -144,6 +159,7 @@ def walk(scratch, camera):
     camera.take(panel, "wide")
     panel.press("Tall layout")
     take_new_file(camera, panel)
+    take_messages(scratch, camera, panel)
     take_console(scratch, camera, panel)
     take_debugger(scratch, camera, panel)
     take_project(scratch, camera, panel)

@@ -77,9 +77,10 @@ def test_the_panel_repaints_while_a_tool_runs(scratch):
     panel, record = panel_with_stand_ins(scratch, until_told(scratch))
     panel.activate()
     panel.write(world.quoted(source))
-    before = shot(scratch, panel, "before.png")
     panel.press("javac")
     wait_until("the tool", lambda: content(record))
+    panel.control("javac Greeter.java ...   |   Tarnwickdefault.CFG")
+    before = settled(scratch, panel)
     # Hidden and shown again, the window has to paint anew.
     number = panel.x_number()
     person.xdotool("windowunmap", "--sync", number)
@@ -180,6 +181,18 @@ def shot(scratch, panel, name):
     person.subprocess.run(["import", "-silent", "-window", panel.x_number(), path], check=True, timeout=person.LIMIT,
                           stdin=person.subprocess.DEVNULL)
     return path
+
+
+def settled(scratch, panel):
+    """The panel's picture, once it stays."""
+    pictures = [shot(scratch, panel, "before.png")]
+
+    def stays():
+        pictures.append(shot(scratch, panel, f"before{len(pictures)}.png"))
+        return same_picture(scratch, pictures[-2], pictures[-1])
+
+    wait_until("a picture that stays", stays)
+    return pictures[-1]
 
 
 def same_picture(scratch, one, other):

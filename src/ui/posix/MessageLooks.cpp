@@ -37,9 +37,22 @@ const char* pictureOf(GtkWidget* box) {
   return nullptr;
 }
 
+/// GTK ends the program over a picture that it finds, but cannot read, as on a computer without the table of file
+/// types.
+bool isReadable(const char* picture) {
+  int width = 0;
+  int height = 0;
+  gtk_icon_size_lookup(GTK_ICON_SIZE_DIALOG, &width, &height);
+  GdkPixbuf* const tried =
+      gtk_icon_theme_load_icon(gtk_icon_theme_get_default(), picture, width, GTK_ICON_LOOKUP_USE_BUILTIN, nullptr);
+  if (tried == nullptr) return false;
+  g_object_unref(tried);
+  return true;
+}
+
 void addPicture(GtkWidget* box) {
   const char* const picture = pictureOf(box);
-  if (picture == nullptr) return;
+  if (picture == nullptr || !isReadable(picture)) return;
   GtkWidget* const image = gtk_image_new_from_icon_name(picture, GTK_ICON_SIZE_DIALOG);
   gtk_widget_set_valign(image, GTK_ALIGN_START);
   gtk_widget_show(image);

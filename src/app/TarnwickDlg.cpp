@@ -6,6 +6,7 @@
 #include "base/Text.h"
 #include "dialogbase/Desktop.h"
 #include "platform/FileSystem.h"
+#include "platform/SystemVersion.h"
 #include "resources/DialogLayout.h"
 #include "resources/PanelLayouts.h"
 #include "resources/SystemWords.h"
@@ -240,6 +241,8 @@ void TarnwickDlg::welcomeFirstUse(int status) {
     if (chosen.newerConsole != offeredChoices.newerConsole) settings_.newerConsole = chosen.newerConsole;
     if (chosen.watchRuns != offeredChoices.watchRuns) settings_.watchRuns = chosen.watchRuns;
     if (chosen.statusLine != offeredChoices.statusLine) settings_.statusLine = chosen.statusLine;
+    if (chosen.toolsWithoutConsole != offeredChoices.toolsWithoutConsole)
+      settings_.toolsWithoutConsole = chosen.toolsWithoutConsole;
     if (chosen.strictChecks != offeredChoices.strictChecks) settings_.javaXfuture = chosen.strictChecks;
   }
   // Into a configuration that is there nothing comes that its user has not accepted.
@@ -249,7 +252,7 @@ void TarnwickDlg::welcomeFirstUse(int status) {
 
 TarnwickDlg::JdkChoices TarnwickDlg::jdkChoices() const {
   return {settings_.javacMyJdkVersion, settings_.newerJava,   settings_.javacOneRun, settings_.newerConsole,
-          settings_.watchRuns,         settings_.javaXfuture, settings_.statusLine};
+          settings_.watchRuns,         settings_.javaXfuture, settings_.statusLine,  settings_.toolsWithoutConsole};
 }
 
 void TarnwickDlg::suitJdk() {
@@ -259,6 +262,7 @@ void TarnwickDlg::suitJdk() {
   // Before version 5 the language was what the classic way knows.
   settings_.newerJava = settings_.javacOneRun = settings_.newerConsole = version >= 5;
   settings_.watchRuns = settings_.statusLine = version >= 5;
+  settings_.toolsWithoutConsole = version >= 5 && platform::isWindowsDesktop();
   // From version 13 on, java warns about -Xfuture, and later ones refuse it. An existing configuration keeps it.
   if (version >= 13) settings_.javaXfuture = false;
 }

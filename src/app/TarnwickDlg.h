@@ -63,7 +63,7 @@ class TarnwickDlg : public ToolTipDlg {
   /// What a JDK suggests and the user may choose otherwise in the settings.
   struct JdkChoices {
     std::string version;
-    bool newerJava, oneRun, newerConsole, watchRuns, strictChecks, statusLine;
+    bool newerJava, oneRun, newerConsole, watchRuns, strictChecks, statusLine, toolsWithoutConsole;
   };
   void welcomeFirstUse(int status);
   /// Tells if what bears the configuration's name is none that could be read.

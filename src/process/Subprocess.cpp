@@ -97,7 +97,7 @@ std::unique_ptr<platform::ChildProcess> Subprocess::startChild(const std::string
                                                                Failures& failures) const {
   const auto report = [&failures](const platform::SystemError& fault) { failures.push_back(fault.text()); };
   try {
-    return means_->start({executable_, arguments, false, title, report});
+    return means_->start({executable_, arguments, false, hasConsole_ ? std::optional(title) : std::nullopt, report});
   } catch (const platform::SystemError& error) {
     failures.push_back("Can't start " + executable_ + '\n' + error.text());
     return nullptr;

@@ -64,6 +64,9 @@ class Subprocess {
   /// From the next run on the user sees what lasts, by this name of what the tool works on, and may stop it.
   void showWhileItRuns(const std::string& on) { shown_ = on; }
 
+  /// From the next run on the tool has no console window, where programs of the command line have such windows.
+  void withoutConsole() { hasConsole_ = false; }
+
   /// Takes another executable and drops all arguments.
   void reset(const std::string& executable);
 
@@ -96,6 +99,7 @@ class Subprocess {
   bool fillsInNames_ = false;
   NameReplacer::Names replaced_;
   std::optional<std::string> shown_;  ///< what a run works on, for its user
+  bool hasConsole_ = true;
   std::shared_ptr<const RunMeans> means_;
 };
 

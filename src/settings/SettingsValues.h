@@ -38,6 +38,7 @@ struct SettingsValues {
   // JDK tools
   std::string javaPath;
   bool displayWithNotepad = false, displayMessages = false, watchRuns = false, statusLine = false;
+  bool toolsWithoutConsole = false;
   std::string messagesPlace;
 
   // javac

@@ -5,6 +5,7 @@
 #include "dialogbase/Desktop.h"
 #include "dialogbase/DirDialog.h"
 #include "platform/Path.h"
+#include "platform/SystemVersion.h"
 #include "process/ShortcutMaker.h"
 #include "resources/SystemWords.h"
 #include "settings/SettingsContext.h"
@@ -24,6 +25,7 @@ enum Control {
   WITH_EDITOR = 1018,
   WATCH_RUNS = 2120,
   STATUS_LINE = 2150,
+  WITHOUT_CONSOLE = 2160,
   ON_DESKTOP = 1204,
   IN_STARTMENU = 1205,
   FOUND_LABEL = 2001,
@@ -51,6 +53,10 @@ ToolsPage::ToolsPage(SettingsContext& context, const TagRow* rows)
       {STATUS_LINE,
        "A line at the foot of the panel tells what runs, how the last run has ended, the open project and the "
        "configuration. A press on it opens the messages window."},
+      {WITHOUT_CONSOLE,
+       "No black window comes up, and takes the keyboard, while a tool runs. Programs started with \"java\" and "
+       "\"jdb\" "
+       "keep theirs, minimised."},
       {ON_DESKTOP, inSystemWords("Create an icon on the Windows desktop. A double click on it will start Tarnwick.")},
       {IN_STARTMENU, inSystemWords("Create an entry in the Windows startmenu tree that will start Tarnwick.")},
       {FOUND_JDKS, "JDKs found on this computer, the newest first. Choose one to use its tools."},
@@ -61,6 +67,8 @@ void ToolsPage::initialise(DialogWindow& window) {
   jdks_.clear();
   TabPage::initialise(window);
   offerJdks();
+  // Elsewhere such programs have no windows.
+  showControl(WITHOUT_CONSOLE, platform::isWindowsDesktop());
 }
 
 void ToolsPage::offerJdks() {

@@ -165,6 +165,7 @@ void Compiler::tellTool(const CompilerPaths& paths) {
 
 void Compiler::show(const std::string& sources, std::size_t count) {
   settings_.context().onRunBegins("javac " + sources, count);
+  if (settings_.toolsWithoutConsole) tool_.withoutConsole();
   if (settings_.watchRuns) tool_.showWhileItRuns(sources);
 }
 

@@ -11,6 +11,7 @@ namespace tarnwick {
 
 void runForUser(const Settings& settings, Subprocess& tool, const FileForSubprocess* file, Silence silence) {
   const SettingsContext& context = settings.context();
+  if (settings.toolsWithoutConsole) tool.withoutConsole();
   // Of what goes its own way nobody knows the end.
   const bool isWaitedFor = silence == Silence::Shown;
   if (isWaitedFor && !tool.arguments().empty()) context.onRunBegins(tool.arguments().front(), 0);

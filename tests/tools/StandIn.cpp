@@ -7,6 +7,7 @@
 //   floodboth BYTES      writes so many bytes to either output, by turns: counters of eight letters, in capitals to
 //                        standard output and in small letters to standard error
 //   name, folder         writes the name that it was started under, its working folder
+//   console              writes whether it has a console window
 //   environment NAME     writes the variable's value
 //   keep FILE            adds the file's name and its bytes to the file STANDIN_RECORD + ".kept"
 //   sleep MS             waits
@@ -159,6 +160,7 @@ void play(const std::string& command, const std::string& rest, const char* name)
   if (command == "floodboth") floodBoth(std::atol(rest.c_str()));
   if (command == "name") write(stdout, std::string(name) + '\n');
   if (command == "folder") write(stdout, tarnwick::test::workingFolder() + '\n');
+  if (command == "console") write(stdout, tarnwick::test::hasConsoleWindow() ? "a console\n" : "no console\n");
   if (command == "environment") write(stdout, variable(rest.c_str()) + '\n');
   if (command == "keep") keep(rest);
   if (command == "sleep") sleepFor(rest);

@@ -10,6 +10,9 @@ void useBinaryStreams();
 
 std::string workingFolder();
 
+/// Whether this process has a console window; false where there are none.
+bool hasConsoleWindow();
+
 /// Starts this program once more with one argument; it keeps the standard streams. Gives its process number, 0 on
 /// failure.
 int startCopy(const std::string& argument);

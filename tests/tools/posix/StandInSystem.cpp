@@ -16,6 +16,10 @@ std::string workingFolder() {
   return std::filesystem::current_path().string();
 }
 
+bool hasConsoleWindow() {
+  return false;
+}
+
 int startCopy(const std::string& argument) {
   std::string name = "stand-in";
   std::string word = argument;

@@ -30,6 +30,10 @@ std::string workingFolder() {
   return folder;
 }
 
+bool hasConsoleWindow() {
+  return GetConsoleWindow() != nullptr;
+}
+
 int startCopy(const std::string& argument) {
   char program[MAX_PATH] = "";
   GetModuleFileNameA(nullptr, program, MAX_PATH);

@@ -1,6 +1,7 @@
 #include "PanelFixture.h"
 #include "app/TarnwickDlg.h"
 #include "platform/OwnFiles.h"
+#include "platform/SystemVersion.h"
 #include "support/SystemWords.h"
 
 namespace tarnwick::test {
@@ -113,6 +114,7 @@ TEST_F(TarnwickDlgTest, FromVersion5OnTodaysJavaIsReadAtTheFirstUse) {
     EXPECT_EQ(saved->newerConsole, row.newer) << row.release;
     EXPECT_EQ(saved->watchRuns, row.newer) << row.release;
     EXPECT_EQ(saved->statusLine, row.newer) << row.release;
+    EXPECT_EQ(saved->toolsWithoutConsole, row.newer && platform::isWindowsDesktop()) << row.release;
   }
 }
 

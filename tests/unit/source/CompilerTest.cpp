@@ -1,3 +1,4 @@
+#include "platform/SystemVersion.h"
 #include "source/Compiler.h"
 #include "support/AskingCompiler.h"
 #include "support/SettingsFixture.h"
@@ -244,6 +245,17 @@ TEST_F(CompileTest, AnyOutputHasFailed) {
   EXPECT_TRUE(shown(desktop_, askingCompiler(settings()).compile(source, FileMode::Write)));
   EXPECT_NE(contentOf(log_.path()).find("A.java:1: warning: deprecated"), std::string::npos);
   EXPECT_NE(contentOf(log_.path()).find("javac -d . -g -classpath . "), std::string::npos);
+}
+
+TEST_F(CompileTest, AConsoleWindowIsTheUsersChoice) {
+  writeFile(scratch_.file("script"), "console\n");
+  FileForSubprocess source(makeSource("A.java"));
+  for (const bool without : {false, true}) {
+    settings().toolsWithoutConsole = without;
+    EXPECT_TRUE(shown(desktop_, askingCompiler(settings()).compile(source, FileMode::Write)));
+    const bool expected = platform::isWindowsDesktop() && !without;
+    EXPECT_EQ(contentOf(log_.path()).find("no console") == std::string::npos, expected);
+  }
 }
 
 TEST_F(CompileTest, WithoutAFolderNothingIsCompiled) {

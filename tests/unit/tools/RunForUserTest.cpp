@@ -1,3 +1,4 @@
+#include "platform/SystemVersion.h"
 #include "process/Subprocess.h"
 #include "support/SettingsFixture.h"
 #include "tools/RunForUser.h"
@@ -43,6 +44,16 @@ TEST_F(RunForUserTest, ItsBeginAndItsEndAreTold) {
   writeFile(scratch_.file("script"), "out something\n");
   run();
   EXPECT_EQ(told_, (Told{"begins jar 0", "ends: said something"}));
+}
+
+TEST_F(RunForUserTest, AConsoleWindowIsTheUsersChoice) {
+  writeFile(scratch_.file("script"), "console\n");
+  for (const bool without : {false, true}) {
+    settings().toolsWithoutConsole = without;
+    run();
+    const bool expected = platform::isWindowsDesktop() && !without;
+    EXPECT_EQ(contentOf(log_.path()).find("no console") == std::string::npos, expected);
+  }
 }
 
 TEST_F(RunForUserTest, OfWhatGoesItsOwnWayNothingIsTold) {

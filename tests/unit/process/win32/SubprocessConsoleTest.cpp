@@ -69,6 +69,18 @@ TEST_F(SubprocessConsoleTest, AConsoleThatCannotBeHadIsToldAndTheRunGoesOn) {
   EXPECT_TRUE(run(javac()));
 }
 
+TEST_F(SubprocessConsoleTest, ItGetsNoneWhereNoneIsWanted) {
+  script_.setScript("console");
+  for (const bool wanted : {true, false}) {
+    Subprocess tool(desktop_, log_, javac());
+    tool.addArg("javac");
+    if (!wanted) tool.withoutConsole();
+    EXPECT_TRUE(test::shown(desktop_, tool.run(nullptr, FileMode::Write)));
+    const std::string log = test::contentOf(log_.path());
+    EXPECT_NE(log.find(wanted ? "\r\na console\n" : "\r\nno console\n"), std::string::npos) << log;
+  }
+}
+
 TEST_F(SubprocessConsoleTest, WhatFailedIsToldBeforeTheFailureOfAll) {
   const std::string missing = script_.folder().file("nothing.exe");
   ASSERT_TRUE(AllocConsole());

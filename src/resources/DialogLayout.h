@@ -49,6 +49,7 @@ struct DialogItem {
   bool likeButtons = false;          ///< an edit field that is as high as the buttons beside it
   bool collapses = false;            ///< takes no room where the dialog's rules hide it from the start
   bool equalWidths = false;          ///< a row or column whose buttons are equally wide
+  bool asInTabs = false;             ///< a group whose content stands in line with that of tabs below it
   std::vector<std::string> entries;  ///< of a combo box
   int lines = 0;                     ///< height of a list; 0 for the usual one
   bool multiple = false;             ///< a list whose entries may be selected each for itself
@@ -93,6 +94,10 @@ struct DialogItem {
   }
   DialogItem withItsPicture() && {
     pictured = true;
+    return std::move(*this);
+  }
+  DialogItem inLineWithTabs() && {
+    asInTabs = true;
     return std::move(*this);
   }
   DialogItem asHighAsButtons() && {

@@ -50,7 +50,8 @@ const DialogLayout& fileViewLayout() {
                                space(),
                                edit(1009, 20).asHighAsButtons().named("Source file (.java)"),
                                space(),
-                           }),
+                           })
+                         .inLineWithTabs(),
                  })
               .stretched(),
           tabs(1231),
@@ -71,11 +72,13 @@ const DialogLayout& projectViewLayout() {
                 {row({pictureButton(1134, "New").stretched(), pictureButton(1136, "Open").stretched(),
                       pictureButton(1135, "Files").stretched()})
                      .withEqualWidths()})
+              .inLineWithTabs()
               .stretched(),
           group(1239, " Source (.java) ",
                 {row({pictureButton(1139, "Edit").stretched(), pictureButton(1133, "javac  all").stretched(),
                       pictureButton(1140, "javac").stretched()})
                      .withEqualWidths()})
+              .inLineWithTabs()
               .stretched(),
           tabs(1231),
           bars(),

@@ -139,12 +139,21 @@ std::vector<int> shares(const Node& node, int room, bool along, int plain, const
   return lengths;
 }
 
+int leftOf(const Node& group, const Gaps& gaps) {
+  return group.asInTabs ? gaps.inTabs : gaps.indent;
+}
+
+int rightOf(const Node& group, const Gaps& gaps) {
+  return group.asInTabs ? gaps.inTabs : 0;
+}
+
 wxRect insideGroup(const Node& group, const wxRect& outer, const Gaps& gaps) {
   wxRect inner = outer;
-  inner.x += group.frameOther + gaps.inGroup;
-  inner.width -= 2 * (group.frameOther + gaps.inGroup);
-  inner.y += group.frameTop + gaps.inGroup;
-  inner.height -= group.frameTop + group.frameOther + 2 * gaps.inGroup;
+  const int above = group.headingHeight + gaps.inColumn;
+  inner.x += leftOf(group, gaps);
+  inner.width -= leftOf(group, gaps) + rightOf(group, gaps);
+  inner.y += above;
+  inner.height -= above;
   return inner;
 }
 
@@ -184,8 +193,8 @@ void placeColumn(const Node& node, const wxRect& room, const Gaps& gaps) {
 wxSize sizeOfGroup(const Node& group, const Gaps& gaps) {
   const wxSize content = sizeOfColumn(group, gaps);
   const wxSize title = group.natural ? group.natural() : wxSize();
-  return {std::max(content.x + 2 * (group.frameOther + gaps.inGroup), title.x),
-          content.y + group.frameTop + group.frameOther + 2 * gaps.inGroup};
+  return {std::max(content.x + leftOf(group, gaps) + rightOf(group, gaps), title.x),
+          content.y + group.headingHeight + gaps.inColumn};
 }
 
 }  // namespace

@@ -17,7 +17,8 @@ struct Gaps {
   int inRow = 6;
   int inColumn = 6;
   int apart = 12;   ///< beside a group or an icon, and above a row of buttons
-  int inGroup = 8;  ///< between a group's frame and its content
+  int indent = 12;  ///< of a group's content below its heading
+  int inTabs = 8;   ///< on both sides of what tabs contain
 };
 
 /// One item of a layout with its window, if it has one.
@@ -30,9 +31,9 @@ struct Node {
   wxWindow* window = nullptr;
   /// The size that the item needs by itself; unset for columns and rows.
   std::function<wxSize()> natural;
-  /// What a group's frame takes on each side.
-  int frameTop = 0;
-  int frameOther = 0;
+  /// Of a group.
+  int headingHeight = 0;
+  bool asInTabs = false;
   std::vector<Node> children;
   wxSize least;  ///< filled by `measure`
 };

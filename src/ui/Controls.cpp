@@ -1,6 +1,6 @@
 #include "ui/Controls.h"
 
-#include "base/Text.h"
+#include "ui/Field.h"
 #include "ui/Icons.h"
 #include "ui/Link.h"
 #include "ui/PictureButton.h"
@@ -11,13 +11,11 @@
 #include <wx/bookctrl.h>
 #include <wx/button.h>
 #include <wx/checkbox.h>
-#include <wx/clipbrd.h>
 #include <wx/combobox.h>
 #include <wx/listbox.h>
 #include <wx/notebook.h>
 #include <wx/panel.h>
 #include <wx/radiobut.h>
-#include <wx/settings.h>
 #include <wx/statbmp.h>
 #include <wx/statbox.h>
 #include <wx/stattext.h>
@@ -82,51 +80,8 @@ wxWindow* makeHeading(wxWindow& parent, const std::string& text) {
 wxWindow* makeCombo(wxWindow& parent, const DialogItem& item) {
   auto* combo = new wxComboBox(&parent, wxID_ANY, {}, wxDefaultPosition, wxDefaultSize, 0, nullptr, wxCB_READONLY);
   for (const auto& entry : item.entries) combo->Append(toWx(entry));
-  makeOneTabStop(*combo);
+  showAsClosed(*combo);
   return combo;
-}
-
-/// A field that the keyboard reaches even if it only shows: its text can be scrolled and copied.
-class Field : public wxTextCtrl {
- public:
-  using wxTextCtrl::wxTextCtrl;
-  bool AcceptsFocusFromKeyboard() const override { return AcceptsFocus(); }
-};
-
-std::string textOnClipboard() {
-  const wxClipboardLocker lock;
-  wxTextDataObject text;
-  if (!lock || !wxTheClipboard->GetData(text)) return "";
-  return fromWx(text.GetText());
-}
-
-/// What a field takes of a text with several lines.
-std::string fieldLine(const std::string& text, bool listsPaths) {
-  return listsPaths ? pathsOnOneLine(text) : onOneLine(text);
-}
-
-/// Keeps a field to one line: what is pasted is changed on its way in, and what comes in another way, such as a drop or
-/// the middle mouse button, as soon as it stands there.
-void keepOneLine(Field& field, bool listsPaths) {
-  field.Bind(wxEVT_TEXT_PASTE, [&field, listsPaths](wxClipboardTextEvent& event) {
-    const std::string pasted = textOnClipboard();
-    if (!field.IsEditable() || !holdsLineEnd(pasted)) return event.Skip();
-    field.WriteText(toWx(fieldLine(pasted, listsPaths)));
-  });
-  field.Bind(wxEVT_TEXT, [&field, listsPaths](wxCommandEvent& event) {
-    event.Skip();
-    const std::string text = fromWx(field.GetValue());
-    if (!holdsLineEnd(text)) return;
-    field.ChangeValue(toWx(fieldLine(text, listsPaths)));
-    field.SetInsertionPointEnd();
-  });
-}
-
-wxWindow* makeEdit(wxWindow& parent, const DialogItem& item) {
-  auto* edit = new Field(&parent, wxID_ANY, toWx(item.text), wxDefaultPosition, wxDefaultSize,
-                         item.readOnly ? wxTE_READONLY : 0);
-  if (item.readOnly) edit->SetBackgroundColour(wxSystemSettings::GetColour(wxSYS_COLOUR_BTNFACE));
-  return edit;
 }
 
 /// Whether something in the window can take the focus now.
@@ -164,7 +119,7 @@ wxWindow* makeButton(wxWindow& parent, const DialogItem& item) {
 wxWindow* makeWindow(wxWindow& parent, const DialogItem& item) {
   switch (item.kind) {
     case ItemKind::Group:
-      return makeFrame(parent, toWx(item.text));
+      return makeGroup(parent, toWx(item.text));
     case ItemKind::Icon:
       return new wxStaticBitmap(&parent, wxID_ANY, programPicture(48));
     case ItemKind::Heading:
@@ -174,7 +129,7 @@ wxWindow* makeWindow(wxWindow& parent, const DialogItem& item) {
     case ItemKind::Link:
       return new Link(parent, item.text);
     case ItemKind::Edit:
-      return makeEdit(parent, item);
+      return new Field(parent, toWx(item.text), item.readOnly);
     case ItemKind::Button:
       return makeButton(parent, item);
     case ItemKind::StatusLine:
@@ -285,7 +240,7 @@ Control makeControl(wxWindow& parent, const DialogItem& item, wxRadioButton* non
   control.noneOfRun = item.kind == ItemKind::RadioButton ? noneOfRun : nullptr;
   connect(*control.window, item, events);
   // Behind the listeners' own handlers, and so before them in time.
-  if (item.kind == ItemKind::Edit) keepOneLine(as<Field>(control), item.listsPaths);
+  if (item.kind == ItemKind::Edit) as<Field>(control).keepOneLine(item.listsPaths);
   return control;
 }
 
@@ -306,8 +261,7 @@ wxSize naturalSize(const DialogItem& item, const Control& control) {
             window.GetCharHeight() * (item.lines > 0 ? item.lines : listRows) * 5 / 4};
   }
   if (item.kind == ItemKind::Group) {
-    // The title with the frame's corners on both sides.
-    return {window.GetTextExtent(window.GetLabel()).x + window.FromDIP(24), 0};
+    return {window.GetTextExtent(window.GetLabel()).x, 0};
   }
   // Before it shows, a label does not know that its font has changed.
   if (item.kind == ItemKind::Heading) size.IncTo(window.GetTextExtent(window.GetLabel()) + wxSize(2, 2));
@@ -375,7 +329,7 @@ void setTextOf(const Control& control, const std::string& text) {
   const wxString shown = toWx(text);
   switch (control.kind) {
     case ItemKind::Edit:
-      as<wxTextCtrl>(control).ChangeValue(shown);
+      as<Field>(control).set(shown);
       break;
     case ItemKind::ComboBox:
     case ItemKind::ListBox:
@@ -455,6 +409,11 @@ bool isEntrySelected(const Control& control, int index) {
 
 void setEntrySelected(const Control& control, int index, bool on) {
   if (control.kind == ItemKind::ListBox) as<wxListBox>(control).SetSelection(index, on);
+}
+
+void setToolTipOf(const Control& control, const std::string& text) {
+  if (control.kind == ItemKind::Edit) return as<Field>(control).setTip(toWx(text));
+  control.window->SetToolTip(toWx(text));
 }
 
 void scrollToEndOf(const Control& control) {

@@ -58,6 +58,7 @@ int selectionOf(const Control& control);
 void selectIn(const Control& control, int index);
 bool isEntrySelected(const Control& control, int index);
 void setEntrySelected(const Control& control, int index, bool on);
+void setToolTipOf(const Control& control, const std::string& text);
 void scrollToEndOf(const Control& control);
 
 }  // namespace tarnwick::ui

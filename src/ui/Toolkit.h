@@ -46,15 +46,18 @@ void nameTab(wxNotebook& tabs, std::size_t tab, const std::string& label);
 /// What readers of the screen call the control; empty if they have no name for it. For tests.
 std::string spokenName(wxWindow& control);
 
-/// Lets Tab stop once at a combo box, not at its arrow as well.
-void makeOneTabStop(wxWindow& comboBox);
+/// Makes a combo box one that takes no typing: no caret shows in it, and Tab stops once, not at its arrow as well.
+void showAsClosed(wxWindow& comboBox);
 
 /// To be called after the rules have checked something: that does not lead the focus there when the window gets it
 /// next.
 void keepFirstFocus(wxWindow& surface);
 
-/// Makes the frame of a group, which leaves alone what stands 4 pixels from its edges.
-wxStaticBox* makeFrame(wxWindow& parent, const wxString& title);
+/// Makes a group: a bold heading, and room below it for what belongs to it.
+wxStaticBox* makeGroup(wxWindow& parent, const wxString& title);
+
+/// Shows the button as the one that Return presses, where the toolkit does not do so by itself.
+void showAsDefault(wxWindow& button);
 
 /// Tells readers of the screen that the toolkit's own drawing in this window is a link.
 void describeLink(wxWindow& link, const std::string& address);

@@ -74,7 +74,8 @@ WxDialogWindow::WxDialogWindow(WindowStack& stack, wxWindow& surface, const Dial
   gaps_.inRow = surface.FromDIP(gaps_.inRow);
   gaps_.inColumn = surface.FromDIP(gaps_.inColumn);
   gaps_.apart = surface.FromDIP(gaps_.apart);
-  gaps_.inGroup = surface.FromDIP(gaps_.inGroup);
+  gaps_.indent = surface.FromDIP(gaps_.indent);
+  gaps_.inTabs = surface.FromDIP(gaps_.inTabs);
   root_ = build(layout.content, nullptr);
 }
 
@@ -126,6 +127,7 @@ Node WxDialogWindow::buildControl(const DialogItem& item, const DialogItem* befo
   node.equalWidths = item.equalWidths;
   node.collapses = item.collapses;
   node.floats = item.floats;
+  node.asInTabs = item.asInTabs;
   // A frame comes before its controls, as their sibling: as their parent it could not let them move freely.
   Control control = makeControl(surface_, item, radioRun_, events());
   node.window = control.window;
@@ -156,7 +158,8 @@ void WxDialogWindow::setNatural(Node& node, const DialogItem& item, const Contro
     node.natural = naturalSizes(alone, control);
   }
   if (auto* box = dynamic_cast<wxStaticBox*>(control.window)) {
-    box->GetBordersForSizer(&node.frameTop, &node.frameOther);
+    int beside = 0;
+    box->GetBordersForSizer(&node.headingHeight, &beside);
   }
 }
 
@@ -167,7 +170,10 @@ void WxDialogWindow::finishControl(const DialogItem& item, Control& control, con
   if (before && before->kind == ItemKind::Label && hasName(item.kind)) nameByLabel(*control.window, *lastLabel_);
   if (!item.spoken.empty()) nameBySpeech(*control.window, item.spoken);
   if (item.kind == ItemKind::Tabs) bindTabs(item.control, *control.window);
-  if (item.isDefault) static_cast<wxButton*>(control.window)->SetDefault();
+  if (item.isDefault) {
+    static_cast<wxButton*>(control.window)->SetDefault();
+    showAsDefault(*control.window);
+  }
 }
 
 void WxDialogWindow::bindTabs(int control, wxWindow& tabs) {
@@ -383,7 +389,7 @@ void WxDialogWindow::scrollToEnd(int control) {
 }
 
 void WxDialogWindow::setToolTip(int control, const std::string& text) {
-  at(control).window->SetToolTip(toWx(text));
+  setToolTipOf(at(control), text);
 }
 
 std::vector<std::string> WxDialogWindow::entries(int control) const {

@@ -67,6 +67,25 @@ bool isOtherInstance(GdkWindow* window) {
   return !unknown && own == other;
 }
 
+/// The blank is there for a frame, which would begin left of it.
+void hideLeadingBlank(GtkLabel& heading) {
+  PangoAttribute* const tiny = pango_attr_size_new_absolute(PANGO_SCALE);
+  tiny->start_index = 0;
+  tiny->end_index = gtk_label_get_text(&heading)[0] == ' ' ? 1 : 0;
+  PangoAttrList* const attributes = pango_attr_list_new();
+  pango_attr_list_insert(attributes, tiny);
+  gtk_label_set_attributes(&heading, attributes);
+  pango_attr_list_unref(attributes);
+}
+
+void hideCaret(GtkWidget& entry) {
+  GtkCssProvider* const style = gtk_css_provider_new();
+  gtk_css_provider_load_from_data(style, "entry { caret-color: transparent; }", -1, nullptr);
+  gtk_style_context_add_provider(gtk_widget_get_style_context(&entry), GTK_STYLE_PROVIDER(style),
+                                 GTK_STYLE_PROVIDER_PRIORITY_APPLICATION);
+  g_object_unref(style);
+}
+
 bool standsAt(GdkWindow* window, const Point& leftTop) {
   GdkRectangle frame{};
   gdk_window_get_frame_extents(window, &frame);
@@ -115,9 +134,10 @@ void nameTab(wxNotebook& tabs, std::size_t tab, const std::string& label) {
   g_object_unref(page);
 }
 
-void makeOneTabStop(wxWindow& comboBox) {
-  const auto refuseFocus = [](GtkWidget* part, gpointer) {
+void showAsClosed(wxWindow& comboBox) {
+  const auto close = [](GtkWidget* part, gpointer) {
     if (GTK_IS_BUTTON(part)) gtk_widget_set_can_focus(part, FALSE);
+    if (GTK_IS_ENTRY(part)) hideCaret(*part);
   };
   // The arrow stands in a box that is the combo box's own, so each level is asked.
   const auto visit = [](GtkWidget* part, gpointer next) {
@@ -126,7 +146,7 @@ void makeOneTabStop(wxWindow& comboBox) {
       gtk_container_forall(GTK_CONTAINER(part), reinterpret_cast<GtkCallback>(next), nullptr);
     }
   };
-  gtk_container_forall(GTK_CONTAINER(widget(comboBox)), +visit, reinterpret_cast<gpointer>(+refuseFocus));
+  gtk_container_forall(GTK_CONTAINER(widget(comboBox)), +visit, reinterpret_cast<gpointer>(+close));
 }
 
 void joinTabOrder(wxWindow& window) {
@@ -161,8 +181,18 @@ void keepScrollBarsInSight(wxWindow& window) {
 
 void keepFirstFocus(wxWindow&) {}
 
-wxStaticBox* makeFrame(wxWindow& parent, const wxString& title) {
-  return new wxStaticBox(&parent, wxID_ANY, title);
+wxStaticBox* makeGroup(wxWindow& parent, const wxString& title) {
+  auto* const group = new wxStaticBox(&parent, wxID_ANY, title);
+  group->SetFont(group->GetFont().Bold());
+  GtkFrame* const frame = GTK_FRAME(widget(*group));
+  gtk_frame_set_shadow_type(frame, GTK_SHADOW_NONE);
+  GtkWidget* const label = gtk_frame_get_label_widget(frame);
+  if (GTK_IS_LABEL(label)) hideLeadingBlank(*GTK_LABEL(label));
+  return group;
+}
+
+void showAsDefault(wxWindow& button) {
+  gtk_style_context_add_class(gtk_widget_get_style_context(widget(button)), GTK_STYLE_CLASS_SUGGESTED_ACTION);
 }
 
 void describeLink(wxWindow& link, const std::string& address) {

@@ -38,7 +38,7 @@ class SpokenName : public wxAccessible {
 
 /// The toolkit repaints a strip along each edge, wider with finer pixels, and with it whatever stands in the strip.
 /// A frame that moves would carry along what it shows, which is to the system also the pixels of the controls within.
-class Frame : public wxStaticBox {
+class Group : public wxStaticBox {
  public:
   using wxStaticBox::wxStaticBox;
 
@@ -51,6 +51,15 @@ class Frame : public wxStaticBox {
     constexpr int line = 4;
     wxStaticBox::GetBordersForSizer(top, other);
     *other = std::min(*other, line);
+  }
+
+ protected:
+  /// The heading alone, without the blanks that keep it from a frame's line.
+  void PaintForeground(wxDC& dc, const RECT&) override {
+    dc.SetFont(GetFont());
+    dc.SetTextForeground(GetForegroundColour());
+    dc.SetBackgroundMode(wxBRUSHSTYLE_TRANSPARENT);
+    dc.DrawText(GetLabelText().Strip(wxString::both), 0, 0);
   }
 };
 
@@ -106,7 +115,8 @@ wxString noWords() {
 // The system tells it.
 void nameTab(wxNotebook&, std::size_t, const std::string&) {}
 
-void makeOneTabStop(wxWindow&) {}
+// The system's own are so.
+void showAsClosed(wxWindow&) {}
 
 // Each Tab looks for itself what shows.
 void joinTabOrder(wxWindow&) {}
@@ -127,9 +137,14 @@ void keepFirstFocus(wxWindow& surface) {
   if (!surface.IsDescendant(wxWindow::FindFocus())) surface.WXSetPendingFocus(nullptr);
 }
 
-wxStaticBox* makeFrame(wxWindow& parent, const wxString& title) {
-  return new Frame(&parent, wxID_ANY, title);
+wxStaticBox* makeGroup(wxWindow& parent, const wxString& title) {
+  auto* const group = new Group(&parent, wxID_ANY, title);
+  group->SetFont(group->GetFont().Bold());
+  return group;
 }
+
+// The system draws a frame around it.
+void showAsDefault(wxWindow&) {}
 
 // The address is the window's text already.
 void describeLink(wxWindow&, const std::string&) {}

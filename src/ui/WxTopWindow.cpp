@@ -89,6 +89,7 @@ WxTopWindow::~WxTopWindow() = default;
 int WxTopWindow::run() {
   WindowStack::Place place(stack(), dialog_.get(), [this] { end(); });
   place_ = &place;
+  if (role_ == Role::Main) standByDefault();
   start();
   if (role_ == Role::Main) takeDrops(*dialog_);
   fit();
@@ -108,6 +109,15 @@ int WxTopWindow::run() {
   detach();
   place_ = nullptr;
   return result_.value_or(IDCANCEL_CONTROL);
+}
+
+void WxTopWindow::standByDefault() {
+  // About as large as the panel is at its first start.
+  dialog_->SetClientSize(dialog_->FromDIP(wxSize(474, 314)));
+  dialog_->CentreOnScreen();
+  const wxPoint middle = dialog_->GetPosition();
+  // Deliberate: crosswise. The rules exchange the two coordinates of a window that has no place yet.
+  moveWindow(*dialog_, {middle.y, middle.x});
 }
 
 void WxTopWindow::takeDrops(wxWindow& window) {

@@ -40,6 +40,7 @@ class WxTopWindow : public WxDialogWindow {
 
   WxTopWindow(WindowStack& stack, Role role, const DialogLayout& layout, DialogHandler& handler, Dialog dialog);
 
+  void standByDefault();
   void fit();
   /// What the frame adds to the client area.
   wxSize frame() const;

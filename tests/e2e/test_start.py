@@ -9,6 +9,15 @@ import world
 from person import Window, wait_until
 
 
+def assert_stands_in_the_middle(window):
+    width, height = (int(number) for number in person.xdotool("getdisplaygeometry").split())
+    shell = person.xdotool("getwindowgeometry", "--shell", window.x_number())
+    place = dict(line.split("=") for line in shell.split())
+    across = int(place["X"]) + int(place["WIDTH"]) / 2 - width / 2
+    down = int(place["Y"]) + int(place["HEIGHT"]) / 2 - height / 2
+    assert abs(across) < width / 10 and abs(down) < height / 10, place
+
+
 def test_first_start_welcomes_asks_for_the_jdk_and_saves_all_settings(scratch):
     program = scratch.start()
     welcome = Window("Welcome to Tarnwick")
@@ -25,6 +34,7 @@ def test_first_start_welcomes_asks_for_the_jdk_and_saves_all_settings(scratch):
     settings.press("OK")
 
     panel = Window("Tarnwick")
+    assert_stands_in_the_middle(panel)
     with open(scratch.configuration, encoding="utf-8") as lines:
         rows = lines.read().split("\n")
     assert rows[:2] == [f"REM  This configuration file was written by {world.VERSION}", "REM"], rows[:2]

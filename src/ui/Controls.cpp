@@ -1,6 +1,6 @@
 #include "ui/Controls.h"
 
-#include "base/Text.h"
+#include "ui/Field.h"
 #include "ui/Icons.h"
 #include "ui/Link.h"
 #include "ui/PictureButton.h"
@@ -11,13 +11,11 @@
 #include <wx/bookctrl.h>
 #include <wx/button.h>
 #include <wx/checkbox.h>
-#include <wx/clipbrd.h>
 #include <wx/combobox.h>
 #include <wx/listbox.h>
 #include <wx/notebook.h>
 #include <wx/panel.h>
 #include <wx/radiobut.h>
-#include <wx/settings.h>
 #include <wx/statbmp.h>
 #include <wx/statbox.h>
 #include <wx/stattext.h>
@@ -86,49 +84,6 @@ wxWindow* makeCombo(wxWindow& parent, const DialogItem& item) {
   return combo;
 }
 
-/// A field that the keyboard reaches even if it only shows: its text can be scrolled and copied.
-class Field : public wxTextCtrl {
- public:
-  using wxTextCtrl::wxTextCtrl;
-  bool AcceptsFocusFromKeyboard() const override { return AcceptsFocus(); }
-};
-
-std::string textOnClipboard() {
-  const wxClipboardLocker lock;
-  wxTextDataObject text;
-  if (!lock || !wxTheClipboard->GetData(text)) return "";
-  return fromWx(text.GetText());
-}
-
-/// What a field takes of a text with several lines.
-std::string fieldLine(const std::string& text, bool listsPaths) {
-  return listsPaths ? pathsOnOneLine(text) : onOneLine(text);
-}
-
-/// Keeps a field to one line: what is pasted is changed on its way in, and what comes in another way, such as a drop or
-/// the middle mouse button, as soon as it stands there.
-void keepOneLine(Field& field, bool listsPaths) {
-  field.Bind(wxEVT_TEXT_PASTE, [&field, listsPaths](wxClipboardTextEvent& event) {
-    const std::string pasted = textOnClipboard();
-    if (!field.IsEditable() || !holdsLineEnd(pasted)) return event.Skip();
-    field.WriteText(toWx(fieldLine(pasted, listsPaths)));
-  });
-  field.Bind(wxEVT_TEXT, [&field, listsPaths](wxCommandEvent& event) {
-    event.Skip();
-    const std::string text = fromWx(field.GetValue());
-    if (!holdsLineEnd(text)) return;
-    field.ChangeValue(toWx(fieldLine(text, listsPaths)));
-    field.SetInsertionPointEnd();
-  });
-}
-
-wxWindow* makeEdit(wxWindow& parent, const DialogItem& item) {
-  auto* edit = new Field(&parent, wxID_ANY, toWx(item.text), wxDefaultPosition, wxDefaultSize,
-                         item.readOnly ? wxTE_READONLY : 0);
-  if (item.readOnly) edit->SetBackgroundColour(wxSystemSettings::GetColour(wxSYS_COLOUR_BTNFACE));
-  return edit;
-}
-
 /// Whether something in the window can take the focus now.
 bool holdsStop(const wxWindow& window) {
   const auto& children = window.GetChildren();
@@ -174,7 +129,7 @@ wxWindow* makeWindow(wxWindow& parent, const DialogItem& item) {
     case ItemKind::Link:
       return new Link(parent, item.text);
     case ItemKind::Edit:
-      return makeEdit(parent, item);
+      return new Field(parent, item);
     case ItemKind::Button:
       return makeButton(parent, item);
     case ItemKind::StatusLine:
@@ -220,6 +175,7 @@ void connect(wxWindow& window, const DialogItem& item, const ControlEvents& even
       break;
     case ItemKind::Edit:
       window.Bind(wxEVT_TEXT, tell(events.textChanged));
+      window.Bind(wxEVT_COMBOBOX, tell(events.selectionChanged));
       break;
     case ItemKind::ComboBox:
       window.Bind(wxEVT_COMBOBOX, tell(events.selectionChanged));
@@ -285,7 +241,7 @@ Control makeControl(wxWindow& parent, const DialogItem& item, wxRadioButton* non
   control.noneOfRun = item.kind == ItemKind::RadioButton ? noneOfRun : nullptr;
   connect(*control.window, item, events);
   // Behind the listeners' own handlers, and so before them in time.
-  if (item.kind == ItemKind::Edit) keepOneLine(as<Field>(control), item.listsPaths);
+  if (item.kind == ItemKind::Edit) as<Field>(control).keepOneLine();
   return control;
 }
 
@@ -416,6 +372,7 @@ void setCheckedOf(const Control& control, bool on) {
 }
 
 std::vector<std::string> entriesOf(const Control& control) {
+  if (control.kind == ItemKind::Edit) return as<Field>(control).offered();
   std::vector<std::string> entries;
   if (auto* holder = entryHolder(control)) {
     for (const auto& entry : holder->GetStrings()) entries.push_back(fromWx(entry));
@@ -427,6 +384,7 @@ std::vector<std::string> entriesOf(const Control& control) {
 }
 
 void setEntriesOf(const Control& control, const std::vector<std::string>& entries) {
+  if (control.kind == ItemKind::Edit) return as<Field>(control).offer(entries);
   auto* holder = entryHolder(control);
   if (!holder) return;
   wxArrayString strings;
@@ -435,12 +393,15 @@ void setEntriesOf(const Control& control, const std::vector<std::string>& entrie
 }
 
 int selectionOf(const Control& control) {
+  if (control.kind == ItemKind::Edit) return as<Field>(control).chosen();
   if (auto* holder = entryHolder(control)) return holder->GetSelection();
   return control.kind == ItemKind::Tabs ? as<wxNotebook>(control).GetSelection() : -1;
 }
 
 void selectIn(const Control& control, int index) {
-  if (auto* holder = entryHolder(control)) {
+  if (control.kind == ItemKind::Edit) {
+    as<Field>(control).setChosen(index);
+  } else if (auto* holder = entryHolder(control)) {
     holder->SetSelection(index);
   } else if (control.kind == ItemKind::Tabs) {
     auto& tabs = as<wxNotebook>(control);

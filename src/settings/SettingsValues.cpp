@@ -158,6 +158,9 @@ SettingsValues::SettingsValues(PlacedWindow* const& mainWindow) : windowPosition
       later(text("MESSAGES_PLACE", messagesPlace, nullptr, 0, 0, 0)),
       later(flag("WATCH_RUNS", watchRuns, false, TOOLS_PAGE, SETTINGS_DIALOG, 2120)),
       later(flag("STATUS_LINE", statusLine, false, TOOLS_PAGE, SETTINGS_DIALOG, 2150)),
+      later(value("LAST_SOURCES", lastSources, nullptr, 0, 0, 0)),
+      later(value("LAST_CLASSES", lastClasses, nullptr, 0, 0, 0)),
+      later(value("LAST_PAGES", lastPages, nullptr, 0, 0, 0)),
       endOfRows,
   };
   // clang-format on

@@ -84,9 +84,9 @@ FileView::FileView(Settings& settings, MainDialog mainDialog)
       sourceFile_(settings.fileviewSource),
       classFile_(settings.fileviewClass),
       htmlFile_(settings.fileviewHtml),
-      sourceField_(sourceFile_),
-      classField_(classFile_),
-      htmlField_(htmlFile_) {
+      sourceField_(sourceFile_, settings.lastSources),
+      classField_(classFile_, settings.lastClasses),
+      htmlField_(htmlFile_, settings.lastPages) {
   shown_ = true;  // at first
 }
 
@@ -111,10 +111,17 @@ void FileView::readFields() {
 
 void FileView::showFiles() {
   for (auto* field : {&sourceField_, &classField_, &htmlField_}) field->write();
+  offerLastFiles();
 }
 
 void FileView::emptyFields() {
   for (auto* field : {&sourceField_, &classField_, &htmlField_}) field->write("");
+  // A project has last files of its own.
+  offerLastFiles();
+}
+
+void FileView::offerLastFiles() {
+  for (auto* field : {&sourceField_, &classField_, &htmlField_}) field->offer();
 }
 
 void FileView::takeFile(const std::string& path) {
@@ -125,6 +132,8 @@ void FileView::takeFile(const std::string& path) {
   FileField& field = extension == ".java" ? sourceField_ : isPage ? htmlField_ : classField_;
   field.file().takeTyped(whole.quoted());
   field.write();
+  // On the command line a name may stand that is still to become a file.
+  if (canBeRead(whole.fullName())) field.remember();
   if (extension != ".java") openPage(isPage ? APPLET : MAIN_PROGRAM);
 }
 
@@ -171,6 +180,18 @@ void FileView::onCommand(int control) {
     PanelDlg::onCommand(control);
 }
 
+void FileView::onSelectionChanged(int control) {
+  if (control == SOURCE_FIELD)
+    sourceField_.takeChosen();
+  else
+    PanelDlg::onSelectionChanged(control);
+}
+
+void FileView::onPageFileChosen() {
+  if (currentPage() == MAIN_PROGRAM) classField_.takeChosen();
+  if (currentPage() == APPLET) htmlField_.takeChosen();
+}
+
 void FileView::onPageButton(int page, int control) {
   if (page == MAIN_PROGRAM && control == PanelPage::LEFT) browse(runFilter(), classField_);
   if (page == MAIN_PROGRAM && control == PanelPage::MIDDLE) debugClass();
@@ -203,6 +224,7 @@ bool FileView::prepareFile(const char* filter, FileField& field) {
     try {
       Tarnwickfile::unopened(file.name(), FileMode::Read).open(FileMode::Undefined);
       complete(field);
+      field.remember();
       return true;
     } catch (const Tarnwickfile::FileNotOpenE&) {
       // The user is asked for one that is there, but may believe that this one is.
@@ -247,6 +269,7 @@ bool FileView::askForFile(const char* filter, const std::string& startFolder, Fi
   if (!chosen) return false;
   field.file().setName(*chosen);
   field.write();
+  field.remember();
   return true;
 }
 

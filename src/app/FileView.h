@@ -19,6 +19,8 @@ class FileView : public PanelDlg {
   void initialise(DialogWindow& window) override;
   void detached() override;
   void onCommand(int control) override;
+  void onSelectionChanged(int control) override;
+  void onPageFileChosen() override;
   void updateTitle() override;
   /// Takes what stands in the fields. True if the next start would show something else, as nothing has saved it yet.
   /// With an open project they are never shown again, and it is false.
@@ -41,6 +43,8 @@ class FileView : public PanelDlg {
  private:
   void bindFields(DialogWindow& window);
   void readFields();
+  /// The fields let the user choose among the last files of the present settings.
+  void offerLastFiles();
   /// Makes sure that the field names an existing file, or gets one from the user. False if the user gave none.
   bool prepareFile(const char* filter, FileField& field);
   void browse(const char* filter, FileField& field);

@@ -47,6 +47,10 @@ void PanelPage::onCommand(int control) {
   panel_.onPageButton(control);
 }
 
+void PanelPage::onSelectionChanged(int control) {
+  if (control == FIELD) panel_.onPageFileChosen();
+}
+
 std::function<void()> PanelPage::controlReturn(int control) {
   return control == FIELD ? panel_.controlReturnInField() : nullptr;
 }

@@ -24,6 +24,7 @@ class PanelPage : public TabPage {
 
   void initialise(DialogWindow& window) override;
   void onCommand(int control) override;
+  void onSelectionChanged(int control) override;
   std::function<void()> controlReturn(int control) override;
 
   /// The page's window; null while the panel has none.
@@ -103,6 +104,8 @@ class PanelDlg : public TabbedDialog {
   virtual void exitProgram();
   /// A button of the page with this index, by PanelPage::Control. Knows the utilities'.
   virtual void onPageButton(int page, int control);
+  /// One of the files was chosen that the field of the open page offers.
+  virtual void onPageFileChosen() {}
 
   /// What Ctrl+Return does in the field of the page that is open.
   std::function<void()> controlReturnInField();

@@ -35,10 +35,10 @@ class DialogWindow : public PlacedWindow {
   virtual void scrollToEnd(int control) = 0;
   virtual void setToolTip(int control, const std::string& text) = 0;
 
-  /// Entries of a combo box or list.
+  /// Entries of a combo box or list, or of a field that offers some.
   virtual std::vector<std::string> entries(int control) const = 0;
   virtual void setEntries(int control, const std::vector<std::string>& entries) = 0;
-  /// Index of the selected entry or tab; -1 for none.
+  /// Index of the selected entry or tab; -1 for none. Of a field: the entry that was chosen last.
   virtual int selection(int control) const = 0;
   /// Sends no notification.
   virtual void select(int control, int index) = 0;
@@ -94,7 +94,7 @@ class DialogHandler {
   virtual std::function<void()> controlReturn(int /*control*/) { return {}; }
   /// The user changed the text of a field.
   virtual void onTextChanged(int /*control*/) {}
-  /// The user chose another entry of a combo box or list, or another tab.
+  /// The user chose another entry of a combo box or list, another tab, or any entry that a field offers.
   virtual void onSelectionChanged(int /*control*/) {}
   /// The user pressed an entry of a list twice.
   virtual void onDoubleClick(int /*control*/) {}

@@ -1,6 +1,6 @@
 #include "project/RecentProjects.h"
 
-#include "platform/Path.h"
+#include "settings/LastNames.h"
 #include "settings/Settings.h"
 
 namespace tarnwick {
@@ -18,13 +18,7 @@ void updateRecentProjects(SettingsContext& context, const std::string& path) {
   int status = 0;
   stored.readDefaultConfiguration(status);
   if (status != 0) return;
-  TokenString fresh;
-  fresh.add(path);
-  for (int i = 0; i < stored.recentProjects.count() && fresh.count() < limit; ++i) {
-    const std::string known = stored.recentProjects.element(i);
-    if (!platform::sameFileName(known, path)) fresh.add(known);
-  }
-  stored.recentProjects = fresh;
+  putNameFirst(stored.recentProjects, path, limit);
   stored.saveDefaultConfiguration();
 }
 

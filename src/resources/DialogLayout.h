@@ -47,6 +47,7 @@ struct DialogItem {
   bool floats = false;               ///< has its own size and takes no room; the dialog's rules place it
   bool pictured = false;             ///< a button of the panel, as narrow as its text with its picture
   bool likeButtons = false;          ///< an edit field that is as high as the buttons beside it
+  bool offersEntries = false;        ///< an edit field that one of a list of entries may be chosen for
   bool collapses = false;            ///< takes no room where the dialog's rules hide it from the start
   bool equalWidths = false;          ///< a row or column whose buttons are equally wide
   bool asInTabs = false;             ///< a group whose content stands in line with that of tabs below it
@@ -74,6 +75,10 @@ struct DialogItem {
   }
   DialogItem withEqualWidths() && {
     equalWidths = true;
+    return std::move(*this);
+  }
+  DialogItem offeringEntries() && {
+    offersEntries = true;
     return std::move(*this);
   }
   DialogItem atLeast(int characters) && {

@@ -48,7 +48,7 @@ const DialogLayout& fileViewLayout() {
                                     pictureButton(1007, "Edit").stretched(), pictureButton(1008, "javac").stretched()})
                                    .withEqualWidths(),
                                space(),
-                               edit(1009, 20).asHighAsButtons().named("Source file (.java)"),
+                               edit(1009, 20).asHighAsButtons().offeringEntries().named("Source file (.java)"),
                                space(),
                            })
                          .inLineWithTabs(),
@@ -98,7 +98,7 @@ const DialogLayout& panelPageLayout() {
           row({pictureButton(1228, "Browse").stretched(), pictureButton(1229, "appletdebug").stretched(),
                pictureButton(1230, "appletviewer").stretched()})
               .withEqualWidths(),
-          edit(1223, 20).asHighAsButtons().named("File and its arguments"),
+          edit(1223, 20).asHighAsButtons().offeringEntries().named("File and its arguments"),
       }),
       1223,
       Margins{8, 8, 8, 6}};

@@ -37,7 +37,7 @@ void Settings::resetAll() {
   lastJarBaseFolder.clear();
   lastProjectFile.clear();
   fileviewTab = 0;
-  recentProjects.fromString("");
+  for (auto* list : {&recentProjects, &lastSources, &lastClasses, &lastPages}) list->fromString("");
   helpFile = dataFile(context_.program, "usersguide.htm");
   // A configuration that could never be saved would be worse than a guide that must be looked for.
   if (holdsLineEnd(helpFile)) helpFile.clear();

@@ -159,6 +159,9 @@ SettingsValues::SettingsValues(PlacedWindow* const& mainWindow) : windowPosition
       later(flag("WATCH_RUNS", watchRuns, false, TOOLS_PAGE, SETTINGS_DIALOG, 2120)),
       later(flag("STATUS_LINE", statusLine, false, TOOLS_PAGE, SETTINGS_DIALOG, 2150)),
       later(flag("TOOLS_WITHOUT_CONSOLE", toolsWithoutConsole, false, TOOLS_PAGE, SETTINGS_DIALOG, 2160)),
+      later(value("LAST_SOURCES", lastSources, nullptr, 0, 0, 0)),
+      later(value("LAST_CLASSES", lastClasses, nullptr, 0, 0, 0)),
+      later(value("LAST_PAGES", lastPages, nullptr, 0, 0, 0)),
       endOfRows,
   };
   // clang-format on

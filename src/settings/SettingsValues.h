@@ -73,6 +73,8 @@ struct SettingsValues {
   bool jarOpenAsZip = false;
   int fileviewTab = 0;
   FileForSubprocess fileviewSource, fileviewClass, fileviewHtml;
+  /// What stood in these three when it was used, the last one first.
+  TokenString lastSources, lastClasses, lastPages;
   std::string helpFile, tarnwickVersion;
   WindowPosition windowPosition;
 

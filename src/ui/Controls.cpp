@@ -129,7 +129,7 @@ wxWindow* makeWindow(wxWindow& parent, const DialogItem& item) {
     case ItemKind::Link:
       return new Link(parent, item.text);
     case ItemKind::Edit:
-      return new Field(parent, toWx(item.text), item.readOnly);
+      return new Field(parent, item);
     case ItemKind::Button:
       return makeButton(parent, item);
     case ItemKind::StatusLine:
@@ -175,6 +175,7 @@ void connect(wxWindow& window, const DialogItem& item, const ControlEvents& even
       break;
     case ItemKind::Edit:
       window.Bind(wxEVT_TEXT, tell(events.textChanged));
+      window.Bind(wxEVT_COMBOBOX, tell(events.selectionChanged));
       break;
     case ItemKind::ComboBox:
       window.Bind(wxEVT_COMBOBOX, tell(events.selectionChanged));
@@ -240,7 +241,7 @@ Control makeControl(wxWindow& parent, const DialogItem& item, wxRadioButton* non
   control.noneOfRun = item.kind == ItemKind::RadioButton ? noneOfRun : nullptr;
   connect(*control.window, item, events);
   // Behind the listeners' own handlers, and so before them in time.
-  if (item.kind == ItemKind::Edit) as<Field>(control).keepOneLine(item.listsPaths);
+  if (item.kind == ItemKind::Edit) as<Field>(control).keepOneLine();
   return control;
 }
 
@@ -370,6 +371,7 @@ void setCheckedOf(const Control& control, bool on) {
 }
 
 std::vector<std::string> entriesOf(const Control& control) {
+  if (control.kind == ItemKind::Edit) return as<Field>(control).offered();
   std::vector<std::string> entries;
   if (auto* holder = entryHolder(control)) {
     for (const auto& entry : holder->GetStrings()) entries.push_back(fromWx(entry));
@@ -381,6 +383,7 @@ std::vector<std::string> entriesOf(const Control& control) {
 }
 
 void setEntriesOf(const Control& control, const std::vector<std::string>& entries) {
+  if (control.kind == ItemKind::Edit) return as<Field>(control).offer(entries);
   auto* holder = entryHolder(control);
   if (!holder) return;
   wxArrayString strings;
@@ -389,12 +392,15 @@ void setEntriesOf(const Control& control, const std::vector<std::string>& entrie
 }
 
 int selectionOf(const Control& control) {
+  if (control.kind == ItemKind::Edit) return as<Field>(control).chosen();
   if (auto* holder = entryHolder(control)) return holder->GetSelection();
   return control.kind == ItemKind::Tabs ? as<wxNotebook>(control).GetSelection() : -1;
 }
 
 void selectIn(const Control& control, int index) {
-  if (auto* holder = entryHolder(control)) {
+  if (control.kind == ItemKind::Edit) {
+    as<Field>(control).setChosen(index);
+  } else if (auto* holder = entryHolder(control)) {
     holder->SetSelection(index);
   } else if (control.kind == ItemKind::Tabs) {
     auto& tabs = as<wxNotebook>(control);

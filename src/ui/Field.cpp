@@ -1,14 +1,23 @@
 #include "ui/Field.h"
 
 #include "base/Text.h"
+#include "resources/DialogLayout.h"
+#include "ui/DropButton.h"
 #include "ui/Text.h"
 
 #include <wx/clipbrd.h>
+#include <wx/dcclient.h>
 #include <wx/settings.h>
+
+#include <algorithm>
+#include <utility>
 
 namespace tarnwick::ui {
 
 namespace {
+
+/// A longer entry is shown without its middle: a path's end tells most.
+constexpr int charactersInEntry = 80;
 
 std::string textOnClipboard() {
   const wxClipboardLocker lock;
@@ -32,26 +41,62 @@ auto after(Action action) {
 
 }  // namespace
 
-Field::Field(wxWindow& parent, const wxString& text, bool showsOnly)
-    : wxTextCtrl(&parent, wxID_ANY, text, wxDefaultPosition, wxDefaultSize, showsOnly ? wxTE_READONLY : 0) {
-  if (showsOnly) SetBackgroundColour(wxSystemSettings::GetColour(wxSYS_COLOUR_BTNFACE));
+Field::Field(wxWindow& parent, const DialogItem& item)
+    : wxTextCtrl(&parent, wxID_ANY, toWx(item.text), wxDefaultPosition, wxDefaultSize,
+                 item.readOnly ? wxTE_READONLY : 0),
+      listsPaths_(item.listsPaths) {
+  if (item.readOnly) SetBackgroundColour(wxSystemSettings::GetColour(wxSYS_COLOUR_BTNFACE));
   Bind(wxEVT_SET_FOCUS, after([this] { onFocus(); }));
   Bind(wxEVT_KILL_FOCUS, after([this] { onFocusLost(); }));
   Bind(wxEVT_SIZE, after([this] { showRightPart(); }));
   Bind(wxEVT_ENTER_WINDOW, after([this] { showTip(); }));
+  if (item.offersEntries) offerByKey();
 }
 
-void Field::keepOneLine(bool listsPaths) {
-  Bind(wxEVT_TEXT_PASTE, [this, listsPaths](wxClipboardTextEvent& event) {
+void Field::offerByKey() {
+  prepareDropButton(*this, [this] { letChoose(false); });
+  Bind(wxEVT_KEY_DOWN, [this](wxKeyEvent& event) {
+    // The system hears of the key all the same: an Alt that it believes to be pressed alone leads to the menus.
+    event.Skip();
+    if (event.GetKeyCode() == WXK_DOWN && event.GetModifiers() == wxMOD_ALT && !offered_.empty()) letChoose(true);
+  });
+}
+
+void Field::offer(std::vector<std::string> entries) {
+  if (entries.empty() != offered_.empty()) showDropButton(*this, !entries.empty());
+  offered_ = std::move(entries);
+  chosen_ = -1;
+}
+
+void Field::letChoose(bool byKey) {
+  const wxClientDC dc(this);
+  const int room = std::max(GetSize().x, GetCharWidth() * charactersInEntry);
+  std::vector<wxString> labels;
+  for (const auto& entry : offered_)
+    labels.push_back(Ellipsize(toWx(entry), dc, wxELLIPSIZE_MIDDLE, room, wxELLIPSIZE_FLAGS_NONE));
+  SetFocus();
+  openDropMenu(*this, labels, byKey, [this](int index) {
+    chosen_ = index;
+    wxCommandEvent event(wxEVT_COMBOBOX, GetId());
+    event.SetEventObject(this);
+    event.SetInt(index);
+    ProcessWindowEvent(event);
+  });
+}
+
+// What is pasted is changed on its way in, and what comes in another way, such as a drop or the middle mouse button, as
+// soon as it stands there.
+void Field::keepOneLine() {
+  Bind(wxEVT_TEXT_PASTE, [this](wxClipboardTextEvent& event) {
     const std::string pasted = textOnClipboard();
     if (!IsEditable() || !holdsLineEnd(pasted)) return event.Skip();
-    WriteText(toWx(fieldLine(pasted, listsPaths)));
+    WriteText(toWx(fieldLine(pasted, listsPaths_)));
   });
-  Bind(wxEVT_TEXT, [this, listsPaths](wxCommandEvent& event) {
+  Bind(wxEVT_TEXT, [this](wxCommandEvent& event) {
     event.Skip();
     const std::string text = fromWx(GetValue());
     if (!holdsLineEnd(text)) return;
-    ChangeValue(toWx(fieldLine(text, listsPaths)));
+    ChangeValue(toWx(fieldLine(text, listsPaths_)));
     SetInsertionPointEnd();
   });
 }

@@ -1,5 +1,7 @@
 #include "ui/MessageLooks.h"
 
+#include "ui/posix/DesktopPictures.h"
+
 #include <gtk/gtk.h>
 
 namespace tarnwick::ui {
@@ -37,22 +39,9 @@ const char* pictureOf(GtkWidget* box) {
   return nullptr;
 }
 
-/// GTK ends the program over a picture that it finds, but cannot read, as on a computer without the table of file
-/// types.
-bool isReadable(const char* picture) {
-  int width = 0;
-  int height = 0;
-  gtk_icon_size_lookup(GTK_ICON_SIZE_DIALOG, &width, &height);
-  GdkPixbuf* const tried =
-      gtk_icon_theme_load_icon(gtk_icon_theme_get_default(), picture, width, GTK_ICON_LOOKUP_USE_BUILTIN, nullptr);
-  if (tried == nullptr) return false;
-  g_object_unref(tried);
-  return true;
-}
-
 void addPicture(GtkWidget* box) {
   const char* const picture = pictureOf(box);
-  if (picture == nullptr || !isReadable(picture)) return;
+  if (picture == nullptr || !canShow(picture, GTK_ICON_SIZE_DIALOG)) return;
   GtkWidget* const image = gtk_image_new_from_icon_name(picture, GTK_ICON_SIZE_DIALOG);
   gtk_widget_set_valign(image, GTK_ALIGN_START);
   gtk_widget_show(image);

@@ -1,5 +1,6 @@
 #include "app/FileField.h"
 #include "base/FileForSubprocess.h"
+#include "base/TokenString.h"
 #include "support/ScriptedDesktop.h"
 
 #include <gtest/gtest.h>
@@ -33,7 +34,8 @@ class FileFieldTest : public testing::Test {
       mirror.read();
     }
     FileForSubprocess file;
-    FileField mirror{file};
+    TokenString last;
+    FileField mirror{file, last};
   };
 
   test::ScriptedWindow window_{layout_, handler_};
@@ -102,7 +104,8 @@ TEST_F(FileFieldTest, ReadingRemembersThePreviousNameAndDropsArguments) {
 
 TEST_F(FileFieldTest, WritesTheNameQuotedOnlyForABlank) {
   FileForSubprocess file("x.java");
-  FileField mirror(file);
+  TokenString last;
+  FileField mirror(file, last);
   mirror.write("nobody sees this");
   mirror.bind(&window_, field);
   mirror.write();
@@ -117,7 +120,8 @@ TEST_F(FileFieldTest, WritesTheNameQuotedOnlyForABlank) {
 
 TEST_F(FileFieldTest, WithoutADialogReadingDoesNothing) {
   FileForSubprocess file("x.java");
-  FileField mirror(file);
+  TokenString last;
+  FileField mirror(file, last);
   file.args().push_back("a");
   mirror.read();
   EXPECT_EQ(file.name().fullName(), "x.java");
@@ -128,6 +132,22 @@ TEST_F(FileFieldTest, WithoutADialogReadingDoesNothing) {
   mirror.bind(nullptr, 0);
   mirror.read();
   EXPECT_EQ(file.name().fullName(), "x.java");
+}
+
+TEST_F(FileFieldTest, WithoutADialogTheLastFilesAreRememberedAndOfferedLater) {
+  FileForSubprocess file("x.java");
+  TokenString last;
+  FileField mirror(file, last);
+  mirror.remember();
+  mirror.takeChosen();
+  EXPECT_EQ(last.elements(), std::vector<std::string>{"x.java"});
+  mirror.bind(&window_, field);
+  EXPECT_TRUE(window_.entries(field).empty());
+  mirror.offer();
+  EXPECT_EQ(window_.entries(field), std::vector<std::string>{"x.java"});
+  window_.select(field, 0);
+  mirror.takeChosen();
+  EXPECT_EQ(window_.text(field), "x.java");
 }
 
 TEST_F(FileFieldTest, APastedLineEndIsABlank) {

@@ -174,7 +174,7 @@ class SettingsRowsTest : public SettingsFixture {
 TEST_F(SettingsRowsTest, The111RowsHaveTheirTagsKindsPagesOwnersAndControlsInTheOrderOfTheFile) {
   const auto& rows = settings().tagRows;
   ASSERT_EQ(std::size(expected), 111U);
-  ASSERT_EQ(rows.size(), 123U);
+  ASSERT_EQ(rows.size(), 126U);
   for (std::size_t i = 0; i < 111; ++i) {
     EXPECT_STREQ(rows[i].tag, expected[i].tag);
     EXPECT_EQ(rows[i].kind(), expected[i].kind) << expected[i].tag;
@@ -261,8 +261,39 @@ TEST_F(SettingsRowsTest, BehindThemStandTheRowsThatCameLater) {
   EXPECT_EQ(rows[121].owner, 148);
   EXPECT_EQ(rows[121].control, 2160);
   EXPECT_TRUE(rows[121].isLater);
-  EXPECT_EQ(rows[122].kind(), TAG_END);
-  EXPECT_STREQ(rows[122].tag, "");
+  const char* const lists[] = {"LAST_SOURCES", "LAST_CLASSES", "LAST_PAGES"};
+  for (std::size_t i = 0; i < std::size(lists); ++i) {
+    const TagRow& row = rows[122 + i];
+    EXPECT_STREQ(row.tag, lists[i]);
+    EXPECT_EQ(row.kind(), TAG_STRINGABLE);
+    EXPECT_EQ(row.defaultText, nullptr);
+    EXPECT_EQ(row.owner, 0);
+    EXPECT_TRUE(row.isLater);
+  }
+  EXPECT_EQ(rows[125].kind(), TAG_END);
+  EXPECT_STREQ(rows[125].tag, "");
+}
+
+TEST_F(SettingsRowsTest, TheLastFilesAreKeptInTheFileOnlyWhereThereAreSome) {
+  const std::vector<std::string> files = {"/a b/\xC3\x9C\xE6\x97\xA5.java", "x;y]z\".java"};
+  for (const auto& file : files) settings().lastSources.add(file);
+  settings().lastPages.add("C:\\page.html");
+  settings().saveDefaultConfiguration();
+  EXPECT_TRUE(contentOf(configFile())
+                  .ends_with(onDisk("\nLAST_SOURCES  /a b/\xC3\x9C\xE6\x97\xA5.java;x];y]]z\".java\n"
+                                    "LAST_PAGES  C:\\page.html\n")));
+  const auto read = freshSettings();
+  int status = -1;
+  read->readDefaultConfiguration(status);
+  EXPECT_EQ(status, 0);
+  EXPECT_EQ(read->lastSources.elements(), files);
+  EXPECT_EQ(read->lastClasses.count(), 0);
+  EXPECT_EQ(read->lastPages.elements(), std::vector<std::string>{"C:\\page.html"});
+  read->resetAll();
+  EXPECT_EQ(read->lastSources.count(), 0);
+  settings().lastSources = settings().lastPages = TokenString();
+  settings().saveDefaultConfiguration();
+  EXPECT_EQ(contentOf(configFile()).find("LAST_SOURCES"), std::string::npos);
 }
 
 TEST_F(SettingsRowsTest, ARowThatCameLaterIsKeptInTheFileOnlyWhereItIsUsed) {

@@ -7,6 +7,7 @@
 #include <wx/dialog.h>
 #include <wx/textctrl.h>
 
+#include <algorithm>
 #include <map>
 #include <memory>
 
@@ -26,6 +27,11 @@ Bytes rimOf(const wxWindow& window) {
     rim.insert(rim.end(), picture.GetData(), picture.GetData() + std::ptrdiff_t{3} * side.width * side.height);
   }
   return rim;
+}
+
+/// As the window system leaves what nobody has painted yet.
+bool isEmpty(const Bytes& rim) {
+  return std::all_of(rim.begin(), rim.end(), [](unsigned char colour) { return colour == 0xFF; });
 }
 
 class PanelsWindowTest : public PanelsFixture, public testing::WithParamInterface<View> {
@@ -78,6 +84,11 @@ TEST_P(PanelsWindowTest, NoControlIsPaintedOverByItsGroup) {
     }
   };
   waitForView();
+  steps.until("the window system shows each of them", [&] {
+    bool shows = true;
+    eachControl([&](int, wxWindow& one) { shows = shows && !isEmpty(rimOf(one)); });
+    return shows;
+  });
   steps.settle(20);
   steps.then("look", [&] {
     eachControl([&](int control, wxWindow& one) {

@@ -53,7 +53,8 @@ class DropButton : public wxWindow {
 
   void onPaint(wxPaintEvent&) {
     wxPaintDC dc(this);
-    wxRendererNative::Get().DrawComboBoxDropButton(this, dc, wxRect(GetClientSize()), hot_ ? wxCONTROL_CURRENT : 0);
+    wxRendererNative::Get().DrawComboBoxDropButton(this, dc, wxRect(GetClientSize()),
+                                                   hot_ ? int{wxCONTROL_CURRENT} : 0);
   }
 
   void onMouse(wxMouseEvent& event) {

@@ -163,8 +163,8 @@ PanelPlaces PanelDlg::placesNow() {
   places.screenWidth = top.workArea().width();
   places.panel = LayoutItem::of(panel);
   places.tabControl = LayoutItem::of(panel, TAB_CONTROL);
-  places.firstGroup = LayoutItem::of(panel, FIRST_GROUP);
-  places.secondGroup = LayoutItem::of(panel, SECOND_GROUP);
+  places.firstGroup = narrowable(panel, FIRST_GROUP);
+  places.secondGroup = narrowable(panel, SECOND_GROUP);
   for (std::size_t i = 0; i < bars_.size(); ++i) {
     DialogWindow& bar = *bars_[i]->window();
     places.bars[i] = LayoutItem::of(bar);

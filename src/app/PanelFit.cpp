@@ -93,7 +93,7 @@ int shortenFields(PanelPlaces& places, int surplus) {
   return shorten(field, rest, field.leastWidth);
 }
 
-/// In one row the groups are as wide as what is in them.
+/// In one row the groups are as wide as what is in them, or their headings.
 void shortenOwn(PanelPlaces& places, int surplus, std::vector<int> (*least)(const Row&)) {
   auto rows = ownRows(places);
   int rest = surplus;
@@ -101,7 +101,9 @@ void shortenOwn(PanelPlaces& places, int surplus, std::vector<int> (*least)(cons
     const int share = rest / static_cast<int>(rows.size() - i);
     const int taken = share - shortenRow(rows[i], share, least(rows[i]));
     rest -= taken;
-    if (rows.size() == 2) (i == 0 ? places.firstGroup : places.secondGroup).right -= taken;
+    if (rows.size() < 2) continue;
+    LayoutItem& group = i == 0 ? places.firstGroup : places.secondGroup;
+    shorten(group, taken, group.leastWidth);
   }
 }
 

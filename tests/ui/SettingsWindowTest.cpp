@@ -2,6 +2,7 @@
 #include "base/ProgramInfo.h"
 #include "platform/FileSystem.h"
 #include "platform/Path.h"
+#include "platform/SystemVersion.h"
 #include "process/ToolLog.h"
 #include "settings/JdkDiscovery.h"
 #include "settings/Settings.h"
@@ -35,7 +36,9 @@ std::ostream& operator<<(std::ostream& out, const NamedPage& page) {
 
 std::vector<NamedPage> allPages() {
   return {
-      {"tools", 0, {1041, 1006, 2002, 1017, 2120, 2150, 1204, 1205}},
+      {"tools", 0,
+       platform::isWindowsDesktop() ? std::vector<int>{1041, 1006, 2002, 1017, 2120, 2150, 2160, 1204, 1205}
+                                    : std::vector<int>{1041, 1006, 2002, 1017, 2120, 2150, 1204, 1205}},
       {"javac",
        1,
        {1026, 1024, 1044, 1027, 1021, 1022, 1269, 1264, 1265, 1266,

@@ -36,8 +36,8 @@ class SpokenName : public wxAccessible {
   wxString name_;
 };
 
-/// The toolkit repaints a strip along each edge, wider with finer pixels, and with it whatever stands in the strip.
-/// A frame that moves would carry along what it shows, which is to the system also the pixels of the controls within.
+/// The toolkit repaints a strip along each edge, and with it whatever stands in the strip; there is nothing to see.
+/// A group that moves would carry along what it shows, which is to the system also the pixels of the controls within.
 class Group : public wxStaticBox {
  public:
   using wxStaticBox::wxStaticBox;
@@ -48,9 +48,8 @@ class Group : public wxStaticBox {
   }
 
   void GetBordersForSizer(int* top, int* other) const override {
-    constexpr int line = 4;
     wxStaticBox::GetBordersForSizer(top, other);
-    *other = std::min(*other, line);
+    *other = 0;
   }
 
  protected:

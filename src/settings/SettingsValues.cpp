@@ -158,6 +158,7 @@ SettingsValues::SettingsValues(PlacedWindow* const& mainWindow) : windowPosition
       later(text("MESSAGES_PLACE", messagesPlace, nullptr, 0, 0, 0)),
       later(flag("WATCH_RUNS", watchRuns, false, TOOLS_PAGE, SETTINGS_DIALOG, 2120)),
       later(flag("STATUS_LINE", statusLine, false, TOOLS_PAGE, SETTINGS_DIALOG, 2150)),
+      later(flag("JDB_OWN_STREAMS", jdbOwnStreams, false, JDB_PAGE, SETTINGS_DIALOG, 2160)),
       endOfRows,
   };
   // clang-format on

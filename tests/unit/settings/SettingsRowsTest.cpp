@@ -174,7 +174,7 @@ class SettingsRowsTest : public SettingsFixture {
 TEST_F(SettingsRowsTest, The111RowsHaveTheirTagsKindsPagesOwnersAndControlsInTheOrderOfTheFile) {
   const auto& rows = settings().tagRows;
   ASSERT_EQ(std::size(expected), 111U);
-  ASSERT_EQ(rows.size(), 122U);
+  ASSERT_EQ(rows.size(), 123U);
   for (std::size_t i = 0; i < 111; ++i) {
     EXPECT_STREQ(rows[i].tag, expected[i].tag);
     EXPECT_EQ(rows[i].kind(), expected[i].kind) << expected[i].tag;
@@ -254,8 +254,15 @@ TEST_F(SettingsRowsTest, BehindThemStandTheRowsThatCameLater) {
   EXPECT_EQ(rows[120].owner, 148);
   EXPECT_EQ(rows[120].control, 2150);
   EXPECT_TRUE(rows[120].isLater);
-  EXPECT_EQ(rows[121].kind(), TAG_END);
-  EXPECT_STREQ(rows[121].tag, "");
+  EXPECT_STREQ(rows[121].tag, "JDB_OWN_STREAMS");
+  EXPECT_EQ(rows[121].kind(), TAG_BOOL);
+  EXPECT_EQ(rows[121].defaultNumber, 0);
+  EXPECT_EQ(rows[121].page, 173);
+  EXPECT_EQ(rows[121].owner, 148);
+  EXPECT_EQ(rows[121].control, 2160);
+  EXPECT_TRUE(rows[121].isLater);
+  EXPECT_EQ(rows[122].kind(), TAG_END);
+  EXPECT_STREQ(rows[122].tag, "");
 }
 
 TEST_F(SettingsRowsTest, ARowThatCameLaterIsKeptInTheFileOnlyWhereItIsUsed) {

@@ -1,11 +1,13 @@
 #include "console/TarnwickView.h"
 
+#include "base/NoThreadE.h"
 #include "console/ConsolePaint.h"
 #include "platform/FileSystem.h"
 #include "platform/Process.h"
 
 #include <algorithm>
 #include <optional>
+#include <system_error>
 #include <utility>
 
 namespace tarnwick {
@@ -64,6 +66,20 @@ void TarnwickView::makeChild() {
   if (program_.debugged) debugged_ = std::make_unique<DebuggedRun>(screen_, desktop_, program_, [this] { wake(); });
   child_ = std::make_unique<ConsoleChild>(screen_, desktop_, debugged_ ? debugged_->debuggersPart() : program_,
                                           [this] { wake(); });
+}
+
+void TarnwickView::startChildren() {
+  try {
+    if (debugged_) debugged_->watchOver(*child_);
+  } catch (const std::system_error&) {
+    return desktop_.message(NoThreadE().message);
+  }
+  child_->start();
+}
+
+void TarnwickView::closeChildren() {
+  if (debugged_) debugged_->close();
+  child_->close([this] { return consoleSearch_->close(); });
 }
 
 void TarnwickView::onStart(ConsoleSurface& surface) {

@@ -1,25 +1,9 @@
 // A debugger beside its program: who gets what is typed.
-#include "base/NoThreadE.h"
 #include "console/TarnwickView.h"
 
-#include <system_error>
 #include <utility>
 
 namespace tarnwick {
-
-void TarnwickView::startChildren() {
-  try {
-    if (debugged_) debugged_->watchOver(*child_);
-  } catch (const std::system_error&) {
-    return desktop_.message(NoThreadE().message);
-  }
-  child_->start();
-}
-
-void TarnwickView::closeChildren() {
-  if (debugged_) debugged_->close();
-  child_->close([this] { return consoleSearch_->close(); });
-}
 
 ConsoleChild& TarnwickView::reader() const {
   return target_ == InputTarget::Program ? debugged_->program() : *child_;

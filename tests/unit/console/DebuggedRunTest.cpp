@@ -87,6 +87,7 @@ TEST_F(DebuggedRunTest, TheProgramStartsWhenTheDebuggerTellsWhereItWaits) {
   EXPECT_EQ(commands[0].executable, "jdb");
   EXPECT_EQ(commands[0].arguments, listeningArguments("-sourcepath s"));
   jdb->err("Picked up JAVA_TOOL_OPTIONS: a:1\n");
+  ASSERT_TRUE(until([&] { return shows("Picked up JAVA_TOOL_OPTIONS: a:1"); }));
   jdb->out("Listening at address: local");
   ASSERT_TRUE(until([&] { return lastLine() == "Listening at address: local"; }));
   EXPECT_EQ(started(), 1U);

@@ -55,9 +55,6 @@ void InputBar::showChoice() {
     const InputChoice& choice = choices[i];
     buttons_[i]->SetBackgroundColour(shown(ground));
     buttons_[i]->SetForegroundColour(shown(choice.colour));
-    wxFont letters = GetFont();
-    if (choice.chosen) letters.MakeBold();
-    buttons_[i]->SetFont(letters);
     if (!choice.chosen) continue;
     buttons_[i]->SetValue(true);
     for (auto* const words : {label_, key_}) words->SetForegroundColour(shown(choice.colour));

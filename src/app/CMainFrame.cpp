@@ -2,6 +2,7 @@
 
 #include "app/LookMemory.h"
 #include "base/ProgramInfo.h"
+#include "console/DebuggedRun.h"
 #include "console/JdbCommands.h"
 #include "resources/Menu.h"
 #include "settings/Settings.h"
@@ -18,7 +19,16 @@ ConsoleProgram programOf(const ConsoleStart& start, const Settings& settings) {
   program.runArguments = start.runArguments;
   // However a debugger ends, the program that it has run is of no use without it, and nobody would know of it.
   program.leavesNothing = start.debugging;
+  if (!start.programFile.empty()) {
+    program.runArguments = listeningArguments(start.debuggerOptions);
+    program.debugged = DebuggedProgram{start.programFile, start.runArguments};
+  }
   return program;
+}
+
+/// Both tell where sources and classes lie.
+std::string allArguments(const ConsoleStart& start) {
+  return start.debuggerOptions.empty() ? start.runArguments : start.debuggerOptions + start.runArguments;
 }
 
 }  // namespace
@@ -28,9 +38,11 @@ CMainFrame::CMainFrame(Desktop& desktop, Settings& settings, const ConsoleStart&
       debugging_(start.debugging),
       document_(start.title),
       files_(document_, desktop),
-      traceEditor_(settings, start.configFile, start.runArguments),
+      traceEditor_(settings, start.configFile, allArguments(start)),
       view_(document_, desktop, programOf(start, settings),
-            [&settings](int group, int index) { return settings.functionKeys.key(group, index); }) {
+            [&settings](int group, int index) { return settings.functionKeys.key(group, index); }),
+      acceleratorsOfTwo_(plainAccelerators()) {
+  acceleratorsOfTwo_.push_back({true, false, Accelerator::Key::Tab, 0, COMMAND_OTHER_INPUT});
   view_.openTracesBy([this](const TraceLink& trace) { traceEditor_.open(trace); });
   if (!view_.ofToday()) return;
   const ProgramInfo& info = settings.context().program;
@@ -88,6 +100,16 @@ bool CMainFrame::commandEnabled(int command) const {
     default:
       return debugging_ && command != COMMAND_CUT;
   }
+}
+
+std::vector<InputChoice> CMainFrame::inputChoices() const {
+  if (!view_.hasTwoInputs()) return {};
+  const auto choice = [this](const char* label, const char* toolTip, int command, InputTarget target) {
+    return InputChoice{label, toolTip, view_.colourOf(target), command, view_.inputTarget() == target};
+  };
+  return {choice("to jdb", "What you type goes to the debugger.", COMMAND_INPUT_TO_DEBUGGER, InputTarget::Debugger),
+          choice("to program", "What you type goes to the program, which reads it as its input.",
+                 COMMAND_INPUT_TO_PROGRAM, InputTarget::Program)};
 }
 
 bool CMainFrame::commandMarked(int command) const {
@@ -173,6 +195,15 @@ void CMainFrame::onCommand(int command) {
       break;
     case COMMAND_DEBUGGING_HELP:
       settings_.context().showHelp("#jdb");
+      break;
+    case COMMAND_OTHER_INPUT:
+      view_.directInput(view_.inputTarget() == InputTarget::Program ? InputTarget::Debugger : InputTarget::Program);
+      break;
+    case COMMAND_INPUT_TO_DEBUGGER:
+      view_.directInput(InputTarget::Debugger);
+      break;
+    case COMMAND_INPUT_TO_PROGRAM:
+      view_.directInput(InputTarget::Program);
       break;
     case COMMAND_EXIT:
       view_.closeWindow();

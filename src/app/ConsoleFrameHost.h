@@ -7,8 +7,18 @@
 
 #include <memory>
 #include <string>
+#include <vector>
 
 namespace tarnwick {
+
+/// One of those who may get what is typed.
+struct InputChoice {
+  std::string label;
+  std::string toolTip;
+  Colour colour;    ///< of what it says
+  int command = 0;  ///< chooses it
+  bool chosen = false;
+};
 
 /// The rules of the console's frame: what its commands do and when they may be chosen.
 class ConsoleFrame {
@@ -18,6 +28,8 @@ class ConsoleFrame {
   virtual const std::vector<Accelerator>& accelerators() const = 0;
   /// Null for a frame without one.
   virtual const Toolbar* toolbar() const { return nullptr; }
+  /// Empty where what is typed goes to one alone.
+  virtual std::vector<InputChoice> inputChoices() const { return {}; }
   virtual std::string title() const = 0;
   /// True for a console of today, whose window looks after some things in its own way.
   virtual bool isOfToday() const { return false; }

@@ -118,6 +118,10 @@ bool TarnwickApp::parseSwitches(const std::string& line) {
       configFile_ = file;
     } else if (equalsIgnoringCase(found.name, "JDEBUG")) {
       debugging_ = true;
+    } else if (equalsIgnoringCase(found.name, "PROGRAM")) {
+      programFile_ = cleanedPath(platform::keptExecutable(found.value));
+    } else if (equalsIgnoringCase(found.name, "JDBOPTIONS")) {
+      debuggerOptions_ = found.value;
     } else if (equalsIgnoringCase(found.name, "TITLE")) {
       title_ = found.value;
     } else if (equalsIgnoringCase(found.name, "RUN")) {
@@ -148,7 +152,9 @@ bool TarnwickApp::readConsoleConfiguration(const std::string& commandLine) {
 
 int TarnwickApp::runConsole(const std::string& commandLine) {
   if (!readConsoleConfiguration(commandLine)) return START_FAILED;
-  CMainFrame frame(desktop_, settings_, {title_, exeFile_, runArguments_, debugging_, configFile_.name().fullName()});
+  CMainFrame frame(
+      desktop_, settings_,
+      {title_, exeFile_, runArguments_, debugging_, configFile_.name().fullName(), programFile_, debuggerOptions_});
   frameHost_.runConsoleFrame(frame);
   return 0;
 }

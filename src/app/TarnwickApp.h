@@ -41,6 +41,10 @@ class TarnwickApp {
   const std::string& title() const { return title_; }
   /// True for the console of a debugger.
   bool debugging() const { return debugging_; }
+  /// What runs the program that the debugger takes hold of; empty if the debugger runs it. RUN is its command line
+  /// then, and the other what the debugger is told besides.
+  const std::string& programFile() const { return programFile_; }
+  const std::string& debuggerOptions() const { return debuggerOptions_; }
   /// What CFG named; without name and mode before.
   const Tarnwickfile& configFile() const { return configFile_; }
   /// What opens ".ZIP" files here, as the system told at construction; its command text is empty if nothing does.
@@ -74,6 +78,8 @@ class TarnwickApp {
   std::string runArguments_;
   std::string exeFile_;
   std::string title_;
+  std::string programFile_;
+  std::string debuggerOptions_;
   bool debugging_ = false;
   bool shellRegistered_ = false;
 };

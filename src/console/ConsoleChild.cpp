@@ -9,6 +9,8 @@
 
 #include <cstdio>
 #include <exception>
+#include <optional>
+#include <string_view>
 #include <system_error>
 #include <utility>
 
@@ -33,8 +35,8 @@ ConsoleChild::ConsoleChild(ConsoleScreen& screen, Desktop& desktop, ConsoleProgr
       desktop_(desktop),
       program_(std::move(program)),
       wake_(std::move(wake)),
-      stdoutReader_(screen, KIND_OUTPUT),
-      stderrReader_(screen, KIND_ERROR),
+      stdoutReader_(screen, program_.part.outputKind),
+      stderrReader_(screen, program_.part.errorKind),
       writer_(desktop) {}
 
 ConsoleChild::~ConsoleChild() {
@@ -43,10 +45,14 @@ ConsoleChild::~ConsoleChild() {
 
 void ConsoleChild::start() {
   try {
-    runThread_ = program_.thread([this] { run(); });
+    startThread();
   } catch (const std::system_error&) {
     desktop_.message(NoThreadE().message);
   }
+}
+
+void ConsoleChild::startThread() {
+  runThread_ = program_.thread([this] { run(); });
 }
 
 void ConsoleChild::write(std::string bytes) {
@@ -63,6 +69,12 @@ void ConsoleChild::stop(const std::function<bool()>& askToEnd) {
   if (childState_ != 1) return;
   stopped_ = true;
   endTree(askToEnd);
+}
+
+void ConsoleChild::endWithOther() {
+  const std::lock_guard guard(stateLock_);
+  endsWithOther_ = true;
+  if (childState_ == 1) process_->endTree();
 }
 
 void ConsoleChild::close(const std::function<bool()>& askToEnd) {
@@ -98,28 +110,42 @@ void ConsoleChild::endTree(const std::function<bool()>& askToEnd) {
   }
 }
 
-void ConsoleChild::run() {
+bool ConsoleChild::runToEnd() {
   try {
     if (program_.runArguments.find(" -verbose ") != std::string::npos) echoCommand();
-    if (!startProcess()) return;
+    if (!startProcess()) return false;
   } catch (const std::exception&) {
     endWithMessage("Can't open " + program_.exeFile + ".\nCheck java path in settings.");
-    return;
+    return false;
   }
   try {
     startReaders();
   } catch (const std::system_error&) {
     endWithMessage(NoThreadE().message);
-    return;
+    return false;
   }
   wake();
   process_->wait();
-  if (stopping()) return;
+  if (stopping()) return false;
   noteEnd();
+  if (program_.part.onEnd) program_.part.onEnd();
   // What is left to do has time: the readers bring the last words first.
   platform::lowerThreadPriority();
   std::fflush(nullptr);
-  if (!awaitLastWords() || !settle()) return;
+  return awaitLastWords() && settle();
+}
+
+void ConsoleChild::run() {
+  const ConsolePart& part = program_.part;
+  const bool hasRun = runToEnd();
+  if (stopping()) return;
+  if (!hasRun && part.onEnd) part.onEnd();
+  if (part.onLastWord && !part.onLastWord()) return;
+  if (!hasRun || stopping()) return;
+  if (!part.tellsEnd) {
+    childState_ = 0;
+    return wake();
+  }
   if (totalOutputBytes_ == 0 && program_.closesSilently) {
     // A child that said nothing leaves no console behind.
     childState_ = 0;
@@ -155,7 +181,8 @@ bool ConsoleChild::startProcess() {
   std::unique_ptr<platform::ChildProcess> process;
   try {
     // By its title, in the letters that the executable's path has here, the child's console window is found later.
-    process = program_.start({program_.exeFile, program_.runArguments, true, program_.exeFile,
+    process = program_.start({program_.exeFile, program_.runArguments, true,
+                              program_.part.ownWindow ? std::optional(program_.exeFile) : std::nullopt,
                               [this](const platform::SystemError& fault) { report(fault); }, program_.leavesNothing});
   } catch (const platform::SystemError& error) {
     const std::string text = "Can't start " + shownExecutable(program_.exeFile) + "\n" + error.text();
@@ -166,6 +193,7 @@ bool ConsoleChild::startProcess() {
   process_ = std::move(process);
   began_ = std::chrono::steady_clock::now();
   childState_ = 1;
+  if (endsWithOther_) process_->endTree();
   if (!stopping_) return true;
   // The window was closed while the child started.
   process_->endTree();
@@ -179,8 +207,10 @@ void ConsoleChild::report(const platform::SystemError& fault) {
 void ConsoleChild::startReaders() {
   using Stream = platform::ChildProcess::Stream;
   // Both lines begin before either thread runs: one that came late would cut what the other has brought.
-  stdoutReader_.begin();
-  stderrReader_.begin();
+  if (program_.part.beginsLine) {
+    stdoutReader_.begin();
+    stderrReader_.begin();
+  }
   stdoutThread_ = program_.thread([this] { read(Stream::Output, stdoutReader_); });
   stderrThread_ = program_.thread([this] { read(Stream::Error, stderrReader_); });
   writer_.start(*process_, program_.thread);
@@ -199,6 +229,8 @@ void ConsoleChild::read(platform::ChildProcess::Stream stream, OutputReader& rea
         continue;
       }
       if (count == 0) break;
+      if (stream == platform::ChildProcess::Stream::Output && program_.part.onOutput)
+        program_.part.onOutput({block, count});
       handle(reader, block, count);
     } catch (const std::exception&) {
       // For the same reason reading goes on.

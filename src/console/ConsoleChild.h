@@ -33,6 +33,10 @@ class ConsoleChild {
   /// Starts the child run thread, once.
   void start();
 
+  /// The same as the word of another child brings it about. Any thread; throws std::system_error if there is no thread
+  /// to be had.
+  void startThread();
+
   /// Bytes for the child's standard input, as one write.
   void write(std::string bytes);
 
@@ -42,6 +46,10 @@ class ConsoleChild {
 
   /// Ends the child with all that it started, if it runs, in the way of `close`; its end is told as any other.
   void stop(const std::function<bool()>& askToEnd = [] { return false; });
+
+  /// The same at once, as the end of another child brings it about; one that is about to start ends as soon as it runs.
+  /// Any thread.
+  void endWithOther();
 
   /// Ends the child with all that it started, if it runs, and waits for the threads. `askToEnd` is called first, by
   /// this thread; where it asks the child to end by itself and gives true, the child is given a little time for that.
@@ -55,6 +63,8 @@ class ConsoleChild {
 
  private:
   void run();
+  /// Until its last words are in the text. False if it has not come to run, or the console closes meanwhile.
+  bool runToEnd();
   void echoCommand();
   bool startProcess();
   void report(const platform::SystemError& fault);
@@ -88,6 +98,7 @@ class ConsoleChild {
   std::mutex stateLock_;  ///< of `process_` while it is set, and of what follows
   std::condition_variable stateChanged_;
   bool stopping_ = false;
+  bool endsWithOther_ = false;
   bool outputEnded_[2] = {false, false};
   std::uint64_t handled_[2] = {0, 0};  ///< bytes of either stream that are in the text
   std::unique_ptr<platform::ChildProcess> process_;

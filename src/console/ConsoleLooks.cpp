@@ -19,13 +19,13 @@ constexpr Colour yellow{255, 224, 102};
 }  // namespace
 
 // The banner's light green could hardly be read on white: it has a dark ground of its own.
-const ConsolePalette classicPalette{white,           black,        {0, 0, 255}, {255, 0, 0}, {brightGreen, black},
-                                    {black, yellow}, {0, 102, 204}};
-const ConsolePalette lightPalette{white,           black,       {0, 0, 255}, {176, 0, 0}, {brightGreen, black},
-                                  {black, yellow}, {0, 88, 176}};
-const ConsolePalette darkPalette{
-    darkGround,      {222, 222, 222}, {130, 180, 255}, {255, 140, 140}, {{90, 220, 90}, darkGround},
-    {black, yellow}, {130, 180, 255}};
+const ConsolePalette classicPalette{
+    white, black, {0, 0, 255}, {255, 0, 0}, {125, 0, 150}, {brightGreen, black}, {black, yellow}, {0, 102, 204}};
+const ConsolePalette lightPalette{
+    white, black, {0, 0, 255}, {176, 0, 0}, {125, 0, 150}, {brightGreen, black}, {black, yellow}, {0, 88, 176}};
+const ConsolePalette darkPalette{darkGround,      {222, 222, 222}, {130, 180, 255},
+                                 {255, 140, 140}, {220, 165, 255}, {{90, 220, 90}, darkGround},
+                                 {black, yellow}, {130, 180, 255}};
 
 StyledColours ConsolePalette::of(int kind) const {
   switch (kind) {
@@ -33,6 +33,8 @@ StyledColours ConsolePalette::of(int kind) const {
       return {output, ground};
     case KIND_ERROR:
       return {error, ground};
+    case KIND_DEBUGGER:
+      return {debugger, ground};
     case KIND_BANNER:
       return banner;
     default:

@@ -31,6 +31,7 @@ struct ConsolePalette {
   Colour typed;
   Colour output;
   Colour error;
+  Colour debugger;
   StyledColours banner;
   StyledColours mark;  ///< what the search has found
   Colour link;         ///< under a place that a click opens

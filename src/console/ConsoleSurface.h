@@ -72,6 +72,9 @@ class ConsoleSurface {
   /// Brings the view to the top and the frame that it is in to the foreground. Gives the frame.
   virtual platform::WindowNumber bringToFront() = 0;
 
+  /// Shows who gets what is typed, where there is a choice.
+  virtual void showInputTarget() {}
+
   /// Gives the frame that the view is in another title.
   virtual void setTitle(const std::string& title) = 0;
 

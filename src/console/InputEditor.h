@@ -27,6 +27,8 @@ class InputEditor {
   void append(const std::string& text) { pendingInput_ += text; }
   /// Ends the input once all that has been appended is worked off; a line that has no Return yet goes before that.
   void endInput() { endWanted_ = true; }
+  /// True if something waits that has been appended.
+  bool hasPending() const { return handled_ < pendingInput_.size() || endWanted_; }
   /// Forgets what has been appended and not worked off.
   void dropPending();
 

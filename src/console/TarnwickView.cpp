@@ -1,18 +1,19 @@
 #include "console/TarnwickView.h"
 
+#include "base/NoThreadE.h"
 #include "console/ConsolePaint.h"
 #include "platform/FileSystem.h"
 #include "platform/Process.h"
 
 #include <algorithm>
 #include <optional>
+#include <system_error>
 #include <utility>
 
 namespace tarnwick {
 namespace {
 
 constexpr int blinkPeriod = 700;
-constexpr int continuePause = 100;
 constexpr int hintTime = 8000;
 constexpr std::size_t longestReason = 512;
 
@@ -47,7 +48,10 @@ TarnwickView::TarnwickView(TarnwickDoc& document, Desktop& desktop, ConsoleProgr
       screen_(document, program.today),
       program_(std::move(program)),
       shownTitle_(document.title()),
-      editor_(screen_, [this](std::string bytes) { child_->write(std::move(bytes)); }, {[this] { endChildsInput(); }}) {
+      editors_{InputEditor(screen_, [this](std::string bytes) { child_->write(std::move(bytes)); },
+                           {[this] { endChildsInput(); }}),
+               InputEditor(screen_, [this](std::string bytes) { debugged_->program().write(std::move(bytes)); },
+                           {[this] { endChildsInput(); }})} {
   makeChild();
 }
 
@@ -57,7 +61,25 @@ TarnwickView::~TarnwickView() {
 
 void TarnwickView::makeChild() {
   consoleSearch_ = std::make_unique<ConsoleWindowSearch>(desktop_, program_, [this] { return child_->childState(); });
-  child_ = std::make_unique<ConsoleChild>(screen_, desktop_, program_, [this] { wake(); });
+  child_.reset();
+  debugged_.reset();
+  if (program_.debugged) debugged_ = std::make_unique<DebuggedRun>(screen_, desktop_, program_, [this] { wake(); });
+  child_ = std::make_unique<ConsoleChild>(screen_, desktop_, debugged_ ? debugged_->debuggersPart() : program_,
+                                          [this] { wake(); });
+}
+
+void TarnwickView::startChildren() {
+  try {
+    if (debugged_) debugged_->watchOver(*child_);
+  } catch (const std::system_error&) {
+    return desktop_.message(NoThreadE().message);
+  }
+  child_->start();
+}
+
+void TarnwickView::closeChildren() {
+  if (debugged_) debugged_->close();
+  child_->close([this] { return consoleSearch_->close(); });
 }
 
 void TarnwickView::onStart(ConsoleSurface& surface) {
@@ -65,7 +87,7 @@ void TarnwickView::onStart(ConsoleSurface& surface) {
   if (look_.letters != 0) surface_->setLetters(look_.letters);
   if (!surface_->hasFont()) desktop_.message("Error creating font");
   if (!measure()) desktop_.message("Error getting font metrics");
-  if (child_->childState() == -1) child_->start();
+  if (child_->childState() == -1) startChildren();
   {
     const TextGuard guard(screen_.lock());
     breakLines();
@@ -83,7 +105,7 @@ void TarnwickView::onClose() {
   stopTimer(continueTimer_);
   stopTimer(hintTimer_);
   consoleSearch_->stop();
-  child_->close([this] { return consoleSearch_->close(); });
+  closeChildren();
   surface_ = nullptr;
   const std::string fault = screen_.document.stopRecording();
   if (!fault.empty()) desktop_.message(fault);
@@ -260,7 +282,7 @@ bool TarnwickView::onKey(ConsoleKey key, int modifiers) {
   followAgain();
   {
     const TextGuard guard(screen_.lock());
-    editor_.navigate(key);
+    editor().navigate(key);
   }
   apply(takeChanges());
   return true;
@@ -268,7 +290,7 @@ bool TarnwickView::onKey(ConsoleKey key, int modifiers) {
 
 void TarnwickView::onCharacter(const std::string& character, int repeatCount) {
   if (character != std::string(1, '\0')) {
-    for (int count = 0; count < repeatCount; ++count) editor_.append(character);
+    for (int count = 0; count < repeatCount; ++count) editor().append(character);
   }
   continueInput();
 }
@@ -282,9 +304,10 @@ void TarnwickView::continueInput() {
   bool more = false;
   {
     const TextGuard guard(screen_.lock());
-    more = editor_.drain();
+    more = editor().drain();
   }
   apply(takeChanges());
+  if (!more) turnBack();
   if (!more || !surface_) return;
   // The child's answer to a line has time to appear before the next one goes.
   stopTimer(continueTimer_);
@@ -297,7 +320,7 @@ void TarnwickView::resumeInput() {
 }
 
 void TarnwickView::appendInput(const std::string& text) {
-  editor_.append(text);
+  editor().append(text);
   continueInput();
 }
 
@@ -310,6 +333,10 @@ void TarnwickView::sendKeys(const std::string& text) {
     } else {
       keys += text[place];
     }
+  }
+  if (debugged_ && target_ == InputTarget::Program && !text.empty()) {
+    turnsBack_ = true;
+    turnInput(InputTarget::Debugger);
   }
   appendInput(keys);
 }

@@ -7,12 +7,14 @@
 #include "console/ConsoleSelection.h"
 #include "console/ConsoleSurface.h"
 #include "console/ConsoleWindowSearch.h"
+#include "console/DebuggedRun.h"
 #include "console/InputEditor.h"
 #include "console/TarnwickDoc.h"
 #include "console/TextSearch.h"
 #include "console/TraceLink.h"
 #include "dialogbase/Desktop.h"
 
+#include <array>
 #include <atomic>
 #include <cstdint>
 #include <functional>
@@ -29,6 +31,9 @@ using FunctionKeyLookup = std::function<std::string(int group, int index)>;
 
 /// Hears how the text looked, and how it looks now that the user has changed that.
 using LookListener = std::function<void(const TextLook& before, const TextLook& now)>;
+
+/// Who gets what is typed.
+enum class InputTarget { Debugger, Program };
 
 /// The console: shows the document, lets the user edit one input line at its end, and runs the child.
 /// User-interface thread only.
@@ -54,6 +59,16 @@ class TarnwickView : public ConsoleSurfaceClient {
   int childState() const { return child_->childState(); }
   const ConsoleWindowSearch& consoleSearch() const { return *consoleSearch_; }
 
+  // What only a console has whose debugger stands beside its program.
+
+  bool hasTwoInputs() const { return debugged_ != nullptr; }
+  InputTarget inputTarget() const { return target_; }
+  /// Whatever is typed goes there from now on. What stands in the line stays for whom it was typed, and comes back with
+  /// the choice of that.
+  void directInput(InputTarget target);
+  /// The colour of what the target says, on the ground.
+  Colour colourOf(InputTarget target) const;
+
   // What only the console of today has.
 
   bool ofToday() const { return screen_.today; }
@@ -65,7 +80,7 @@ class TarnwickView : public ConsoleSurfaceClient {
   /// Lets the text go but for the line that is being written.
   void clear();
   void endInput();
-  bool canEndInput() const { return childState() == 1 && !child_->inputEnded(); }
+  bool canEndInput() const { return childState() == 1 && !reader().inputEnded(); }
   /// Ends the program if the user, who is asked, wants that.
   void askToStop();
   bool canStop() const { return childState() == 1; }
@@ -104,6 +119,8 @@ class TarnwickView : public ConsoleSurfaceClient {
   void onClose() override;
 
  private:
+  static constexpr int continuePause = 100;
+
   /// What a refresh needs of the text, taken under the text lock and used without it.
   struct Snapshot {
     ConsoleChanges changes;
@@ -167,6 +184,13 @@ class TarnwickView : public ConsoleSurfaceClient {
   void follow(const Snapshot& snapshot);
   void followBroken(const Snapshot& snapshot);
   void invalidateTail(const ConsoleChanges& changes, const Point& position, const Point& client);
+  /// The child that gets what is typed.
+  ConsoleChild& reader() const;
+  InputEditor& editor() { return editors_[static_cast<std::size_t>(target_)]; }
+  void turnInput(InputTarget target);
+  void turnBack();
+  void closeChildren();
+  void startChildren();
   void continueInput();
   void resumeInput();
   void appendInput(const std::string& text);
@@ -189,7 +213,8 @@ class TarnwickView : public ConsoleSurfaceClient {
   std::atomic<bool> wakePending_{false};
   ConsoleProgram program_;
   std::unique_ptr<ConsoleWindowSearch> consoleSearch_;
-  std::unique_ptr<ConsoleChild> child_;
+  std::unique_ptr<DebuggedRun> debugged_;
+  std::unique_ptr<ConsoleChild> child_;  ///< it goes before the one above, which hears of it
   std::string shownTitle_;
   TextSearch search_;
   std::function<void(const TraceLink&)> openTrace_;
@@ -197,7 +222,13 @@ class TarnwickView : public ConsoleSurfaceClient {
   TextLook look_;
   TopPlace top_;
   LookListener lookChanged_;
-  InputEditor editor_;
+  /// By `InputTarget`: one that reads the input alone gets what a debugger would.
+  std::array<InputEditor, 2> editors_;
+  InputTarget target_ = InputTarget::Debugger;
+  /// What was begun for the other of the two.
+  std::optional<ConsoleSegment> begunLine_;
+  /// A command of the debugger's, by button or key, has turned the input for as long as it takes.
+  bool turnsBack_ = false;
 
   int scrollColumns_ = 0;
   int scrollRows_ = 0;

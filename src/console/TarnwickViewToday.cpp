@@ -11,7 +11,10 @@ namespace tarnwick {
 void TarnwickView::showTitle() {
   if (!screen_.today || !surface_) return;
   std::string title = screen_.document.title();
-  if (childState() == 0) title = titleAtEnd(title, child_->howItEnded());
+  if (childState() == 0) {
+    const bool program = debugged_ && debugged_->programEndedFirst();
+    title = titleAtEnd(title, program ? debugged_->program().howItEnded() : child_->howItEnded());
+  }
   if (holdsStill()) title += " - scrolled back";
   if (title == shownTitle_) return;
   shownTitle_ = title;
@@ -131,12 +134,12 @@ void TarnwickView::clear() {
 
 void TarnwickView::endInput() {
   if (!canEndInput()) return;
-  editor_.endInput();
+  editor().endInput();
   continueInput();
 }
 
 void TarnwickView::endChildsInput() {
-  if (canEndInput()) child_->endInput();
+  if (canEndInput()) reader().endInput();
 }
 
 void TarnwickView::askToStop() {
@@ -148,15 +151,16 @@ void TarnwickView::askToStop() {
 void TarnwickView::runAgain() {
   if (!surface_ || !canRunAgain()) return;
   stopTimer(continueTimer_);
-  editor_.dropPending();
+  for (auto& editor : editors_) editor.dropPending();
   consoleSearch_->stop();
+  if (debugged_) debugged_->close();
   child_->close();
   // The window shows what was said before, so it stays however quiet the program is this time.
   program_.closesSilently = false;
   makeChild();
   followAgain();
   showTitle();
-  child_->start();
+  startChildren();
 }
 
 }  // namespace tarnwick

@@ -20,7 +20,7 @@ struct Menu {
 using MenuBar = std::vector<Menu>;
 
 struct Accelerator {
-  enum class Key { Letter, Insert, Delete, Break, F3, Plus, Minus, Zero };
+  enum class Key { Letter, Insert, Delete, Break, F3, Plus, Minus, Zero, Tab };
   bool control = false;
   bool shift = false;
   Key key = Key::Letter;
@@ -52,6 +52,9 @@ enum ConsoleCommand {
   COMMAND_SMALLER_LETTERS = 32862,
   COMMAND_USUAL_LETTERS = 32863,
   COMMAND_WRAP_LINES = 32864,
+  COMMAND_OTHER_INPUT = 32865,
+  COMMAND_INPUT_TO_DEBUGGER = 32866,
+  COMMAND_INPUT_TO_PROGRAM = 32867,
   COMMAND_JDB_HELP = 32818,
   COMMAND_HELP = 32817,
   COMMAND_ABOUT = 57664,

@@ -158,10 +158,11 @@ SettingsValues::SettingsValues(PlacedWindow* const& mainWindow) : windowPosition
       later(text("MESSAGES_PLACE", messagesPlace, nullptr, 0, 0, 0)),
       later(flag("WATCH_RUNS", watchRuns, false, TOOLS_PAGE, SETTINGS_DIALOG, 2120)),
       later(flag("STATUS_LINE", statusLine, false, TOOLS_PAGE, SETTINGS_DIALOG, 2150)),
-      later(flag("TOOLS_WITHOUT_CONSOLE", toolsWithoutConsole, false, TOOLS_PAGE, SETTINGS_DIALOG, 2160)),
+      later(flag("TOOLS_WITHOUT_CONSOLE", toolsWithoutConsole, false, TOOLS_PAGE, SETTINGS_DIALOG, 2170)),
       later(value("LAST_SOURCES", lastSources, nullptr, 0, 0, 0)),
       later(value("LAST_CLASSES", lastClasses, nullptr, 0, 0, 0)),
       later(value("LAST_PAGES", lastPages, nullptr, 0, 0, 0)),
+      later(flag("JDB_OWN_STREAMS", jdbOwnStreams, false, JDB_PAGE, SETTINGS_DIALOG, 2160)),
       endOfRows,
   };
   // clang-format on

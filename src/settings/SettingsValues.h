@@ -57,6 +57,7 @@ struct SettingsValues {
       javaAssertDisable, javaOptions;
   bool newerConsole = false;
   bool javaSystemAssertEnable = false, javaSystemAssertDisable = false, jdbLaunch = false;
+  bool jdbOwnStreams = false;
   FunctionKeys functionKeys;
 
   // appletviewer, editor, paths

@@ -10,7 +10,7 @@ namespace tarnwick {
 
 namespace {
 
-enum Control { LAUNCH = 1125, F5 = 1158, F6 = 1162, SHIFT = 1261, CTRL = 1262, ALT = 1263 };
+enum Control { LAUNCH = 1125, OWN_STREAMS = 2160, F5 = 1158, F6 = 1162, SHIFT = 1261, CTRL = 1262, ALT = 1263 };
 
 /// What the modifiers add to the number of a group.
 enum Modifier { WITH_SHIFT = 1, WITH_CTRL = 2, WITH_ALT = 4 };
@@ -21,6 +21,10 @@ constexpr std::array<int, 8> keyFields = {F5, F6, 1163, 1164, 1166, 1167, 1168, 
 std::vector<ToolTip> jdbToolTips() {
   std::vector<ToolTip> tips = {
       {LAUNCH, "Launch application upon jdb startup (removes the need for the run command)"},
+      {OWN_STREAMS,
+       "A program that reads its input can be debugged: java runs it, and jdb takes hold of it. In the console you "
+       "choose "
+       "who gets what you type. The program always waits at its start; run or cont lets it go on."},
       {F6, "String sent to jdb when pressing key F6 (Alt+F6 and Alt+Shift+F6 not available on Win98!)"},
       {SHIFT, "Function key definitions for Shift+Functionkey. Shift/Ctrl/Alt combinations possible"},
       {CTRL, "Function key definitions for Ctrl+Functionkey. Shift/Ctrl/Alt combinations possible"},

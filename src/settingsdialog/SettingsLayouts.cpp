@@ -41,7 +41,7 @@ const DialogLayout& toolsPageLayout() {
                       radioButton(2111, "Messages window"), space()})}),
           checkBox(2120, "Show a tool that runs long, with a way to stop it"),
           checkBox(2150, "Status line (what runs, how it ended, project and configuration)"),
-          checkBox(2160, "Tools run without a console window of their own").collapsing(),
+          checkBox(2170, "Tools run without a console window of their own").collapsing(),
           group(0, " Create a shortcut to Tarnwick ",
                 {row({button(1204, "On Desktop"), button(1205, inSystemWords("In Startmenu ...")), space()})}),
       }),

@@ -123,6 +123,7 @@ const DialogLayout& jdbPageLayout() {
       173, "", false,
       column({
           checkBox(1125, "launch option"),
+          checkBox(2160, "The program has its own input and output"),
           group(
               0, " Programmable function keys ",
               {

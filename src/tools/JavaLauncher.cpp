@@ -1,6 +1,7 @@
 #include "tools/JavaLauncher.h"
 
 #include "base/ProgramInfo.h"
+#include "base/Tarnwickexception.h"
 #include "dialogbase/Messages.h"
 #include "platform/Path.h"
 #include "process/Subprocess.h"
@@ -36,7 +37,8 @@ void addPaths(ArgumentList& list, const Settings& settings, const JavaRun& run,
               const std::optional<std::string>& classpath) {
   using platform::commandLineList;
   if (classpath) list.add("-classpath " + commandLineList(*classpath));
-  if (run.sourcepath) list.add("-sourcepath " + commandLineList(*run.sourcepath));
+  // Only a debugger asks for sources.
+  if (run.sourcepath && !run.ownStreams) list.add("-sourcepath " + commandLineList(*run.sourcepath));
   list.addValue("-Xbootclasspath:", commandLineList(settings.bootpath));
 }
 
@@ -52,11 +54,46 @@ void addAssertions(ArgumentList& list, const Settings& settings) {
   list.addIf(settings.javaSystemAssertDisable, "-disablesystemassertions");
 }
 
+/// The source path as `jdb` is told it where it has a command line of its own; empty for none.
+std::string debuggersSourcepath(const JavaRun& run) {
+  const std::string list = run.ownStreams ? platform::commandLineList(run.sourcepath.value_or("")) : "";
+  return list.empty() ? list : "-sourcepath " + list;
+}
+
+std::vector<std::string> switchesOf(const Settings& settings, const FileForSubprocess& file, const JavaRun& run) {
+  std::vector<std::string> switches = relaunchSwitches(settings, file, run.tool, run.debugging);
+  if (!run.ownStreams) return switches;
+  std::vector<std::string> more = {switchText("PROGRAM", jdkToolPath(settings, "java"))};
+  if (const std::string option = debuggersSourcepath(run); !option.empty())
+    more.push_back(switchText("JDBOPTIONS", option));
+  // Behind RUN nothing is a switch any more.
+  switches.insert(switches.end() - 1, more.begin(), more.end());
+  return switches;
+}
+
+/// True if the tools of the run are there and can be told what they are to be told. Shows why not.
+bool runReady(Settings& settings, const JavaRun& run) {
+  if (!relaunchReady(settings, run.tool)) return false;
+  if (!run.ownStreams) return true;
+  try {
+    refuseSwitchMark(platform::commandLineList(run.sourcepath.value_or("")));
+  } catch (const Tarnwickexception& failure) {
+    settings.context().desktop.message(failure.message);
+    return false;
+  }
+  return jdkToolReady(settings, "java");
+}
+
+/// Who takes the class's name and the options.
+std::string runnerOf(const JavaRun& run) {
+  return run.ownStreams ? "java" : run.tool;
+}
+
 /// Says what there is to know before the run. False if there can be none.
 bool tellOfTarget(const Settings& settings, const Filename& file, const JavaRun& run) {
-  const RunTarget target = runTargetOf(settings, file, run.tool);
+  const RunTarget target = runTargetOf(settings, file, runnerOf(run));
   if (!target.warning.empty()) settings.context().desktop.message(target.warning);
-  if (!run.debugging || !target.isArchive) return true;
+  if (!run.debugging || run.ownStreams || !target.isArchive) return true;
   settings.context().desktop.message("jdb can't run an archive: " + file.nameWithExtension() +
                                      "\nChoose the class file of the program's main class.");
   return false;
@@ -81,9 +118,10 @@ std::string debuggerOptions(const std::string& options) {
 
 std::vector<std::string> relaunchArguments(const Settings& settings, const FileForSubprocess& file,
                                            const JavaRun& run) {
-  const RunTarget target = runTargetOf(settings, file.name(), run.tool);
+  const RunTarget target = runTargetOf(settings, file.name(), runnerOf(run));
+  const bool forDebugger = run.debugging && !run.ownStreams;
   const std::string& profile = settings.javaXrunhprof;
-  ArgumentList list(relaunchSwitches(settings, file, run.tool, run.debugging));
+  ArgumentList list(switchesOf(settings, file, run));
   list.addIf(settings.javaXfuture, "-Xfuture");
   list.addIf(settings.javaXprof, "-Xprof");
   list.addIf(settings.javaJniValidate, "-Xcheck:jni");
@@ -94,15 +132,15 @@ std::vector<std::string> relaunchArguments(const Settings& settings, const FileF
   list.addValue("-Xss", settings.javaXss);
   list.addValue("", settings.javaProperty);
   list.addValue("", OptionList(garbageCollectorOptions, settings.javaGarbageCollector).option());
-  if (!run.debugging) addAssertions(list, settings);
+  if (!forDebugger) addAssertions(list, settings);
   list.addValue("", run.extraOption);
-  list.addValue("", run.debugging ? debuggerOptions(settings.javaOptions) : settings.javaOptions);
+  list.addValue("", forDebugger ? debuggerOptions(settings.javaOptions) : settings.javaOptions);
   list.add(target.words);
   return list.take();
 }
 
 void buildAndLaunch(Settings& settings, const FileForSubprocess& file, const JavaRun& run) {
-  if (!relaunchReady(settings, run.tool) || !tellOfTarget(settings, file.name(), run)) return;
+  if (!runReady(settings, run) || !tellOfTarget(settings, file.name(), run)) return;
   const auto& context = settings.context();
   DetachedSubprocess copy(context.desktop, context.log, context.program.programPath);
   for (const auto& argument : relaunchArguments(settings, file, run)) copy.addArg(argument);
@@ -121,7 +159,9 @@ void runJdb(Settings& settings, const FileForSubprocess& file, const std::option
   JavaRun run;
   run.tool = "jdb";
   run.debugging = true;
-  run.extraOption = settings.jdbLaunch ? "-launch" : "";
+  run.ownStreams = settings.jdbOwnStreams;
+  // The program that jdb takes hold of has been launched.
+  run.extraOption = settings.jdbLaunch && !run.ownStreams ? "-launch" : "";
   run.classpath = classpath;
   run.sourcepath = sourcepath;
   buildAndLaunch(settings, file, run);

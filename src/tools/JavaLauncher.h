@@ -17,10 +17,13 @@ struct JavaRun {
   std::string extraOption;
   std::optional<std::string> classpath = std::nullopt;
   std::optional<std::string> sourcepath = std::nullopt;
+  /// `java` runs the program, with an input and an output of its own, and `jdb` takes hold of it there.
+  bool ownStreams = false;
 };
 
 /// The arguments with which the program starts a second copy of itself as the console of this run. Every value with
-/// blanks travels between marks; behind RUN stands the child's command line.
+/// blanks travels between marks; behind RUN stands the child's command line. Where the program has its own streams that
+/// is the one of `java`, which PROGRAM names, and JDBOPTIONS holds what only `jdb` is told.
 std::vector<std::string> relaunchArguments(const Settings& settings, const FileForSubprocess& file, const JavaRun& run);
 
 /// The user's further options for `java`, as `jdb` takes them: what it does not hand on by itself gets "-R" in front.

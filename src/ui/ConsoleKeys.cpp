@@ -89,6 +89,8 @@ bool matches(const wxKeyEvent& event, const Accelerator& accelerator) {
       return event.GetKeyCode() == WXK_DELETE;
     case Accelerator::Key::F3:
       return event.GetKeyCode() == WXK_F3;
+    case Accelerator::Key::Tab:
+      return event.GetKeyCode() == WXK_TAB;
     case Accelerator::Key::Break:
       return isBreakKey(event);
     case Accelerator::Key::Letter:

@@ -2,6 +2,7 @@
 
 #include "ui/ConsoleKeys.h"
 #include "ui/Icons.h"
+#include "ui/InputBar.h"
 #include "ui/MessageBoxes.h"
 #include "ui/Text.h"
 #include "ui/WxConsoleSurface.h"
@@ -10,6 +11,7 @@
 #include <wx/evtloop.h>
 #include <wx/menu.h>
 #include <wx/settings.h>
+#include <wx/sizer.h>
 #include <wx/toolbar.h>
 
 namespace tarnwick::ui {
@@ -30,14 +32,19 @@ WxConsoleFrame::WxConsoleFrame(WindowStack& stack, Desktop& desktop, ConsoleFram
   buildToolbar();
   surface_ = new WxConsoleSurface(frame_.get(), stack_, desktop, rules_.view(), [this] { requestClose(); });
   if (rules_.isOfToday()) surface_->useTodaysWays();
-  const int bar = std::max(0, wxSystemSettings::GetMetric(wxSYS_VSCROLL_X, frame_.get()));
+  const int scrollBar = std::max(0, wxSystemSettings::GetMetric(wxSYS_VSCROLL_X, frame_.get()));
   // One column more for the margin at the left.
-  wxSize size((columns + 1) * surface_->cell().x + bar, rows * surface_->cell().y);
+  wxSize size((columns + 1) * surface_->cell().x + scrollBar, rows * surface_->cell().y);
   size += surface_->margins();
   // A debugger's buttons all show, however wide the system makes them.
   if (auto* const buttons = frame_->GetToolBar()) size.x = std::max(size.x, buttons->GetBestSize().x);
+  buildInputBar();
+  if (inputBar_) {
+    const wxSize bar = inputBar_->GetBestSize();
+    size = {std::max(size.x, bar.x), size.y + bar.y};
+  }
   frame_->SetClientSize(size);
-  surface_->SetSize(size);
+  if (!inputBar_) surface_->SetSize(size);
   frame_->Bind(wxEVT_CHAR_HOOK, &WxConsoleFrame::onKey, this);
   frame_->Bind(wxEVT_MENU_OPEN, [this](wxMenuEvent& event) {
     event.Skip();
@@ -53,6 +60,7 @@ WxConsoleFrame::WxConsoleFrame(WindowStack& stack, Desktop& desktop, ConsoleFram
   frame_->Bind(wxEVT_SYS_COLOUR_CHANGED, [this](wxSysColourChangedEvent& event) {
     event.Skip();
     surface_->invalidateAll();
+    if (inputBar_) inputBar_->showChoice();
   });
   frame_->Bind(wxEVT_ICONIZE, [this](wxIconizeEvent& event) {
     event.Skip();
@@ -113,6 +121,20 @@ void WxConsoleFrame::buildToolbar() {
   bar->Realize();
 }
 
+void WxConsoleFrame::buildInputBar() {
+  if (rules_.inputChoices().empty()) return;
+  inputBar_ = new InputBar(frame_.get(), rules_, [this](int number) {
+    command(number);
+    // What is chosen is typed next.
+    surface_->SetFocus();
+  });
+  surface_->showInputTargetBy([this] { inputBar_->showChoice(); });
+  auto* const column = new wxBoxSizer(wxVERTICAL);
+  column->Add(surface_, 1, wxEXPAND);
+  column->Add(inputBar_, 0, wxEXPAND);
+  frame_->SetSizer(column);
+}
+
 void WxConsoleFrame::updateMenus() {
   guarded(stack_, [this] {
     for (const auto& [id, number] : commandOfId_) {
@@ -160,6 +182,7 @@ void WxConsoleFrame::run() {
   });
   place_ = &place;
   surface_->start();
+  if (inputBar_) inputBar_->showChoice();
   updateMenus();
   if (!ended) {
     frame_->Show();

@@ -14,6 +14,7 @@ class Desktop;
 
 namespace tarnwick::ui {
 
+class InputBar;
 class WxConsoleSurface;
 
 /// The one window of console mode.
@@ -29,10 +30,13 @@ class WxConsoleFrame {
 
   wxFrame& frame() { return *frame_; }
   WxConsoleSurface& surface() { return *surface_; }
+  /// Null where what is typed goes to one alone.
+  InputBar* inputBar() { return inputBar_; }
 
  private:
   void buildMenus();
   void buildToolbar();
+  void buildInputBar();
   void updateMenus();
   void command(int number);
   void onKey(wxKeyEvent& event);
@@ -43,6 +47,7 @@ class WxConsoleFrame {
   ConsoleFrame& rules_;
   std::unique_ptr<wxFrame> frame_;
   WxConsoleSurface* surface_;
+  InputBar* inputBar_ = nullptr;
   std::map<int, int> commandOfId_;
   WindowStack::Place* place_ = nullptr;
   bool stopped_ = false;

@@ -9,6 +9,7 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <utility>
 
 namespace tarnwick {
 class Desktop;
@@ -50,6 +51,11 @@ class WxConsoleSurface : public wxWindow, public ConsoleSurface {
   wxSize margins() const { return {margin_, margin_}; }
   void showHand(bool on) override;
   platform::WindowNumber bringToFront() override;
+  void showInputTarget() override {
+    if (showInputTarget_) showInputTarget_();
+  }
+  /// What shows who gets what is typed.
+  void showInputTargetBy(std::function<void()> show) { showInputTarget_ = std::move(show); }
   void setTitle(const std::string& title) override;
   void close() override { requestClose_(); }
 
@@ -83,6 +89,7 @@ class WxConsoleSurface : public wxWindow, public ConsoleSurface {
   WindowStack& stack_;
   ConsoleSurfaceClient& client_;
   std::function<void()> requestClose_;
+  std::function<void()> showInputTarget_;
   std::shared_ptr<WakeGate> gate_;
   std::unique_ptr<HintWindow> hint_;
   Point cell_;

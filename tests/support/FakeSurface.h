@@ -23,6 +23,7 @@ class FakeSurface : public ConsoleSurface {
   int closes = 0;
   int hintChanges = 0;
   int raised = 0;
+  int inputTargets = 0;
   platform::WindowNumber frame = 7;
   bool hint = false;
   bool hand = false;
@@ -71,6 +72,7 @@ class FakeSurface : public ConsoleSurface {
     ++raised;
     return frame;
   }
+  void showInputTarget() override { ++inputTargets; }
   void setTitle(const std::string& text) override { titles.push_back(text); }
   void close() override {
     ++closes;

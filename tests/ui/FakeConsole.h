@@ -18,9 +18,10 @@ class FakeConsole : public ConsoleFrame, public ConsoleSurfaceClient {
  public:
   const MenuBar& menuBar() const override { return today ? newerConsoleMenuBar() : consoleMenuBar(); }
   const std::vector<Accelerator>& accelerators() const override {
-    return today ? newerConsoleAccelerators() : consoleAccelerators();
+    return !keys.empty() ? keys : today ? newerConsoleAccelerators() : consoleAccelerators();
   }
   const Toolbar* toolbar() const override { return buttons; }
+  std::vector<InputChoice> inputChoices() const override { return choices; }
   std::string title() const override { return "Console under test"; }
   bool isOfToday() const override { return today; }
   bool commandEnabled(int command) const override { return disabled.count(command) == 0; }
@@ -76,6 +77,8 @@ class FakeConsole : public ConsoleFrame, public ConsoleSurfaceClient {
   }
 
   const Toolbar* buttons = nullptr;
+  std::vector<InputChoice> choices;
+  std::vector<Accelerator> keys;  ///< in the place of the usual ones
   ConsoleSurface* surface = nullptr;
   Point sizeAtStart;
   bool today = false;

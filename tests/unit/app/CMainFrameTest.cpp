@@ -5,8 +5,10 @@
 #include "support/SettingsFixture.h"
 
 #include <gtest/gtest.h>
+#include <initializer_list>
 #include <set>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace tarnwick::test {
@@ -69,6 +71,50 @@ TEST_F(CMainFrameTest, OnlyADebuggersFrameHasAToolbarAndItsButtonsAreAlwaysEnabl
   }
   EXPECT_TRUE(frame.commandEnabled(COMMAND_JDB_HELP));
   EXPECT_FALSE(frame.commandEnabled(COMMAND_CUT));
+}
+
+TEST_F(CMainFrameTest, WhereAProgramStandsBesideItsDebuggerTheInputIsAChoice) {
+  ConsoleStart start{"Main", standInFolder() + platform::toolFileName("jdb"), " -ea Main", true};
+  start.programFile = standInFolder() + platform::toolFileName("java");
+  start.debuggerOptions = "-sourcepath s";
+  CMainFrame frame(desktop_, settings(), start);
+  FakeSurface surface;
+  frame.view().onStart(surface);
+  EXPECT_TRUE(waitUntil([&] { return platform::isFile(scratch_.file("record")); }));
+  EXPECT_TRUE(waitUntil([&] {
+    return contentOf(scratch_.file("record")) ==
+           "-connect\ncom.sun.jdi.SocketListen:localAddress=127.0.0.1,timeout=30000\n-sourcepath\ns\n";
+  }));
+  const auto chosen = [&frame] {
+    std::string labels;
+    for (const auto& choice : frame.inputChoices()) labels += choice.chosen ? '[' + choice.label + ']' : choice.label;
+    return labels;
+  };
+  EXPECT_EQ(chosen(), "[to jdb]to program");
+  EXPECT_EQ(frame.inputChoices()[0].colour, classicPalette.debugger);
+  EXPECT_EQ(frame.inputChoices()[1].colour, classicPalette.output);
+  const Accelerator& key = frame.accelerators().back();
+  EXPECT_TRUE(key.key == Accelerator::Key::Tab && key.control && !key.shift);
+  EXPECT_EQ(frame.accelerators().size(), consoleAccelerators().size() + 1);
+  for (const auto& [command, labels] :
+       std::initializer_list<std::pair<int, const char*>>{{key.command, "to jdb[to program]"},
+                                                          {key.command, "[to jdb]to program"},
+                                                          {frame.inputChoices()[1].command, "to jdb[to program]"},
+                                                          {frame.inputChoices()[1].command, "to jdb[to program]"},
+                                                          {frame.inputChoices()[0].command, "[to jdb]to program"}}) {
+    const int shown = surface.inputTargets;
+    EXPECT_TRUE(frame.commandEnabled(command));
+    frame.onCommand(command);
+    EXPECT_EQ(chosen(), labels);
+    EXPECT_GT(surface.inputTargets, shown) << "a click on what is chosen already is shown anew, too";
+  }
+  frame.view().onClose();
+}
+
+TEST_F(CMainFrameTest, WithoutOneThereIsNoChoice) {
+  CMainFrame frame(desktop_, settings(), {"Main", "", "", true});
+  EXPECT_TRUE(frame.inputChoices().empty());
+  EXPECT_EQ(&frame.accelerators(), &consoleAccelerators());
 }
 
 TEST_F(CMainFrameTest, TheConsoleOfTodayHasItsOwnMenusAndKeys) {

@@ -35,6 +35,17 @@ TEST_F(ParseSwitches, SwitchesSetTheirFields) {
   EXPECT_EQ(app().configFile().name().fullName(), configFile());
 }
 
+TEST_F(ParseSwitches, AProgramBesideItsDebuggerHasSwitchesOfItsOwn) {
+  EXPECT_EQ(app().programFile(), "");
+  EXPECT_EQ(app().debuggerOptions(), "");
+  EXPECT_TRUE(
+      parse("\\/EXEFILE=jdb\\/ \\/JDEBUG\\/ \\/PROGRAM= \"a java\" \\/ \\/JDBOPTIONS=-sourcepath \"s t\"\\/ "
+            "\\/RUN= -ea Main \\/PROGRAM=other\\/"));
+  EXPECT_EQ(app().programFile(), cleanedPath(platform::keptExecutable(" \"a java\" ")));
+  EXPECT_EQ(app().debuggerOptions(), "-sourcepath \"s t\"");
+  EXPECT_EQ(app().runArguments(), " -ea Main \\/PROGRAM=other\\/");
+}
+
 TEST_F(ParseSwitches, RunTakesTheRestWithFurtherMarks) {
   EXPECT_TRUE(parse("\\/RUN=a \\/b"));
   EXPECT_EQ(app().runArguments(), "a \\/b");

@@ -124,11 +124,20 @@ TEST(ConsoleColours, InTheConsoleOfTodayEachStandsFarOutOnBothGrounds) {
   for (const ConsolePalette* const palette : {&lightPalette, &darkPalette}) {
     SCOPED_TRACE(palette == &darkPalette ? "dark" : "light");
     EXPECT_EQ(lightness(palette->ground) < 0.1, palette == &darkPalette);
-    for (const int kind : {KIND_NONE, KIND_INPUT, KIND_OUTPUT, KIND_ERROR, KIND_BANNER})
+    for (const int kind : {KIND_NONE, KIND_INPUT, KIND_OUTPUT, KIND_ERROR, KIND_BANNER, KIND_DEBUGGER})
       EXPECT_GE(contrastOf(palette->of(kind)), 7.0) << kind;
     EXPECT_GE(contrastOf(palette->mark), 7.0);
     // Where the link's line is drawn, the text's own colour stands as well.
     EXPECT_GE(contrastOf({palette->link, palette->ground}), 4.5);
+  }
+}
+
+TEST(ConsoleColours, TheDebuggerHasAColourOfItsOwnEverywhere) {
+  for (const ConsolePalette* const palette : {&classicPalette, &lightPalette, &darkPalette}) {
+    EXPECT_GE(contrastOf(palette->of(KIND_DEBUGGER)), 7.0);
+    EXPECT_EQ(palette->of(KIND_DEBUGGER).ground, palette->ground);
+    for (const int kind : {KIND_INPUT, KIND_OUTPUT, KIND_ERROR, KIND_BANNER})
+      EXPECT_NE(palette->of(KIND_DEBUGGER).ink, palette->of(kind).ink) << kind;
   }
 }
 

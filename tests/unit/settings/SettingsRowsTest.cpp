@@ -174,7 +174,7 @@ class SettingsRowsTest : public SettingsFixture {
 TEST_F(SettingsRowsTest, The111RowsHaveTheirTagsKindsPagesOwnersAndControlsInTheOrderOfTheFile) {
   const auto& rows = settings().tagRows;
   ASSERT_EQ(std::size(expected), 111U);
-  ASSERT_EQ(rows.size(), 126U);
+  ASSERT_EQ(rows.size(), 127U);
   for (std::size_t i = 0; i < 111; ++i) {
     EXPECT_STREQ(rows[i].tag, expected[i].tag);
     EXPECT_EQ(rows[i].kind(), expected[i].kind) << expected[i].tag;
@@ -259,7 +259,7 @@ TEST_F(SettingsRowsTest, BehindThemStandTheRowsThatCameLater) {
   EXPECT_EQ(rows[121].defaultNumber, 0);
   EXPECT_EQ(rows[121].page, 144);
   EXPECT_EQ(rows[121].owner, 148);
-  EXPECT_EQ(rows[121].control, 2160);
+  EXPECT_EQ(rows[121].control, 2170);
   EXPECT_TRUE(rows[121].isLater);
   const char* const lists[] = {"LAST_SOURCES", "LAST_CLASSES", "LAST_PAGES"};
   for (std::size_t i = 0; i < std::size(lists); ++i) {
@@ -270,8 +270,15 @@ TEST_F(SettingsRowsTest, BehindThemStandTheRowsThatCameLater) {
     EXPECT_EQ(row.owner, 0);
     EXPECT_TRUE(row.isLater);
   }
-  EXPECT_EQ(rows[125].kind(), TAG_END);
-  EXPECT_STREQ(rows[125].tag, "");
+  EXPECT_STREQ(rows[125].tag, "JDB_OWN_STREAMS");
+  EXPECT_EQ(rows[125].kind(), TAG_BOOL);
+  EXPECT_EQ(rows[125].defaultNumber, 0);
+  EXPECT_EQ(rows[125].page, 173);
+  EXPECT_EQ(rows[125].owner, 148);
+  EXPECT_EQ(rows[125].control, 2160);
+  EXPECT_TRUE(rows[125].isLater);
+  EXPECT_EQ(rows[126].kind(), TAG_END);
+  EXPECT_STREQ(rows[126].tag, "");
 }
 
 TEST_F(SettingsRowsTest, TheLastFilesAreKeptInTheFileOnlyWhereThereAreSome) {

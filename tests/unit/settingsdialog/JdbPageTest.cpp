@@ -6,7 +6,16 @@ namespace tarnwick::test {
 namespace {
 
 constexpr std::array<int, 8> keyFields = {1158, 1162, 1163, 1164, 1166, 1167, 1168, 1169};
-enum Control { LAUNCH = 1125, F5 = 1158, F6 = 1162, F12 = 1169, SHIFT = 1261, CTRL = 1262, ALT = 1263 };
+enum Control {
+  LAUNCH = 1125,
+  OWN_STREAMS = 2160,
+  F5 = 1158,
+  F6 = 1162,
+  F12 = 1169,
+  SHIFT = 1261,
+  CTRL = 1262,
+  ALT = 1263
+};
 
 class JdbPageTest : public SettingsPageFixture {
  protected:
@@ -24,6 +33,9 @@ class JdbPageTest : public SettingsPageFixture {
 TEST_F(JdbPageTest, ToolTips) {
   playAndCancel([](ScriptedWindow& page) {
     EXPECT_EQ(page.toolTip(LAUNCH), "Launch application upon jdb startup (removes the need for the run command)");
+    EXPECT_EQ(page.toolTip(OWN_STREAMS),
+              "A program that reads its input can be debugged: java runs it, and jdb takes hold of it. In the console "
+              "you choose who gets what you type. The program always waits at its start; run or cont lets it go on.");
     EXPECT_EQ(page.toolTip(F5), "String sent to jdb when pressing key F5 (possibly with Shift, Ctrl or Alt)");
     EXPECT_EQ(page.toolTip(F6),
               "String sent to jdb when pressing key F6 (Alt+F6 and Alt+Shift+F6 not available on Win98!)");
@@ -44,6 +56,7 @@ TEST_F(JdbPageTest, ToolTips) {
 TEST_F(JdbPageTest, Labels) {
   playAndCancel([](ScriptedWindow& page) {
     EXPECT_EQ(page.text(LAUNCH), "launch option");
+    EXPECT_EQ(page.text(OWN_STREAMS), "The program has its own input and output");
     EXPECT_EQ(page.text(SHIFT), "Shift");
     EXPECT_EQ(page.text(CTRL), "Ctrl");
     EXPECT_EQ(page.text(ALT), "Alt");
@@ -101,6 +114,22 @@ TEST_F(JdbPageTest, EveryGroupThatWasEditedIsStored) {
   other->readDefaultConfiguration(status);
   EXPECT_EQ(status, 0);
   EXPECT_EQ(other->functionKeys.key(0, 0), "run;now!]\\n") << "separators in a text survive the file";
+}
+
+TEST_F(JdbPageTest, InputAndOutputOfTheProgramsOwnAreAChoice) {
+  EXPECT_FALSE(settings().jdbOwnStreams);
+  playAndOk([](ScriptedWindow& page) {
+    EXPECT_FALSE(page.checked(OWN_STREAMS));
+    page.press(OWN_STREAMS);
+  });
+  EXPECT_TRUE(settings().jdbOwnStreams);
+  EXPECT_NE(contentOf(configFile()).find("\nJDB_OWN_STREAMS  ON\n"), std::string::npos);
+  playAndOk([](ScriptedWindow& page) {
+    EXPECT_TRUE(page.checked(OWN_STREAMS));
+    page.press(OWN_STREAMS);
+  });
+  EXPECT_FALSE(settings().jdbOwnStreams);
+  EXPECT_EQ(contentOf(configFile()).find("JDB_OWN_STREAMS"), std::string::npos) << "only where it is used";
 }
 
 TEST_F(JdbPageTest, CancelLeavesTheKeys) {

@@ -199,6 +199,76 @@ TEST_F(JavaLauncherTest, TheUsersWordsFollowTheClassOfEitherTool) {
   }
 }
 
+TEST_F(JavaLauncherTest, AProgramWithItsOwnStreamsIsRunByJavaWithAllOfItsOptions) {
+  Settings& s = settings();
+  s.javaXfuture = s.javaXprof = s.javaJniValidate = s.javaSystemAssertEnable = s.javaSystemAssertDisable = true;
+  s.classpath = "a;b";
+  s.bootpath = "c;d";
+  s.javaXmx = "2m";
+  s.javaProperty = "-Dx=y";
+  s.javaAssertEnable = "Foo.class, bar";
+  s.javaAssertDisable = "baz";
+  s.javaOptions = "--enable-preview";
+  JavaRun run;
+  run.tool = "jdb";
+  run.debugging = run.ownStreams = true;
+  run.sourcepath = "s;t";
+  const std::string tools = "jdk" + std::string(1, platform::folderSeparator);
+  EXPECT_EQ(arguments(run), (Words{"Tarnwick",
+                                   "\\/DEFAULTDIR=" + userFolder() + "\\/",
+                                   "\\/EXEFILE=" + tools + platform::toolFileName("jdb") + "\\/",
+                                   "\\/TITLE=My Class\\/",
+                                   "\\/CFG=" + configFile() + "\\/",
+                                   "\\/JDEBUG\\/",
+                                   "\\/PROGRAM=" + tools + platform::toolFileName("java") + "\\/",
+                                   "\\/JDBOPTIONS=-sourcepath " + list("s;t") + "\\/",
+                                   "\\/RUN=",
+                                   "-Xfuture",
+                                   "-Xprof",
+                                   "-Xcheck:jni",
+                                   "-classpath " + list("a;b"),
+                                   "-Xbootclasspath:" + list("c;d"),
+                                   "-Xmx2m",
+                                   "-Dx=y",
+                                   "-ea:Foo -ea:bar ",
+                                   "-da:baz ",
+                                   "-enablesystemassertions",
+                                   "-disablesystemassertions",
+                                   "--enable-preview",
+                                   "My Class"}))
+      << "no option is left out, and none bears a mark for jdb";
+  for (const std::optional<std::string>& none : {std::optional<std::string>(), std::optional<std::string>("")}) {
+    run.sourcepath = none;
+    EXPECT_EQ(arguments(run)[7], "\\/RUN=");
+  }
+}
+
+TEST_F(JavaLauncherTest, TheSettingTellsWhetherAProgramHasItsOwnStreams) {
+  const ScopedEnvironment script("STANDIN_SCRIPT", scratch_.file("script"));
+  const ScopedEnvironment record("STANDIN_RECORD", scratch_.file("record"));
+  writeFile(scratch_.file("script"), "");
+  useStandIns();
+  file_.setName(userFolder() + "Main.class");
+  program_.programPath = StandInScript::tool("appletviewer");
+  settings().jdbLaunch = true;
+  const auto words = [&](bool own) {
+    settings().jdbOwnStreams = own;
+    platform::deleteFile(scratch_.file("record"));
+    runJdb(settings(), file_, "cp", "sp");
+    EXPECT_TRUE(waitUntil([&] {
+      return platform::isFile(scratch_.file("record")) &&
+             contentOf(scratch_.file("record")).find("Main\n", 20) != std::string::npos;
+    }));
+    std::string line = contentOf(scratch_.file("record"));
+    std::replace(line.begin(), line.end(), '\n', ' ');
+    return line;
+  };
+  EXPECT_TRUE(words(true).ends_with("\\/JDBOPTIONS=-sourcepath sp\\/ \\/RUN= -classpath cp Main "))
+      << "it is launched anyway";
+  const std::string classic = words(false);
+  EXPECT_TRUE(classic.ends_with("\\/JDEBUG\\/ \\/RUN= -classpath cp -sourcepath sp -launch Main ")) << classic;
+}
+
 TEST_F(JavaLauncherTest, AProfileThatBeginsWithAColonGetsNoSecondOne) {
   settings().javaXrunhprof = ":cpu=samples";
   EXPECT_EQ(behindRun()[0], "-Xrunhprof:cpu=samples");

@@ -206,6 +206,22 @@ TEST_F(NewerRunTargetTest, TheDebuggerTellsThatItTakesNoArchive) {
   runJdb(settings(), file_);
 }
 
+TEST_F(NewerRunTargetTest, AProgramWithItsOwnStreamsIsRunAsJavaRunsIt) {
+  JavaRun run;
+  run.tool = "jdb";
+  run.debugging = run.ownStreams = true;
+  file_.setName(path("tool.jar"));
+  EXPECT_EQ(behindRun(run), (Words{"-classpath .", "-jar tool.jar"}));
+  makeClass("shop/till/Main.class", "shop/Main");
+  settings().jdbOwnStreams = true;
+  desktop_.expectMessage(
+      "Main.class holds the class shop.Main, but does not lie in a folder shop.\n"
+      "It is run as it is. java may not find it.");
+  program_.programPath = path("nothing");
+  desktop_.expectMessage("Unable to start " + program_.programPath + ".\n\nNo such file or directory  (2)");
+  runJdb(settings(), file_);
+}
+
 TEST_F(NewerRunTargetTest, ShortcutsTellTheSame) {
   makeClass("shop/till/Main.class", "shop/till/Main");
   const std::string line = onPath(".;" + root()) + " shop.till.Main";

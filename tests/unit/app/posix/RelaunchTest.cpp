@@ -127,6 +127,36 @@ TEST_F(RelaunchTest, EveryOptionReachesItsToolAsTheWordsThatWereTyped) {
   }
 }
 
+TEST_F(RelaunchTest, ADebuggerBesideItsProgramAndThatProgramGetTheWordsThatWereTyped) {
+  Settings& s = settings();
+  s.jdbOwnStreams = s.jdbLaunch = true;
+  s.javaXfuture = false;
+  s.javaOptions = "-Dz=\"two words\"";
+  s.javaAssertEnable = "Main";
+  FileForSubprocess file(userFolder(), "Main.class");
+  file.args() = {"one \"two \\/ three\" $HOME"};
+  runJdb(s, file, "/my a:/b", "/src;/more src");
+  TarnwickApp copy(desktop_, host_, programFolder() + "tarnwick");
+  ASSERT_TRUE(copy.parseSwitches(commandLine(file.args().front())));
+  EXPECT_TRUE(copy.debugging());
+  EXPECT_EQ(copy.exeFile(), standInFolder() + "jdb");
+  EXPECT_EQ(copy.programFile(), standInFolder() + "java");
+  EXPECT_EQ(platform::splitCommandText(copy.debuggerOptions()),
+            platform::splitCommandText("-sourcepath " + platform::commandLineList("/src;/more src")));
+  const auto tool = platform::ChildProcess::start({copy.programFile(), copy.runArguments(), true});
+  tool->wait();
+  EXPECT_EQ(contentOf(scratch_.file("record")),
+            "-classpath\n/my\na:/b\n-ea:Main\n-Dz=two words\nMain\none\ntwo \\/ three\n$HOME\n");
+}
+
+TEST_F(RelaunchTest, ASourcePathThatCannotBePassedOnIsTold) {
+  settings().jdbOwnStreams = true;
+  FileForSubprocess file(userFolder(), "Main.class");
+  desktop_.expectMessage("Can't pass on the path /odd\\/src\nThe name of a folder in it ends in a backslash.");
+  runJdb(settings(), file, "/a", "/odd\\/src");
+  EXPECT_FALSE(platform::isFile(scratch_.file("record")));
+}
+
 /// A name that ends in a backslash and the slash behind it make the mark that ends a value.
 TEST_F(RelaunchTest, WhatCannotBePassedOnIsToldAndNothingIsStarted) {
   const std::string odd = scratch_.file("odd\\") + '/';

@@ -35,12 +35,21 @@ void Messages::show(bool said) {
   ToolLog& log = settings_.context().log;
   const bool isOpen = window_ && window_->isOpen();
   if (!said && (!isOpen || log.runs() == shownRuns_)) return;
+  MessagesText text = said ? textOfLog(log) : MessagesText();
+  const std::string sum = messagesSummary(text, log.elapsed(), log.end());
   shownRuns_ = log.runs();
-  view_.setText(said ? textOfLog(log) : MessagesText());
+  const int before = shownRuns_ - static_cast<int>(log.parts().size());
+  // A log that goes on, or is asked for again, is still the same.
+  if (shownLog_ == before)
+    history_.showAnew(std::move(text), sum);
+  else
+    history_.add(std::move(text), sum);
+  shownLog_ = before;
+  view_.setText(history_.text());
   if (!window_) window_ = host_.makeMessagesWindow(*this);
   if (!window_) return;
   if (!window_->isOpen()) useRememberedLetters();
-  window_->setSummary(messagesSummary(view_.text(), log.elapsed(), log.end()));
+  window_->setSummary(sum);
   window_->show();
 }
 
@@ -69,6 +78,9 @@ void Messages::onCommand(MessagesCommand command) {
     case MessagesCommand::SelectAll:
       view_.selectAll();
       break;
+    case MessagesCommand::Clear:
+      clear();
+      break;
     case MessagesCommand::LargerLetters:
     case MessagesCommand::SmallerLetters:
       view_.stepLetters(command == MessagesCommand::LargerLetters ? 1 : -1);
@@ -96,6 +108,13 @@ void Messages::copy() {
   Desktop& desktop = settings_.context().desktop;
   if (desktop.setClipboardText(withSystemLineEnds(text))) return;
   desktop.message(clipboardFailure(platform::lastSystemError("").reason));
+}
+
+void Messages::clear() {
+  history_.clear();
+  shownLog_.reset();
+  view_.setText({});
+  if (window_) window_->setSummary("No messages");
 }
 
 std::optional<Rect> Messages::place() const {

@@ -2,6 +2,7 @@
 
 #include "app/ConsoleFrameHost.h"
 #include "app/MessagesFrame.h"
+#include "app/MessagesHistory.h"
 #include "app/MessagesView.h"
 #include "process/EditorForms.h"
 #include "settings/Settings.h"
@@ -12,7 +13,8 @@
 
 namespace tarnwick {
 
-/// The rules of the window that shows what the tools have said. It opens with the first log and stays.
+/// The rules of the window that shows what the tools have said. It opens with the first log and stays; the logs before
+/// stand above the newest.
 class Messages : public MessagesFrame {
  public:
   /// Opens the user's editor on a file at a place.
@@ -35,14 +37,17 @@ class Messages : public MessagesFrame {
   void step(bool forward);
   void open(const ToolMessage& message);
   void copy();
+  void clear();
   void useRememberedLetters();
 
   Settings& settings_;
   ConsoleFrameHost& host_;
   OpenEditor openEditor_;
+  MessagesHistory history_;
   MessagesView view_;
   std::unique_ptr<MessagesWindow> window_;
   int shownRuns_ = 0;
+  std::optional<int> shownLog_;  ///< the runs before it; none where the window is empty
 };
 
 /// A rectangle as a setting keeps it, "left;top;width;height"; nothing for any other text.

@@ -10,7 +10,7 @@
 
 namespace tarnwick {
 
-enum class MessagesCommand { Next, Previous, Copy, SelectAll, LargerLetters, SmallerLetters, UsualLetters };
+enum class MessagesCommand { Next, Previous, Copy, SelectAll, Clear, LargerLetters, SmallerLetters, UsualLetters };
 
 /// What the window's rules say.
 class MessagesFrame {

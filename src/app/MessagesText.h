@@ -24,6 +24,9 @@ struct MessagesText {
   /// In the order of their lines, their files with whole paths.
   std::vector<ToolMessage> messages;
   bool shortened = false;  ///< there was more than is shown
+  /// Where the newest command begins; what stands before was said earlier.
+  std::size_t newestLine = 0;
+  std::size_t newestMessage = 0;
 
   int widest() const;
 };

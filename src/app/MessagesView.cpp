@@ -26,6 +26,7 @@ void MessagesView::onStart(ConsoleSurface& surface) {
   surface_ = &surface;
   if (letters_ != 0) surface_->setLetters(letters_);
   fitSurface();
+  showNewest();
 }
 
 void MessagesView::onClose() {
@@ -39,20 +40,38 @@ void MessagesView::setText(MessagesText text) {
   selection_.clear();
   if (!surface_) return;
   fitSurface();
-  surface_->scrollTo({0, 0});
+  showNewest();
   surface_->invalidateAll();
+}
+
+void MessagesView::scrollTo(const Point& position) {
+  surface_->scrollTo(position);
+  onScrolled();
+}
+
+void MessagesView::onScrolled() {
+  if (surface_) top_ = surface_->scrollPosition().y;
+}
+
+void MessagesView::showNewest() {
+  scrollTo({0, newestTop()});
 }
 
 void MessagesView::fitSurface() {
   const Point cell = surface_->cell();
   grid_.charWidth = cell.x;
   grid_.charHeight = cell.y;
-  surface_->setScrollSizes({grid_.x(width()), grid_.y(static_cast<int>(text_.lines.size()))});
+  int height = grid_.y(static_cast<int>(text_.lines.size()));
+  // A short one, too, can stand at the top, with what was said earlier out of sight.
+  if (text_.newestLine > 0) height = std::max(height, newestTop() + surface_->clientSize().y);
+  surface_->setScrollSizes({grid_.x(width()), height});
 }
 
 void MessagesView::onResized() {
   if (!surface_) return;
   fitSurface();
+  // In a larger window the surface has gone back meanwhile, as far as there was room.
+  if (top_ == newestTop()) scrollTo({surface_->scrollPosition().x, newestTop()});
   surface_->invalidateAll();
 }
 
@@ -79,7 +98,7 @@ void MessagesView::setLetters(int letters) {
   surface_->setLetters(letters_);
   fitSurface();
   selection_.followGrid(width());
-  surface_->scrollTo({column * grid_.charWidth, grid_.y(line)});
+  scrollTo({column * grid_.charWidth, grid_.y(line)});
   surface_->invalidateAll();
   lettersChanged_(letters_);
 }
@@ -97,12 +116,15 @@ void MessagesView::paint(ConsolePainter& painter) {
 
 const ToolMessage* MessagesView::step(bool forward) {
   const auto& messages = text_.messages;
+  const auto first = static_cast<std::ptrdiff_t>(text_.newestMessage);
   const auto count = static_cast<std::ptrdiff_t>(messages.size());
-  // Where the user is at none, the first one comes next, and the last one came before.
-  std::ptrdiff_t at = current_ ? static_cast<std::ptrdiff_t>(*current_) : forward ? -1 : count;
+  // Where the user is at none, the first one comes next, and the last one came before. All earlier ones are before the
+  // first.
+  std::ptrdiff_t at = forward ? first - 1 : count;
+  if (current_) at = std::max(static_cast<std::ptrdiff_t>(*current_), first - 1);
   do {
     at += forward ? 1 : -1;
-    if (at < 0 || at >= count) return nullptr;
+    if (at < first || at >= count) return nullptr;
   } while (!messages[static_cast<std::size_t>(at)].place);
   moveTo(static_cast<std::size_t>(at));
   return &messages[*current_];
@@ -122,7 +144,7 @@ void MessagesView::showCurrent() {
   const int bottom = grid_.y(static_cast<int>(message.lastLine) + 1);
   const Point scroll = surface_->scrollPosition();
   if (top >= scroll.y && bottom <= scroll.y + surface_->clientSize().y) return;
-  surface_->scrollTo({0, std::max(top - linesAbove * grid_.charHeight, 0)});
+  scrollTo({0, std::max(top - linesAbove * grid_.charHeight, 0)});
 }
 
 std::optional<std::size_t> MessagesView::messageAt(int line) const {
@@ -148,14 +170,14 @@ bool MessagesView::onKey(ConsoleKey key, int modifiers) {
       step(key == ConsoleKey::Down);
       return true;
     case ConsoleKey::Home:
-      surface_->scrollTo({0, 0});
+      scrollTo({0, 0});
       return true;
     case ConsoleKey::End:
-      surface_->scrollTo({0, grid_.y(static_cast<int>(text_.lines.size()))});
+      scrollTo({0, grid_.y(static_cast<int>(text_.lines.size()))});
       return true;
     case ConsoleKey::Left:
     case ConsoleKey::Right:
-      surface_->scrollTo({scroll.x + (key == ConsoleKey::Right ? grid_.charWidth : -grid_.charWidth), scroll.y});
+      scrollTo({scroll.x + (key == ConsoleKey::Right ? grid_.charWidth : -grid_.charWidth), scroll.y});
       return true;
     default:
       return false;

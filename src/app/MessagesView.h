@@ -20,12 +20,12 @@ class MessagesView : public ConsoleSurfaceClient {
   /// `isDark` tells if the desktop wants dark ground. `open` is told of a message that the user wants to get to.
   MessagesView(std::function<bool()> isDark, std::function<void(const ToolMessage&)> open);
 
-  /// Shows another text from its first line on; the user is at none of its messages.
+  /// Shows another text from where its newest part begins; the user is at none of its messages.
   void setText(MessagesText text);
   const MessagesText& text() const { return text_; }
 
-  /// Goes to the next message that has a place, or to the one before, and brings it into sight. Null, with nothing
-  /// changed, if there is none.
+  /// Goes to the next message of the newest part that has a place, or to the one before, and brings it into sight.
+  /// Null, with nothing changed, if there is none.
   const ToolMessage* step(bool forward);
   std::optional<std::size_t> current() const { return current_; }
 
@@ -43,7 +43,7 @@ class MessagesView : public ConsoleSurfaceClient {
   Colour ground() const override;
   void paint(ConsolePainter& painter) override;
   void onWake() override {}
-  void onScrolled() override {}
+  void onScrolled() override;
   bool onZoom(int steps) override;
   void onResized() override;
   bool onKey(ConsoleKey key, int modifiers) override;
@@ -57,6 +57,9 @@ class MessagesView : public ConsoleSurfaceClient {
 
  private:
   void fitSurface();
+  void scrollTo(const Point& position);
+  void showNewest();
+  int newestTop() const { return grid_.y(static_cast<int>(text_.newestLine)); }
   void setLetters(int letters);
   void moveTo(std::optional<std::size_t> message);
   void showCurrent();
@@ -71,6 +74,7 @@ class MessagesView : public ConsoleSurfaceClient {
   std::function<void(const ToolMessage&)> open_;
   MessagesText text_;
   int widest_ = 0;
+  int top_ = 0;  ///< where the surface was scrolled to last, in pixels
   int letters_ = 0;
   std::function<void(int letters)> lettersChanged_ = [](int) {};
   ConsoleGrid grid_;

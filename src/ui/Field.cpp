@@ -3,6 +3,7 @@
 #include "base/Text.h"
 #include "resources/DialogLayout.h"
 #include "ui/DropButton.h"
+#include "ui/PopupMenu.h"
 #include "ui/Text.h"
 
 #include <wx/clipbrd.h>
@@ -75,7 +76,7 @@ void Field::letChoose(bool byKey) {
   for (const auto& entry : offered_)
     labels.push_back(Ellipsize(toWx(entry), dc, wxELLIPSIZE_MIDDLE, room, wxELLIPSIZE_FLAGS_NONE));
   SetFocus();
-  openDropMenu(*this, labels, byKey, [this](int index) {
+  openMenu(*this, wxRect(GetSize()), labels, byKey, [this](int index) {
     chosen_ = index;
     wxCommandEvent event(wxEVT_COMBOBOX, GetId());
     event.SetEventObject(this);

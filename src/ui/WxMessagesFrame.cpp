@@ -3,6 +3,7 @@
 #include "ui/ConsoleKeys.h"
 #include "ui/Icons.h"
 #include "ui/MessageBoxes.h"
+#include "ui/PopupMenu.h"
 #include "ui/ScreenPlace.h"
 #include "ui/Text.h"
 #include "ui/Toolkit.h"
@@ -14,6 +15,8 @@
 #include <wx/sizer.h>
 
 #include <algorithm>
+#include <array>
+#include <cstddef>
 #include <utility>
 
 namespace tarnwick::ui {
@@ -80,6 +83,9 @@ void WxMessagesFrame::build() {
   summary_ = new wxStaticText(panel, wxID_ANY, toWx(text_));
   surface_ = new WxConsoleSurface(panel, stack_, desktop_, rules_.view(), [this] { close(); });
   nameBySpeech(*surface_, "Messages");
+  // They tell that something stands above.
+  keepScrollBarsInSight(*surface_);
+  surface_->Bind(wxEVT_CONTEXT_MENU, &WxMessagesFrame::openContextMenu, this);
   auto* const column = new wxBoxSizer(wxVERTICAL);
   column->Add(summary_, 0, wxEXPAND | wxALL, panel->FromDIP(margin));
   column->Add(surface_, 1, wxEXPAND);
@@ -143,12 +149,21 @@ void WxMessagesFrame::command(MessagesCommand command) {
   if (mainWindow_()) guarded(stack_, [&] { rules_.onCommand(command); });
 }
 
+void WxMessagesFrame::openContextMenu(const wxContextMenuEvent& event) {
+  static constexpr std::array commands = {MessagesCommand::Copy, MessagesCommand::SelectAll, MessagesCommand::Clear};
+  const bool byKey = event.GetPosition() == wxDefaultPosition;
+  const wxPoint at = byKey ? wxPoint() : surface_->ScreenToClient(event.GetPosition());
+  openMenu(*surface_, wxRect(at, wxSize(1, 1)), {"Copy", "Select all", "Clear"}, byKey,
+           [this](int chosen) { command(commands.at(static_cast<std::size_t>(chosen))); });
+}
+
 /// The keys that scroll by pages; the surface knows them from its scroll bar alone.
 bool WxMessagesFrame::page(int keyCode) {
   if (keyCode != WXK_PAGEUP && keyCode != WXK_PAGEDOWN) return false;
   const int step = std::max(surface_->clientSize().y - surface_->cell().y, surface_->cell().y);
   const Point now = surface_->scrollPosition();
   surface_->scrollTo({now.x, now.y + (keyCode == WXK_PAGEDOWN ? step : -step)});
+  rules_.view().onScrolled();
   return true;
 }
 

@@ -47,6 +47,7 @@ class WxMessagesFrame : public MessagesWindow {
   void onKeyElsewhere(wxKeyEvent& event);
   bool page(int keyCode);
   void command(MessagesCommand command);
+  void openContextMenu(const wxContextMenuEvent& event);
 
   WindowStack& stack_;
   Desktop& desktop_;

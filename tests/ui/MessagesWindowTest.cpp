@@ -1,4 +1,5 @@
 // The window of what the tools have said, beside a main window.
+#include "app/MessagesHistory.h"
 #include "app/MessagesView.h"
 #include "ui/SampleDialog.h"
 #include "ui/Text.h"
@@ -9,6 +10,8 @@
 
 #include <wx/modalhook.h>
 #include <wx/msgdlg.h>
+#include <wx/uiaction.h>
+#include <wx/utils.h>
 
 #include <memory>
 #include <string>
@@ -50,6 +53,7 @@ constexpr int next = static_cast<int>(MessagesCommand::Next);
 constexpr int previous = static_cast<int>(MessagesCommand::Previous);
 constexpr int copying = static_cast<int>(MessagesCommand::Copy);
 constexpr int selecting = static_cast<int>(MessagesCommand::SelectAll);
+constexpr int clearing = static_cast<int>(MessagesCommand::Clear);
 
 /// Counts what is asked, and answers No.
 class Questions : public wxModalDialogHook {
@@ -233,6 +237,65 @@ TEST_F(MessagesWindowTest, InItsOwnWindowTheKeysStepCopyOpenAndClose) {
     EXPECT_FALSE(messages.window->isOpen());
     EXPECT_EQ(openDialogs(), 1u) << "the main window stays";
   });
+  run();
+}
+
+TEST_F(MessagesWindowTest, TheMenuCopiesSelectsAndClears) {
+  const wxPoint rested = wxGetMousePosition();
+  waitForMain();
+  openMessages();
+  activateMessages();
+  // In one go: while a menu is open, everything else may wait for it.
+  steps.then("the menu by the mouse", [this] {
+    wxUIActionSimulator mouse;
+    mouse.MouseMove(window().surface()->GetScreenRect().GetTopLeft() + wxPoint(200, 80));
+    mouse.MouseClick(wxMOUSE_BTN_RIGHT);
+    key(WXK_END);
+    key(WXK_RETURN);
+  });
+  steps.until("Clear", [this] { return messages.heard == std::vector<int>{clearing}; });
+  // Elsewhere it would rest on what another test looks at.
+  steps.then("back", [rested] { wxUIActionSimulator().MouseMove(rested); });
+  steps.settle(10);
+  steps.then("the menu by the keyboard", [this] {
+    messages.heard.clear();
+    key(WXK_F10, wxMOD_SHIFT);
+    key(WXK_HOME);
+    key(WXK_DOWN);
+    key(WXK_RETURN);
+  });
+  steps.until("Select all", [this] { return messages.heard == std::vector<int>{selecting}; });
+  steps.then("look", [this] { EXPECT_TRUE(window().isOpen()); });
+  run();
+}
+
+TEST_F(MessagesWindowTest, TheNewestStandsAtTheTopBelowWhatWasSaidBefore) {
+  MessagesHistory history;
+  for (int i = 0; i < 2; ++i) history.add(messagesText(log, {{0, "folder"}}), "1 error, 1 warning in 2 files, 2.7 s");
+  const int newest = static_cast<int>(history.text().newestLine);
+  messages.text.setText(history.text());
+  const auto top = [this] { return window().surface()->scrollPosition().y / window().surface()->cell().y; };
+  waitForMain();
+  openMessages();
+  steps.until("it stands at the top", [top, newest] { return top() == newest; });
+  steps.then("look and grow", [this, newest] {
+    shoot("messages-newest");
+    EXPECT_EQ(newest, 15);
+    window().frame()->SetSize(900, 700);
+  });
+  steps.settle(20);
+  steps.then("look", [this, top, newest] {
+    EXPECT_EQ(top(), newest);
+    messages.text.onKey(ConsoleKey::Home, 0);
+  });
+  steps.settle(10);
+  steps.then("look at what was said before", [this, top] {
+    shoot("messages-earlier");
+    EXPECT_EQ(top(), 0);
+    window().frame()->SetSize(700, 500);
+  });
+  steps.settle(20);
+  steps.then("look", [top] { EXPECT_EQ(top(), 0); });
   run();
 }
 

@@ -4,11 +4,12 @@
 
 #include <windows.h>
 #include <wx/dcclient.h>
-#include <wx/menu.h>
 #include <wx/renderer.h>
 #include <wx/settings.h>
 #include <wx/textctrl.h>
 #include <wx/window.h>
+
+#include <utility>
 
 namespace tarnwick::ui {
 
@@ -86,16 +87,6 @@ void prepareDropButton(wxTextCtrl& field, const std::function<void()>& pressed) 
 
 void showDropButton(wxTextCtrl& field, bool on) {
   if (auto* const button = buttonOf(field)) button->appear(on);
-}
-
-void openDropMenu(wxTextCtrl& field, const std::vector<wxString>& labels, bool,
-                  const std::function<void(int)>& chosen) {
-  wxMenu menu;
-  const int first = wxID_HIGHEST + 1;
-  for (std::size_t i = 0; i < labels.size(); ++i)
-    menu.Append(first + static_cast<int>(i), wxControl::EscapeMnemonics(labels[i]));
-  const int id = field.GetPopupMenuSelectionFromUser(menu, 0, field.GetSize().y);
-  if (id >= first) chosen(id - first);
 }
 
 }  // namespace tarnwick::ui

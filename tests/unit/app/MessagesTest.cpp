@@ -87,6 +87,25 @@ class MessagesTest : public test::SettingsFixture {
       EXPECT_EQ(showLog(log_, settings().editorChoice()), std::vector<std::string>{});
   }
 
+  /// All that the window shows.
+  std::string shownText() {
+    test::FakeSurface surface;
+    messages().view().onStart(surface);
+    desktop_.setClipboard("");
+    messages().onCommand(MessagesCommand::SelectAll);
+    messages().onCommand(MessagesCommand::Copy);
+    messages().view().onClose();
+    return desktop_.clipboardText().value_or("");
+  }
+  static std::string withoutTimes(std::string text) {
+    for (auto end = text.find(" s"); end != std::string::npos; end = text.find(" s", end)) {
+      const auto begin = text.rfind(", ", end);
+      text.erase(begin, end + 2 - begin);
+      end = begin;
+    }
+    return text;
+  }
+
   /// The summary without the time.
   std::string summary() const { return host.summary.substr(0, host.summary.rfind(',')); }
 
@@ -104,6 +123,55 @@ TEST_F(MessagesTest, TheLogOpensTheWindowAndTheNextOneComesIntoTheSame) {
   runAndShow("A.java:3: warning: [x] y\n");
   EXPECT_EQ(summary(), "1 warning in 1 file");
   EXPECT_EQ(host.made, 1);
+}
+
+TEST_F(MessagesTest, WhatWasSaidBeforeStaysAboveAndTheSumIsThatOfTheNewest) {
+  runAndShow(twoErrors);
+  runAndShow("A.java:3: warning: [x] y\n");
+  EXPECT_EQ(summary(), "1 warning in 1 file");
+  const std::string all = shownText();
+  EXPECT_TRUE(all.starts_with("2 errors in 2 files, ")) << all;
+  EXPECT_EQ(withoutTimes(all),
+            onDisk("2 errors in 2 files\njavac x\n\nA.java:3: error: x\n  y\n  ^\nB.java:4: error: x\n\n"
+                   "javac x\n\nA.java:3: warning: [x] y"));
+  messages().onCommand(MessagesCommand::Next);
+  messages().onCommand(MessagesCommand::Next);
+  EXPECT_EQ(opened, std::vector<std::string>{"A.java 3:0"});
+  EXPECT_EQ(desktop_.alerts(), std::vector<AlertSound>{AlertSound::Beep});
+  runAndShow("");
+  EXPECT_EQ(summary(), "No messages");
+  EXPECT_TRUE(shownText().ends_with(onDisk("A.java:3: warning: [x] y\n"))) << shownText();
+}
+
+TEST_F(MessagesTest, ALogThatGoesOnOrIsAskedForAgainIsStillOne) {
+  run("A.java:3: error: x\n");
+  messages().show(true);
+  run("B.java:4: error: x\n", FileMode::Append);
+  messages().show(true);
+  messages().show(true);
+  EXPECT_EQ(summary(), "2 errors in 2 files");
+  EXPECT_EQ(shownText(), onDisk("javac x\n\nA.java:3: error: x\n\njavac x\n\nB.java:4: error: x"));
+  messages().close();
+  messages().show(true);
+  EXPECT_EQ(shownText(), onDisk("javac x\n\nA.java:3: error: x\n\njavac x\n\nB.java:4: error: x"));
+}
+
+TEST_F(MessagesTest, ClearEmptiesTheWindowUntilTheNextLog) {
+  runAndShow(twoErrors);
+  runAndShow(twoErrors);
+  messages().onCommand(MessagesCommand::Clear);
+  EXPECT_EQ(host.summary, "No messages");
+  EXPECT_TRUE(host.open);
+  EXPECT_EQ(shownText(), "");
+  messages().onCommand(MessagesCommand::Next);
+  EXPECT_TRUE(opened.empty());
+  // The last log can be asked for all the same.
+  messages().show(true);
+  EXPECT_EQ(summary(), "2 errors in 2 files");
+  EXPECT_EQ(shownText(), onDisk("javac x\n\nA.java:3: error: x\n  y\n  ^\nB.java:4: error: x"));
+  messages().onCommand(MessagesCommand::Clear);
+  runAndShow("A.java:3: warning: [x] y\n");
+  EXPECT_EQ(shownText(), onDisk("javac x\n\nA.java:3: warning: [x] y"));
 }
 
 TEST_F(MessagesTest, TheRunsOfOneCommandAreShownTogether) {

@@ -161,6 +161,71 @@ TEST_F(MessagesViewTest, ANewTextBeginsAtItsTopAndAtNoMessage) {
   EXPECT_EQ(view.selectedText(), "");
 }
 
+/// Two commands of which the second has two messages.
+MessagesText withEarlier() {
+  MessagesText text = messagesText(manyMessages() + "\n\njavac B.java\n\nB.java:1: error: x\nB.java:2: error: x\n",
+                                   {{0, "folder"}, {manyMessages().size(), "folder"}});
+  text.newestLine = 124;
+  text.newestMessage = 41;
+  return text;
+}
+
+TEST_F(MessagesViewTest, TheNewestStandsAtTheTopHoweverShortItIs) {
+  ASSERT_EQ(withEarlier().lines[124].text, "javac B.java");
+  view.setText(withEarlier());
+  EXPECT_EQ(surface.position, (Point{0, 124 * cellHeight}));
+  EXPECT_EQ(surface.sizes.y, 124 * cellHeight + 400) << "there is room for a whole window of it";
+  surface.position = {};
+  view.onClose();
+  view.onStart(surface);
+  EXPECT_EQ(surface.position, (Point{0, 124 * cellHeight})) << "in a window that opens, too";
+  MessagesText longer = messagesText(manyMessages(), {{0, "folder"}});
+  longer.newestLine = 2;
+  view.setText(longer);
+  EXPECT_EQ(surface.position, (Point{0, 2 * cellHeight}));
+  EXPECT_EQ(surface.sizes.y, 123 * cellHeight);
+}
+
+TEST_F(MessagesViewTest, InALargerWindowTheNewestStandsAtTheTopStill) {
+  view.setText(withEarlier());
+  surface.client.y = 800;
+  surface.position.y -= 400;
+  view.onResized();
+  EXPECT_EQ(surface.sizes.y, 124 * cellHeight + 800);
+  EXPECT_EQ(surface.position.y, 124 * cellHeight);
+  surface.position.y = 50 * cellHeight;
+  view.onScrolled();
+  view.onResized();
+  EXPECT_EQ(surface.position.y, 50 * cellHeight) << "whoever has scrolled back stays there";
+  view.step(true);
+  view.onKey(ConsoleKey::Home, 0);
+  view.onResized();
+  EXPECT_EQ(surface.position.y, 0);
+}
+
+TEST_F(MessagesViewTest, StepsLeadThroughTheNewestAlone) {
+  view.setText(withEarlier());
+  EXPECT_EQ(surface.position.y, 124 * cellHeight);
+  ASSERT_NE(view.step(true), nullptr);
+  EXPECT_EQ(view.current(), 41U);
+  EXPECT_EQ(view.step(false), nullptr);
+  ASSERT_NE(view.step(true), nullptr);
+  EXPECT_EQ(view.step(true), nullptr);
+  surface.position.y = 0;
+  view.onDoubleClick(at(10, 2));
+  EXPECT_EQ(opened, std::vector<int>{106}) << "an earlier one can be opened all the same";
+  EXPECT_EQ(view.step(false), nullptr);
+  EXPECT_EQ(view.current(), 0U);
+  ASSERT_NE(view.step(true), nullptr);
+  EXPECT_EQ(view.current(), 41U) << "from an earlier one the first comes next";
+  MessagesText silent = withEarlier();
+  silent.newestLine = silent.lines.size();
+  silent.newestMessage = silent.messages.size();
+  view.setText(silent);
+  EXPECT_EQ(view.step(true), nullptr);
+  EXPECT_EQ(view.step(false), nullptr);
+}
+
 TEST_F(MessagesViewTest, TheArrowsStepAndReturnOpens) {
   EXPECT_TRUE(view.onKey(ConsoleKey::Down, 0));
   EXPECT_TRUE(view.onKey(ConsoleKey::Down, 0));

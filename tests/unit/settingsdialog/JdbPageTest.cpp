@@ -123,7 +123,7 @@ TEST_F(JdbPageTest, InputAndOutputOfTheProgramsOwnAreAChoice) {
     page.press(OWN_STREAMS);
   });
   EXPECT_TRUE(settings().jdbOwnStreams);
-  EXPECT_NE(contentOf(configFile()).find("\nJDB_OWN_STREAMS  ON\n"), std::string::npos);
+  EXPECT_NE(contentOf(configFile()).find("JDB_OWN_STREAMS  ON"), std::string::npos);
   playAndOk([](ScriptedWindow& page) {
     EXPECT_TRUE(page.checked(OWN_STREAMS));
     page.press(OWN_STREAMS);

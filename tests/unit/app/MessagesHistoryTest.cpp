@@ -1,5 +1,6 @@
 // What stands above the newest command's messages.
 #include "app/MessagesHistory.h"
+#include "platform/Characters.h"
 
 #include <gtest/gtest.h>
 #include <string>
@@ -54,7 +55,7 @@ TEST(MessagesHistoryTest, TheOnesBeforeStandAboveItEachBelowItsSum) {
                    "2 errors, 0.2 s", "javac B.java", "", "B.java:3: error: x", "Note: y", "",          //
                    "javac C.java", "", "C.java:3: error: x", "Note: y"}));
   EXPECT_EQ(text.lines[0].kind, LineKind::Command) << "dimmed";
-  EXPECT_EQ(text.lines[0].columns, 16);
+  EXPECT_EQ(text.lines[0].columns, 15 + static_cast<int>(platform::columnsOf("\xC3\xA4")));
   EXPECT_EQ(text.lines[9].kind, LineKind::Error);
   EXPECT_EQ(text.newestLine, 12U);
   EXPECT_EQ(text.newestMessage, 4U);

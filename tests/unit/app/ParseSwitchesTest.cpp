@@ -41,7 +41,7 @@ TEST_F(ParseSwitches, AProgramBesideItsDebuggerHasSwitchesOfItsOwn) {
   EXPECT_TRUE(
       parse("\\/EXEFILE=jdb\\/ \\/JDEBUG\\/ \\/PROGRAM= \"a java\" \\/ \\/JDBOPTIONS=-sourcepath \"s t\"\\/ "
             "\\/RUN= -ea Main \\/PROGRAM=other\\/"));
-  EXPECT_EQ(app().programFile(), cleanedPath(platform::keptExecutable(" \"a java\" ")));
+  EXPECT_EQ(app().programFile(), cleanedPath(platform::keptExecutable("\"a java\"")));
   EXPECT_EQ(app().debuggerOptions(), "-sourcepath \"s t\"");
   EXPECT_EQ(app().runArguments(), " -ea Main \\/PROGRAM=other\\/");
 }

@@ -2,11 +2,12 @@
 """The console against two terminals: how fast a flood of output reaches the screen, what it costs, and how soon a key
 is answered meanwhile.
 
-usage: bench/console.py [--rounds N] [--keys N] [--megabytes N] [--only PROGRAM] [--shots FOLDER]
+usage: bench/console.py [--rounds N] [--keys N] [--megabytes N] [--only PROGRAM] [--beside TARNWICK] [--shots FOLDER]
 Needs a display and the program in build/linux. Debian's packages: stterm, xterm, xdotool.
 
 A child writes 50 MB in lines of 30 to 100 characters; the last line is a long row of underscores, which is looked for
-in the pixels of the window. Each program shows the same bytes: Tarnwick's console, st (Debian's stterm), xterm.
+in the pixels of the window. Each program shows the same bytes: Tarnwick's console, the one of today (its switch on), st (Debian's stterm), xterm;
+with --beside also the console of another build of Tarnwick, for instance of the one before a change.
 A key is answered when the child, which reads its standard input while it floods its output, has written that row in
 answer to a Return and the row is seen: that is the echo and more.
 """
@@ -174,14 +175,17 @@ while True:
 """
 
 
-def tarnwick(folder, child, title):
-    switches = {"DEFAULTDIR": folder + "/", "EXEFILE": child[0], "TITLE": title, "CFG": folder + "/empty.CFG"}
-    line = [f"\\/{name}={value}\\/" for name, value in switches.items()]
-    return [os.path.join(PROJECT, "build", "linux", "tarnwick"), *line, "\\/RUN=", *child[1:]]
+def tarnwick(configuration, program=os.path.join(PROJECT, "build", "linux", "tarnwick")):
+    def command(folder, child, title):
+        switches = {"DEFAULTDIR": folder + "/", "EXEFILE": child[0], "TITLE": title, "CFG": os.path.join(folder, configuration)}
+        line = [f"\\/{name}={value}\\/" for name, value in switches.items()]
+        return [program, *line, "\\/RUN=", *child[1:]]
+    return command
 
 
 PROGRAMS = {
-    "tarnwick": tarnwick,
+    "tarnwick": tarnwick("empty.CFG"),
+    "today": tarnwick("today.CFG"),
     "st": lambda folder, child, title: ["stterm", "-g", "80x25", "-T", title, "-t", title, "-e", *child],
     "xterm": lambda folder, child, title: ["xterm", "-geometry", "80x25", "-T", title, "-e", *child],
 }
@@ -221,7 +225,7 @@ def flood_once(screen, name, folder, shot=None):
         watched.end()
 
 
-def answer_times(screen, folder, keys):
+def answer_times(screen, name, folder, keys):
     """Seconds from a key and Return to the child's answer on the screen, while the child floods its output."""
     ready = os.path.join(folder, "answering")
     if os.path.exists(os.path.join(folder, "go")):
@@ -230,7 +234,7 @@ def answer_times(screen, folder, keys):
     with open(script, "w", encoding="utf-8") as out:
         out.write(ANSWER.format(flood=os.path.join(folder, "flood"), ready=ready, go=os.path.join(folder, "go"),
                                 mark=MARK.encode()))
-    watched = started(screen, "tarnwick", folder, ["/usr/bin/python3", script])
+    watched = started(screen, name, folder, ["/usr/bin/python3", script])
     times = []
     try:
         watched.look_at_rest()
@@ -261,10 +265,14 @@ def main():
     parser.add_argument("--keys", type=int, default=200)
     parser.add_argument("--megabytes", type=int, default=50)
     parser.add_argument("--only", choices=PROGRAMS)
+    parser.add_argument("--beside", metavar="TARNWICK", help="the program of another build")
     parser.add_argument("--shots", help="a folder for pictures of the windows at the end")
     options = parser.parse_args()
+    if options.beside:
+        PROGRAMS["beside"] = tarnwick("empty.CFG", os.path.abspath(options.beside))
     names = [options.only] if options.only else list(PROGRAMS)
-    needed = [{"st": "stterm"}.get(name, name) for name in names if name != "tarnwick"]
+    ours = [name for name in names if name in ("tarnwick", "today", "beside")]
+    needed = [{"st": "stterm"}.get(name, name) for name in names if name not in ours]
     missing = [program for program in needed if not shutil.which(program)]
     if missing:
         sys.exit(f"bench/console.py: not installed: {' '.join(missing)}")
@@ -272,6 +280,8 @@ def main():
     folder = tempfile.mkdtemp(prefix="tarnwick-bench-")
     try:
         open(os.path.join(folder, "empty.CFG"), "w", encoding="ascii").close()
+        with open(os.path.join(folder, "today.CFG"), "w", encoding="ascii") as out:
+            out.write("NEWER_CONSOLE  ON\n")
         write_flood(os.path.join(folder, "flood"), options.megabytes)
         with open(os.path.join(folder, "cat.sh"), "w", encoding="ascii") as out:
             out.write(CAT.format(folder=folder))
@@ -287,9 +297,9 @@ def main():
         for name in names:
             print(f"  {name:9} {medians[name]:7.2f} s   {medians[name] / medians[names[0]]:6.2f} times {names[0]}'s   "
                   f"peak memory {max(memory for _, memory in results[name]):.1f} MB")
-        if options.keys and "tarnwick" in names:
-            times = answer_times(screen, folder, options.keys)
-            print(f"a key during the flood, answered on the screen, {len(times)} times: median "
+        for name in ours if options.keys else []:
+            times = answer_times(screen, name, folder, options.keys)
+            print(f"a key during the flood, answered on the screen, {name}, {len(times)} times: median "
                   f"{statistics.median(times) * 1000:.0f} ms, 99th percentile {percentile(times, 0.99) * 1000:.0f} ms, "
                   f"longest {max(times) * 1000:.0f} ms")
     finally:

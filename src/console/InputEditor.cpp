@@ -20,7 +20,7 @@ int columnsOf(std::string_view text) {
 
 /// True for what becomes part of the line. Only their exact codes are the keys that edit it: a byte that the console
 /// merely classes as one of them is a letter.
-bool isCharacter(char byte) {
+bool isClassicCharacter(char byte) {
   const unsigned char code = platform::consoleClass(byte);
   const bool classedAsKey = code == '\b' || code == '\t' || code == '\r';
   return code >= firstPrintable || (classedAsKey && code != static_cast<unsigned char>(byte));
@@ -76,6 +76,10 @@ bool InputEditor::drain() {
     end_.send();
   }
   return false;
+}
+
+bool InputEditor::isCharacter(char byte) const {
+  return screen_.today ? static_cast<unsigned char>(byte) >= firstPrintable : isClassicCharacter(byte);
 }
 
 std::string InputEditor::takeCharacters() {

@@ -53,6 +53,7 @@ class InputEditor {
 
   Input input() const;
   int lineCount() const { return screen_.document.lineCount(); }
+  bool isCharacter(char byte) const;
   std::string takeCharacters();
   void typeText(const std::string& text);
   void typeTab();

@@ -9,16 +9,21 @@
 namespace tarnwick {
 namespace {
 
+using TextBytes = std::array<bool, 256>;
+
+TextBytes textBytesBy(bool (*isText)(char)) {
+  TextBytes plain{};
+  for (std::size_t code = 0; code < plain.size(); ++code) {
+    plain[code] = isText(static_cast<char>(static_cast<unsigned char>(code)));
+  }
+  return plain;
+}
+
 /// Which bytes stay in the text; a table, since every byte of a flood is looked up.
-const std::array<bool, 256>& textBytes() {
-  static const auto table = [] {
-    std::array<bool, 256> plain{};
-    for (std::size_t code = 0; code < plain.size(); ++code) {
-      plain[code] = platform::isConsoleText(static_cast<char>(static_cast<unsigned char>(code)));
-    }
-    return plain;
-  }();
-  return table;
+const TextBytes& textBytes(bool today) {
+  static const TextBytes classic = textBytesBy(platform::isConsoleText);
+  static const TextBytes todays = textBytesBy(platform::isText);
+  return today ? todays : classic;
 }
 
 }  // namespace
@@ -44,7 +49,7 @@ void OutputReader::handle(std::string_view block) {
   const TextGuard guard(screen_.lock());
   const HeldInput input(screen_);
   high_ = 0;
-  const auto& plain = textBytes();
+  const TextBytes& plain = textBytes(screen_.today);
   std::size_t start = 0;
   for (std::size_t place = 0; place < block.size(); ++place) {
     if (sequence_.underWay() && sequence_.take(block[place])) {

@@ -17,6 +17,12 @@ unsigned char consoleClass(char byte);
 /// True for a byte that the console keeps as text.
 bool isConsoleText(char byte);
 
+/// True for a byte that is a character or a part of one, rather than a control code. So the console of today has it.
+constexpr bool isText(char byte) {
+  const auto value = static_cast<unsigned char>(byte);
+  return value >= 32 && value != 127;
+}
+
 /// The bytes with whatever is no character of the set replaced by U+FFFD; unchanged where every byte is a character.
 std::string validText(std::string_view bytes);
 

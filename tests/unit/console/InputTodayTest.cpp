@@ -54,6 +54,15 @@ TEST_F(InputTodayTest, ReturnBehindOutputSendsALineEnd) {
   EXPECT_EQ(sent, (Lines{"\n", "\n"}));
 }
 
+TEST_F(InputTodayTest, LettersWhoseLowBitsAreAControlCodeBelongToTheLine) {
+  if (test::charactersAreUtf8()) GTEST_SKIP() << "bytes from 128 up belong to characters here";
+  type("10 \x80 \x8A\x8D\x9E");
+  EXPECT_EQ(sent, Lines{});
+  EXPECT_EQ(textOf(document), (Lines{"10 \x80 \x8A\x8D\x9E"}));
+  type("\r");
+  EXPECT_EQ(sent, Lines{"10 \x80 \x8A\x8D\x9E\n"});
+}
+
 TEST_F(InputTodayTest, ReturnBehindAControlCharacterSendsALineEndToo) {
   type("abc\x01\r");
   EXPECT_EQ(sent, (Lines{"abc", "\x01", "\n"}));

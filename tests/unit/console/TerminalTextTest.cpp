@@ -46,6 +46,12 @@ TEST_F(TerminalTextTest, ACarriageReturnWritesOverTheLine) {
   EXPECT_EQ(shown(), (Lines{"742 %", "next", ""}));
 }
 
+TEST_F(TerminalTextTest, ALetterWhoseLowBitsAreAControlCodeIsALetter) {
+  if (test::charactersAreUtf8()) GTEST_SKIP() << "bytes from 128 up belong to characters here";
+  out.handle("\x80 10 \x96 \x8A\x8D\x9B|");
+  EXPECT_EQ(shown(), Lines{"\x80 10 \x96 \x8A\x8D\x9B|"});
+}
+
 TEST_F(ClassicTextTest, CarriageReturnsAndBackspacesVanish) {
   out.handle(" 41 %\r 42 %\b\bx\f\r\n");
   EXPECT_EQ(shown(), (Lines{" 41 % 42 %x", ""}));

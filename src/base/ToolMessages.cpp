@@ -160,9 +160,10 @@ std::vector<ToolMessage> toolMessages(std::string_view text) {
   std::vector<ToolMessage> messages;
   for (std::size_t at = 0; at < lines.size(); ++at) {
     if (!messages.empty()) takeFurther(messages.back(), lines[at], at);
-    // The line above the mark is the source's own, whatever its comments look like.
-    const bool quoted = at + 1 < lines.size() && markedColumn(lines[at + 1]) > 0;
-    if (quoted) continue;
+    // The line above the mark is the source's own, whatever its comments look like; and where that is a mark alone,
+    // two follow each other.
+    const auto isMark = [&](std::size_t line) { return line < lines.size() && markedColumn(lines[line]) > 0; };
+    if (isMark(at + 1) && !isMark(at + 2)) continue;
     if (auto message = messageAt(lines, at, introductions)) messages.push_back(std::move(*message));
   }
   return messages;

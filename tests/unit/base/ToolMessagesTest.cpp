@@ -234,6 +234,11 @@ TEST(ToolMessagesTest, ALineAboveTheMarkIsTheSourcesOwn) {
   EXPECT_EQ(told("A.java:3: error: x\nB.java:5: error: y\n   ^\n"), "0 error A.java 3:4\n");
 }
 
+TEST(ToolMessagesTest, TheSourcesOwnLineMayBeAMarkAlone) {
+  EXPECT_EQ(told("A.java:2: error: illegal start of type\n  ^\n  ^\nB.java:3: error: y\n  int x;\n      ^\n"),
+            "0 error A.java 2:3\n3 error B.java 3:7\n");
+}
+
 TEST(ToolMessagesTest, LineEndsOfBothSystemsEndLines) {
   EXPECT_EQ(told("A.java:3: error: x\r\n\tx\r\n\t^\r\nB.java:4: error: y\r\n"),
             "0 error A.java 3:2\n3 error B.java 4:0\n");

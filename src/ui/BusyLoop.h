@@ -16,7 +16,8 @@ class BusyLoop {
   struct Requests {
     /// That a window closes; null for one that is not the toolkit's.
     std::function<void(wxWindow* window)> close = [](wxWindow*) {};
-    std::function<void()> escape = [] {};  ///< Escape in any window, once one has been admitted
+    /// Escape in any window, once one has been admitted; false if it is meant for something else.
+    std::function<bool()> escape = [] { return false; };
   };
 
   explicit BusyLoop(Requests requests);

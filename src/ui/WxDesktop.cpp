@@ -170,7 +170,7 @@ void WxDesktop::whileBusy(const BusyWork& busy) {
   const WindowStack::Place place(stack_, nullptr);
   const wxBusyCursor hourglass;
   BusyLoop loop(busy.stop ? BusyLoop::Requests{[&](wxWindow* closing) { askToStop(busy.tool, closing); },
-                                               [this] { watch_->stop(); }}
+                                               [this] { return escape(); }}
                           : BusyLoop::Requests{});
   std::exception_ptr failure;
   std::promise<void> ended;
@@ -201,6 +201,13 @@ bool WxDesktop::showStep(std::size_t step, std::size_t steps) {
   step_ = {step, steps};
   if (steps == 0) watch_.reset();
   return goesOn;
+}
+
+bool WxDesktop::escape() {
+  // In the question whether to leave it stops nothing.
+  if (isAsking_) return false;
+  watch_->stop();
+  return true;
 }
 
 void WxDesktop::askToStop(const std::string& tool, const wxWindow* closing) {

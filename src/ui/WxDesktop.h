@@ -62,6 +62,8 @@ class WxDesktop : public Desktop, public ConsoleFrameHost {
 
  private:
   int runTop(WxTopWindow& window);
+  /// Escape while a tool runs, which stops it; false if it is meant for something else.
+  bool escape();
   /// Somebody would close this window while a tool runs. Only those with which the program goes are asked about.
   void askToStop(const std::string& tool, const wxWindow* closing);
   /// Throws NoThreadE.

@@ -263,6 +263,30 @@ TEST_F(RunWatchTest, WhoClosesThePanelMeanwhileIsAskedAndMayStay) {
   EXPECT_EQ(rules.heard, (Heard{"command 1", "detached"}));
 }
 
+TEST_F(RunWatchTest, EscapeInTheQuestionStopsNothing) {
+  Answers seen(wxID_NONE);
+  workUntilItShows();
+  steps.then("close", [] { key(WXK_F4, wxMOD_ALT); });
+  steps.until("asked", [&] { return !seen.shown.empty(); });
+  steps.settle(20);
+  // Where a question can be answered by this key, it means no.
+  steps.then("Escape", [] { key(WXK_ESCAPE); });
+  steps.settle(20);
+  steps.then("no", [this] {
+    EXPECT_EQ(stopped, 0);
+    key('N');
+  });
+  steps.settle(20);
+  steps.then("it goes on", [this] {
+    EXPECT_EQ(stopped, 0);
+    EXPECT_EQ(worked, 0);
+    enough = true;
+  });
+  thenLeave();
+  play();
+  EXPECT_FALSE(desktop().isLeft());
+}
+
 TEST_F(RunWatchTest, OrStopsItAndLeaves) {
   Answers answers(wxID_YES);
   workUntilItShows();

@@ -32,7 +32,7 @@ struct BusyLoop::State {
     const auto& state = *static_cast<State*>(data);
     if (!state.admitted || !state.holdsInput()) return FALSE;
     if (gdk_window_get_toplevel(event->window) == gtk_widget_get_window(state.admitted)) return FALSE;
-    if (event->type == GDK_KEY_PRESS && event->keyval == GDK_KEY_Escape) state.requests.escape();
+    if (event->type == GDK_KEY_PRESS && event->keyval == GDK_KEY_Escape) return state.requests.escape();
     return TRUE;
   }
 

@@ -70,8 +70,7 @@ class LoopWithoutInput : public wxGUIEventLoop, private wxEventFilter {
   int FilterEvent(wxEvent& event) override {
     if (!admitted_ || event.GetEventType() != wxEVT_CHAR_HOOK || !IsRunning()) return Event_Skip;
     if (static_cast<wxKeyEvent&>(event).GetKeyCode() != WXK_ESCAPE) return Event_Skip;
-    requests_.escape();
-    return Event_Processed;
+    return requests_.escape() ? Event_Processed : Event_Skip;
   }
 
   BusyLoop::Requests requests_;

@@ -14,6 +14,9 @@ namespace tarnwick::ui {
 
 namespace {
 
+/// Whatever it is: a button that is given none measures itself for it, long before it has its picture.
+constexpr int firstSide = 1;
+
 bool isUnseen(const PanelPicture* picture) {
   return picture && picture->words == PanelPicture::Unseen;
 }
@@ -21,10 +24,10 @@ bool isUnseen(const PanelPicture* picture) {
 }  // namespace
 
 PictureButton::PictureButton(wxWindow& parent, const std::string& text, const std::string& spoken)
-    : wxButton(&parent, wxID_ANY, toWx(text), wxDefaultPosition, wxDefaultSize, wxBU_EXACTFIT),
+    : wxButton(&parent, wxID_ANY, toWx(text), wxDefaultPosition, {firstSide, firstSide}, wxBU_EXACTFIT),
       text_(text),
-      spoken_(spoken),
-      plain_(GetFont()) {
+      spoken_(spoken) {
+  SetMinSize(wxDefaultSize);
   dress();
   Bind(wxEVT_SIZE, [this](wxSizeEvent& event) {
     event.Skip();
@@ -43,9 +46,11 @@ void PictureButton::setText(const std::string& text) {
 
 void PictureButton::dress() {
   const PanelPicture* const picture = panelPicture(text_);
-  SetFont(picture && picture->words == PanelPicture::Emphasised ? plain_.Bold() : plain_);
+  emphasise(picture && picture->words == PanelPicture::Emphasised);
   if (isUnseen(picture)) wordsShow_ = false;
-  SetLabel(wordsShow_ ? toWx(text_) : noWords());
+  // The toolkit builds a button anew for each label, and asks the whole theme for its font.
+  const wxString label = wordsShow_ ? toWx(text_) : noWords();
+  if (label != GetLabel()) SetLabel(label);
   const bool dark = wxSystemSettings::GetAppearance().IsDark();
   const auto room = wordsShow_ ? PictureRoom::BesideWords : PictureRoom::Alone;
   SetBitmap(picture ? buttonPicture(std::string(picture->drawing), dark, room) : wxBitmapBundle());
@@ -57,6 +62,13 @@ void PictureButton::dress() {
     UnsetToolTip();
     tipIsName_ = false;
   }
+}
+
+void PictureButton::emphasise(bool on) {
+  if (on == plain_.IsOk()) return;
+  if (on) plain_ = GetFont();
+  SetFont(on ? plain_.Bold() : plain_);
+  if (!on) plain_ = wxNullFont;
 }
 
 void PictureButton::showWords(bool on) {

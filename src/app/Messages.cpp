@@ -53,6 +53,13 @@ void Messages::show(bool said) {
   window_->show();
 }
 
+void Messages::bringForward() {
+  const bool showsIt = window_ && window_->isOpen() && shownLog_ && settings_.context().log.runs() == shownRuns_;
+  // Shown anew, a log would begin again with its first message.
+  if (!showsIt) show(true);
+  if (window_) window_->bringForward();
+}
+
 void Messages::useRememberedLetters() {
   const ProgramInfo& program = settings_.context().program;
   view_.useLetters(rememberedLook(program).letters, [&program](int letters) {

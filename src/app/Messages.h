@@ -25,6 +25,8 @@ class Messages : public MessagesFrame {
 
   /// Shows the log. One that `said` nothing opens no window, and changes one that is open only if a tool has run since.
   void show(bool said);
+  /// Shows the last log, if it does not yet, and brings the window before all others.
+  void bringForward();
   /// Closes the window if it is open.
   void close();
 

@@ -32,6 +32,8 @@ class MessagesWindow {
   virtual void setSummary(const std::string& text) = 0;
   /// Opens the window if it is not open. Either way it takes the focus from nobody.
   virtual void show() = 0;
+  /// Lets its user see it where it is open: not as an icon, nor behind other windows.
+  virtual void bringForward() = 0;
   virtual bool isOpen() const = 0;
   /// True if the desktop wants light letters on dark ground.
   virtual bool isDark() const = 0;

@@ -119,9 +119,9 @@ void PanelDlg::editSettings() {
 
 void PanelDlg::showLastLog() {
   const SettingsContext& context = settings_.context();
-  if (!context.showMessages || context.log.path().empty()) return desktop_.alert(AlertSound::Beep);
+  if (!context.bringMessages || context.log.path().empty()) return desktop_.alert(AlertSound::Beep);
   try {
-    context.showMessages(true);
+    context.bringMessages();
   } catch (const Tarnwickexception& failure) {
     desktop_.message(failure.message);
   }

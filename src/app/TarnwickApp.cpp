@@ -66,6 +66,7 @@ TarnwickApp::TarnwickApp(Desktop& desktop, ConsoleFrameHost& frameHost, const st
   context_.showHelp = [this](const std::string& anchor) { showHelp(anchor); };
   context_.showAbout = [this] { showAbout(); };
   context_.showMessages = [this](bool said) { messages_.show(said); };
+  context_.bringMessages = [this] { messages_.bringForward(); };
   context_.registerProjectType = [this] { registerProjectType(); };
 }
 

@@ -44,6 +44,8 @@ struct SettingsContext {
   /// Shows the log in the messages' window; one that stays silent is only told of in a window that is open. The
   /// application sets it.
   std::function<void(bool said)> showMessages = {};
+  /// Brings the messages' window to the front, with the last log. The application sets it.
+  std::function<void()> bringMessages = {};
   /// Hears what a tool begins to work on, as in "javac Greeter.java"; `sources` counts those that it compiles.
   std::function<void(const std::string& what, std::size_t sources)> onRunBegins = [](const std::string&, std::size_t) {
   };

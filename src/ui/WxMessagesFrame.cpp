@@ -131,6 +131,12 @@ void WxMessagesFrame::show() {
   frame_->ShowWithoutActivating();
 }
 
+void WxMessagesFrame::bringForward() {
+  if (!frame_) return;
+  if (frame_->IsIconized()) frame_->Iconize(false);
+  frame_->Raise();
+}
+
 void WxMessagesFrame::close() {
   if (!frame_) return;
   const auto at = placeNow();

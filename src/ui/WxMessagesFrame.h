@@ -30,6 +30,7 @@ class WxMessagesFrame : public MessagesWindow {
 
   void setSummary(const std::string& text) override;
   void show() override;
+  void bringForward() override;
   bool isOpen() const override { return frame_ != nullptr; }
   bool isDark() const override;
   void close() override;

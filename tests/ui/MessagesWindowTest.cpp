@@ -176,6 +176,22 @@ TEST_F(MessagesWindowTest, LeavesTheMainWindowTheKeyboard) {
   run();
 }
 
+TEST_F(MessagesWindowTest, WhoAsksForItSeesItAgain) {
+  waitForMain();
+  steps.then("nothing is open", [this] { messages.window->bringForward(); });
+  openMessages();
+  activateMessages();
+  steps.then("back to the main window", [this] { top().dialog().Raise(); });
+  steps.until("it is active", [this] { return top().dialog().IsActive(); });
+  steps.then("ask", [this] { messages.window->bringForward(); });
+  steps.until("it is before the main window", [this] { return window().frame()->IsActive(); });
+  steps.then("minimise", [this] { window().frame()->Iconize(); });
+  steps.until("it is an icon", [this] { return window().frame()->IsIconized(); });
+  steps.then("ask", [this] { messages.window->bringForward(); });
+  steps.until("it is a window", [this] { return !window().frame()->IsIconized() && window().frame()->IsActive(); });
+  run();
+}
+
 TEST_F(MessagesWindowTest, InTheMainWindowTheKeysStepWhileItIsOpen) {
   waitForMain();
   pressKey(WXK_F4);

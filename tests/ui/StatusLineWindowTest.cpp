@@ -56,7 +56,7 @@ TEST_F(StatusLineWindowTest, ReturnOnItShowsTheLastLog) {
   log_.open(FileMode::Write);
   log_.close();
   int shows = 0;
-  context_.showMessages = [&shows](bool) { ++shows; };
+  context_.bringMessages = [&shows] { ++shows; };
   waitForView();
   steps.then("focus", [this] { line().SetFocus(); });
   steps.until("focus", [this] { return wxWindow::FindFocus() == &line(); });

@@ -25,6 +25,7 @@ class WindowNotes : public ConsoleFrameHost {
 
   int made = 0;
   int shown = 0;
+  int broughtForward = 0;
   bool open = false;
   std::string summary;
   MessagesFrame* rules = nullptr;
@@ -39,6 +40,7 @@ class WindowNotes : public ConsoleFrameHost {
       ++notes_.shown;
       notes_.open = true;
     }
+    void bringForward() override { notes_.broughtForward += notes_.open ? 1 : 0; }
     bool isOpen() const override { return notes_.open; }
     bool isDark() const override { return false; }
     void close() override {
@@ -123,6 +125,35 @@ TEST_F(MessagesTest, TheLogOpensTheWindowAndTheNextOneComesIntoTheSame) {
   runAndShow("A.java:3: warning: [x] y\n");
   EXPECT_EQ(summary(), "1 warning in 1 file");
   EXPECT_EQ(host.made, 1);
+}
+
+TEST_F(MessagesTest, WhoAsksForThemSeesTheWindowBeforeAllOthers) {
+  runAndShow("A.java:3: warning: [x] y\n");
+  EXPECT_EQ(host.broughtForward, 0) << "nobody has asked";
+  messages().bringForward();
+  EXPECT_EQ(host.broughtForward, 1);
+  messages().close();
+  messages().bringForward();
+  EXPECT_TRUE(host.open);
+  EXPECT_EQ(host.broughtForward, 2);
+}
+
+TEST_F(MessagesTest, WhoAsksForTheSameLogGoesOnWhereItWas) {
+  runAndShow(twoErrors);
+  messages().onCommand(MessagesCommand::Next);
+  messages().bringForward();
+  messages().onCommand(MessagesCommand::Next);
+  EXPECT_EQ(opened, (std::vector<std::string>{"A.java 3:3", "B.java 4:0"}));
+}
+
+TEST_F(MessagesTest, WhoAsksForALogThatIsNotShownSeesIt) {
+  runAndShow(twoErrors);
+  messages().onCommand(MessagesCommand::Clear);
+  messages().bringForward();
+  EXPECT_EQ(summary(), "2 errors in 2 files");
+  run("A.java:3: warning: [x] y\n");
+  messages().bringForward();
+  EXPECT_EQ(summary(), "1 warning in 1 file");
 }
 
 TEST_F(MessagesTest, WhatWasSaidBeforeStaysAboveAndTheSumIsThatOfTheNewest) {

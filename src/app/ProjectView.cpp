@@ -78,7 +78,10 @@ void ProjectView::refreshButtons() {
   for (const int control : {JAVAC_ALL, JAVAC, EDIT}) window()->enable(control, sources);
   window()->enable(FILES, open != nullptr);
   DialogWindow& mainPage = pageWindow(MAIN_PROGRAM);
-  for (const int control : {PanelPage::MIDDLE, PanelPage::RIGHT, PanelPage::FIELD}) mainPage.enable(control, runs);
+  mainPage.enable(PanelPage::MIDDLE, runs);
+  // With today's Java it can be compiled from here: "java" with the Control key, or Ctrl+Return in the field.
+  const bool mayRun = runs || (settings_.newerJava && sources && !open->mainClass.empty());
+  for (const int control : {PanelPage::RIGHT, PanelPage::FIELD}) mainPage.enable(control, mayRun);
   mainPage.enable(PanelPage::LEFT, sources && open->multiMain);
   for (const int control : {PanelPage::MIDDLE, PanelPage::RIGHT}) pageWindow(APPLET).enable(control, showsApplet);
   // Deliberate: arguments that were typed behind the class stay only until now.

@@ -15,23 +15,24 @@ Compiler compilerForUser(Settings& settings, const std::optional<std::string>& c
   return Compiler(settings, classpath, [&settings] { return maySplit(settings); });
 }
 
-bool hasSaid(const Settings& settings, const RunResult& result) {
+void takeRun(const Settings& settings, const RunResult& result, CompilerRuns& runs) {
   showEach(settings.context().desktop, result.failures);
-  return result.said;
+  runs.said |= result.said;
+  runs.failed |= !result.failures.empty();
 }
 
-CompileEnd compileForUser(const Settings& settings, const std::function<bool()>& compile,
+CompileEnd compileForUser(const Settings& settings, const std::function<CompilerRuns()>& compile,
                           const std::function<void()>& afterwards) {
   Desktop& desktop = settings.context().desktop;
   const auto& onRunEnds = settings.context().onRunEnds;
   try {
-    const bool said = compile();
-    onRunEnds(said);
+    const auto [said, failed] = compile();
+    onRunEnds(failed && !said ? std::nullopt : std::optional(said));
     if (said ? settings.javacSoundOnError : settings.javacSoundOnSuccess)
       desktop.alert(said ? AlertSound::Exclamation : AlertSound::Asterisk);
     showRun(settings, said);
     afterwards();
-    return {!said};
+    return {!said && !failed};
   } catch (const DontWantToSplitE&) {
     // The user has said so; there is nothing to tell.
     onRunEnds(std::nullopt);

@@ -342,7 +342,9 @@ void FileView::showCompiledClass() {
 CompileEnd FileView::compileFile() {
   const auto compile = [this] {
     Compiler compiler = compilerForUser(settings_, compilerClasspath(settings_));
-    return hasSaid(settings_, compiler.compile(sourceFile_, FileMode::Write));
+    CompilerRuns runs;
+    takeRun(settings_, compiler.compile(sourceFile_, FileMode::Write), runs);
+    return runs;
   };
   return compileForUser(settings_, compile, [] {});
 }

@@ -64,18 +64,17 @@ class CompileRuns {
   bool next() {
     if (isStopped_ || steps_.next()) return !isStopped_;
     settings_.context().log.addNotes(logMode_, {stoppedNote}, RunEnd::Stopped);
-    isStopped_ = said_ = true;
+    isStopped_ = came_.said = true;
     return false;
   }
   /// The one that comes next adds to the log of those before.
   FileMode logMode() const { return logMode_; }
   void take(const RunResult& result) {
-    if (hasSaid(settings_, result)) said_ = true;
+    takeRun(settings_, result, came_);
     isStopped_ = result.end == RunEnd::Stopped;
     logMode_ = FileMode::Append;
   }
-  /// True if there was something to say in any of them.
-  bool haveSaid() const { return said_; }
+  const CompilerRuns& came() const { return came_; }
 
  private:
   static Desktop& desktopOf(const Settings& settings) { return settings.context().desktop; }
@@ -83,12 +82,12 @@ class CompileRuns {
   const Settings& settings_;
   RunSteps steps_;
   FileMode logMode_ = FileMode::Write;
-  bool said_ = false;
+  CompilerRuns came_;
   bool isStopped_ = false;
 };
 
 // Deliberate: asked from the last to the first; a run may make others current.
-bool compileEach(const Settings& settings, const ProjectContext& project, bool all, Compiler& compiler) {
+CompilerRuns compileEach(const Settings& settings, const ProjectContext& project, bool all, Compiler& compiler) {
   const TypeIndex index(project.collectClasses(ProjectContext::ALL_TYPES));
   CompileRuns runs(settings, project.sources.size());
   for (std::size_t i = project.sources.size(); i-- > 0 && runs.next();) {
@@ -97,10 +96,10 @@ bool compileEach(const Settings& settings, const ProjectContext& project, bool a
     FileForSubprocess file(source.name().fullName());
     runs.take(compiler.compile(file, runs.logMode()));
   }
-  return runs.haveSaid();
+  return runs.came();
 }
 
-bool compileTogether(const Settings& settings, const ProjectContext& project, bool all, Compiler& compiler) {
+CompilerRuns compileTogether(const Settings& settings, const ProjectContext& project, bool all, Compiler& compiler) {
   const TypeIndex index(project.collectClasses(ProjectContext::ALL_TYPES));
   std::vector<const JavaSourcefile*> stale;
   for (std::size_t i = project.sources.size(); i-- > 0;) {
@@ -113,11 +112,10 @@ bool compileTogether(const Settings& settings, const ProjectContext& project, bo
     if (!runs.next()) break;
     runs.take(compiler.compileTogether(batch.names, runs.logMode()));
   }
-  return runs.haveSaid();
+  return runs.came();
 }
 
-/// True if `javac` had something to say of any source.
-bool compileSources(Settings& settings, ProjectContext& project, bool all, SettingsSaved saved) {
+CompilerRuns compileSources(Settings& settings, ProjectContext& project, bool all, SettingsSaved saved) {
   Compiler compiler = compilerForUser(settings, quotedPaths(project.runClasspath()));
   if (saved == SettingsSaved::JustNow) compiler.takeSettingsForSaved();
   project.update();

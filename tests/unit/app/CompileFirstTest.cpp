@@ -1,6 +1,9 @@
 // "java" with the Control key held: what is not up to date is compiled first.
 #include "ProjectViewFixture.h"
 #include "base/FileForSubprocess.h"
+#include "platform/FileSystem.h"
+#include "platform/Path.h"
+#include "platform/Process.h"
 
 namespace tarnwick::test {
 namespace {
@@ -85,6 +88,27 @@ TEST_F(CompileFirstTest, WhatTheCompilerSaysKeepsItFromRunning) {
   });
 }
 
+TEST_F(CompileFirstTest, ACompilerThatCantBeStartedKeepsItFromRunning) {
+  makeProgram();
+  makeStale("One");
+  const std::string folder = scratch_.file("broken") + platform::folderSeparator;
+  platform::makeFolders(folder);
+  for (const std::string tool : {"javac", "java"}) writeFile(folder + platform::toolFileName(tool), "no program");
+  runPanel([&](ScriptedWindow&, ScriptedWindow& panel) {
+    settings().javaPath = folder;
+    std::string fault;
+    try {
+      platform::ChildProcess::start({folder + platform::toolFileName("javac"), "", false});
+    } catch (const platform::SystemError& error) {
+      fault = error.text();
+    }
+    desktop_.expectMessage("Can't start " + folder + platform::toolFileName("javac") + '\n' + fault);
+    run(panel);
+    EXPECT_TRUE(didNotRun());
+    exit(panel);
+  });
+}
+
 TEST_F(CompileFirstTest, WithoutASourceTheClassRuns) {
   makeProgram();
   runPanel([&](ScriptedWindow&, ScriptedWindow& panel) {
@@ -145,6 +169,27 @@ TEST_F(CompileFirstTest, InAProjectsFieldTheyCompileWhatHasChangedSince) {
     EXPECT_TRUE(compiled("Main"));
     exit(panel);
   });
+}
+
+TEST_F(CompileFirstTest, WithTodaysJavaAProjectCanBeCompiledSoWhileItIsNotUpToDate) {
+  for (const bool newer : {false, true}) {
+    saveEarlierRun();
+    makeSource("Main", mainMethod());
+    const std::string rows = newer ? "PROJECT_SOURCES  Main.java\nNEWER_JAVA  ON\n" : "PROJECT_SOURCES  Main.java\n";
+    startWith(makeProject(rows), [&](ScriptedWindow& panel) {
+      ScriptedWindow& page = panel.page(TABS, 0);
+      EXPECT_EQ(page.enabled(PanelPage::RIGHT), newer);
+      EXPECT_EQ(page.enabled(PanelPage::FIELD), newer);
+      EXPECT_FALSE(page.enabled(PanelPage::MIDDLE)) << "there is nothing to debug yet";
+      if (newer) {
+        // The stand-in makes no class.
+        desktop_.expectHint("Not all classes are up-to-date. Compile!");
+        run(panel);
+        EXPECT_TRUE(compiled("Main"));
+      }
+      exit(panel);
+    });
+  }
 }
 
 TEST_F(CompileFirstTest, AProjectCompilesWhatHasChangedSince) {

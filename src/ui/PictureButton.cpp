@@ -26,7 +26,8 @@ bool isUnseen(const PanelPicture* picture) {
 PictureButton::PictureButton(wxWindow& parent, const std::string& text, const std::string& spoken)
     : wxButton(&parent, wxID_ANY, toWx(text), wxDefaultPosition, {firstSide, firstSide}, wxBU_EXACTFIT),
       text_(text),
-      spoken_(spoken) {
+      spoken_(spoken),
+      plain_(usualFont(*this)) {
   SetMinSize(wxDefaultSize);
   dress();
   Bind(wxEVT_SIZE, [this](wxSizeEvent& event) {
@@ -46,9 +47,10 @@ void PictureButton::setText(const std::string& text) {
 
 void PictureButton::dress() {
   const PanelPicture* const picture = panelPicture(text_);
-  emphasise(picture && picture->words == PanelPicture::Emphasised);
+  // A font of its own, even if it is the same: the toolkit asks the whole theme for any other, each time.
+  SetFont(picture && picture->words == PanelPicture::Emphasised ? plain_.Bold() : plain_);
   if (isUnseen(picture)) wordsShow_ = false;
-  // The toolkit builds a button anew for each label, and asks the whole theme for its font.
+  // The toolkit builds a button anew for each label.
   const wxString label = wordsShow_ ? toWx(text_) : noWords();
   if (label != GetLabel()) SetLabel(label);
   const bool dark = wxSystemSettings::GetAppearance().IsDark();
@@ -62,13 +64,6 @@ void PictureButton::dress() {
     UnsetToolTip();
     tipIsName_ = false;
   }
-}
-
-void PictureButton::emphasise(bool on) {
-  if (on == plain_.IsOk()) return;
-  if (on) plain_ = GetFont();
-  SetFont(on ? plain_.Bold() : plain_);
-  if (!on) plain_ = wxNullFont;
 }
 
 void PictureButton::showWords(bool on) {

@@ -22,7 +22,6 @@ class PictureButton : public wxButton {
 
  private:
   void dress();
-  void emphasise(bool on);
   void showWords(bool on);
   bool hasRoomForWords() const;
   int widthWithWords(const std::string& text) const;
@@ -31,7 +30,7 @@ class PictureButton : public wxButton {
 
   std::string text_;
   std::string spoken_;
-  wxFont plain_;  ///< an emphasised button's font as it was before; of no other button
+  wxFont plain_;
   bool wordsShow_ = true;
   bool tipIsName_ = false;
 };

@@ -3,6 +3,7 @@
 
 #include "base/Geometry.h"
 
+#include <wx/font.h>
 #include <wx/gdicmn.h>
 
 #include <cstddef>
@@ -39,6 +40,9 @@ void nameBySpeech(wxWindow& control, const std::string& name);
 
 /// The label of a button that shows its picture alone.
 wxString noWords();
+
+/// The font of a control that has been given none.
+wxFont usualFont(const wxWindow& control);
 
 /// Tells readers of the screen what a tab is called, for as long as they ask.
 void nameTab(wxNotebook& tabs, std::size_t tab, const std::string& label);

@@ -7,6 +7,7 @@
 #include <wx/event.h>
 #include <wx/msgdlg.h>
 #include <wx/notebook.h>
+#include <wx/settings.h>
 #include <wx/statbox.h>
 #include <wx/toplevel.h>
 
@@ -123,6 +124,11 @@ void nameBySpeech(wxWindow& control, const std::string& name) {
 // A button that was made with words takes no picture once it has none at all: this character is none to be seen.
 wxString noWords() {
   return wxString::FromUTF8("\xE2\x80\x8B");
+}
+
+// Asked for its own, each control would make another of its kind and ask the whole theme.
+wxFont usualFont(const wxWindow& /*control*/) {
+  return wxSystemSettings::GetFont(wxSYS_DEFAULT_GUI_FONT);
 }
 
 void nameTab(wxNotebook& tabs, std::size_t tab, const std::string& label) {

@@ -107,6 +107,11 @@ void nameBySpeech(wxWindow& control, const std::string& name) {
   control.SetAccessible(new SpokenName(control, toWx(name)));
 }
 
+// The letters follow the screen that the control is on.
+wxFont usualFont(const wxWindow& control) {
+  return control.GetFont();
+}
+
 wxString noWords() {
   return {};
 }

@@ -173,11 +173,12 @@ bool DebuggedRun::awaitConnection(std::unique_lock<std::mutex>& guard) {
 void DebuggedRun::awaitEnds(std::unique_lock<std::mutex>& guard) {
   changed_.wait(guard, [this] { return closing_ || ended_.debugger || ended_.program; });
   if (closing_) return;
-  if (ended_.debugger) {
+  if (!ended_.program) {
     // What a debugger lets go runs on.
-    if (!ended_.program) endProgram(guard);
+    endProgram(guard);
     return;
   }
+  // Also where both have ended by now: the debugger does, because its program has.
   programEndedFirst_ = true;
   // A debugger that has lost its program ends by itself.
   changed_.wait_for(guard, timing_.debuggerWait, [this] { return closing_ || ended_.debugger; });

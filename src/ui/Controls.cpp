@@ -49,6 +49,7 @@ wxItemContainer* entryHolder(const Control& control) {
 class Label : public wxStaticText {
  public:
   Label(wxWindow& parent, const std::string& text) : wxStaticText(&parent, wxID_ANY, wxString()) {
+    nameNoButton(*this);
     set(text, toWx(text));
   }
 

@@ -4,6 +4,7 @@
 #include "settingsdialog/SettingsDialog.h"
 #include "ui/PanelsFixture.h"
 #include "ui/RealDialogs.h"
+#include "ui/SampleDialog.h"
 #include "ui/Text.h"
 #include "ui/posix/SpokenTree.h"
 
@@ -77,6 +78,27 @@ TEST_F(SpokenPagesTest, EveryPageOfTheSettings) {
 TEST_F(SpokenPagesTest, EveryPageOfTheDocumentationDialog) {
   lookAtAllPages(Javadoc::TABS, 5);
   JavadocDlg(world_.settings, "\"Main.java\" ").runModal();
+}
+
+TEST_F(SpokenPagesTest, WhatAnEmptyListSaysIsToldBesideItsName) {
+  Recorder rules;
+  const std::string words = "Press a button to fill this";
+  steps.until("the dialog shows", [this] { return openDialogs() == 1 && top().dialog().IsActive(); });
+  steps.then("look", [&] {
+    const auto heard = [this](int control) { return spokenOf(*top().windowOf(control)).description; };
+    for (const int control : {SAMPLE_LIST, SAMPLE_COMBO}) {
+      rules.window->setToolTip(control, "A tip");
+      rules.window->setEntries(control, {});
+      rules.window->setEmptyText(control, words);
+      EXPECT_EQ(heard(control), words);
+      rules.window->setEntries(control, {"first"});
+      EXPECT_EQ(heard(control), "A tip");
+    }
+    rules.window->setEmptyText(SAMPLE_EDIT, words);
+    EXPECT_EQ(spokenOf(*top().windowOf(SAMPLE_EDIT)).placeholder, words);
+    rules.window->close(1);
+  });
+  desktop().runDialog(sampleLayout(), rules);
 }
 
 TEST_P(SpokenPanelsTest, EverythingIsToldWithItsNameItsKindAndItsState) {

@@ -24,6 +24,7 @@ class NoRules : public MessagesFrame {
  public:
   ConsoleSurfaceClient& view() override { return text; }
   void onCommand(MessagesCommand) override {}
+  std::string wordsInPlace() const override { return text.wordsInPlace(); }
   std::optional<Rect> place() const override { return std::nullopt; }
   void onClosed(const std::optional<Rect>&) override {}
 

@@ -24,6 +24,9 @@ namespace {
 
 enum Control { SOURCE_FIELD = 1009, NEW = 1240, BROWSE = 1006, EDIT = 1007, JAVAC = 1008 };
 
+/// In the place of a file's name.
+const char fileWanted[] = "Browse, or drop a file here";
+
 const char sourceFilter[] = "Java source files|*.JAVA||";
 const char classFilter[] = "Java class files|*.CLASS||";
 const char programFilter[] = "Java class files and archives|*.CLASS;*.JAR||";
@@ -101,6 +104,8 @@ void FileView::bindFields(DialogWindow& window) {
   sourceField_.bind(&window, SOURCE_FIELD);
   classField_.bind(&pageWindow(MAIN_PROGRAM), PanelPage::FIELD);
   htmlField_.bind(&pageWindow(APPLET), PanelPage::FIELD);
+  window.setEmptyText(SOURCE_FIELD, fileWanted);
+  for (const int page : {MAIN_PROGRAM, APPLET}) pageWindow(page).setEmptyText(PanelPage::FIELD, fileWanted);
   showFiles();
   pageWindow(UTILITIES).show(PanelPage::FIELD, false);
 }

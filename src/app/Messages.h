@@ -32,6 +32,7 @@ class Messages : public MessagesFrame {
 
   ConsoleSurfaceClient& view() override { return view_; }
   void onCommand(MessagesCommand command) override;
+  std::string wordsInPlace() const override { return view_.wordsInPlace(); }
   std::optional<Rect> place() const override;
   void onClosed(const std::optional<Rect>& place) override;
 

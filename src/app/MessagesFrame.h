@@ -18,6 +18,8 @@ class MessagesFrame {
   virtual ~MessagesFrame() = default;
   virtual ConsoleSurfaceClient& view() = 0;
   virtual void onCommand(MessagesCommand command) = 0;
+  /// What stands in the place of messages; empty if there are some.
+  virtual std::string wordsInPlace() const = 0;
   /// Where the window stood when it was last open; nothing before.
   virtual std::optional<Rect> place() const = 0;
   /// The window is about to go from there; nothing where the window system does not tell.

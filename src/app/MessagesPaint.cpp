@@ -65,6 +65,7 @@ void paintMessages(ConsolePainter& painter, const MessagesText& text, const Cons
     const int bottom = grid.y(static_cast<int>(message.lastLine) + 1);
     painter.fill({clip.left, grid.y(static_cast<int>(message.logLine)), clip.right, bottom}, colours.current);
   }
+  if (text.lines.empty()) painter.drawText(grid.x(messageGutter), grid.y(0), noMessagesYet, colours.dimmed);
   const int first = std::max(clip.top / grid.charHeight, 0);
   const int last = std::min(clip.bottom / grid.charHeight + 1, static_cast<int>(text.lines.size()));
   for (int line = first; line < last; ++line) {

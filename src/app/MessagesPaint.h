@@ -25,6 +25,9 @@ struct MessageColours {
 
 const MessageColours& messageColours(bool dark);
 
+/// What stands in the place of the text as long as there is none.
+inline constexpr const char* noMessagesYet = "What javac and the other tools say comes here.";
+
 /// Draws what of the text lies in the painter's clip. `current` is the number of the message that the user is at.
 void paintMessages(ConsolePainter& painter, const MessagesText& text, const ConsoleGrid& grid,
                    const MessageColours& colours, std::optional<std::size_t> current);

@@ -44,6 +44,10 @@ void MessagesView::setText(MessagesText text) {
   surface_->invalidateAll();
 }
 
+std::string MessagesView::wordsInPlace() const {
+  return text_.lines.empty() ? noMessagesYet : "";
+}
+
 void MessagesView::scrollTo(const Point& position) {
   surface_->scrollTo(position);
   onScrolled();

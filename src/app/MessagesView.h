@@ -23,6 +23,8 @@ class MessagesView : public ConsoleSurfaceClient {
   /// Shows another text from where its newest part begins; the user is at none of its messages.
   void setText(MessagesText text);
   const MessagesText& text() const { return text_; }
+  /// What stands in the place of the text; empty if there is one.
+  std::string wordsInPlace() const;
 
   /// Goes to the next message of the newest part that has a place, or to the one before, and brings it into sight.
   /// Null, with nothing changed, if there is none.

@@ -36,6 +36,14 @@ std::array<PageWords, 2> pageWords() {
         {{PanelPage::MIDDLE, "Start appletviewer under debugger control"}, {PanelPage::RIGHT, "Start appletviewer"}}}}};
 }
 
+/// What there is to do before there is a class to run.
+const char* wordsInEmptyField(const ProjectContext* open, bool upToDate) {
+  if (!open) return "Press \"New\" or \"Open\" for a project";
+  if (open->sources.empty()) return "Press \"Files\" to add sources";
+  if (!upToDate) return "Press \"javac\" to compile";
+  return open->multiMain ? "Press \"Select\" to choose a class" : "No main() method yet: press \"Edit\"";
+}
+
 const char noProject[] = "You have not opened a project yet.";
 const char notCompiled[] = "Not all classes are up-to-date. Compile!";
 
@@ -84,6 +92,7 @@ void ProjectView::refreshButtons() {
   for (const int control : {PanelPage::RIGHT, PanelPage::FIELD}) mainPage.enable(control, mayRun);
   mainPage.enable(PanelPage::LEFT, sources && open->multiMain);
   for (const int control : {PanelPage::MIDDLE, PanelPage::RIGHT}) pageWindow(APPLET).enable(control, showsApplet);
+  mainPage.setEmptyText(PanelPage::FIELD, wordsInEmptyField(open, upToDate));
   // Deliberate: arguments that were typed behind the class stay only until now.
   if (open && !open->mainClass.empty()) leftPage_.setFieldText(PanelPage::FIELD, open->mainClass);
 }

@@ -156,6 +156,7 @@ void ProjectFilesDlg::show(List& list) {
   for (const auto& name : list.names)
     if (hasAll(lowerCase(name), words)) list.shown.push_back(name);
   window()->setEntries(list.control, list.shown);
+  window()->setEmptyText(list.control, wordsInEmpty(list));
   window()->setText(list.countLabel, countOf(list));
 }
 
@@ -164,6 +165,15 @@ std::string ProjectFilesDlg::countOf(const List& list) const {
   const std::string count = std::to_string(list.shown.size()) + " of " + std::to_string(list.names.size());
   if (list.control == OTHER_FILES && !foundAll_) return count + ", and more further down";
   return list.shown.empty() ? count + ": none has such a name" : count;
+}
+
+std::string ProjectFilesDlg::wordsInEmpty(const List& list) const {
+  if (!list.names.empty()) return "No name here has all of these words. Empty the field above to see all names.";
+  if (members_.names.empty() && others_.names.empty())
+    return "There is no java or html file here. Press \"Create new file ....\" to make one.";
+  if (list.control == PROJECT_FILES)
+    return "Select files in the other list and press \"<--\", or press \"Add all\" for all java files.";
+  return "All files here belong to the project. Press \"Create new file ....\" to make another.";
 }
 
 void ProjectFilesDlg::move(List& from, List& to) {

@@ -48,6 +48,8 @@ class ProjectFilesDlg : public ToolTipDlg {
   void showLists();
   void show(List& list);
   std::string countOf(const List& list) const;
+  /// What there is to do about a list that shows no name.
+  std::string wordsInEmpty(const List& list) const;
   /// The selected entries of one list go to the other.
   void move(List& from, List& to);
   void transfer(const Names& going, List& from, List& to);

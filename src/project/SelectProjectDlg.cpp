@@ -25,6 +25,7 @@ void SelectProjectDlg::initialise(DialogWindow& window) {
   ToolTipDlg::initialise(window);
   const auto recent = recentProjects(settings_.context());
   window.setEntries(RECENT_LIST, recent);
+  window.setEmptyText(RECENT_LIST, "No recent projects. Press \"Browse\" to find one.");
   if (!recent.empty()) window.select(RECENT_LIST, 0);
 }
 

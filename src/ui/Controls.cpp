@@ -1,5 +1,6 @@
 #include "ui/Controls.h"
 
+#include "ui/EmptyText.h"
 #include "ui/Field.h"
 #include "ui/Icons.h"
 #include "ui/Link.h"
@@ -11,6 +12,7 @@
 #include <wx/bookctrl.h>
 #include <wx/button.h>
 #include <wx/checkbox.h>
+#include <wx/clntdata.h>
 #include <wx/combobox.h>
 #include <wx/listbox.h>
 #include <wx/notebook.h>
@@ -45,10 +47,22 @@ wxItemContainer* entryHolder(const Control& control) {
   return nullptr;
 }
 
+/// Shows what was set for this control to be empty, if it is.
+void showEmptyText(const Control& control) {
+  auto* const data = static_cast<wxEvtHandler*>(control.window)->GetClientObject();
+  const auto* const set = dynamic_cast<wxStringClientData*>(data);
+  if (!set) return;
+  const auto* const holder = entryHolder(control);
+  const std::string words = holder && !holder->IsEmpty() ? "" : fromWx(set->GetData());
+  showInEmpty(*control.window, words);
+  if (holder) describe(*control.window, words);
+}
+
 /// A label whose long lines break, and that still knows its text as it was given.
 class Label : public wxStaticText {
  public:
   Label(wxWindow& parent, const std::string& text) : wxStaticText(&parent, wxID_ANY, wxString()) {
+    nameNoButton(*this);
     set(text, toWx(text));
   }
 
@@ -389,6 +403,13 @@ void setEntriesOf(const Control& control, const std::vector<std::string>& entrie
   wxArrayString strings;
   for (const auto& entry : entries) strings.push_back(toWx(entry));
   holder->Set(strings);
+  showEmptyText(control);
+}
+
+void setEmptyTextOf(const Control& control, const std::string& words) {
+  // Not one of its entries' data.
+  static_cast<wxEvtHandler*>(control.window)->SetClientObject(new wxStringClientData(toWx(words)));
+  showEmptyText(control);
 }
 
 int selectionOf(const Control& control) {

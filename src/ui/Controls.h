@@ -59,6 +59,7 @@ void selectIn(const Control& control, int index);
 bool isEntrySelected(const Control& control, int index);
 void setEntrySelected(const Control& control, int index, bool on);
 void setToolTipOf(const Control& control, const std::string& text);
+void setEmptyTextOf(const Control& control, const std::string& words);
 void scrollToEndOf(const Control& control);
 
 }  // namespace tarnwick::ui

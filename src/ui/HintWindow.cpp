@@ -1,6 +1,7 @@
 #include "ui/HintWindow.h"
 
 #include "resources/HintLayout.h"
+#include "ui/Toolkit.h"
 
 #include <wx/dcclient.h>
 #include <wx/settings.h>
@@ -31,6 +32,7 @@ HintWindow::HintWindow(WindowStack& stack, wxWindow& view)
 HintWindow::HintWindow(WindowStack& stack, wxWindow& view, Popup popup)
     : WxDialogWindow(stack, *popup, hintLayout(), *this, margin), view_(view), popup_(std::move(popup)) {
   start();
+  describeHint(*popup_, "Hint");
   // The toolkit draws no border around such a window everywhere.
   popup_->Bind(wxEVT_PAINT, [this](wxPaintEvent&) {
     wxPaintDC dc(popup_.get());

@@ -2,6 +2,7 @@
 
 #include "app/ConsoleFrameHost.h"
 #include "ui/Text.h"
+#include "ui/Toolkit.h"
 
 #include <wx/radiobut.h>
 #include <wx/sizer.h>
@@ -16,6 +17,7 @@ namespace tarnwick::ui {
 namespace {
 
 constexpr int gap = 4;
+constexpr const char* inputGoes = "Input goes";
 
 wxColour shown(const Colour& colour) {
   return {colour.red, colour.green, colour.blue};
@@ -27,12 +29,14 @@ InputBar::InputBar(wxWindow* parent, ConsoleFrame& rules, std::function<void(int
     : wxPanel(parent), rules_(rules), choose_(std::move(choose)) {
   auto* const row = new wxBoxSizer(wxHORIZONTAL);
   const auto add = [&](wxWindow* part) { row->Add(part, 0, wxALIGN_CENTRE_VERTICAL | wxALL, FromDIP(gap)); };
-  label_ = new wxStaticText(this, wxID_ANY, "Input goes");
+  label_ = new wxStaticText(this, wxID_ANY, inputGoes);
+  nameNoButton(*label_);
   add(label_);
   long style = wxRB_GROUP;
   for (const auto& choice : rules_.inputChoices()) {
     auto* const button = new wxRadioButton(this, wxID_ANY, toWx(choice.label), wxDefaultPosition, wxDefaultSize, style);
     button->SetToolTip(toWx(choice.toolTip));
+    nameBySpeech(*button, inputGoes + (" " + choice.label));
     button->Bind(wxEVT_RADIOBUTTON, [this, command = choice.command](wxCommandEvent&) { choose_(command); });
     buttons_.push_back(button);
     add(button);

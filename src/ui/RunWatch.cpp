@@ -3,6 +3,7 @@
 #include "ui/Icons.h"
 #include "ui/ScreenPlace.h"
 #include "ui/Text.h"
+#include "ui/Toolkit.h"
 
 #include <wx/button.h>
 #include <wx/gauge.h>
@@ -85,6 +86,8 @@ void RunWatch::build() {
                          wxST_ELLIPSIZE_MIDDLE | wxST_NO_AUTORESIZE);
   state_ = new wxStaticText(window_.get(), wxID_ANY, {}, wxDefaultPosition, wxSize(width, -1), wxST_NO_AUTORESIZE);
   bar_ = new wxGauge(window_.get(), wxID_ANY, 1);
+  for (auto* const line : {on_, state_}) nameNoButton(*line);
+  nameBySpeech(*bar_, "Progress");
   bar_->Show(step_.of > 1);
   button_ = new wxButton(window_.get(), wxID_STOP, "Stop");
   button_->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) { stop(); });

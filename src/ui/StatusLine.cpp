@@ -1,6 +1,7 @@
 #include "ui/StatusLine.h"
 
 #include "ui/Text.h"
+#include "ui/Toolkit.h"
 
 #include <wx/dcclient.h>
 
@@ -19,6 +20,8 @@ StatusLine::StatusLine(wxWindow& parent)
 
 void StatusLine::set(const std::string& text) {
   text_ = text;
+  // The whole of it, whatever there is room for.
+  nameBySpeech(*this, text);
   fit();
 }
 

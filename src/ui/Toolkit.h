@@ -35,8 +35,18 @@ std::string displayName();
 /// Makes `label` the name of `control` for readers of the screen.
 void nameByLabel(wxWindow& control, wxWindow& label);
 
+/// Lets a label name no button or mark: those say for themselves what they are. Left alone, the toolkit would have each
+/// label name whatever comes next.
+void nameNoButton(wxWindow& label);
+
 /// Names `control` for readers of the screen without a label to be seen.
 void nameBySpeech(wxWindow& control, const std::string& name);
+
+/// What readers of the screen tell of the control beside its name, in the place of its tool tip; nothing for no words.
+void describe(wxWindow& control, const std::string& words);
+
+/// Lets readers of the screen read a window that shows for a while and never has the focus.
+void describeHint(wxWindow& window, const std::string& name);
 
 /// The label of a button that shows its picture alone.
 wxString noWords();

@@ -5,6 +5,7 @@
 #include "ui/InputBar.h"
 #include "ui/MessageBoxes.h"
 #include "ui/Text.h"
+#include "ui/Toolkit.h"
 #include "ui/WxConsoleSurface.h"
 
 #include <wx/app.h>
@@ -31,6 +32,7 @@ WxConsoleFrame::WxConsoleFrame(WindowStack& stack, Desktop& desktop, ConsoleFram
   buildMenus();
   buildToolbar();
   surface_ = new WxConsoleSurface(frame_.get(), stack_, desktop, rules_.view(), [this] { requestClose(); });
+  nameBySpeech(*surface_, "Console");
   if (rules_.isOfToday()) surface_->useTodaysWays();
   const int scrollBar = std::max(0, wxSystemSettings::GetMetric(wxSYS_VSCROLL_X, frame_.get()));
   // One column more for the margin at the left.

@@ -392,6 +392,10 @@ void WxDialogWindow::setToolTip(int control, const std::string& text) {
   setToolTipOf(at(control), text);
 }
 
+void WxDialogWindow::setEmptyText(int control, const std::string& words) {
+  setEmptyTextOf(at(control), words);
+}
+
 std::vector<std::string> WxDialogWindow::entries(int control) const {
   return entriesOf(at(control));
 }

@@ -35,6 +35,7 @@ class WxDialogWindow : public DialogWindow {
   void focus(int control) override;
   void scrollToEnd(int control) override;
   void setToolTip(int control, const std::string& text) override;
+  void setEmptyText(int control, const std::string& words) override;
   std::vector<std::string> entries(int control) const override;
   void setEntries(int control, const std::vector<std::string>& entries) override;
   int selection(int control) const override;

@@ -73,6 +73,7 @@ void WxMessagesFrame::setSummary(const std::string& text) {
   text_ = text;
   if (!summary_) return;
   summary_->SetLabelText(toWx(text));
+  describe(*surface_, rules_.wordsInPlace());
   summary_->GetParent()->Layout();
 }
 
@@ -83,6 +84,7 @@ void WxMessagesFrame::build() {
   summary_ = new wxStaticText(panel, wxID_ANY, toWx(text_));
   surface_ = new WxConsoleSurface(panel, stack_, desktop_, rules_.view(), [this] { close(); });
   nameBySpeech(*surface_, "Messages");
+  describe(*surface_, rules_.wordsInPlace());
   // They tell that something stands above.
   keepScrollBarsInSight(*surface_);
   surface_->Bind(wxEVT_CONTEXT_MENU, &WxMessagesFrame::openContextMenu, this);

@@ -193,6 +193,11 @@ void ScriptedWindow::scrollToEnd(int control) {
 void ScriptedWindow::setToolTip(int control, const std::string& text) {
   at(control).toolTip = text;
 }
+std::string ScriptedWindow::wordsInPlace(int control) const {
+  const Control& asked = at(control);
+  const bool holdsEntries = asked.kind == ItemKind::ListBox || asked.kind == ItemKind::ComboBox;
+  return (holdsEntries ? asked.entries.empty() : asked.text.empty()) ? asked.emptyText : "";
+}
 std::vector<std::string> ScriptedWindow::entries(int control) const {
   return at(control).entries;
 }

@@ -53,6 +53,8 @@ class ScriptedWindow : public DialogWindow {
   // What a person sees.
   bool has(int control) const { return controls_.count(control) > 0; }
   std::string toolTip(int control) const;
+  /// The words in the place of what the control holds; none while it holds something.
+  std::string wordsInPlace(int control) const;
   std::vector<std::string> tabLabels(int tabs) const;
   ScriptedWindow& page(int tabs, int index);
   ScriptedWindow& child(int slot);
@@ -83,6 +85,7 @@ class ScriptedWindow : public DialogWindow {
   void focus(int control) override;
   void scrollToEnd(int control) override;
   void setToolTip(int control, const std::string& text) override;
+  void setEmptyText(int control, const std::string& words) override { at(control).emptyText = words; }
   std::vector<std::string> entries(int control) const override;
   void setEntries(int control, const std::vector<std::string>& entries) override;
   int selection(int control) const override;
@@ -116,6 +119,7 @@ class ScriptedWindow : public DialogWindow {
     ItemKind kind;
     std::string text;
     std::string toolTip;
+    std::string emptyText;
     bool checked = false;
     bool enabled = true;
     bool visible = true;

@@ -3,6 +3,7 @@
 #include "ui/ConsoleWindow.h"
 #include "ui/InputBar.h"
 #include "ui/Text.h"
+#include "ui/Toolkit.h"
 
 #include <wx/radiobut.h>
 #include <wx/stattext.h>
@@ -55,6 +56,7 @@ TEST_F(InputBarTest, TheChoicesStandBelowTheTextWithTheirTips) {
     ASSERT_EQ(buttons.size(), 2U);
     for (std::size_t i = 0; i < 2; ++i) {
       EXPECT_EQ(buttons[i]->GetLabel(), ui::toWx(console.choices[i].label));
+      EXPECT_EQ(ui::spokenName(*buttons[i]), "Input goes " + console.choices[i].label);
       EXPECT_EQ(buttons[i]->GetToolTipText(), ui::toWx(console.choices[i].toolTip));
       EXPECT_GE(buttons[i]->GetSize().x, buttons[i]->GetBestSize().x) << "cut off";
       EXPECT_TRUE(bar()->GetClientRect().Contains(buttons[i]->GetRect()));

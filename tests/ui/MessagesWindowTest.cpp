@@ -34,6 +34,7 @@ class MessagesRecorder : public MessagesFrame {
  public:
   ConsoleSurfaceClient& view() override { return text; }
   void onCommand(MessagesCommand command) override { heard.push_back(static_cast<int>(command)); }
+  std::string wordsInPlace() const override { return text.wordsInPlace(); }
   std::optional<Rect> place() const override { return stood; }
   void onClosed(const std::optional<Rect>& place) override {
     ++closed;

@@ -2,6 +2,7 @@
 #include "ui/RunWatch.h"
 #include "ui/SampleDialog.h"
 #include "ui/Text.h"
+#include "ui/Toolkit.h"
 #include "ui/WindowTest.h"
 #include "ui/Wine.h"
 
@@ -119,6 +120,7 @@ TEST_F(RunWatchTest, ItTellsWhatIsAtWorkAndStopEndsIt) {
     EXPECT_EQ(line(0), "Äpfel & Birnen.java");
     EXPECT_EQ(line(1).substr(0, 12), "Running for ");
     EXPECT_FALSE(parts<wxGauge>().at(0)->IsShown());
+    EXPECT_EQ(ui::spokenName(*parts<wxGauge>().at(0)), "Progress");
     EXPECT_EQ(ui::fromWx(parts<wxButton>().at(0)->GetLabel()), "Stop");
   });
   steps.then("a person presses Stop", [] {

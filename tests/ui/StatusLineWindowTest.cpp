@@ -1,6 +1,7 @@
 // The line at the panel's foot as a real window.
 #include "ui/PanelsFixture.h"
 #include "ui/Text.h"
+#include "ui/Toolkit.h"
 
 #include <wx/button.h>
 #include <wx/dialog.h>
@@ -35,6 +36,7 @@ TEST_F(StatusLineWindowTest, WhatHasNoRoomIsCutAndTheToolTipTellsTheWhole) {
     EXPECT_TRUE(shown().ends_with("...")) << shown();
     EXPECT_TRUE(std::string(longText).starts_with(shown().substr(0, shown().size() - 3))) << shown();
     EXPECT_EQ(tip(), longText);
+    EXPECT_EQ(ui::spokenName(line()), longText) << "whoever hears it hears the whole";
     EXPECT_EQ(line().GetRect(), before);
   });
   steps.settle(8);

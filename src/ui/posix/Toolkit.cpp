@@ -28,6 +28,36 @@ GtkWidget* widget(const wxWindow& window) {
   return window.GetHandle();
 }
 
+/// The part of a control that has the focus, and that readers of the screen speak of.
+GtkWidget* reachedPart(wxWindow& control) {
+  return control.GetConnectWidget();
+}
+
+/// The name of its own, or that of the label it stands under. An empty text for none.
+std::string nameOf(AtkObject* accessible) {
+  const char* const own = atk_object_get_name(accessible);
+  std::string name = own ? own : "";
+  AtkRelationSet* const relations = atk_object_ref_relation_set(accessible);
+  AtkRelation* const label = atk_relation_set_get_relation_by_type(relations, ATK_RELATION_LABELLED_BY);
+  if (label && name.empty()) {
+    GPtrArray* const targets = atk_relation_get_target(label);
+    const char* const text = targets->len > 0 ? atk_object_get_name(ATK_OBJECT(targets->pdata[0])) : nullptr;
+    if (text) name = text;
+  }
+  g_object_unref(relations);
+  return name;
+}
+
+/// Takes from the label what it may not name, whenever the toolkit has it name whatever comes next.
+void keepFromNaming(GtkLabel& label, bool (*isTaken)(GtkWidget*)) {
+  const auto look = +[](GtkLabel* changed, GParamSpec*, gpointer asked) {
+    GtkWidget* const named = gtk_label_get_mnemonic_widget(changed);
+    const auto mayNotName = reinterpret_cast<bool (*)(GtkWidget*)>(asked);
+    if (named && mayNotName(named)) gtk_label_set_mnemonic_widget(changed, nullptr);
+  };
+  g_signal_connect(&label, "notify::mnemonic-widget", G_CALLBACK(look), reinterpret_cast<gpointer>(isTaken));
+}
+
 bool onX11() {
   GdkDisplay* const display = gdk_display_get_default();
   return display && std::string_view(G_OBJECT_TYPE_NAME(display)) == "GdkX11Display";
@@ -113,12 +143,38 @@ std::string displayName() {
   return "(DISPLAY is not set)";
 }
 
+// A list stands in a frame that scrolls it, a combo box holds a field: the name of what is around a part is not its
+// own.
 void nameByLabel(wxWindow& control, wxWindow& label) {
+  GtkWidget* const part = reachedPart(control);
   gtk_label_set_mnemonic_widget(GTK_LABEL(widget(label)), widget(control));
+  if (part == widget(control)) return;
+  atk_object_add_relationship(gtk_widget_get_accessible(part), ATK_RELATION_LABELLED_BY,
+                              gtk_widget_get_accessible(widget(label)));
+}
+
+void nameNoButton(wxWindow& label) {
+  keepFromNaming(*GTK_LABEL(widget(label)), [](GtkWidget* next) { return GTK_IS_BUTTON(next) != FALSE; });
 }
 
 void nameBySpeech(wxWindow& control, const std::string& name) {
-  atk_object_set_name(gtk_widget_get_accessible(widget(control)), name.c_str());
+  GtkWidget* const part = reachedPart(control);
+  atk_object_set_name(gtk_widget_get_accessible(part), name.c_str());
+  if (GTK_IS_COMBO_BOX(widget(control))) atk_object_set_name(gtk_widget_get_accessible(widget(control)), name.c_str());
+}
+
+void describe(wxWindow& control, const std::string& words) {
+  GtkWidget* const part = reachedPart(control);
+  gchar* const tip = gtk_widget_get_tooltip_text(part);
+  const std::string usual = tip ? tip : "";
+  g_free(tip);
+  atk_object_set_description(gtk_widget_get_accessible(part), (words.empty() ? usual : words).c_str());
+}
+
+void describeHint(wxWindow& window, const std::string& name) {
+  AtkObject* const accessible = gtk_widget_get_accessible(widget(window));
+  atk_object_set_name(accessible, name.c_str());
+  atk_object_set_role(accessible, ATK_ROLE_NOTIFICATION);
 }
 
 // A button that was made with words takes no picture once it has none at all: this character is none to be seen.
@@ -165,19 +221,7 @@ void joinTabOrder(wxWindow& window) {
 }
 
 std::string spokenName(wxWindow& control) {
-  AtkObject* const accessible = gtk_widget_get_accessible(widget(control));
-  const char* const name = atk_object_get_name(accessible);
-  if (name && *name) return name;
-  AtkRelationSet* const relations = atk_object_ref_relation_set(accessible);
-  AtkRelation* const label = atk_relation_set_get_relation_by_type(relations, ATK_RELATION_LABELLED_BY);
-  std::string found;
-  if (label) {
-    GPtrArray* const targets = atk_relation_get_target(label);
-    const char* const text = targets->len > 0 ? atk_object_get_name(ATK_OBJECT(targets->pdata[0])) : nullptr;
-    if (text) found = text;
-  }
-  g_object_unref(relations);
-  return found;
+  return nameOf(gtk_widget_get_accessible(reachedPart(control)));
 }
 
 void keepScrollBarsInSight(wxWindow& window) {
@@ -193,7 +237,10 @@ wxStaticBox* makeGroup(wxWindow& parent, const wxString& title) {
   GtkFrame* const frame = GTK_FRAME(widget(*group));
   gtk_frame_set_shadow_type(frame, GTK_SHADOW_NONE);
   GtkWidget* const label = gtk_frame_get_label_widget(frame);
-  if (GTK_IS_LABEL(label)) hideLeadingBlank(*GTK_LABEL(label));
+  if (GTK_IS_LABEL(label)) {
+    hideLeadingBlank(*GTK_LABEL(label));
+    keepFromNaming(*GTK_LABEL(label), [](GtkWidget*) { return true; });
+  }
   return group;
 }
 

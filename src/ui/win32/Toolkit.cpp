@@ -16,25 +16,41 @@
 
 #include <algorithm>
 #include <commctrl.h>
+#include <optional>
+#include <utility>
 
 namespace tarnwick::ui {
 
 namespace {
 
 /// What readers of the screen are told in the place of the control's own text. The rest the system tells.
-class SpokenName : public wxAccessible {
+class SpokenWords : public wxAccessible {
  public:
-  SpokenName(wxWindow& control, wxString name) : wxAccessible(&control), name_(std::move(name)) {}
+  explicit SpokenWords(wxWindow& control) : wxAccessible(&control) {}
 
-  wxAccStatus GetName(int part, wxString* name) override {
-    if (part != wxACC_SELF) return wxACC_NOT_IMPLEMENTED;
-    *name = name_;
+  wxAccStatus GetName(int part, wxString* name) override { return tell(part, name_, name); }
+  wxAccStatus GetDescription(int part, wxString* description) override { return tell(part, description_, description); }
+
+  void setName(wxString name) { name_ = std::move(name); }
+  void setDescription(wxString description) { description_ = std::move(description); }
+
+ private:
+  static wxAccStatus tell(int part, const std::optional<wxString>& known, wxString* told) {
+    if (part != wxACC_SELF || !known) return wxACC_NOT_IMPLEMENTED;
+    *told = *known;
     return wxACC_OK;
   }
 
- private:
-  wxString name_;
+  std::optional<wxString> name_;
+  std::optional<wxString> description_;
 };
+
+SpokenWords& spokenWords(wxWindow& control) {
+  if (auto* const known = dynamic_cast<SpokenWords*>(control.GetAccessible())) return *known;
+  auto* const words = new SpokenWords(control);
+  control.SetAccessible(words);
+  return *words;
+}
 
 /// The toolkit repaints a strip along each edge, and with it whatever stands in the strip; there is nothing to see.
 /// A group that moves would carry along what it shows, which is to the system also the pixels of the controls within.
@@ -103,8 +119,18 @@ std::string displayName() {
 // Readers of the screen take the text before a field as its name.
 void nameByLabel(wxWindow&, wxWindow&) {}
 
+void nameNoButton(wxWindow&) {}
+
 void nameBySpeech(wxWindow& control, const std::string& name) {
-  control.SetAccessible(new SpokenName(control, toWx(name)));
+  spokenWords(control).setName(toWx(name));
+}
+
+void describe(wxWindow& control, const std::string& words) {
+  spokenWords(control).setDescription(toWx(words));
+}
+
+void describeHint(wxWindow& window, const std::string& name) {
+  nameBySpeech(window, name);
 }
 
 // The letters follow the screen that the control is on.

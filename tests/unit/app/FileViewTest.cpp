@@ -58,6 +58,19 @@ TEST_F(FileViewTest, ShowsItsLabelsAndToolTips) {
   });
 }
 
+TEST_F(FileViewTest, AnEmptyFieldTellsWhatToDo) {
+  saveEarlierRun();
+  runPanel([](ScriptedWindow&, ScriptedWindow& panel) {
+    const std::string words = "Browse, or drop a file here";
+    EXPECT_EQ(panel.wordsInPlace(SOURCE), words);
+    for (const int tab : {0, 1}) EXPECT_EQ(panel.page(TABS, tab).wordsInPlace(FIELD), words);
+    EXPECT_EQ(panel.text(SOURCE), "");
+    panel.type(SOURCE, "A.java");
+    EXPECT_EQ(panel.wordsInPlace(SOURCE), "");
+    exit(panel);
+  });
+}
+
 TEST_F(FileViewTest, EveryButtonCanBePressed) {
   saveEarlierRun();
   runPanel([](ScriptedWindow&, ScriptedWindow& panel) {

@@ -92,6 +92,26 @@ TEST_F(MessagesViewTest, TheSurfaceIsAsLargeAsTheText) {
   EXPECT_EQ(surface.sizes, (Point{4 + (24 + 4) * cellWidth, 123 * cellHeight}));
 }
 
+TEST_F(MessagesViewTest, WithoutATextItTellsWhatComesThere) {
+  const std::string words = "What javac and the other tools say comes here.";
+  EXPECT_EQ(view.wordsInPlace(), "");
+  view.setText({});
+  EXPECT_EQ(view.wordsInPlace(), words);
+  for (const bool on : {false, true}) {
+    dark = on;
+    const Canvas canvas = painted();
+    ASSERT_EQ(canvas.drawn.size(), 1U);
+    EXPECT_EQ(canvas.drawn[0].text, words);
+    EXPECT_EQ(canvas.drawn[0].y, 0);
+    EXPECT_EQ(canvas.drawn[0].colour, messageColours(dark).dimmed);
+  }
+  view.selectAll();
+  EXPECT_EQ(view.selectedText(), "") << "no part of the text";
+  EXPECT_EQ(painted().inverted, std::vector<Rect>{});
+  view.setText(messagesText(manyMessages(), {{0, "folder"}}));
+  for (const auto& one : painted().drawn) EXPECT_NE(one.text, words);
+}
+
 TEST_F(MessagesViewTest, OtherLettersLeaveTheTopLineAndTheSelectionWhereTheyAre) {
   std::vector<int> told;
   view.useLetters(0, [&](int letters) { told.push_back(letters); });

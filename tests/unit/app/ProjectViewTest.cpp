@@ -114,6 +114,24 @@ TEST_F(ProjectViewTest, WithoutAProjectNothingElseCanBePressedBeforeATabIsChosen
   });
 }
 
+TEST_F(ProjectViewTest, AsLongAsThereIsNoClassToRunItsFieldTellsWhatToPress) {
+  const auto words = [](ScriptedWindow& panel) { return panel.page(TABS, 0).wordsInPlace(FIELD); };
+  look([&](ScriptedWindow& panel) { EXPECT_EQ(words(panel), "Press \"New\" or \"Open\" for a project"); });
+  lookAt(makeProject("PROJECT_SOURCES  \n"),
+         [&](ScriptedWindow& panel) { EXPECT_EQ(words(panel), "Press \"Files\" to add sources"); });
+  makeSource("A");
+  const std::string project = makeProject("PROJECT_SOURCES  A.java\n");
+  lookAt(project, [&](ScriptedWindow& panel) { EXPECT_EQ(words(panel), "Press \"javac\" to compile"); });
+  makeCurrent("A");
+  lookAt(project, [&](ScriptedWindow& panel) { EXPECT_EQ(words(panel), "No main() method yet: press \"Edit\""); });
+  lookAt(makeProject("PROJECT_SOURCES  A.java\nPROJECT_MULTIMAIN  ON\n"),
+         [&](ScriptedWindow& panel) { EXPECT_EQ(words(panel), "Press \"Select\" to choose a class"); });
+  lookAt(makeRunnable(), [&](ScriptedWindow& panel) {
+    EXPECT_EQ(panel.page(TABS, 0).text(FIELD), "Main");
+    EXPECT_EQ(words(panel), "");
+  });
+}
+
 TEST_F(ProjectViewTest, AProjectWhoseMainMethodHasGoneKeepsTheClassInItsField) {
   lookAt(makeRunnable(), [&](ScriptedWindow& panel) {
     writeFile(path("Main.java"), "public class Main {}\n");

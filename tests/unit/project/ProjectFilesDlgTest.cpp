@@ -104,6 +104,34 @@ TEST_F(ProjectFilesDlgTest, ListsMembersAndTheOtherFilesOfTheFolderSorted) {
   });
 }
 
+TEST_F(ProjectFilesDlgTest, AnEmptyListTellsWhatToDo) {
+  run(open(""), [&](ScriptedWindow& window) {
+    for (const int list : {PROJECT_FILES, OTHER_FILES})
+      EXPECT_EQ(window.wordsInPlace(list),
+                "There is no java or html file here. Press \"Create new file ....\" to make one.");
+    window.press(IDCANCEL_CONTROL);
+  });
+  for (const char* name : {"A.java", "B.java"}) makeSource(name);
+  run(open(""), [&](ScriptedWindow& window) {
+    EXPECT_EQ(window.wordsInPlace(PROJECT_FILES),
+              "Select files in the other list and press \"<--\", or press \"Add all\" for all java files.");
+    EXPECT_EQ(window.wordsInPlace(OTHER_FILES), "");
+    window.press(ADD_ALL_FILES);
+    EXPECT_EQ(window.wordsInPlace(PROJECT_FILES), "") << "gone with the first file";
+    EXPECT_EQ(window.wordsInPlace(OTHER_FILES),
+              "All files here belong to the project. Press \"Create new file ....\" to make another.");
+    window.type(FILES_FILTER, "till");
+    EXPECT_EQ(window.wordsInPlace(PROJECT_FILES),
+              "No name here has all of these words. Empty the field above to see all names.");
+    EXPECT_EQ(window.wordsInPlace(OTHER_FILES),
+              "All files here belong to the project. Press \"Create new file ....\" to make another.");
+    window.type(FILES_FILTER, "");
+    EXPECT_EQ(window.wordsInPlace(PROJECT_FILES), "");
+    expectLists(window, {"A.java", "B.java"}, {});
+    window.press(IDCANCEL_CONTROL);
+  });
+}
+
 TEST_F(ProjectFilesDlgTest, TheCheckBoxShowsWhoSelectsTheMainClass) {
   run(open("PROJECT_MULTIMAIN  ON\n"), [](ScriptedWindow& window) {
     EXPECT_TRUE(window.checked(ALLOW_MULTIPLE_MAIN));

@@ -64,6 +64,21 @@ TEST_F(SelectProjectDlgTest, ListsTheRecentProjectsUnsortedWithTheFirstSelected)
   EXPECT_EQ(path_, "z.twp");
 }
 
+TEST_F(SelectProjectDlgTest, WithoutRecentProjectsTheListTellsWhatToPress) {
+  run([](ScriptedWindow& window) {
+    EXPECT_EQ(window.wordsInPlace(RECENT_LIST), "No recent projects. Press \"Browse\" to find one.");
+    EXPECT_EQ(window.entries(RECENT_LIST), Paths{});
+    EXPECT_EQ(window.text(RECENT_LIST), "");
+    window.press(IDOK_CONTROL);
+  });
+  EXPECT_EQ(path_, "");
+  saveRecent("z.twp");
+  run([](ScriptedWindow& window) {
+    EXPECT_EQ(window.wordsInPlace(RECENT_LIST), "");
+    window.press(IDCANCEL_CONTROL);
+  });
+}
+
 TEST_F(SelectProjectDlgTest, TheListIsTheSameWhicheverProjectIsOpen) {
   open("RECENT_PROJECTS  of the project\n");
   saveRecent("of the user");

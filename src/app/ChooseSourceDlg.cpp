@@ -13,7 +13,7 @@ const DialogLayout& chooseSourceLayout() {
       206, "Which source?", false,
       column({
           listBox(SOURCE_HITS, 60).linesHigh(6).named("Sources").stretched(),
-          row({space(), button(IDOK_CONTROL, "Open").asDefault(), button(IDCANCEL_CONTROL, "Cancel")}),
+          row({space(), button(IDOK_CONTROL, "Open").asDefault(), button(IDCANCEL_CONTROL, "Cancel")}).closing(),
       }),
       SOURCE_HITS};
   return dialog;

@@ -13,7 +13,7 @@ const DialogLayout& findLayout() {
       205, "Find", false,
       column({
           row({label("Text"), edit(FIND_TEXT, 36).stretched()}),
-          row({space(), button(IDOK_CONTROL, "Find").asDefault(), button(IDCANCEL_CONTROL, "Cancel")}),
+          row({space(), button(IDOK_CONTROL, "Find").asDefault(), button(IDCANCEL_CONTROL, "Cancel")}).closing(),
       }),
       FIND_TEXT};
   return dialog;

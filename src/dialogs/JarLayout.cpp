@@ -91,8 +91,8 @@ const DialogLayout& selectSubdirectoryLayout() {
       192, "Select folder", false,
       column({
           listBox(SelectSubdirectory::FOLDERS, 36).linesHigh(12).selectingSeveral().named("Subfolders").stretched(),
-          row({space(), button(SelectSubdirectory::OK, "OK").asDefault(),
-               button(SelectSubdirectory::CANCEL, "Cancel")}),
+          row({space(), button(SelectSubdirectory::OK, "OK").asDefault(), button(SelectSubdirectory::CANCEL, "Cancel")})
+              .closing(),
       }),
       SelectSubdirectory::FOLDERS};
   return dialog;

@@ -51,7 +51,8 @@ const DialogLayout& javadocLayout() {
                                       column({
                                           tabs(Javadoc::TABS),
                                           row({space(), button(Javadoc::RUN, "Run javadoc").asDefault(),
-                                               button(Javadoc::HELP, "Help"), button(Javadoc::CANCEL, "Cancel")}),
+                                               button(Javadoc::HELP, "Help"), button(Javadoc::CANCEL, "Cancel")})
+                                              .closing(),
                                       }),
                                       0};
   return dialog;

@@ -68,7 +68,8 @@ const DialogLayout& shortcutLayout() {
           placementGroup(),
           executionGroup(),
           row({space(), button(Control::CREATE, "Create shortcuts").atLeast(createButtonWidth).asDefault(),
-               button(Control::CLOSE, "Close"), button(Control::HELP, "Help")}),
+               button(Control::CLOSE, "Close"), button(Control::HELP, "Help")})
+              .closing(),
       }),
       Control::APPLICATION};
   return dialog;

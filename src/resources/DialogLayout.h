@@ -50,6 +50,8 @@ struct DialogItem {
   bool offersEntries = false;        ///< an edit field that one of a list of entries may be chosen for
   bool collapses = false;            ///< takes no room where the dialog's rules hide it from the start
   bool equalWidths = false;          ///< a row or column whose buttons are equally wide
+  bool closes = false;               ///< a row of the buttons that end the dialog; the system's custom orders them
+  bool agrees = false;               ///< a button in such a row that is an answer like the default one
   bool asInTabs = false;             ///< a group whose content stands in line with that of tabs below it
   std::vector<std::string> entries;  ///< of a combo box
   int lines = 0;                     ///< height of a list; 0 for the usual one
@@ -99,6 +101,14 @@ struct DialogItem {
   }
   DialogItem withItsPicture() && {
     pictured = true;
+    return std::move(*this);
+  }
+  DialogItem closing() && {
+    closes = true;
+    return std::move(*this);
+  }
+  DialogItem agreeing() && {
+    agrees = true;
     return std::move(*this);
   }
   DialogItem inLineWithTabs() && {

@@ -32,7 +32,7 @@ const DialogLayout& aboutLayout() {
               "Free software under the MIT License: you may use, copy, change and pass it on, as long as the copyright "
               "notice and the license stay with it. It comes without any warranty."),
           links(),
-          row({space(), button(IDOK_CONTROL, "OK").asDefault()}),
+          row({space(), button(IDOK_CONTROL, "OK").asDefault()}).closing(),
       }),
       IDOK_CONTROL};
   return dialog;
@@ -43,7 +43,8 @@ const DialogLayout& helpFileLayout() {
                                       column({
                                           label("", 1174),
                                           row({space(), button(1173, "Find usersguide.htm ...").asDefault(),
-                                               button(IDCANCEL_CONTROL, "Don't open usersguide.htm")}),
+                                               button(IDCANCEL_CONTROL, "Don't open usersguide.htm")})
+                                              .closing(),
                                       }),
                                       1173};
   return dialog;
@@ -59,7 +60,7 @@ const DialogLayout& welcomeLayout() {
           label("For more information please consult the Tarnwick user's guide which is included in the kit. It is "
                 "also available online."),
           links(),
-          row({space(), button(IDOK_CONTROL, "OK").asDefault()}),
+          row({space(), button(IDOK_CONTROL, "OK").asDefault()}).closing(),
       }),
       IDOK_CONTROL};
   return dialog;

@@ -17,7 +17,7 @@ const DialogLayout& selectProjectLayout() {
               REGISTER_TYPE,
               inSystemWords(
                   "Click here to make Tarnwick the default program for\nopening .twp files (Explorer double-click)")),
-          row({space(), button(IDOK_CONTROL, "OK").asDefault(), button(IDCANCEL_CONTROL, "Cancel")}),
+          row({space(), button(IDOK_CONTROL, "OK").asDefault(), button(IDCANCEL_CONTROL, "Cancel")}).closing(),
       }),
       RECENT_LIST};
   return dialog;
@@ -45,7 +45,8 @@ const DialogLayout& projectFilesLayout() {
           row({button(CREATE_FILE, "Create new file ....")}),
           checkBox(ALLOW_MULTIPLE_MAIN, "Allow 'public static void main' in multiple classes"),
           row({space(), button(IDOK_CONTROL, "OK").asDefault(), button(IDCANCEL_CONTROL, "Cancel"),
-               button(PROJECT_FILES_HELP, "Help")}),
+               button(PROJECT_FILES_HELP, "Help")})
+              .closing(),
       }),
       PROJECT_FILES};
   return dialog;
@@ -56,7 +57,7 @@ const DialogLayout& mainClassLayout() {
       173, "Select class with main()", false,
       column({
           listBox(CLASS_LIST, 36).linesHigh(12).named("Classes").stretched(),
-          row({space(), button(IDOK_CONTROL, "OK").asDefault(), button(IDCANCEL_CONTROL, "Cancel")}),
+          row({space(), button(IDOK_CONTROL, "OK").asDefault(), button(IDCANCEL_CONTROL, "Cancel")}).closing(),
       }),
       CLASS_LIST};
   return dialog;

@@ -17,7 +17,7 @@ const DialogLayout& portabilityWarningLayout() {
           label("Tarnwick is capable of splitting this source file for the compilation.\n\n"
                 "Please decide if you want to correct your source code for full portability,\n"
                 "or use Tarnwick's capabilities of compiling nonportable source files."),
-          row({space(), button(IDOK_CONTROL, "Compile").asDefault(), button(IDCANCEL_CONTROL, "Cancel")}),
+          row({space(), button(IDOK_CONTROL, "Compile").asDefault(), button(IDCANCEL_CONTROL, "Cancel")}).closing(),
           checkBox(1274, "Don't display this warning for some time"),
       }),
       IDOK_CONTROL};

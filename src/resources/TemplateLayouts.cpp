@@ -24,13 +24,13 @@ DialogLayout madeFor(NewSourceMode mode) {
                         button(ADD_TEMPLATE, "Add new template ..")}));
 
   std::vector<DialogItem> buttons = {button(IDOK_CONTROL, "Create sourcefile").asDefault()};
-  if (nothingToEdit) buttons.push_back(button(BROWSE_EXISTING, "Browse for existing file"));
+  if (nothingToEdit) buttons.push_back(button(BROWSE_EXISTING, "Browse for existing file").agreeing());
   buttons.insert(buttons.end(), {space(), button(NEW_SOURCE_HELP, "Help"), button(IDCANCEL_CONTROL, "Cancel")});
 
   std::vector<DialogItem> content;
   if (nothingToEdit) content.push_back(explanation());
   content.push_back(group(0, " New file ", std::move(fields)));
-  content.push_back(row(std::move(buttons)));
+  content.push_back(row(std::move(buttons)).closing());
   return {201, inProject ? "Create new sourcefile in project" : "Create new .java/.html file", false,
           column(std::move(content)), inProject ? NEW_NAME : TEMPLATE_COMBO};
 }
@@ -55,7 +55,8 @@ const DialogLayout& addTemplateLayout() {
               "The Description field is the text that appears in the dropdown list of templates. If you enter a "
               "description that already exists in the list, your new template will override the existing list entry."),
           row({space(), button(IDOK_CONTROL, "OK").asDefault(), button(IDCANCEL_CONTROL, "Cancel"),
-               button(TEMPLATE_HELP, "Help")}),
+               button(TEMPLATE_HELP, "Help")})
+              .closing(),
       }),
       TEMPLATE_FILE};
   return dialog;

@@ -17,7 +17,8 @@ const DialogLayout& settingsLayout() {
               group(0, " individual configurations ", {row({button(1036, "Save ..."), button(1037, "Load ...")})}),
               space(),
               row({button(IDOK_CONTROL, "OK").asDefault(), button(IDCANCEL_CONTROL, "Cancel"), button(1168, "Help"),
-                   button(1038, "About ...")}),
+                   button(1038, "About ...")})
+                  .closing(),
           }),
       }),
       0};
@@ -59,7 +60,7 @@ const DialogLayout& alternateLocationLayout() {
           label(inSystemWords(
               "For a permanent definition please update your system's environment settings or AUTOEXEC.BAT, "
               "depending on your Windows version. Consult Tarnwick's usersguide.htm for more information.")),
-          row({space(), button(1164, "Browse").asDefault(), button(IDCANCEL_CONTROL, "Cancel")}),
+          row({space(), button(1164, "Browse").asDefault(), button(IDCANCEL_CONTROL, "Cancel")}).closing(),
       }),
       1164};
   return dialog;

@@ -7,6 +7,7 @@
 #include "ui/PictureButton.h"
 #include "ui/StatusLine.h"
 #include "ui/Text.h"
+#include "ui/TipPlace.h"
 #include "ui/Toolkit.h"
 
 #include <wx/bookctrl.h>
@@ -164,6 +165,11 @@ wxWindow* makeWindow(wxWindow& parent, const DialogItem& item) {
   }
 }
 
+bool isLow(ItemKind kind) {
+  return kind == ItemKind::Edit || kind == ItemKind::ComboBox || kind == ItemKind::Button ||
+         kind == ItemKind::CheckBox || kind == ItemKind::RadioButton;
+}
+
 void connect(wxWindow& window, const DialogItem& item, const ControlEvents& events) {
   const int number = item.control;
   // A notification goes on to the toolkit: some of its controls finish their own work with it.
@@ -254,6 +260,7 @@ Control makeControl(wxWindow& parent, const DialogItem& item, wxRadioButton* non
   control.window = makeWindow(parent, item);
   control.noneOfRun = item.kind == ItemKind::RadioButton ? noneOfRun : nullptr;
   connect(*control.window, item, events);
+  if (isLow(item.kind)) keepTipBeside(*control.window);
   // Behind the listeners' own handlers, and so before them in time.
   if (item.kind == ItemKind::Edit) as<Field>(control).keepOneLine();
   return control;

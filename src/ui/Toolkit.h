@@ -2,6 +2,7 @@
 #pragma once
 
 #include "base/Geometry.h"
+#include "resources/ButtonOrder.h"
 
 #include <wx/font.h>
 #include <wx/gdicmn.h>
@@ -72,6 +73,9 @@ wxStaticBox* makeGroup(wxWindow& parent, const wxString& title);
 
 /// Shows the button as the one that Return presses, where the toolkit does not do so by itself.
 void showAsDefault(wxWindow& button);
+
+/// Where the buttons that end a dialog stand on this system.
+ButtonCustom customOfButtons();
 
 /// Tells readers of the screen that the toolkit's own drawing in this window is a link.
 void describeLink(wxWindow& link, const std::string& address);

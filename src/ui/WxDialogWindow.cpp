@@ -100,7 +100,8 @@ Node WxDialogWindow::build(const DialogItem& item, const DialogItem* before) {
       }
       node.stretch = item.stretch;
       node.equalWidths = item.equalWidths;
-      node.children = buildChildren(item);
+      node.children =
+          item.closes ? buildChildren(inOrderOf(customOfButtons(), item.children)) : buildChildren(item.children);
       return node;
     }
     default:
@@ -108,10 +109,10 @@ Node WxDialogWindow::build(const DialogItem& item, const DialogItem* before) {
   }
 }
 
-std::vector<Node> WxDialogWindow::buildChildren(const DialogItem& item) {
+std::vector<Node> WxDialogWindow::buildChildren(const std::vector<DialogItem>& items) {
   std::vector<Node> nodes;
   const DialogItem* before = nullptr;
-  for (const auto& child : item.children) {
+  for (const auto& child : items) {
     const bool goesOn = before && before->kind == ItemKind::RadioButton && child.kind == ItemKind::RadioButton;
     if (child.kind == ItemKind::RadioButton && !goesOn) radioRun_ = beginRadioRun(surface_);
     nodes.push_back(build(child, before));
@@ -135,7 +136,7 @@ Node WxDialogWindow::buildControl(const DialogItem& item, const DialogItem* befo
   finishControl(item, control, before);
   inOrder_.push_back(control);
   if (item.control != 0) controls_[item.control] = control;
-  node.children = buildChildren(item);
+  node.children = buildChildren(item.children);
   return node;
 }
 

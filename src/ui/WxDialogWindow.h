@@ -98,7 +98,7 @@ class WxDialogWindow : public DialogWindow {
   ControlEvents events();
   Node build(const DialogItem& item, const DialogItem* before);
   wxSize marginsSize() const { return {margins_.left + margins_.right, margins_.top + margins_.bottom}; }
-  std::vector<Node> buildChildren(const DialogItem& item);
+  std::vector<Node> buildChildren(const std::vector<DialogItem>& items);
   Node buildControl(const DialogItem& item, const DialogItem* before);
   void finishControl(const DialogItem& item, Control& control, const DialogItem* before);
   void setNatural(Node& node, const DialogItem& item, const Control& control);

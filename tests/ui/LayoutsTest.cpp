@@ -7,14 +7,17 @@
 #include "resources/HelpLayouts.h"
 #include "resources/HintLayout.h"
 #include "resources/PanelLayouts.h"
+#include "resources/ProjectLayouts.h"
 #include "resources/SourceLayouts.h"
 #include "resources/TemplateLayouts.h"
 #include "settingsdialog/SettingsLayouts.h"
 #include "settingsdialog/SettingsPageLayouts.h"
 #include "ui/SampleDialog.h"
+#include "ui/Toolkit.h"
 #include "ui/WindowTest.h"
 
 #include <algorithm>
+#include <iterator>
 
 namespace tarnwick::test {
 
@@ -88,6 +91,9 @@ std::vector<NamedLayout> allDialogLayouts() {
           {"jar", jarLayout()},
           {"selectSubdirectory", selectSubdirectoryLayout()},
           {"javadoc", javadocLayout()},
+          {"selectProject", selectProjectLayout()},
+          {"projectFiles", projectFilesLayout()},
+          {"mainClass", mainClassLayout()},
           {"shortcut", shortcutLayout()}};
 }
 
@@ -100,6 +106,13 @@ std::vector<DialogItem> itemsOf(const DialogLayout& layout) {
   std::vector<DialogItem> all;
   collect(layout.content, all);
   return all;
+}
+
+/// The row of the buttons that end the dialog; one without children if there is none.
+DialogItem closingRowOf(const DialogLayout& layout) {
+  const auto items = itemsOf(layout);
+  const auto found = std::find_if(items.begin(), items.end(), [](const DialogItem& item) { return item.closes; });
+  return found == items.end() ? DialogItem() : *found;
 }
 
 bool takesReturn(const DialogItem& item) {
@@ -121,6 +134,52 @@ class DialogLayoutsTest : public LayoutsTest {
   }
 
   void forget() { rules_.heard.clear(); }
+  wxRect at(int control) { return top().windowOf(control)->GetRect(); }
+
+  /// The buttons of the row as the eye finds them from the left.
+  std::vector<DialogItem> fromTheLeft(const DialogItem& row) {
+    std::vector<DialogItem> buttons;
+    std::copy_if(row.children.begin(), row.children.end(), std::back_inserter(buttons),
+                 [](const DialogItem& item) { return item.kind == ItemKind::Button; });
+    std::sort(buttons.begin(), buttons.end(), [this](const DialogItem& one, const DialogItem& other) {
+      return at(one.control).x < at(other.control).x;
+    });
+    return buttons;
+  }
+
+  /// The rightmost place of all that the dialog shows.
+  int rightEdge() {
+    int edge = 0;
+    for (const int control : top().controls()) edge = std::max(edge, at(control).GetRight());
+    return edge;
+  }
+
+  /// Fails the test unless the answers stand at the right edge, those that agree on the right of Cancel.
+  void expectAnswersAtTheEnd(const DialogItem& row) {
+    const auto buttons = fromTheLeft(row);
+    std::string order;
+    for (const auto& item : buttons) {
+      const bool agrees = item.isDefault || item.agrees;
+      order += agrees ? 'A' : item.control == IDCANCEL_CONTROL ? 'C' : 'o';
+    }
+    EXPECT_EQ(order.find('o', order.find_first_of("AC")), std::string::npos) << order;
+    EXPECT_EQ(order.find('C', order.find_first_of('A')), std::string::npos) << order;
+    const bool hasDefault =
+        std::any_of(buttons.begin(), buttons.end(), [](const DialogItem& item) { return item.isDefault; });
+    EXPECT_EQ(buttons.back().isDefault, hasDefault);
+    EXPECT_EQ(at(buttons.back().control).GetRight(), rightEdge());
+  }
+
+  /// Fails the test unless the buttons stand as the layout names them.
+  void expectAsWritten(const DialogItem& row) {
+    int last = -1;
+    for (const auto& item : row.children) {
+      if (item.kind != ItemKind::Button) continue;
+      EXPECT_GT(at(item.control).x, last) << item.text;
+      last = at(item.control).GetRight();
+    }
+  }
+
   /// Focuses the control, presses Return, and expects that one button was pressed by it.
   void expectReturnPresses(int focused, int button) {
     steps.then("focus", [this, focused] { top().focus(focused); });
@@ -180,6 +239,23 @@ TEST_P(DialogLayoutsTest, EscapePressesCancelOrAsksToClose) {
   steps.then("look", [this, hasCancel] {
     EXPECT_EQ(rules_.heard, std::vector<std::string>{hasCancel ? "command 2" : "close"});
   });
+  run();
+}
+
+TEST_P(DialogLayoutsTest, TheButtonsThatEndItStandByTheSystemsCustom) {
+  const DialogItem row = closingRowOf(GetParam().layout);
+  // Four buttons in a square end this one.
+  ASSERT_EQ(row.children.empty(), GetParam().layout.resource == jarLayout().resource);
+  waitForDialog();
+  if (!row.children.empty()) {
+    steps.then("look", [this, row] {
+      if (ui::customOfButtons() == ButtonCustom::AffirmativeLast) {
+        expectAnswersAtTheEnd(row);
+      } else {
+        expectAsWritten(row);
+      }
+    });
+  }
   run();
 }
 

@@ -248,6 +248,12 @@ void showAsDefault(wxWindow& button) {
   gtk_style_context_add_class(gtk_widget_get_style_context(widget(button)), GTK_STYLE_CLASS_SUGGESTED_ACTION);
 }
 
+ButtonCustom customOfButtons() {
+  gboolean asOnWindows = FALSE;
+  g_object_get(gtk_settings_get_default(), "gtk-alternative-button-order", &asOnWindows, nullptr);
+  return asOnWindows ? ButtonCustom::AffirmativeFirst : ButtonCustom::AffirmativeLast;
+}
+
 void describeLink(wxWindow& link, const std::string& address) {
   AtkObject* const accessible = gtk_widget_get_accessible(widget(link));
   atk_object_set_name(accessible, address.c_str());

@@ -176,6 +176,11 @@ wxStaticBox* makeGroup(wxWindow& parent, const wxString& title) {
 // The system draws a frame around it.
 void showAsDefault(wxWindow&) {}
 
+// The system's guide to dialogs fixes it; nobody can be asked.
+ButtonCustom customOfButtons() {
+  return ButtonCustom::AffirmativeFirst;
+}
+
 // The address is the window's text already.
 void describeLink(wxWindow&, const std::string&) {}
 

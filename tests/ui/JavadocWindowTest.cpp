@@ -4,6 +4,7 @@
 #include "platform/FileSystem.h"
 #include "ui/DialogChecks.h"
 #include "ui/ProgramWorld.h"
+#include "ui/Toolkit.h"
 
 #include <wx/dialog.h>
 
@@ -92,7 +93,9 @@ TEST_P(JavadocWindowTest, TabReachesEveryControlInTheOrderOfReading) {
     expectReadingOrder(*reached);
     const auto last = std::find(reached->begin(), reached->end(), page().windowOf(GetParam().last));
     ASSERT_NE(last, reached->end());
-    EXPECT_EQ(*std::next(last), top().windowOf(Javadoc::RUN)) << "the dialog's own buttons follow";
+    const bool helpFirst = ui::customOfButtons() == ButtonCustom::AffirmativeLast;
+    EXPECT_EQ(*std::next(last), top().windowOf(helpFirst ? Javadoc::HELP : Javadoc::RUN))
+        << "the dialog's own buttons follow";
   });
   thenClose();
   run();

@@ -16,6 +16,7 @@ namespace tarnwick::ui {
 namespace {
 
 constexpr UINT_PTR listNumber = 1;
+constexpr const wchar_t* wordsOfList = L"Tarnwick's words in an empty list";
 constexpr int margin = 12;
 
 void paint(HWND list, const std::wstring& words) {
@@ -42,6 +43,7 @@ LRESULT CALLBACK onMessage(HWND list, UINT message, WPARAM first, LPARAM second,
   const auto* const words = reinterpret_cast<std::wstring*>(data);
   if (message == WM_NCDESTROY) {
     RemoveWindowSubclass(list, &onMessage, listNumber);
+    RemovePropW(list, wordsOfList);
     const std::unique_ptr<const std::wstring> gone(words);
     return DefSubclassProc(list, message, first, second);
   }
@@ -51,12 +53,12 @@ LRESULT CALLBACK onMessage(HWND list, UINT message, WPARAM first, LPARAM second,
 }
 
 void showInList(HWND list, const std::wstring& words) {
-  DWORD_PTR known = 0;
-  if (GetWindowSubclass(list, &onMessage, listNumber, &known)) {
-    *reinterpret_cast<std::wstring*>(known) = words;
+  if (auto* const known = static_cast<std::wstring*>(GetPropW(list, wordsOfList))) {
+    *known = words;
   } else {
     auto fresh = std::make_unique<std::wstring>(words);
-    if (SetWindowSubclass(list, &onMessage, listNumber, reinterpret_cast<DWORD_PTR>(fresh.get()))) fresh.release();
+    if (SetWindowSubclass(list, &onMessage, listNumber, reinterpret_cast<DWORD_PTR>(fresh.get())))
+      SetPropW(list, wordsOfList, fresh.release());
   }
   // New entries are painted over what stood there, but not beyond them.
   InvalidateRect(list, nullptr, TRUE);

@@ -34,8 +34,8 @@ class DialogWindow : public PlacedWindow {
   /// Scrolls a field so that a long text shows its end.
   virtual void scrollToEnd(int control) = 0;
   virtual void setToolTip(int control, const std::string& text) = 0;
-  /// Words that show in the place of what a list, a combo box or a field holds, as long as it holds nothing: what its
-  /// user may do then. They are no text and no entry of it.
+  /// Words that show in the place of what a list or a field holds, as long as it holds nothing: what its user may do
+  /// then. They are no text and no entry of it.
   virtual void setEmptyText(int control, const std::string& words) = 0;
 
   /// Entries of a combo box or list, or of a field that offers some.

@@ -7,8 +7,8 @@ class wxWindow;
 
 namespace tarnwick::ui {
 
-/// Shows the words in grey in a list, in a combo box that takes no typing, or in a field. None of these holds them. A
-/// field shows them only while it has no text; in the others they stay until they are replaced, by none as well.
+/// Shows the words in grey in a list or in a field. Neither holds them. A field shows them only while it has no text;
+/// in a list they stay until they are replaced, by none as well.
 void showInEmpty(wxWindow& control, const std::string& words);
 
 }  // namespace tarnwick::ui

@@ -13,10 +13,7 @@ namespace {
 class EmptyTextTest : public DialogTest {
  protected:
   EmptyTextTest() {
-    rules.onInitialise = [this](DialogWindow& window) {
-      fill(window);
-      window.setEntries(SAMPLE_COMBO, {});
-    };
+    rules.onInitialise = [this](DialogWindow& window) { fill(window); };
   }
 
   DialogWindow& window() { return *rules.window; }
@@ -38,7 +35,7 @@ class EmptyTextTest : public DialogTest {
 }  // namespace
 
 TEST_F(EmptyTextTest, TheWordsShowAsLongAsThereIsNothingElse) {
-  const std::vector<int> all{SAMPLE_LIST, SAMPLE_COMBO, SAMPLE_EDIT};
+  const std::vector<int> all{SAMPLE_LIST, SAMPLE_EDIT};
   waitForDialog();
   steps.then("focus elsewhere", [this] { window().focus(SAMPLE_BUTTON); });
   expectInk("nothing shows at first", all, false);
@@ -49,22 +46,17 @@ TEST_F(EmptyTextTest, TheWordsShowAsLongAsThereIsNothingElse) {
   steps.then("they are no part of what is there", [this] {
     shoot("empty-text");
     EXPECT_EQ(window().entries(SAMPLE_LIST), Heard{});
-    EXPECT_EQ(window().entries(SAMPLE_COMBO), Heard{});
     EXPECT_EQ(window().selection(SAMPLE_LIST), -1);
-    EXPECT_EQ(window().selection(SAMPLE_COMBO), -1);
-    EXPECT_EQ(window().text(SAMPLE_COMBO), "");
     EXPECT_EQ(window().text(SAMPLE_EDIT), "");
     EXPECT_EQ(rules.heard, Heard{}) << "nobody is told of it";
     expectGoodLooks(top());
     // An entry of blanks leaves no ink of its own.
     window().setEntries(SAMPLE_LIST, {"  "});
-    window().setEntries(SAMPLE_COMBO, {"  "});
     window().setText(SAMPLE_EDIT, "  ");
   });
   expectInk("they have gone", all, false);
   steps.then("empty again", [this] {
     window().setEntries(SAMPLE_LIST, {});
-    window().setEntries(SAMPLE_COMBO, {});
     window().setText(SAMPLE_EDIT, "");
   });
   expectInk("they are back", all, true);
@@ -72,19 +64,6 @@ TEST_F(EmptyTextTest, TheWordsShowAsLongAsThereIsNothingElse) {
     for (const int control : all) window().setEmptyText(control, "");
   });
   expectInk("nothing shows at the end", all, false);
-  thenClose();
-  play();
-}
-
-TEST_F(EmptyTextTest, AClosedChoiceShowsThemWithTheFocusToo) {
-  waitForDialog();
-  steps.then("focus", [this] {
-    window().setEmptyText(SAMPLE_COMBO, "Press a button to fill this");
-    window().focus(SAMPLE_COMBO);
-  });
-  steps.settle(5);
-  expectInk("the words show", {SAMPLE_COMBO}, true);
-  steps.then("look", [] { shoot("empty-text-focus"); });
   thenClose();
   play();
 }

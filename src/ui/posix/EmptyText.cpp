@@ -14,20 +14,11 @@ constexpr int margin = 12;
 /// How much of the letters' usual colour is left.
 constexpr double faint = 0.7;
 
-/// Where the entries of a list or the text of an entry would stand.
+/// Where the entries of a list would stand.
 GdkRectangle roomIn(GtkWidget* part) {
   const int width = gtk_widget_get_allocated_width(part);
   const int height = gtk_widget_get_allocated_height(part);
-  if (!GTK_IS_ENTRY(part)) return {margin, margin, std::max(width - 2 * margin, 1), std::max(height - 2 * margin, 1)};
-  int left = 0;
-  gtk_entry_get_layout_offsets(GTK_ENTRY(part), &left, nullptr);
-  return {left, 0, std::max(width - 2 * left, 1), height};
-}
-
-void arrange(PangoLayout* layout, bool inEntry) {
-  if (inEntry) return pango_layout_set_ellipsize(layout, PANGO_ELLIPSIZE_END);
-  pango_layout_set_wrap(layout, PANGO_WRAP_WORD_CHAR);
-  pango_layout_set_alignment(layout, PANGO_ALIGN_CENTER);
+  return {margin, margin, std::max(width - 2 * margin, 1), std::max(height - 2 * margin, 1)};
 }
 
 gboolean onDraw(GtkWidget* part, cairo_t* context, gpointer) {
@@ -39,7 +30,8 @@ gboolean onDraw(GtkWidget* part, cairo_t* context, gpointer) {
   const GdkRectangle room = roomIn(part);
   PangoLayout* const layout = gtk_widget_create_pango_layout(part, words);
   pango_layout_set_width(layout, room.width * PANGO_SCALE);
-  arrange(layout, GTK_IS_ENTRY(part));
+  pango_layout_set_wrap(layout, PANGO_WRAP_WORD_CHAR);
+  pango_layout_set_alignment(layout, PANGO_ALIGN_CENTER);
   int height = 0;
   pango_layout_get_pixel_size(layout, nullptr, &height);
   cairo_set_source_rgba(context, colour.red, colour.green, colour.blue, colour.alpha * faint);
@@ -53,10 +45,7 @@ gboolean onDraw(GtkWidget* part, cairo_t* context, gpointer) {
 
 void showInEmpty(wxWindow& control, const std::string& words) {
   GtkWidget* const part = control.GetConnectWidget();
-  // What a field shows of its own accord goes with the focus. That is right where its user is about to type, but not in
-  // a combo box, which holds a field too.
-  if (GTK_IS_ENTRY(part) && !GTK_IS_COMBO_BOX(control.GetHandle()))
-    return gtk_entry_set_placeholder_text(GTK_ENTRY(part), words.c_str());
+  if (GTK_IS_ENTRY(part)) return gtk_entry_set_placeholder_text(GTK_ENTRY(part), words.c_str());
   const bool isNew = g_object_get_data(G_OBJECT(part), shownWords) == nullptr;
   g_object_set_data_full(G_OBJECT(part), shownWords, g_strdup(words.c_str()), g_free);
   if (isNew) g_signal_connect_after(part, "draw", G_CALLBACK(onDraw), nullptr);

@@ -3,9 +3,7 @@
 #include "ui/Text.h"
 
 #include <windows.h>
-#include <wx/combobox.h>
 #include <wx/listbox.h>
-#include <wx/textctrl.h>
 
 #include <algorithm>
 #include <commctrl.h>
@@ -72,10 +70,8 @@ void showInEmpty(wxWindow& control, const std::string& words) {
   if (dynamic_cast<const wxListBox*>(&control)) {
     showInList(handle, shown);
   } else {
-    const bool isField = dynamic_cast<const wxTextCtrl*>(&control) != nullptr;
     // A field shows them with the focus, too.
-    SendMessageW(handle, isField ? EM_SETCUEBANNER : CB_SETCUEBANNER, isField ? TRUE : 0,
-                 reinterpret_cast<LPARAM>(shown.c_str()));
+    SendMessageW(handle, EM_SETCUEBANNER, TRUE, reinterpret_cast<LPARAM>(shown.c_str()));
   }
 }
 

@@ -72,6 +72,7 @@ void showInEmpty(wxWindow& control, const std::string& words) {
   } else {
     // A field shows them with the focus, too.
     SendMessageW(handle, EM_SETCUEBANNER, TRUE, reinterpret_cast<LPARAM>(shown.c_str()));
+    InvalidateRect(handle, nullptr, TRUE);
   }
 }
 

@@ -123,7 +123,7 @@ TEST_P(TipPlaceTest, ItStandsBesideTheControl) {
 INSTANTIATE_TEST_SUITE_P(
     Places, TipPlaceTest,
     testing::Values(Resting{"FieldsMiddle", NAME, Edge::None, 50, 50}, Resting{"FieldsTop", NAME, Edge::None, 10, 10},
-                    Resting{"FieldsEnd", NAME, Edge::None, 95, 85}, Resting{"FieldRight", NAME, Edge::Right, 97, 50},
+                    Resting{"FieldsEnd", NAME, Edge::None, 95, 70}, Resting{"FieldRight", NAME, Edge::Right, 97, 50},
                     Resting{"FieldLeft", NAME, Edge::Left, 3, 50}, Resting{"FieldBottom", NAME, Edge::Bottom, 50, 50},
                     Resting{"TallField", TALL, Edge::None, 50, 15}, Resting{"TallFieldLow", TALL, Edge::None, 50, 90},
                     Resting{"TallFieldBottom", TALL, Edge::Bottom, 50, 30},

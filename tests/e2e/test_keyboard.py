@@ -192,14 +192,14 @@ def test_after_a_dialog_the_keyboard_goes_on_where_it_was(scratch):
 
 def test_a_button_that_is_disabled_under_the_focus_hands_it_on(scratch):
     program, panel = started_with_project(scratch, compiled=True)
-    wait_until("that it can run", lambda: panel.control("java", "push button").enabled)
-    tab_to(panel, "java")
+    wait_until("that it can run", lambda: panel.control("jdb debug", "push button").enabled)
+    tab_to(panel, "jdb debug")
     source = os.path.join(scratch.work, "Start.java")
     os.utime(source, (os.stat(source).st_mtime + 60,) * 2)
     key("space")
     message("Not all classes are up-to-date. Compile!")
     key("Return")
-    wait_until("the disabled button", lambda: not panel.control("java", "push button").enabled)
+    wait_until("the disabled button", lambda: not panel.control("jdb debug", "push button").enabled)
     focused(panel)
     expect_the_keyboard_reaches_everything(panel)
     leave(program)

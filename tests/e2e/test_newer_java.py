@@ -97,7 +97,7 @@ def test_a_project_compiles_in_one_run(scratch):
     panel.press("javac")
     names = [f"{name}{member}.class" for name in ["Main", "Other", "Part"] for member in ["", "$Kind"]]
     wait_until("the classes", lambda: all(os.path.exists(os.path.join(scratch.work, name)) for name in names))
-    wait_until("a project that can be run", lambda: panel.control("java").enabled)
+    wait_until("a project that can be run", lambda: panel.control("jdb debug").enabled)
     assert scratch.editor_notes() == []
 
 

@@ -242,7 +242,7 @@ def check_shop(scratch, version):
         "package-info", "Parcel", "Box", "Tube", "Size", "Size$1", "Size$2", "Pair")}
     panel.press("javac")
     wait_until("the classes", lambda: set(classes_in(folder)) == {"src/" + name for name in wanted})
-    wait_until("that it can run", lambda: panel.control("java").enabled)
+    wait_until("that it can run", lambda: panel.control("jdb debug").enabled)
     assert panel.field().text == "shop.till.Main"
     assert "volume 64 of 1000 2" in run_project(scratch, panel, "one two")
 
@@ -254,7 +254,7 @@ def check_shop(scratch, version):
         before = times_in(root)
         panel.press("javac")
         wait_until("the new class", lambda: times_in(root)[f"shop/goods/{name}.class"] != before[f"shop/goods/{name}.class"])
-        wait_until("that it can run", lambda: panel.control("java").enabled)
+        wait_until("that it can run", lambda: panel.control("jdb debug").enabled)
         scratch.listens(panel)
         after = times_in(root)
         assert {one for one in after if after[one] != before[one]} == {f"shop/goods/{one}.class" for one in renewed}
@@ -288,7 +288,7 @@ def test_of_two_classes_with_one_name_the_selected_one_runs(scratch):
         select.press("OK")
         select.is_gone()
         wait_until("the choice", lambda: rows_of(project).get("CLASS_WITH_MAIN_SOURCE") == f"{root}/p/Main.java")
-        wait_until("that it can run", lambda: panel.control("java").enabled)
+        wait_until("that it can run", lambda: panel.control("jdb debug").enabled)
         panel.press("java")
         console = Window("p.Main")
         wait_until("its words", lambda: "this side up" in scratch.saved_display(console))

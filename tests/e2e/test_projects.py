@@ -58,7 +58,7 @@ def rows_of(path):
 def compile_changed(scratch, panel, *classes):
     panel.press("javac")
     wait_until("the classes", lambda: all(os.path.exists(os.path.join(scratch.work, name)) for name in classes))
-    wait_until("that it can run", lambda: panel.control("java").enabled)
+    wait_until("that it can run", lambda: panel.control("jdb debug").enabled)
 
 
 def test_a_project_is_made_compiled_run_and_opened_again(scratch):
@@ -67,7 +67,7 @@ def test_a_project_is_made_compiled_run_and_opened_again(scratch):
     program, panel = scratch.first_start()
     path = new_project(scratch, panel, "Helper.java", "Start.java")
     assert rows_of(path)["PROJECT_SOURCES"] == "Helper.java;Start.java"
-    assert not panel.control("java").enabled
+    assert panel.control("java").enabled and not panel.control("jdb debug").enabled, "it can be compiled from there"
     compile_changed(scratch, panel, "Start.class", "Helper.class")
     field = panel.field()
     assert field.text == "Start"
@@ -98,7 +98,7 @@ def test_a_project_is_made_compiled_run_and_opened_again(scratch):
     person.screenshot(os.path.join(scratch.project, "build", "e2e", "project-select.png"))
     dialog.press("OK")
     dialog.is_gone()
-    wait_until("that it can run", lambda: panel.control("java").enabled)
+    wait_until("that it can run", lambda: panel.control("jdb debug").enabled)
     panel.press("Exit")
     assert program.wait(person.LIMIT) == 0
 
@@ -122,7 +122,7 @@ def test_two_main_methods_are_a_conflict_until_they_are_allowed(scratch):
     select.control("Second").click()
     select.press("OK")
     select.is_gone()
-    wait_until("that it can run", lambda: panel.control("java").enabled)
+    wait_until("that it can run", lambda: panel.control("jdb debug").enabled)
     assert rows_of(path)["CLASS_WITH_MAIN"] == "Second" and rows_of(path)["PROJECT_MULTIMAIN"] == "ON"
     panel.press("java")
     console = Window("Second")

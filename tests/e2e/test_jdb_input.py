@@ -9,6 +9,7 @@ import world
 from person import Window, wait_until
 from test_console import BANNER, nothing_left_but, shows
 from test_jdb import picture
+from test_newer_run import tools_of
 from world import type_line
 
 # As the table of sockets writes the addresses of this computer alone.
@@ -41,7 +42,8 @@ def debug(scratch, panel, path):
 
 
 def goes(console, label):
-    wait_until(f"the choice {label!r}", lambda: console.control(label, "radio button").checked)
+    """What the choice's name is to who cannot see that it stands behind "Input goes"."""
+    wait_until(f"the choice {label!r}", lambda: console.control("Input goes " + label, "radio button").checked)
 
 
 def sockets_of(process):
@@ -69,8 +71,7 @@ def listening(processes):
     return found
 
 
-def test_a_program_that_reads_its_input_is_debugged(scratch):
-    panel, path = panel_for_input(scratch)
+def walk_through(scratch, panel, path):
     console = debug(scratch, panel, path)
     goes(console, "to jdb")
     type_line(console, "stop in Asker.greet")
@@ -89,11 +90,11 @@ def test_a_program_that_reads_its_input_is_debugged(scratch):
     picture(scratch, "jdb-input")
     console.press("Continue")
     shows(scratch, console, "Hello, Grüße, Zoë!")
-    console.press("to jdb")
+    console.press("Input goes to jdb")
     goes(console, "to jdb")
     type_line(console, "clear Asker.greet")
     shows(scratch, console, "Removed: breakpoint Asker.greet")
-    console.press("to program")
+    console.press("Input goes to program")
     goes(console, "to program")
     type_line(console, "Ada")
     display = shows(scratch, console, "Hello, Ada!")
@@ -105,6 +106,29 @@ def test_a_program_that_reads_its_input_is_debugged(scratch):
     person.key("Return")
     console.is_gone()
     nothing_left_but(scratch, panel.process)
+
+
+def panel_anew(scratch, panel, tools):
+    """The panel, started again with the tools of another folder."""
+    panel.press("Exit")
+    panel.is_gone()
+    scratch.change_settings(JAVA_PATH=tools)
+    scratch.start()
+    return Window("Tarnwick")
+
+
+def debugged_by(scratch, version):
+    tools = tools_of(version)
+    panel, path = panel_for_input(scratch)
+    walk_through(scratch, panel_anew(scratch, panel, tools), path)
+
+
+def test_a_program_that_reads_its_input_is_debugged_17(scratch):
+    debugged_by(scratch, 17)
+
+
+def test_a_program_that_reads_its_input_is_debugged_25(scratch):
+    debugged_by(scratch, 25)
 
 
 def jdk_with_a_slow_java(scratch):
@@ -123,11 +147,7 @@ def jdk_with_a_slow_java(scratch):
 
 def test_the_debugger_waits_on_this_computer_alone(scratch):
     panel, path = panel_for_input(scratch)
-    panel.press("Exit")
-    panel.is_gone()
-    scratch.change_settings(JAVA_PATH=jdk_with_a_slow_java(scratch))
-    scratch.start()
-    panel = Window("Tarnwick")
+    panel = panel_anew(scratch, panel, jdk_with_a_slow_java(scratch))
     panel.activate()
     panel.write(world.quoted(path), index=1)
     panel.press("jdb debug")

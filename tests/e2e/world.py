@@ -228,7 +228,10 @@ class World:
         """Through Welcome and the settings dialog to the panel."""
         program = self.start()
         Window("Welcome to Tarnwick").press("OK")
-        Window("Tarnwick settings").press("OK")
+        settings = Window("Tarnwick settings")
+        settings.press("OK")
+        # The panel stands behind it all the while, and hears nothing.
+        settings.is_gone()
         return program, Window("Tarnwick")
 
     def configured(self):

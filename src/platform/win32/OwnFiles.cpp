@@ -2,6 +2,7 @@
 
 #include "platform/win32/FolderWalk.h"
 #include "platform/win32/Handle.h"
+#include "platform/win32/HeldFile.h"
 #include "platform/win32/LastError.h"
 
 #include <windows.h>
@@ -11,10 +12,6 @@
 namespace tarnwick::platform {
 
 namespace {
-
-/// Programs that look into a file, such as a scanner for viruses, hold it for a moment only.
-constexpr int mostTries = 50;
-constexpr DWORD pause = 20;
 
 bool hasKind(const std::string& path, DWORD wanted) {
   const DWORD attributes = GetFileAttributesA(path.c_str());
@@ -29,11 +26,7 @@ bool succeeded(BOOL result) {
 }
 
 bool moveAs(const std::string& from, const std::string& to, DWORD flags) {
-  for (int i = 1;; ++i) {
-    if (MoveFileExA(from.c_str(), to.c_str(), flags) != 0) return true;
-    if (GetLastError() != ERROR_SHARING_VIOLATION || i == mostTries) return succeeded(FALSE);
-    Sleep(pause);
-  }
+  return insist(isHeldOpen, [&] { return MoveFileExA(from.c_str(), to.c_str(), flags) != 0; }) || succeeded(FALSE);
 }
 
 }  // namespace

@@ -2,6 +2,7 @@
 
 #include "platform/FileSystem.h"
 #include "platform/win32/Handle.h"
+#include "platform/win32/HeldFile.h"
 #include "platform/win32/LastError.h"
 
 #include <windows.h>
@@ -18,33 +19,6 @@
 namespace tarnwick::platform {
 
 namespace {
-
-/// Programs that look into a file, ours among them, hold it for a moment only.
-constexpr int mostTries = 50;
-constexpr DWORD pause = 20;
-
-bool isHeldOpen(DWORD error) {
-  return error == ERROR_SHARING_VIOLATION || error == ERROR_LOCK_VIOLATION;
-}
-
-/// What is told of a target that a program holds open, and of one that refuses altogether, too.
-bool maybeHeldOpen(DWORD error) {
-  return isHeldOpen(error) || error == ERROR_ACCESS_DENIED;
-}
-
-/// Tries until it succeeds, or fails for a reason that does not pass. False with the system's last error.
-template <typename Attempt>
-bool insist(bool (*passes)(DWORD error), Attempt attempt) {
-  for (int i = 1; !attempt(); ++i) {
-    const DWORD error = GetLastError();
-    if (!passes(error) || i == mostTries) {
-      SetLastError(error);
-      return false;
-    }
-    Sleep(pause);
-  }
-  return true;
-}
 
 HANDLE handleOf(std::FILE* stream) {
   return reinterpret_cast<HANDLE>(_get_osfhandle(_fileno(stream)));

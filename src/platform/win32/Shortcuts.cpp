@@ -1,5 +1,7 @@
 #include "platform/Shortcuts.h"
 
+#include "platform/win32/HeldFile.h"
+
 #include <shlobj.h>
 #include <windows.h>
 
@@ -94,7 +96,14 @@ std::string readBack(const std::string& file) {
   make(link);
   LinkFile saved;
   check(link->QueryInterface(IID_IPersistFile, saved.place()));
-  check(saved->Load(wide(file).c_str(), STGM_READ));
+  const std::wstring path = wide(file);
+  HRESULT loaded = S_OK;
+  insist(isHeldOpen, [&] {
+    loaded = saved->Load(path.c_str(), STGM_READ);
+    SetLastError(HRESULT_CODE(loaded));
+    return SUCCEEDED(loaded);
+  });
+  check(loaded);
   check(link->Resolve(nullptr, SLR_ANY_MATCH));
   return argumentsOf(link);
 }
@@ -124,7 +133,8 @@ class ShellLinks : public ShortcutShell {
     const std::string fresh = file + ".tarnwick-" + std::to_string(GetCurrentProcessId()) + ".tmp";
     try {
       save(shortcut, fresh);
-      if (!MoveFileExA(fresh.c_str(), file.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH))
+      constexpr DWORD inItsPlace = MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH;
+      if (!insist(maybeHeldOpen, [&] { return MoveFileExA(fresh.c_str(), file.c_str(), inItsPlace) != 0; }))
         fail(GetLastError());
     } catch (const ShortcutFailure&) {
       DeleteFileA(fresh.c_str());

@@ -1,16 +1,20 @@
 // Shortcuts by the shell's own objects.
 #include "platform/FileSystem.h"
 #include "platform/Shortcuts.h"
+#include "platform/win32/Handle.h"
 #include "support/Children.h"
 
 #include <shlobj.h>
 #include <windows.h>
 
+#include <chrono>
 #include <gtest/gtest.h>
+#include <thread>
 
 namespace tarnwick::platform {
 namespace {
 
+using std::chrono::milliseconds;
 using Names = std::vector<std::string>;
 
 /// What the shell tells of a shortcut.
@@ -67,16 +71,15 @@ class WindowsShortcutsTest : public testing::Test {
 
   std::string folder() const { return scratch_.file("fol der\\"); }
   std::string file() const { return folder() + "My App.lnk"; }
-  std::string write() { return openShortcutShell()->write(shortcut_, file()); }
-  /// Why it could not be written.
-  std::string refusal() {
+  /// The arguments that come back, or why it could not be written.
+  std::string write() {
     try {
-      write();
+      return openShortcutShell()->write(shortcut_, file());
     } catch (const ShortcutFailure& failure) {
-      return failure.reason;
+      return "(refused) " + failure.reason;
     }
-    return "(written)";
   }
+  bool isRefused() { return write().starts_with("(refused)"); }
 
   test::ScratchFolder scratch_;
   Shortcut shortcut_;
@@ -134,16 +137,30 @@ TEST_F(WindowsShortcutsTest, AnotherShortcutIsReplaced) {
   EXPECT_EQ(filesIn(folder()), Names{"My App.lnk"});
 }
 
+TEST_F(WindowsShortcutsTest, AFileThatIsHeldForAMomentIsWaitedFor) {
+  write();
+  Handle held(CreateFileA(file().c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr));
+  ASSERT_TRUE(held);
+  std::jthread holder([&held, place = folder()](const std::stop_token& over) {
+    while (filesIn(place).size() == 1 && !over.stop_requested()) std::this_thread::sleep_for(milliseconds(5));
+    std::this_thread::sleep_for(milliseconds(50));  // by now it has been refused
+    held.close();
+  });
+  shortcut_.arguments = "a second time";
+  EXPECT_EQ(write(), shortcut_.arguments);
+  EXPECT_EQ(filesIn(folder()), Names{"My App.lnk"});
+}
+
 TEST_F(WindowsShortcutsTest, WhatCannotBeWrittenIsToldAndNothingIsLeft) {
   makeFolders(file());
-  EXPECT_NE(refusal(), "(written)");
+  EXPECT_TRUE(isRefused());
   EXPECT_EQ(filesIn(folder()), Names{}) << "nothing beside the folder of that name";
 }
 
 TEST_F(WindowsShortcutsTest, AMissingFolderIsTold) {
   const std::string there = folder();
   RemoveDirectoryA(there.c_str());
-  EXPECT_NE(refusal(), "(written)");
+  EXPECT_TRUE(isRefused());
 }
 
 }  // namespace

@@ -212,7 +212,8 @@ def flood_once(screen, name, folder, shot=None):
         open(os.path.join(folder, "go"), "w", encoding="ascii").close()
         # Looking costs time as well: a slow terminal is looked at less often.
         pause = 0.005
-        while not watched.shows_mark():
+        # A picture that is half drawn can look like the row, so nothing counts before the child has written that.
+        while not (os.path.exists(os.path.join(folder, "written")) and watched.shows_mark()):
             time.sleep(pause)
             pause = min(pause * 1.05, 0.05)
             if time.monotonic() - begin > 180:

@@ -13,16 +13,26 @@ gi.require_version("Atspi", "2.0")
 from gi.repository import Atspi, GLib  # noqa: E402
 
 
+def label_of(accessible):
+    """What the control's own label says, where it has one; readers of the screen say it in the place of the name."""
+    for relation in accessible.get_relation_set():
+        if relation.get_relation_type() == Atspi.RelationType.LABELLED_BY and relation.get_n_targets() > 0:
+            return relation.get_target(0).get_name() or ""
+    return ""
+
+
 def described(accessible, depth=0):
     states = accessible.get_state_set()
     role = accessible.get_role_name()
     area = accessible.get_extents(Atspi.CoordType.SCREEN)
     result = {
         "name": accessible.get_name() or "",
+        "spoken": label_of(accessible) or accessible.get_name() or "",
         "role": role,
         "area": [area.x, area.y, area.width, area.height],
         "showing": states.contains(Atspi.StateType.SHOWING),
         "enabled": states.contains(Atspi.StateType.SENSITIVE),
+        "focusable": states.contains(Atspi.StateType.FOCUSABLE),
         "focused": states.contains(Atspi.StateType.FOCUSED),
         "checked": states.contains(Atspi.StateType.CHECKED),
         "selected": states.contains(Atspi.StateType.SELECTED),

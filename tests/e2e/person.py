@@ -89,6 +89,8 @@ class Control:
         self.process = seen.get("process")
         self.showing, self.enabled = seen["showing"], seen["enabled"]
         self.focused, self.checked, self.selected = seen["focused"], seen["checked"], seen["selected"]
+        # What readers of the screen make of it; not known under Wine.
+        self.spoken, self.focusable = seen.get("spoken", self.name), seen.get("focusable", False)
         self.iconic = seen.get("iconic", False)
         self.children = [Control(child) for child in seen["children"]]
 

@@ -25,7 +25,7 @@ else:
     MODULES = ["test_start", "test_start_up", "test_panels", "test_last_files", "test_keyboard", "test_quiet", "test_projects", "test_compile", "test_newer_java", "test_newer_run", "test_packages",
                "test_splitting",
                "test_console", "test_console_text", "test_console_today", "test_console_looks", "test_console_pictures", "test_console_dark", "test_jdb", "test_jdb_input", "test_help", "test_guide",
-               "test_messages", "test_tools", "test_jar", "test_javadoc", "test_shortcut", "test_bad_input", "test_locked_configuration", "test_stopping", "test_ending"]
+               "test_messages", "test_tools", "test_jar", "test_javadoc", "test_shortcut", "test_bad_input", "test_locked_configuration", "test_stopping", "test_ending", "test_screen_readers"]
     World = world.World
 
 

@@ -2,7 +2,7 @@
 
 #include "platform/win32/FolderWalk.h"
 #include "platform/win32/Handle.h"
-#include "platform/win32/HeldFile.h"
+#include "platform/win32/Insist.h"
 #include "platform/win32/LastError.h"
 
 #include <windows.h>

@@ -5,6 +5,7 @@
 #include "platform/win32/ChildJob.h"
 #include "platform/win32/ChildPipes.h"
 #include "platform/win32/Handle.h"
+#include "platform/win32/Insist.h"
 #include "platform/win32/StartUp.h"
 
 #include <windows.h>
@@ -23,6 +24,11 @@ namespace {
 std::mutex& startLock() {
   static std::mutex lock;
   return lock;
+}
+
+/// Under Wine a child is lost now and then before it has begun, and the system tells only this of it.
+bool isLostChild(DWORD error) {
+  return error == ERROR_INTERNAL_ERROR;
 }
 
 class Child final : public ChildProcess {
@@ -52,7 +58,7 @@ class Child final : public ChildProcess {
     error_ = OutputPipe(error, stopReading_.get());
     if (command.interactive) input_ = InputPipe(input, stopWaiting_.get());
     StartUp startUp(input.childs.get(), output.childs.get(), error.childs.get());
-    create(command, startUp);
+    create(command, calls, startUp);
     console.childStarted();
     // From here on only the child holds its ends, so that we see the end of its output.
   }
@@ -90,7 +96,7 @@ class Child final : public ChildProcess {
   }
 
  private:
-  void create(const ChildCommand& command, StartUp& startUp) {
+  void create(const ChildCommand& command, StartCalls& calls, StartUp& startUp) {
     const auto name = splitPath(command.executable);
     std::string line = '"' + name.base + name.extension + '"';
     if (!command.arguments.empty() && command.arguments.front() != ' ') line += ' ';
@@ -99,10 +105,11 @@ class Child final : public ChildProcess {
     // In our console if there is to be one, else in one without a window; and asleep until it is in its job, so that
     // nothing it starts gets away.
     const DWORD flags = (command.consoleTitle ? 0 : CREATE_NO_WINDOW) | CREATE_SUSPENDED | EXTENDED_STARTUPINFO_PRESENT;
-    if (!CreateProcessA(command.executable.c_str(), line.data(), nullptr, nullptr, startUp.inherits(), flags, nullptr,
-                        nullptr, startUp.get(), &made)) {
-      throw lastSystemError("CreateProcess");
-    }
+    const bool created = insist(isLostChild, [&] {
+      return calls.createProcess(command.executable.c_str(), line.data(), startUp.inherits(), flags, startUp.get(),
+                                 made);
+    });
+    if (!created) throw lastSystemError("CreateProcess");
     process_ = Handle(made.hProcess);
     const Handle thread(made.hThread);
     job_.emplace(process_.get());

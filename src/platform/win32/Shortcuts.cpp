@@ -1,6 +1,6 @@
 #include "platform/Shortcuts.h"
 
-#include "platform/win32/HeldFile.h"
+#include "platform/win32/Insist.h"
 
 #include <shlobj.h>
 #include <windows.h>

@@ -22,6 +22,12 @@ class StartCalls {
     return DuplicateHandle(GetCurrentProcess(), handle, GetCurrentProcess(), &copy, 0, FALSE, DUPLICATE_SAME_ACCESS) !=
            FALSE;
   }
+  /// As the system's call of this name.
+  virtual bool createProcess(const char* executable, char* line, bool inherits, DWORD flags, STARTUPINFOA* startUp,
+                             PROCESS_INFORMATION& made) {
+    return CreateProcessA(executable, line, nullptr, nullptr, inherits, flags, nullptr, nullptr, startUp, &made) !=
+           FALSE;
+  }
 };
 
 /// Tells whoever starts a child of the steps that failed.

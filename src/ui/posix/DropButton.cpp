@@ -25,6 +25,14 @@ void onIconPress(GtkEntry*, GtkEntryIconPosition, GdkEvent* event, gpointer list
   if (gdk_event_get_button(event, &button) && button == GDK_BUTTON_PRIMARY) (*static_cast<Press*>(listener))();
 }
 
+/// Else readers of the screen say the picture's name. It is the field's only child.
+void nameForReaders(GtkEntry* entry) {
+  AtkObject* const button = atk_object_ref_accessible_child(gtk_widget_get_accessible(GTK_WIDGET(entry)), 0);
+  if (!button) return;
+  atk_object_set_name(button, "Last files");
+  g_object_unref(button);
+}
+
 }  // namespace
 
 void prepareDropButton(wxTextCtrl& field, const std::function<void()>& pressed) {
@@ -37,7 +45,9 @@ void showDropButton(wxTextCtrl& field, bool on) {
   GtkEntry* const entry = entryOf(field);
   if (on && !canShow(arrow, GTK_ICON_SIZE_MENU)) return;  // the keyboard opens it all the same
   gtk_entry_set_icon_from_icon_name(entry, GTK_ENTRY_ICON_SECONDARY, on ? arrow : nullptr);
-  if (on) gtk_entry_set_icon_tooltip_text(entry, GTK_ENTRY_ICON_SECONDARY, "Last files (Alt+Down)");
+  if (!on) return;
+  gtk_entry_set_icon_tooltip_text(entry, GTK_ENTRY_ICON_SECONDARY, "Last files (Alt+Down)");
+  nameForReaders(entry);
 }
 
 }  // namespace tarnwick::ui

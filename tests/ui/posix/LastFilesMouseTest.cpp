@@ -1,5 +1,6 @@
 // The button in a field's end, and the list that drops from it.
 #include "ui/PanelsFixture.h"
+#include "ui/posix/SpokenTree.h"
 
 #include <wx/dialog.h>
 #include <wx/textctrl.h>
@@ -61,6 +62,8 @@ TEST_F(LastFilesMouseTest, TheButtonShowsAsLongAsThereAreFilesAndTheMouseChooses
     EXPECT_TRUE(buttonShows());
   });
   steps.settle(8);
+  steps.then("readers of the screen",
+             [this] { EXPECT_EQ(namesIn(field(), ATK_ROLE_ICON), std::vector<std::string>{"Last files"}); });
   steps.then("click", [this] { clickButton(); });
   steps.until("the list", [] { return openList() != nullptr && gtk_widget_get_mapped(openList()); });
   steps.settle(8);

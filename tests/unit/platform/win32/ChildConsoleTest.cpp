@@ -248,6 +248,8 @@ class FailingCalls : public StartCalls {
   int pipes = 99;     ///< so many can be made
   bool standardHandles = true;
   bool duplicates = true;
+  int lostChildren = 0;  ///< so many never begin
+  DWORD loss = ERROR_INTERNAL_ERROR;
 
   bool allocateConsole() override {
     if (busyTimes-- > 0) return refuse(ERROR_INVALID_FUNCTION);
@@ -263,6 +265,11 @@ class FailingCalls : public StartCalls {
   }
   bool duplicateHandle(HANDLE handle, HANDLE& copy) override {
     return duplicates ? StartCalls::duplicateHandle(handle, copy) : refuse();
+  }
+  bool createProcess(const char* executable, char* line, bool inherits, DWORD flags, STARTUPINFOA* startUp,
+                     PROCESS_INFORMATION& made) override {
+    if (lostChildren-- > 0) return refuse(loss);
+    return StartCalls::createProcess(executable, line, inherits, flags, startUp, made);
   }
 
  private:
@@ -307,6 +314,20 @@ TEST_F(FailingStartTest, ASystemThatStaysBusyIsToldOfOnce) {
   EXPECT_EQ(faults_, Texts{textOf("AllocConsole()", ERROR_INVALID_FUNCTION)});
   child->wait();
   EXPECT_TRUE(ran());
+}
+
+TEST_F(FailingStartTest, AChildThatIsLostBeforeItBeginsIsStartedAgain) {
+  calls_.lostChildren = 2;
+  const auto child = start();
+  EXPECT_EQ(test::readAll(*child, Stream::Output), "said\n");
+  child->wait();
+  EXPECT_EQ(faults_, Texts{});
+}
+
+TEST_F(FailingStartTest, AnyOtherRefusalIsToldAtOnce) {
+  calls_.lostChildren = 1;
+  calls_.loss = ERROR_ACCESS_DENIED;
+  EXPECT_THROW(start(), SystemError);
 }
 
 TEST_F(FailingStartTest, WithoutPipesTheStreamsAreAtTheirEnd) {

@@ -1,11 +1,11 @@
-// Files that another program holds open.
+// What fails for a reason that passes is tried again.
 #pragma once
 
 #include <windows.h>
 
 namespace tarnwick::platform {
 
-/// True for the errors that say so of a file.
+/// True for the errors of a file that a program holds open.
 inline bool isHeldOpen(DWORD error) {
   return error == ERROR_SHARING_VIOLATION || error == ERROR_LOCK_VIOLATION;
 }
@@ -15,8 +15,8 @@ inline bool maybeHeldOpen(DWORD error) {
   return isHeldOpen(error) || error == ERROR_ACCESS_DENIED;
 }
 
-/// Programs that look into a file, such as a scanner for viruses or one of our own, hold it for a moment only: tries
-/// for a second at most, until it succeeds or fails for a reason that does not pass. False with the system's last
+/// Tries for a second at most, until it succeeds or fails for a reason that does not pass: programs that look into a
+/// file, such as a scanner for viruses or one of our own, hold it for a moment only. False with the system's last
 /// error.
 template <typename Attempt>
 bool insist(bool (*passes)(DWORD error), Attempt attempt) {
